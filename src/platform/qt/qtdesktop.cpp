@@ -1,0 +1,153 @@
+#include "platform/qt/qtdesktop.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSoundEffect>
+
+#include <syslog.h>
+
+namespace tessera {
+
+namespace {
+
+constexpr int fileManagerTimeout = 2000; // milliseconds; one that does not answer must not hang us
+
+QStringList filters(const QStringList& extensions)
+{
+    QStringList patterns;
+    for (const QString& extension : extensions)
+        patterns << QStringLiteral("*.") + extension;
+    return patterns.isEmpty() ? QStringList() : QStringList{patterns.join(QLatin1Char(' '))};
+}
+
+std::optional<QString> run(QFileDialog& dialog)
+{
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+bool showInFileManager(const QString& path)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
+    call << QStringList{QUrl::fromLocalFile(path).toString()} << QString();
+    const QDBusMessage answer = QDBusConnection::sessionBus().call(call, QDBus::Block, fileManagerTimeout);
+    return answer.type() == QDBusMessage::ReplyMessage;
+}
+
+} // namespace
+
+QtDesktop::QtDesktop(RecentDocuments& recent)
+    : m_recent(recent)
+{
+}
+
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::beep()
+{
+    playSound(QStringLiteral("beep"));
+}
+
+void QtDesktop::playSound(const QString& name)
+{
+    auto& sound = m_sounds[name];
+    if (!sound) {
+        sound = std::make_shared<QSoundEffect>();
+        sound->setSource(QUrl(QStringLiteral("qrc:/sounds/") + name + QStringLiteral(".wav")));
+    }
+    sound->play();
+}
+
+int QtDesktop::runAlert(const Alert& alert)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning : QMessageBox::Information);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(alert.message);
+    box.setInformativeText(alert.informative);
+    QList<QPushButton*> buttons;
+    for (const QString& title : alert.buttons)
+        buttons << box.addButton(title, buttons.isEmpty() ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
+    if (!buttons.isEmpty()) {
+        buttons.first()->setProperty("role", QStringLiteral("accent"));
+        box.setDefaultButton(buttons.first());
+        box.setEscapeButton(buttons.last());
+    }
+    box.exec();
+    for (int i = 0; i < buttons.size(); ++i) {
+        if (box.clickedButton() == buttons[i])
+            return i;
+    }
+    return static_cast<int>(buttons.size()) - 1;
+}
+
+std::optional<QString> QtDesktop::openPanel(const OpenRequest& request)
+{
+    QFileDialog dialog(QApplication::activeWindow());
+    // A panel that takes folders only shows folders; one that takes both must show files, and a folder is taken by name.
+    dialog.setFileMode(request.files ? QFileDialog::ExistingFile : QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly, !request.files);
+    if (request.directory.isValid())
+        dialog.setDirectoryUrl(request.directory);
+    if (request.files && !request.extensions.isEmpty())
+        dialog.setNameFilters(filters(request.extensions));
+    return run(dialog);
+}
+
+std::optional<QString> QtDesktop::savePanel(const SaveRequest& request)
+{
+    QFileDialog dialog(QApplication::activeWindow(), request.title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (!request.extensions.isEmpty()) {
+        dialog.setNameFilters(filters(request.extensions));
+        dialog.setDefaultSuffix(request.extensions.constFirst());
+    }
+    dialog.selectFile(request.name);
+    return run(dialog);
+}
+
+bool QtDesktop::presentError(const QString& message, const std::vector<Recovery>& recoveries)
+{
+    Alert alert{message, QString(), {}, Alert::Style::Warning};
+    for (const Recovery& recovery : recoveries)
+        alert.buttons << recovery.title;
+    alert.buttons << QStringLiteral("OK");
+    const auto pressed = static_cast<std::size_t>(runAlert(alert));
+    return pressed < recoveries.size() && recoveries[pressed].attempt();
+}
+
+bool QtDesktop::reveal(const QString& path)
+{
+    if (!QFileInfo::exists(path))
+        return false;
+    return showInFileManager(path)
+        || QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
+}
+
+void QtDesktop::noteRecent(const QString& path)
+{
+    m_recent.note(path);
+}
+
+void QtDesktop::log(const QString& line)
+{
+    syslog(LOG_USER | LOG_INFO, "%s", qUtf8Printable(line));
+}
+
+QDateTime QtDesktop::now() const
+{
+    return QDateTime::currentDateTime();
+}
+
+} // namespace tessera

@@ -1,0 +1,32 @@
+#include "platform/recentdocuments.h"
+
+namespace tessera {
+
+namespace {
+constexpr qsizetype keptDocuments = 10;
+}
+
+RecentDocuments::RecentDocuments(UserDefaults& defaults)
+    : m_defaults(defaults)
+{
+}
+
+void RecentDocuments::note(const QString& path)
+{
+    QStringList list = paths();
+    list.removeAll(path);
+    list.prepend(path);
+    m_defaults.setValue(keys::RecentDocuments.name, list.mid(0, keptDocuments));
+}
+
+void RecentDocuments::clear()
+{
+    m_defaults.remove(keys::RecentDocuments.name);
+}
+
+QStringList RecentDocuments::paths() const
+{
+    return m_defaults.value(keys::RecentDocuments.name).value_or(QVariant()).toStringList();
+}
+
+} // namespace tessera

@@ -1,0 +1,90 @@
+#include "widgets/formpage.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace tessera {
+
+namespace {
+constexpr int labelColumn = 0;
+constexpr int controlColumn = 1;
+constexpr int labelWidth = 150;
+} // namespace
+
+FormPage::FormPage(QWidget* parent)
+    : QWidget(parent)
+    , m_grid(new QGridLayout(this))
+{
+    m_grid->setContentsMargins(28, 20, 28, 20);
+    m_grid->setHorizontalSpacing(12);
+    m_grid->setVerticalSpacing(8);
+    m_grid->setColumnMinimumWidth(labelColumn, labelWidth);
+    m_grid->setColumnStretch(controlColumn, 1);
+}
+
+void FormPage::addHeading(const QString& title, const QString& explanation)
+{
+    auto* heading = new QLabel(title, this);
+    heading->setProperty("role", QStringLiteral("heading"));
+    auto* text = new QLabel(explanation, this);
+    text->setProperty("role", QStringLiteral("dim"));
+    text->setWordWrap(true);
+    m_grid->addWidget(heading, m_row++, labelColumn, 1, 2);
+    m_grid->addWidget(text, m_row++, labelColumn, 1, 2);
+    m_grid->setRowMinimumHeight(m_row++, 8);
+}
+
+QLabel* FormPage::addRow(const QString& label, QWidget* control)
+{
+    auto* name = new QLabel(label, this);
+    name->setProperty("role", QStringLiteral("dim"));
+    name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    name->setBuddy(control);
+    if (control->accessibleName().isEmpty() && !label.isEmpty())
+        control->setAccessibleName(label);
+    m_grid->addWidget(name, m_row, labelColumn);
+    m_grid->addWidget(control, m_row, controlColumn);
+    ++m_row;
+    return name;
+}
+
+QLabel* FormPage::addRow(const QString& label, const QList<QWidget*>& controls)
+{
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(16);
+    for (QWidget* control : controls)
+        layout->addWidget(control);
+    layout->addStretch();
+    QLabel* name = addRow(label, row);
+    if (!controls.isEmpty())
+        name->setBuddy(controls.first());
+    return name;
+}
+
+QLabel* FormPage::addNote(const QString& text)
+{
+    auto* note = new QLabel(text, this);
+    note->setProperty("role", QStringLiteral("dim"));
+    note->setWordWrap(true);
+    m_grid->addWidget(note, m_row++, controlColumn);
+    return note;
+}
+
+void FormPage::addLine()
+{
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setProperty("role", QStringLiteral("line"));
+    m_grid->addWidget(line, m_row++, labelColumn, 1, 2);
+}
+
+void FormPage::addStretch()
+{
+    m_grid->setRowStretch(m_row++, 1);
+}
+
+} // namespace tessera

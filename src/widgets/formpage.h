@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+class QGridLayout;
+class QLabel;
+
+namespace tessera {
+
+/// A page of settings: one column of right-aligned labels beside their controls, groups parted by a thin line.
+class FormPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FormPage(QWidget* parent = nullptr);
+
+    /// A heading with a line of explanation under it, over the whole width.
+    void addHeading(const QString& title, const QString& explanation);
+    /// The label names the control for a screen reader and takes its focus. An empty one leaves the column free.
+    QLabel* addRow(const QString& label, QWidget* control);
+    /// Controls beside each other in one row.
+    QLabel* addRow(const QString& label, const QList<QWidget*>& controls);
+    /// Dim text under the controls' column.
+    QLabel* addNote(const QString& text = QString());
+    void addLine();
+    /// Takes the space that is left; after the last row.
+    void addStretch();
+
+private:
+    QGridLayout* m_grid;
+    int m_row = 0;
+};
+
+} // namespace tessera

@@ -1,0 +1,135 @@
+#include "widgets/theme.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFont>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+namespace tessera::theme {
+
+namespace {
+
+struct Token {
+    const char* name;
+    QColor color;
+};
+
+const std::array tokens{
+    Token{"window", QColor(0x19, 0x1b, 0x1f)},
+    Token{"panel", QColor(0x1f, 0x22, 0x27)},
+    Token{"base", QColor(0x15, 0x17, 0x1a)},
+    Token{"otherrow", QColor(0x18, 0x1a, 0x1e)},
+    Token{"line", QColor(0x2b, 0x2f, 0x36)},
+    Token{"control", QColor(0x2a, 0x2e, 0x35)},
+    Token{"border", QColor(0x34, 0x39, 0x41)},
+    Token{"text", QColor(0xe8, 0xe8, 0xe9)},  // white at 0.90 over the window
+    Token{"dim", QColor(0x97, 0x98, 0x9a)},   // white at 0.55
+    Token{"faint", QColor(0x76, 0x78, 0x7b)}, // white at 0.40: 0.32 is too faint to read at 12 px
+    Token{"accent", QColor(0x45, 0xb5, 0xaa)},
+    Token{"selection", QColor(0x23, 0x4b, 0x52)},
+    Token{"good", QColor(0x5f, 0xbf, 0x77)},
+    Token{"imperfect", QColor(0xe3, 0xb0, 0x4b)},
+    Token{"preliminary", QColor(0xe0, 0x6c, 0x5f)},
+};
+
+QString styleSheet()
+{
+    QFile file(QStringLiteral(":/theme.qss"));
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    QString sheet = QString::fromUtf8(file.readAll());
+    for (const Token& token : tokens)
+        sheet.replace(QLatin1Char('@') + QLatin1String(token.name) + QLatin1Char('@'), token.color.name());
+    return sheet;
+}
+
+QPalette palette()
+{
+    QPalette dark;
+    dark.setColor(QPalette::Window, color("window"));
+    dark.setColor(QPalette::Base, color("base"));
+    dark.setColor(QPalette::AlternateBase, color("otherrow"));
+    dark.setColor(QPalette::Button, color("control"));
+    dark.setColor(QPalette::ToolTipBase, color("panel"));
+    dark.setColor(QPalette::Highlight, color("selection"));
+    dark.setColor(QPalette::Link, color("accent"));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
+                            QPalette::HighlightedText, QPalette::BrightText})
+        dark.setColor(role, color("text"));
+    dark.setColor(QPalette::PlaceholderText, color("faint"));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, color("faint"));
+    return dark;
+}
+
+// Draws a monochrome icon in the colour of its state, at any size and scale factor.
+class DrawnIcon : public QIconEngine
+{
+public:
+    explicit DrawnIcon(QByteArray svg)
+        : m_svg(std::move(svg))
+    {
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QColor ink = mode == QIcon::Disabled ? color("faint") : state == QIcon::On ? color("accent") : color("text");
+        QSvgRenderer renderer(QByteArray(m_svg).replace("currentColor", ink.name().toLatin1()));
+        renderer.render(painter, rect);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine* clone() const override { return new DrawnIcon(m_svg); }
+
+private:
+    QByteArray m_svg;
+};
+
+} // namespace
+
+QColor color(const char* token)
+{
+    for (const Token& row : tokens) {
+        if (qstrcmp(row.name, token) == 0)
+            return row.color;
+    }
+    return QColor();
+}
+
+QIcon icon(const QString& name)
+{
+    QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+    if (!file.open(QIODevice::ReadOnly))
+        return QIcon();
+    return QIcon(new DrawnIcon(file.readAll()));
+}
+
+QIcon mark(const QString& name)
+{
+    return QIcon(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+}
+
+void apply(QApplication& application)
+{
+    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font = application.font();
+    font.setFamilies({QStringLiteral("Inter"), font.family(), QStringLiteral("Noto Sans CJK JP")});
+    font.setPixelSize(13);
+    application.setFont(font);
+    application.setPalette(palette());
+    application.setStyleSheet(styleSheet());
+}
+
+} // namespace tessera::theme

@@ -1,0 +1,115 @@
+#include "core/atomicfile.h"
+
+#include "support/ordinaryuser.h"
+#include "support/testmain.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace tessera;
+
+namespace {
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+// While it lives, no file grows beyond `bytes`: what a full disk looks like to a writer.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit small = m_before;
+        small.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &small);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+} // namespace
+
+class AtomicFileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath(QStringLiteral("file"));
+    }
+
+    void piecesAreWrittenOneAfterAnother()
+    {
+        QVERIFY(writeAtomically(m_path, std::array<std::string_view, 3>{"one ", "", "two"}));
+        QCOMPARE(content(m_path), QByteArray("one two"));
+    }
+
+    void anOldFileIsReplacedWhole()
+    {
+        QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"a long old text"}));
+        QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"new"}));
+        QCOMPARE(content(m_path), QByteArray("new"));
+    }
+
+    void aFullDiskLeavesTheOldFile()
+    {
+        QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"old"}));
+        const std::string large(1 << 20, 'x');
+        const SmallDisk disk(1 << 16);
+        const auto written = writeAtomically(m_path, std::array<std::string_view, 1>{large});
+        QVERIFY(!written);
+        QCOMPARE(QByteArray(written.error().key), QByteArray("failure_write"));
+        QCOMPARE(written.error().arguments.value(0), m_path);
+        QVERIFY(!written.error().arguments.value(1).isEmpty());
+        QCOMPARE(content(m_path), QByteArray("old"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("file")});
+    }
+
+    void aReadOnlyFolderIsAFailure()
+    {
+        QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"old"}));
+        QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            QVERIFY(!writeAtomically(m_path, std::array<std::string_view, 1>{"new"}));
+        }
+        QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(content(m_path), QByteArray("old"));
+    }
+
+    void aFolderOfThatNameIsAFailure()
+    {
+        QVERIFY(QDir().mkpath(m_path));
+        QVERIFY(!writeAtomically(m_path, std::array<std::string_view, 1>{"new"}));
+    }
+
+    void aMissingFolderIsAFailure()
+    {
+        QVERIFY(!writeAtomically(m_folder->filePath(QStringLiteral("none/file")), std::array<std::string_view, 1>{"x"}));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+};
+
+TESSERA_TEST(AtomicFileTest);
+#include "atomicfiletest.moc"

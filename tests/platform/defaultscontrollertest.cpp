@@ -1,0 +1,126 @@
+#include "platform/defaultscontroller.h"
+
+#include "support/testmain.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+class DefaultsControllerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_defaults = std::make_unique<UserDefaults>(path());
+        m_controller = std::make_unique<DefaultsController>(*m_defaults);
+        m_controller->setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/someone"));
+    }
+
+    void aFirstStartWritesNothing()
+    {
+        m_controller->flag(keys::Keepaspect);
+        QVERIFY(m_defaults->synchronize());
+        for (const InitialSetting& row : initialSettings)
+            QVERIFY(!UserDefaults(path()).value(row.name));
+    }
+
+    void controlsShowInitialValuesAndDirectReadersFindNone()
+    {
+        QCOMPARE(m_controller->flag(keys::Keepaspect), true);
+        QCOMPARE(m_controller->index(keys::Videodriver), 2);
+        QCOMPARE(m_controller->text(keys::Audiolatency), QStringLiteral("1"));
+        QCOMPARE(m_defaults->flag(keys::Keepaspect.name), false);
+        QVERIFY(!m_defaults->value(keys::Videodriver.name));
+        QCOMPARE(m_defaults->string(keys::RomsPath.name), QString());
+    }
+
+    void rowsThatDependOnTheMachineAreCompleted()
+    {
+        QCOMPARE(m_controller->text(keys::TablefontName), QStringLiteral("Sans"));
+        QCOMPARE(m_controller->text(keys::FavoritefontName), QStringLiteral("Sans"));
+        QCOMPARE(m_controller->text(keys::old_favoritesfile),
+                 QStringLiteral("/home/someone/Library/Preferences/jp.Plover.Tessera_Favorites.xml"));
+    }
+
+    void floatsReadWithoutAFraction()
+    {
+        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1"));
+        m_controller->setText(keys::Displaybeam, QStringLiteral("1.0"));
+        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1"));
+        m_controller->setText(keys::Displaybeam, QStringLiteral("1.25"));
+        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1.25"));
+        m_controller->setText(keys::Displaybeam, QString());
+        QCOMPARE(m_controller->text(keys::Displaybeam), QString());
+    }
+
+    void valuesSurviveTheFile()
+    {
+        m_controller->setFlag(keys::Maximize, true);
+        m_controller->setIndex(keys::Displayframeskip, 11);
+        m_controller->setIndex(keys::rowHeight, 21.0);
+        m_controller->setText(keys::RomsPath, QStringLiteral("/a b/ロム, \"x\";%20"));
+        QVERIFY(m_defaults->synchronize());
+
+        UserDefaults again(path());
+        DefaultsController controller(again);
+        controller.setInitialValues(QString(), QString());
+        QCOMPARE(controller.flag(keys::Maximize), true);
+        QCOMPARE(controller.index(keys::Displayframeskip), 11);
+        QCOMPARE(controller.text(keys::rowHeight), QStringLiteral("21"));
+        QCOMPARE(again.string(keys::RomsPath.name), QStringLiteral("/a b/ロム, \"x\";%20"));
+    }
+
+    void aBrokenIndexReadsAsItsInitialValue()
+    {
+        m_defaults->setValue(keys::Videodriver.name, QStringLiteral("nonsense"));
+        QCOMPARE(m_controller->index(keys::Videodriver), 2);
+        m_defaults->setValue(keys::Videodriver.name, 1e30);
+        QCOMPARE(m_controller->index(keys::Videodriver), 2);
+    }
+
+    void revertBringsBackEveryInitialValueAndKeepsPaths()
+    {
+        for (const InitialSetting& row : initialSettings)
+            m_defaults->setValue(row.name, QStringLiteral("7"));
+        m_controller->setText(keys::ExecutionPath, QStringLiteral("/usr/games/mame"));
+        m_defaults->setValue(keys::GamelistColoring.name, true);
+        QSignalSpy changed(m_controller.get(), &DefaultsController::changed);
+
+        m_controller->revertToInitialValues();
+
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).toString(), QString());
+        QCOMPARE(m_controller->index(keys::Videodriver), 2);
+        QCOMPARE(m_controller->index(keys::Displayrotation), 1);
+        QCOMPARE(m_controller->index(keys::Soundsmplerate), 3);
+        QCOMPARE(m_controller->flag(keys::verifyromsButton_isbad), true);
+        UserDefaults onDisk(path());
+        for (const InitialSetting& row : initialSettings)
+            QVERIFY2(onDisk.string(row.name) != QStringLiteral("7"), row.name.data());
+        QCOMPARE(onDisk.string(keys::ExecutionPath.name), QStringLiteral("/usr/games/mame"));
+        QCOMPARE(onDisk.flag(keys::GamelistColoring.name), true);
+    }
+
+    void changesAreToldOnce()
+    {
+        QSignalSpy changed(m_controller.get(), &DefaultsController::changed);
+        m_controller->setFlag(keys::Maximize, true);
+        m_controller->setFlag(keys::Maximize, true);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("Maximize"));
+    }
+
+private:
+    QString path() const { return m_folder->filePath(QStringLiteral("settings.ini")); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<UserDefaults> m_defaults;
+    std::unique_ptr<DefaultsController> m_controller;
+};
+
+TESSERA_TEST(DefaultsControllerTest);
+#include "defaultscontrollertest.moc"

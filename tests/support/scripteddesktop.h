@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/desktop.h"
+
+#include <deque>
+
+namespace tessera::test {
+
+/// A desktop that answers from a script and keeps a transcript. Each answer names the question that it was
+/// written for; an unexpected question, or an answer left over, fails the test.
+class ScriptedDesktop : public Desktop
+{
+public:
+    ~ScriptedDesktop() override;
+
+    /// The next alert's message must contain `question`; `button` is pressed.
+    void answerAlert(const QString& question, int button);
+    /// The next error's message must contain `question`; `recovery` is chosen, or -1 dismisses it.
+    void answerError(const QString& question, int recovery = -1);
+    void answerOpen(const std::optional<QString>& path);
+    /// The next save panel must propose `name`.
+    void answerSave(const QString& name, const std::optional<QString>& path);
+
+    /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "error MESSAGE", "reveal PATH", "recent PATH",
+    /// "log LINE", in order.
+    QStringList transcript() const { return m_transcript; }
+    QStringList takeTranscript() { return std::exchange(m_transcript, {}); }
+
+    std::vector<Alert> alerts;
+    std::vector<OpenRequest> openRequests;
+    std::vector<SaveRequest> saveRequests;
+    QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5));
+
+    void beep() override;
+    void playSound(const QString& name) override;
+    int runAlert(const Alert& alert) override;
+    std::optional<QString> openPanel(const OpenRequest& request) override;
+    std::optional<QString> savePanel(const SaveRequest& request) override;
+    bool presentError(const QString& message, const std::vector<Recovery>& recoveries) override;
+    bool reveal(const QString& path) override;
+    void noteRecent(const QString& path) override;
+    void log(const QString& line) override;
+    QDateTime now() const override { return clock; }
+
+private:
+    struct Answer {
+        QString kind;
+        QString question;
+        int choice = 0;
+        std::optional<QString> path;
+    };
+    std::optional<Answer> take(const QString& kind, const QString& question);
+
+    std::deque<Answer> m_answers;
+    QStringList m_transcript;
+};
+
+} // namespace tessera::test

@@ -1,0 +1,35 @@
+#include "widgets/formpage.h"
+
+#include "support/testmain.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace tessera;
+
+class FormPageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aLabelNamesItsControl()
+    {
+        FormPage page;
+        auto* field = new QLineEdit;
+        QLabel* label = page.addRow(QStringLiteral("Beam width"), field);
+        QCOMPARE(label->buddy(), field);
+        QCOMPARE(field->accessibleName(), QStringLiteral("Beam width"));
+    }
+
+    void aControlWithANameOfItsOwnKeepsIt()
+    {
+        FormPage page;
+        auto* field = new QLineEdit;
+        field->setAccessibleName(QStringLiteral("Width of the beam"));
+        page.addRow(QStringLiteral("Beam"), field);
+        QCOMPARE(field->accessibleName(), QStringLiteral("Width of the beam"));
+    }
+};
+
+TESSERA_TEST(FormPageTest);
+#include "formpagetest.moc"
