@@ -20,10 +20,14 @@ int sequenceLength(std::string_view bytes)
     const unsigned char lead = byte(0);
     if (lead < 0x80)
         return 1;
-    const int length = lead >= 0xC2 && lead <= 0xDF ? 2 : (lead & 0xF0) == 0xE0 ? 3 : lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+    const int length = lead >= 0xC2 && lead <= 0xDF ? 2
+        : (lead & 0xF0) == 0xE0                     ? 3
+        : lead >= 0xF0 && lead <= 0xF4              ? 4
+                                                    : 0;
     if (length == 0)
         return -1;
-    // Only the second byte has bounds of its own; they rule out overlong forms, surrogates and too large values.
+    // Only the second byte has bounds of its own; they rule out overlong forms, surrogates and too large
+    // values.
     const unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
     const unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
     for (int i = 1; i < length; ++i) {
@@ -83,7 +87,8 @@ void appendUtf8(std::string& text, std::string_view bytes)
 std::string fromShiftJis(std::string_view bytes)
 {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(ucnv_open("windows-31j", &status), &ucnv_close);
+    const std::unique_ptr<UConverter, decltype(&ucnv_close)> converter(ucnv_open("windows-31j", &status),
+                                                                       &ucnv_close);
     if (U_SUCCESS(status))
         ucnv_setToUCallBack(converter.get(), &writeReplacement, nullptr, nullptr, nullptr, &status);
     if (U_FAILURE(status))

@@ -5,7 +5,8 @@
 
 namespace tessera {
 
-/// True where `bytes` is well-formed UTF-8 (RFC 3629: no surrogates, nothing above U+10FFFF, no overlong form).
+/// True where `bytes` is well-formed UTF-8 (RFC 3629: no surrogates, nothing above U+10FFFF, no overlong
+/// form).
 bool isUtf8(std::string_view bytes);
 
 /// True where every byte is below 0x80.

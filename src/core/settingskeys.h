@@ -33,10 +33,12 @@ using Flag = Key<bool>;
 using Index = Key<float>;
 using Text = Key<QLatin1StringView>;
 
+// clang-format off
 #define TESSERA_FLAG(name, initial) inline constexpr Flag name{QLatin1StringView(#name), initial}
 #define TESSERA_INDEX(name, initial) inline constexpr Index name{QLatin1StringView(#name), initial}
 #define TESSERA_TEXT(name, initial) inline constexpr Text name{QLatin1StringView(#name), QLatin1StringView(initial)}
 #define TESSERA_CHOSEN(name) inline constexpr ChosenKey name{QLatin1StringView(#name)}
+// clang-format on
 
 // Video and display
 TESSERA_INDEX(Launchgamesusing, 0);
@@ -159,7 +161,8 @@ TESSERA_CHOSEN(snapdownloadPath);
 TESSERA_CHOSEN(titlessdownloadPath);
 TESSERA_CHOSEN(flyersdownloadPath);
 TESSERA_CHOSEN(FavoriteTable);
-// Not gamelist_coloring: the switch that the list reads has no initial value, so that a fresh list is uncoloured.
+// Not gamelist_coloring: the switch that the list reads has no initial value, so that a fresh list is
+// uncoloured.
 TESSERA_CHOSEN(GamelistColoring);
 TESSERA_CHOSEN(listfullPath);
 TESSERA_CHOSEN(romsfolderPath);
@@ -194,27 +197,26 @@ constexpr auto settingsTable(const Key<T>&... key)
 
 /// The 86 settings with an initial value, in their fixed order.
 inline constexpr auto initialSettings = detail::settingsTable(
-    keys::Launchgamesusing, keys::Displaymode, keys::Videodriver, keys::Scaling, keys::Maximize, keys::Keepaspect,
-    keys::Unevenstretch, keys::Resolutionswitc, keys::Waitvsync, keys::Multithreading, keys::Displayframeskip,
-    keys::Displayrotation, keys::Displayflip, keys::Bilinear, keys::Effect, keys::Effectname, keys::ScalemodeArgPop,
-    keys::ScalemodePop, keys::Artwork, keys::Backdrops, keys::Overlays, keys::Bezels, keys::Antialiased,
-    keys::Displaybeam, keys::Displayflicker,
+    keys::Launchgamesusing, keys::Displaymode, keys::Videodriver, keys::Scaling, keys::Maximize,
+    keys::Keepaspect, keys::Unevenstretch, keys::Resolutionswitc, keys::Waitvsync, keys::Multithreading,
+    keys::Displayframeskip, keys::Displayrotation, keys::Displayflip, keys::Bilinear, keys::Effect,
+    keys::Effectname, keys::ScalemodeArgPop, keys::ScalemodePop, keys::Artwork, keys::Backdrops,
+    keys::Overlays, keys::Bezels, keys::Antialiased, keys::Displaybeam, keys::Displayflicker,
     keys::Soundoutput, keys::Soundvolume, keys::Soundsmplerate, keys::Audiolatency, keys::Soundsmples,
     keys::Movierecord, keys::Moviematrix, keys::Wavfilename, keys::Mngfilename, keys::Avifilename,
     keys::Mousecontrolle, keys::Joystickcontrolle, keys::Lightguncontrolle, keys::Offscreenreload,
-    keys::Registersimultaneous, keys::Outputserror, keys::Debugoptions, keys::Commandoption, keys::Commandexport,
-    keys::Biostype, keys::Replaymove, keys::Replaymatrix, keys::Recordfilepop, keys::Playbackfilename,
-    keys::Cheatsystem, keys::Gameinfo, keys::Automaticsavestate, keys::Suppress_PS,
+    keys::Registersimultaneous, keys::Outputserror, keys::Debugoptions, keys::Commandoption,
+    keys::Commandexport, keys::Biostype, keys::Replaymove, keys::Replaymatrix, keys::Recordfilepop,
+    keys::Playbackfilename, keys::Cheatsystem, keys::Gameinfo, keys::Automaticsavestate, keys::Suppress_PS,
     keys::Screenfolder, keys::Rominfosite, keys::VisitedURLPath, keys::VisitedRomPath, keys::Snapdownsite,
-    keys::AspectRatio,
-    keys::TablefontName, keys::FavoritefontName, keys::rowHeight, keys::fontSize, keys::History_fontsize,
-    keys::gamelist_coloring, keys::TableViewTextColor, keys::TableViewTextColor2,
-    keys::helpPopmenu, keys::helpTabview,
-    keys::verifyromsButton_isgood, keys::verifyromsButton_isbesta, keys::verifyromsButton_iclength,
-    keys::verifyromsButton_iccsum, keys::verifyromsButton_nredump, keys::verifyromsButton_ngdk,
-    keys::verifyromsButton_isbad, keys::verifyromsButton_notfound, keys::verifyromsButton_nfsparent,
-    keys::verifyromsButton_nfngd, keys::verifyromsButton_nfbo, keys::verifyromsButton_other,
-    keys::old_favoritesfile, keys::script_format, keys::script_emu, keys::script_filename, keys::script_option);
+    keys::AspectRatio, keys::TablefontName, keys::FavoritefontName, keys::rowHeight, keys::fontSize,
+    keys::History_fontsize, keys::gamelist_coloring, keys::TableViewTextColor, keys::TableViewTextColor2,
+    keys::helpPopmenu, keys::helpTabview, keys::verifyromsButton_isgood, keys::verifyromsButton_isbesta,
+    keys::verifyromsButton_iclength, keys::verifyromsButton_iccsum, keys::verifyromsButton_nredump,
+    keys::verifyromsButton_ngdk, keys::verifyromsButton_isbad, keys::verifyromsButton_notfound,
+    keys::verifyromsButton_nfsparent, keys::verifyromsButton_nfngd, keys::verifyromsButton_nfbo,
+    keys::verifyromsButton_other, keys::old_favoritesfile, keys::script_format, keys::script_emu,
+    keys::script_filename, keys::script_option);
 
 static_assert(initialSettings.size() == 86);
 

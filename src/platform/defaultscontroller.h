@@ -16,7 +16,8 @@ class DefaultsController : public QObject
 public:
     explicit DefaultsController(UserDefaults& defaults, QObject* parent = nullptr);
 
-    /// Installs the table of initial values: `systemFont` and `homeFolder` complete the rows that depend on them.
+    /// Installs the table of initial values: `systemFont` and `homeFolder` complete the rows that depend on
+    /// them.
     void setInitialValues(const QString& systemFont, const QString& homeFolder);
     /// Puts every setting that has an initial value back to it, and flushes.
     void revertToInitialValues();

@@ -25,14 +25,14 @@ struct Alert {
 struct OpenRequest {
     bool files = true;
     bool folders = false;
-    QUrl directory;         ///< starting place; invalid for none
+    QUrl directory; ///< starting place; invalid for none
     QStringList extensions; ///< without dots; empty for any file
 };
 
 /// A modal save panel; it asks itself before an existing file is replaced.
 struct SaveRequest {
     QString title;
-    QString name;           ///< proposed file name
+    QString name; ///< proposed file name
     QStringList extensions; ///< without dots; the first is added to a name that has none of them
 };
 
@@ -56,8 +56,11 @@ public:
     virtual int runAlert(const Alert& alert) = 0;
     virtual std::optional<QString> openPanel(const OpenRequest& request) = 0;
     virtual std::optional<QString> savePanel(const SaveRequest& request) = 0;
-    /// Shows an error with its recoveries. True when a recovery was chosen and dealt with it.
-    virtual bool presentError(const QString& message, const std::vector<Recovery>& recoveries) = 0;
+    /// Shows an error, what explains it, and its recoveries. True when a recovery was chosen and dealt with
+    /// it.
+    virtual bool presentError(const QString& message, const QString& informative,
+                              const std::vector<Recovery>& recoveries)
+        = 0;
     /// Shows the item selected in the file manager; false where that was not possible.
     virtual bool reveal(const QString& path) = 0;
     virtual void noteRecent(const QString& path) = 0;

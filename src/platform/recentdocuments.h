@@ -4,8 +4,8 @@
 
 namespace tessera {
 
-/// The last files that were opened, newest first. Kept with the settings, since a Linux desktop has no list of
-/// its own that every program may write.
+/// The last files that were opened, newest first. Kept with the settings, since a Linux desktop has no list
+/// of its own that every program may write.
 class RecentDocuments
 {
 public:

@@ -9,8 +9,8 @@
 
 namespace tessera {
 
-/// The user's stored settings, one INI file. A direct reader gets what was stored, or nothing, and carries its
-/// own fallback; what a control shows comes from DefaultsController.
+/// The user's stored settings, one INI file. A direct reader gets what was stored, or nothing, and carries
+/// its own fallback; what a control shows comes from DefaultsController.
 class UserDefaults
 {
 public:

@@ -41,19 +41,19 @@ void bindText(QLineEdit& field, DefaultsController& defaults, const AnyKey& key)
 void bind(QCheckBox& box, DefaultsController& defaults, const Key<bool>& key)
 {
     follow(box, defaults, key.name, [&box, &defaults, &key] { box.setChecked(defaults.flag(key)); });
-    QObject::connect(&box, &QCheckBox::toggled, &defaults,
-                     [&defaults, &key](bool on) {
-                         if (on != defaults.flag(key))
-                             defaults.setFlag(key, on);
-                     });
+    QObject::connect(&box, &QCheckBox::toggled, &defaults, [&defaults, &key](bool on) {
+        if (on != defaults.flag(key))
+            defaults.setFlag(key, on);
+    });
 }
 
 void bind(QCheckBox& box, DefaultsController& defaults, const ChosenKey& key)
 {
     follow(box, defaults, key.name,
            [&box, &defaults, &key] { box.setChecked(defaults.defaults().flag(key.name)); });
-    QObject::connect(&box, &QCheckBox::clicked, &defaults,
-                     [&defaults, &key](bool on) { defaults.setText(key, on ? QStringLiteral("true") : QStringLiteral("false")); });
+    QObject::connect(&box, &QCheckBox::clicked, &defaults, [&defaults, &key](bool on) {
+        defaults.setText(key, on ? QStringLiteral("true") : QStringLiteral("false"));
+    });
 }
 
 void bind(QComboBox& popup, DefaultsController& defaults, const Key<float>& key)

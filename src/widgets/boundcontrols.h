@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace tessera {
 
-/// Ties a control to a setting, both ways: the control shows the stored or the initial value and follows every
-/// change of it; what the user does in the control is stored at once.
+/// Ties a control to a setting, both ways: the control shows the stored or the initial value and follows
+/// every change of it; what the user does in the control is stored at once.
 void bind(QCheckBox& box, DefaultsController& defaults, const Key<bool>& key);
 /// A check box over a setting that has no initial value.
 void bind(QCheckBox& box, DefaultsController& defaults, const ChosenKey& key);

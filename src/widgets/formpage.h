@@ -7,7 +7,8 @@ class QLabel;
 
 namespace tessera {
 
-/// A page of settings: one column of right-aligned labels beside their controls, groups parted by a thin line.
+/// A page of settings: one column of right-aligned labels beside their controls, groups parted by a thin
+/// line.
 class FormPage : public QWidget
 {
     Q_OBJECT
@@ -17,7 +18,8 @@ public:
 
     /// A heading with a line of explanation under it, over the whole width.
     void addHeading(const QString& title, const QString& explanation);
-    /// The label names the control for a screen reader and takes its focus. An empty one leaves the column free.
+    /// The label names the control for a screen reader and takes its focus. An empty one leaves the column
+    /// free.
     QLabel* addRow(const QString& label, QWidget* control);
     /// Controls beside each other in one row.
     QLabel* addRow(const QString& label, const QList<QWidget*>& controls);

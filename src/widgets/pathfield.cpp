@@ -9,7 +9,8 @@
 
 namespace tessera {
 
-PathField::PathField(const QString& name, const QString& chooseLabel, const QString& revealLabel, QWidget* parent)
+PathField::PathField(const QString& name, const QString& chooseLabel, const QString& revealLabel,
+                     QWidget* parent)
     : QWidget(parent)
     , m_field(new QLineEdit(this))
     , m_choose(new QPushButton(chooseLabel, this))

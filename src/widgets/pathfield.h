@@ -16,7 +16,8 @@ class PathField : public QWidget
 
 public:
     /// `name` is what the path is, for accessible names: "ROM folder".
-    PathField(const QString& name, const QString& chooseLabel, const QString& revealLabel, QWidget* parent = nullptr);
+    PathField(const QString& name, const QString& chooseLabel, const QString& revealLabel,
+              QWidget* parent = nullptr);
 
     QLineEdit* field() const { return m_field; }
     QPushButton* chooseButton() const { return m_choose; }

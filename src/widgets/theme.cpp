@@ -26,10 +26,11 @@ const std::array tokens{
     Token{"line", QColor(0x2b, 0x2f, 0x36)},
     Token{"control", QColor(0x2a, 0x2e, 0x35)},
     Token{"border", QColor(0x34, 0x39, 0x41)},
-    Token{"text", QColor(0xe8, 0xe8, 0xe9)},  // white at 0.90 over the window
-    Token{"dim", QColor(0x97, 0x98, 0x9a)},   // white at 0.55
+    Token{"text", QColor(0xe8, 0xe8, 0xe9)}, // white at 0.90 over the window
+    Token{"dim", QColor(0x97, 0x98, 0x9a)}, // white at 0.55
     Token{"faint", QColor(0x76, 0x78, 0x7b)}, // white at 0.40: 0.32 is too faint to read at 12 px
     Token{"accent", QColor(0x45, 0xb5, 0xaa)},
+    Token{"onaccent", QColor(0x10, 0x20, 0x1e)},
     Token{"selection", QColor(0x23, 0x4b, 0x52)},
     Token{"good", QColor(0x5f, 0xbf, 0x77)},
     Token{"imperfect", QColor(0xe3, 0xb0, 0x4b)},
@@ -70,14 +71,17 @@ QPalette palette()
 class DrawnIcon : public QIconEngine
 {
 public:
-    explicit DrawnIcon(QByteArray svg)
+    DrawnIcon(QByteArray svg, const char* token)
         : m_svg(std::move(svg))
+        , m_token(token)
     {
     }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
-        const QColor ink = mode == QIcon::Disabled ? color("faint") : state == QIcon::On ? color("accent") : color("text");
+        const QColor ink = mode == QIcon::Disabled ? color("faint")
+            : state == QIcon::On                   ? color("accent")
+                                                   : color(m_token);
         QSvgRenderer renderer(QByteArray(m_svg).replace("currentColor", ink.name().toLatin1()));
         renderer.render(painter, rect);
     }
@@ -91,10 +95,11 @@ public:
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new DrawnIcon(m_svg); }
+    QIconEngine* clone() const override { return new DrawnIcon(m_svg, m_token); }
 
 private:
     QByteArray m_svg;
+    const char* m_token;
 };
 
 } // namespace
@@ -108,17 +113,21 @@ QColor color(const char* token)
     return QColor();
 }
 
-QIcon icon(const QString& name)
+QIcon icon(const QString& name, const char* token)
 {
     QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
     if (!file.open(QIODevice::ReadOnly))
         return QIcon();
-    return QIcon(new DrawnIcon(file.readAll()));
+    return QIcon(new DrawnIcon(file.readAll(), token));
 }
 
 QIcon mark(const QString& name)
 {
-    return QIcon(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+    const QString file = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
+    QIcon picture(file);
+    // In a selected row it keeps its own colours, too.
+    picture.addFile(file, QSize(), QIcon::Selected);
+    return picture;
 }
 
 void apply(QApplication& application)

@@ -79,13 +79,15 @@ private Q_SLOTS:
         QCOMPARE(written.error().arguments.value(0), m_path);
         QVERIFY(!written.error().arguments.value(1).isEmpty());
         QCOMPARE(content(m_path), QByteArray("old"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("file")});
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral("file")});
     }
 
     void aReadOnlyFolderIsAFailure()
     {
         QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"old"}));
-        QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(m_folder->path(),
+                              QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
         {
             const test::OrdinaryUser user;
             QVERIFY(user.holds());
@@ -103,7 +105,8 @@ private Q_SLOTS:
 
     void aMissingFolderIsAFailure()
     {
-        QVERIFY(!writeAtomically(m_folder->filePath(QStringLiteral("none/file")), std::array<std::string_view, 1>{"x"}));
+        QVERIFY(!writeAtomically(m_folder->filePath(QStringLiteral("none/file")),
+                                 std::array<std::string_view, 1>{"x"}));
     }
 
 private:

@@ -29,7 +29,8 @@ private Q_SLOTS:
     {
         OneText texts;
         QCoreApplication::installTranslator(&texts);
-        QCOMPARE((Failure{"key", {QStringLiteral("one"), QStringLiteral("two")}}.text()), QStringLiteral("two after one"));
+        QCOMPARE((Failure{"key", {QStringLiteral("one"), QStringLiteral("two")}}.text()),
+                 QStringLiteral("two after one"));
     }
 
     void aPercentSignInAnArgumentStays()

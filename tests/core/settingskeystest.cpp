@@ -146,28 +146,15 @@ private Q_SLOTS:
             keys::localizePath.name,
             keys::verifyromsText.name,
         };
-        QCOMPARE(names, (QSet<QString>{
-            u"ExecutionPath"_s,
-            u"MameosxPath"_s,
-            u"ApplicationPath"_s,
-            u"RomsPath"_s,
-            u"SnapPath"_s,
-            u"TitlesnapPath"_s,
-            u"GameflyersPath"_s,
-            u"HistoryPath"_s,
-            u"MameinfoPath"_s,
-            u"snapdownloadPath"_s,
-            u"titlessdownloadPath"_s,
-            u"flyersdownloadPath"_s,
-            u"FavoriteTable"_s,
-            u"GamelistColoring"_s,
-            u"listfullPath"_s,
-            u"romsfolderPath"_s,
-            u"movefolderPath"_s,
-            u"listxmlPath"_s,
-            u"localizePath"_s,
-            u"verifyromsText"_s,
-        }));
+        QCOMPARE(
+            names,
+            (QSet<QString>{
+                u"ExecutionPath"_s,  u"MameosxPath"_s,      u"ApplicationPath"_s,     u"RomsPath"_s,
+                u"SnapPath"_s,       u"TitlesnapPath"_s,    u"GameflyersPath"_s,      u"HistoryPath"_s,
+                u"MameinfoPath"_s,   u"snapdownloadPath"_s, u"titlessdownloadPath"_s, u"flyersdownloadPath"_s,
+                u"FavoriteTable"_s,  u"GamelistColoring"_s, u"listfullPath"_s,        u"romsfolderPath"_s,
+                u"movefolderPath"_s, u"listxmlPath"_s,      u"localizePath"_s,        u"verifyromsText"_s,
+            }));
         for (const InitialSetting& row : initialSettings)
             QVERIFY(!names.contains(row.name));
     }

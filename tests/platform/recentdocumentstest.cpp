@@ -20,7 +20,8 @@ private Q_SLOTS:
         recent.note(QStringLiteral("/roms/pong.zip"));
         recent.note(QStringLiteral("/roms/galaga.zip"));
         recent.note(QStringLiteral("/roms/pong.zip"));
-        QCOMPARE(recent.paths(), (QStringList{QStringLiteral("/roms/pong.zip"), QStringLiteral("/roms/galaga.zip")}));
+        QCOMPARE(recent.paths(),
+                 (QStringList{QStringLiteral("/roms/pong.zip"), QStringLiteral("/roms/galaga.zip")}));
         recent.clear();
         QVERIFY(recent.paths().isEmpty());
     }

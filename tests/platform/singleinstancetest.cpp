@@ -42,7 +42,8 @@ private Q_SLOTS:
         QSignalSpy handedOver(&first, &SingleInstance::handedOver);
         bool taken = false;
         // The second start waits for its answer, as a process of its own would.
-        const std::unique_ptr<QThread> second(QThread::create([&] { taken = SingleInstance(socket).handOver(path); }));
+        const std::unique_ptr<QThread> second(
+            QThread::create([&] { taken = SingleInstance(socket).handOver(path); }));
         second->start();
         QTRY_COMPARE(handedOver.count(), 1);
         QVERIFY(second->wait());

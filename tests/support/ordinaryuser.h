@@ -5,17 +5,18 @@
 namespace tessera::test {
 
 /// While it lives, files are opened with an ordinary user's rights: root would be allowed everything.
+/// The real user is lowered as well: access() goes by that one.
 class OrdinaryUser
 {
 public:
     OrdinaryUser()
     {
         if (m_root)
-            m_lowered = seteuid(65534) == 0;
+            m_lowered = setresuid(65534, 65534, 0) == 0;
     }
     ~OrdinaryUser()
     {
-        if (m_lowered && seteuid(0) != 0)
+        if (m_lowered && setresuid(0, 0, 0) != 0)
             _exit(1);
     }
     OrdinaryUser(const OrdinaryUser&) = delete;

@@ -8,7 +8,8 @@ namespace tessera::test {
 ScriptedDesktop::~ScriptedDesktop()
 {
     for (const Answer& answer : m_answers)
-        QTest::qFail(qPrintable(QStringLiteral("never asked: %1 %2").arg(answer.kind, answer.question)), __FILE__, __LINE__);
+        QTest::qFail(qPrintable(QStringLiteral("never asked: %1 %2").arg(answer.kind, answer.question)),
+                     __FILE__, __LINE__);
 }
 
 void ScriptedDesktop::answerAlert(const QString& question, int button)
@@ -34,7 +35,8 @@ void ScriptedDesktop::answerSave(const QString& name, const std::optional<QStrin
 std::optional<ScriptedDesktop::Answer> ScriptedDesktop::take(const QString& kind, const QString& question)
 {
     m_transcript << QStringLiteral("%1 %2").arg(kind, question).trimmed();
-    if (m_answers.empty() || m_answers.front().kind != kind || !question.contains(m_answers.front().question)) {
+    if (m_answers.empty() || m_answers.front().kind != kind
+        || !question.contains(m_answers.front().question)) {
         QTest::qFail(qPrintable(QStringLiteral("unexpected %1: %2").arg(kind, question)), __FILE__, __LINE__);
         return std::nullopt;
     }
@@ -74,7 +76,8 @@ std::optional<QString> ScriptedDesktop::savePanel(const SaveRequest& request)
     return answer ? answer->path : std::nullopt;
 }
 
-bool ScriptedDesktop::presentError(const QString& message, const std::vector<Recovery>& recoveries)
+bool ScriptedDesktop::presentError(const QString& message, const QString&,
+                                   const std::vector<Recovery>& recoveries)
 {
     const auto answer = take(QStringLiteral("error"), message);
     if (!answer || answer->choice < 0)

@@ -21,8 +21,8 @@ public:
     /// The next save panel must propose `name`.
     void answerSave(const QString& name, const std::optional<QString>& path);
 
-    /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "error MESSAGE", "reveal PATH", "recent PATH",
-    /// "log LINE", in order.
+    /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "error MESSAGE", "reveal PATH", "recent
+    /// PATH", "log LINE", in order.
     QStringList transcript() const { return m_transcript; }
     QStringList takeTranscript() { return std::exchange(m_transcript, {}); }
 
@@ -36,7 +36,8 @@ public:
     int runAlert(const Alert& alert) override;
     std::optional<QString> openPanel(const OpenRequest& request) override;
     std::optional<QString> savePanel(const SaveRequest& request) override;
-    bool presentError(const QString& message, const std::vector<Recovery>& recoveries) override;
+    bool presentError(const QString& message, const QString& informative,
+                      const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;

@@ -18,7 +18,10 @@ inline std::vector<std::function<std::unique_ptr<QObject>()>>& suites()
 
 template <class Suite>
 struct Registered {
-    Registered() { suites().push_back([] { return std::make_unique<Suite>(); }); }
+    Registered()
+    {
+        suites().push_back([] { return std::make_unique<Suite>(); });
+    }
 };
 
 } // namespace tessera::test

@@ -1,5 +1,7 @@
 #include "platform/qt/qtdesktop.h"
 
+#include "platform/qt/alertdialog.h"
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -7,8 +9,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSoundEffect>
 
 #include <syslog.h>
@@ -70,31 +70,14 @@ void QtDesktop::playSound(const QString& name)
 
 int QtDesktop::runAlert(const Alert& alert)
 {
-    QMessageBox box(QApplication::activeWindow());
-    box.setIcon(alert.style == Alert::Style::Warning ? QMessageBox::Warning : QMessageBox::Information);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(alert.message);
-    box.setInformativeText(alert.informative);
-    QList<QPushButton*> buttons;
-    for (const QString& title : alert.buttons)
-        buttons << box.addButton(title, buttons.isEmpty() ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
-    if (!buttons.isEmpty()) {
-        buttons.first()->setProperty("role", QStringLiteral("accent"));
-        box.setDefaultButton(buttons.first());
-        box.setEscapeButton(buttons.last());
-    }
-    box.exec();
-    for (int i = 0; i < buttons.size(); ++i) {
-        if (box.clickedButton() == buttons[i])
-            return i;
-    }
-    return static_cast<int>(buttons.size()) - 1;
+    return AlertDialog(alert, QApplication::activeWindow()).run();
 }
 
 std::optional<QString> QtDesktop::openPanel(const OpenRequest& request)
 {
     QFileDialog dialog(QApplication::activeWindow());
-    // A panel that takes folders only shows folders; one that takes both must show files, and a folder is taken by name.
+    // A panel that takes folders only shows folders; one that takes both must show files, and a folder is
+    // taken by name.
     dialog.setFileMode(request.files ? QFileDialog::ExistingFile : QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly, !request.files);
     if (request.directory.isValid())
@@ -117,9 +100,10 @@ std::optional<QString> QtDesktop::savePanel(const SaveRequest& request)
     return run(dialog);
 }
 
-bool QtDesktop::presentError(const QString& message, const std::vector<Recovery>& recoveries)
+bool QtDesktop::presentError(const QString& message, const QString& informative,
+                             const std::vector<Recovery>& recoveries)
 {
-    Alert alert{message, QString(), {}, Alert::Style::Warning};
+    Alert alert{message, informative, {}, Alert::Style::Warning};
     for (const Recovery& recovery : recoveries)
         alert.buttons << recovery.title;
     alert.buttons << QStringLiteral("OK");

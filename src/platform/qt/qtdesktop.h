@@ -23,7 +23,8 @@ public:
     int runAlert(const Alert& alert) override;
     std::optional<QString> openPanel(const OpenRequest& request) override;
     std::optional<QString> savePanel(const SaveRequest& request) override;
-    bool presentError(const QString& message, const std::vector<Recovery>& recoveries) override;
+    bool presentError(const QString& message, const QString& informative,
+                      const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;

@@ -9,7 +9,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int handOverTimeout = 1500;   // milliseconds; a hung first instance does not keep us from starting
+constexpr int handOverTimeout = 1500; // milliseconds; a hung first instance does not keep us from starting
 constexpr qint64 longestPath = 1 << 16; // bytes that are read of a message
 
 } // namespace
@@ -25,7 +25,8 @@ SingleInstance::SingleInstance(const QString& name, QObject* parent)
 QString SingleInstance::userName()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return folder.isEmpty() ? QStringLiteral("tessera-%1").arg(getuid()) : folder + QStringLiteral("/tessera");
+    return folder.isEmpty() ? QStringLiteral("tessera-%1").arg(getuid())
+                            : folder + QStringLiteral("/tessera");
 }
 
 bool SingleInstance::handOver(const QString& path)

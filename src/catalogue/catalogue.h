@@ -1,0 +1,56 @@
+#pragma once
+
+#include "catalogue/gamerecord.h"
+#include "catalogue/textarena.h"
+#include "core/failure.h"
+
+#include <QObject>
+#include <QUndoStack>
+
+#include <expected>
+#include <span>
+#include <vector>
+
+namespace tessera {
+
+/// The store of game records: read whole from "Tessera.xml", edited with undo, written whole when asked.
+class Catalogue : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Catalogue(QString path, QObject* parent = nullptr);
+
+    QString path() const { return m_path; }
+
+    /// Reads the store anew; edits and their undo history are dropped. After a failure there are no records,
+    /// and save() refuses, so that a store which could not be read is never overwritten.
+    std::expected<void, Failure> open();
+
+    std::span<const GameRecord> records() const { return m_records; }
+
+    /// Undoable. `record` is an index into records().
+    void setValue(std::uint32_t record, Field field, const QString& text);
+
+    bool hasChanges() const;
+    std::expected<void, Failure> save();
+
+    QUndoStack& undoStack() { return m_undo; }
+
+Q_SIGNALS:
+    /// Every record is another one now.
+    void replaced();
+    void recordChanged(std::uint32_t record);
+
+private:
+    friend class EditCommand;
+    void put(std::uint32_t record, Field field, std::string_view text);
+
+    QString m_path;
+    TextArena m_arena;
+    std::vector<GameRecord> m_records;
+    QUndoStack m_undo;
+    bool m_read = false;
+};
+
+} // namespace tessera

@@ -1,0 +1,141 @@
+#include "catalogue/ui/factspanel.h"
+
+#include "catalogue/gametypetransformer.h"
+#include "catalogue/recorddictionary.h"
+#include "core/failure.h"
+#include "widgets/theme.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+
+struct FactRow {
+    Field field;
+    const char* label;
+};
+
+constexpr std::array factRows{
+    FactRow{Field::Name, textKey("fact_name")},     FactRow{Field::Cloneof, textKey("fact_cloneof")},
+    FactRow{Field::Maker, textKey("fact_maker")},   FactRow{Field::Year, textKey("fact_year")},
+    FactRow{Field::Device, textKey("fact_device")},
+};
+
+constexpr int markSize = 12;
+constexpr int pictureHeight = 206;
+
+QLabel* selectable(QLabel* label)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    return label;
+}
+
+} // namespace
+
+FactsPanel::FactsPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_title(selectable(new QLabel(this)))
+    , m_titlejp(selectable(new QLabel(this)))
+    , m_factsBox(new QWidget(this))
+    , m_kind(new QLabel(this))
+{
+    setProperty("role", QStringLiteral("panel"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_title->setProperty("role", QStringLiteral("heading"));
+    m_titlejp->setProperty("role", QStringLiteral("dim"));
+    m_kind->setProperty("role", QStringLiteral("faint"));
+
+    auto* picture = new QLabel(this);
+    picture->setProperty("role", QStringLiteral("picture"));
+    picture->setFixedHeight(pictureHeight);
+    picture->setAlignment(Qt::AlignCenter);
+    picture->setPixmap(
+        theme::icon(QStringLiteral("empty")).pixmap(QSize(40, 40), devicePixelRatioF(), QIcon::Disabled));
+    picture->setAccessibleName(qtTrId("facts_picture"));
+
+    m_facts = new QGridLayout(m_factsBox);
+    m_facts->setContentsMargins(0, 4, 0, 0);
+    m_facts->setHorizontalSpacing(12);
+    m_facts->setVerticalSpacing(6);
+    m_facts->setColumnMinimumWidth(0, 72);
+    m_facts->setColumnStretch(1, 1);
+    for (const FactRow& row : factRows) {
+        QLabel* value = selectable(new QLabel(this));
+        m_rows.push_back({row.field, addFact(row.label, value), value});
+    }
+
+    auto* status = new QWidget(this);
+    auto* statusLayout = new QHBoxLayout(status);
+    statusLayout->setContentsMargins(0, 0, 0, 0);
+    romMark = new QLabel(status);
+    romMark->setObjectName(QStringLiteral("romMark"));
+    m_status = new QLabel(status);
+    statusLayout->addWidget(romMark);
+    statusLayout->addWidget(m_status, 1);
+    addFact(textKey("fact_status"), status);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setSpacing(6);
+    layout->addWidget(picture);
+    layout->addSpacing(8);
+    layout->addWidget(m_title);
+    layout->addWidget(m_titlejp);
+    layout->addWidget(m_kind);
+    layout->addWidget(m_factsBox);
+    layout->addStretch();
+    showRecord(nullptr, 0);
+}
+
+QLabel* FactsPanel::addFact(const char* textKey, QWidget* value)
+{
+    auto* name = new QLabel(qtTrId(textKey), this);
+    name->setProperty("role", QStringLiteral("faint"));
+    name->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    const int row = m_facts->rowCount();
+    m_facts->addWidget(name, row, 0);
+    m_facts->addWidget(value, row, 1);
+    return name;
+}
+
+void FactsPanel::showRecord(const GameRecord* record, int count)
+{
+    const bool one = record != nullptr && count <= 1;
+    m_factsBox->setVisible(one);
+    m_titlejp->setVisible(one);
+    m_kind->setVisible(one);
+    if (!one) {
+        m_title->setText(count > 1 ? qtTrId("facts_several").arg(QLocale().toString(count))
+                                   : qtTrId("facts_none"));
+        return;
+    }
+    m_title->setText(shownValue(*record, Field::Title));
+    m_titlejp->setText(shownValue(*record, Field::Titlejp));
+    m_titlejp->setVisible((*record)[Field::Titlejp] != (*record)[Field::Title]);
+    m_kind->setText(GameTypeTransformer::transformedValue((*record)[Field::Type]));
+    m_kind->setVisible(!m_kind->text().isEmpty());
+    for (const Fact& fact : m_rows) {
+        const bool known = !(*record)[fact.field].empty();
+        fact.value->setText(known ? shownValue(*record, fact.field) : QString());
+        fact.name->setVisible(known);
+        fact.value->setVisible(known);
+    }
+    m_status->setText(shownValue(*record, Field::Status));
+}
+
+void FactsPanel::showMark(const QString& imageName)
+{
+    romMark->setPixmap(theme::mark(imageName).pixmap(QSize(markSize, markSize), devicePixelRatioF()));
+    romMark->setProperty("mark", imageName);
+}
+
+} // namespace tessera

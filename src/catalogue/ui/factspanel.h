@@ -1,0 +1,44 @@
+#pragma once
+
+#include "catalogue/gamerecord.h"
+
+#include <QWidget>
+
+class QGridLayout;
+class QLabel;
+
+namespace tessera {
+
+/// What is known of the selected machine: an empty picture frame until artwork comes, its titles and its
+/// facts.
+class FactsPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FactsPanel(QWidget* parent = nullptr);
+
+    /// One record, or nothing; with several selected, `count` is told instead.
+    void showRecord(const GameRecord* record, int count);
+    void showMark(const QString& imageName);
+
+    QLabel* romMark = nullptr;
+
+private:
+    QLabel* addFact(const char* textKey, QWidget* value);
+
+    QLabel* m_title;
+    QLabel* m_titlejp;
+    QGridLayout* m_facts;
+    QWidget* m_factsBox;
+    struct Fact {
+        Field field;
+        QLabel* name;
+        QLabel* value;
+    };
+    std::vector<Fact> m_rows;
+    QLabel* m_kind;
+    QLabel* m_status = nullptr;
+};
+
+} // namespace tessera

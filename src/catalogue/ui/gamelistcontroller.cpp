@@ -1,0 +1,150 @@
+#include "catalogue/ui/gamelistcontroller.h"
+
+#include "catalogue/lookup.h"
+#include "catalogue/statusmark.h"
+#include "catalogue/ui/gametablemodel.h"
+#include "catalogue/ui/gametableview.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+
+#include <algorithm>
+
+namespace tessera {
+
+GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
+                                       QObject* parent)
+    : QObject(parent)
+    , m_catalogue(catalogue)
+    , m_desktop(desktop)
+    , m_colors(defaults.defaults())
+    , m_model(new GameTableModel(catalogue, m_list, m_colors, defaults, this))
+{
+    m_list.setContent(catalogue.records());
+    connect(&catalogue, &Catalogue::replaced, this, [this] { m_list.setContent(m_catalogue.records()); });
+    connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
+}
+
+void GameListController::setTable(GameTableView* table)
+{
+    m_table = table;
+    m_table->setModel(m_model);
+    connect(table, &GameTableView::selectionDidChange, this,
+            &GameListController::tableViewSelectionDidChange);
+}
+
+int GameListController::selectedCount() const
+{
+    return m_table == nullptr ? 0 : static_cast<int>(m_table->selectionModel()->selectedRows().size());
+}
+
+const GameRecord* GameListController::selectedRecord() const
+{
+    if (m_table == nullptr)
+        return nullptr;
+    // Ranges, not rows: with everything selected there are 45,000 rows but one range.
+    int first = -1;
+    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
+        if (range.isValid() && (first < 0 || range.top() < first))
+            first = range.top();
+    }
+    return first < 0 ? nullptr : &m_list[static_cast<std::size_t>(first)];
+}
+
+QString GameListController::selectedValue(Field field) const
+{
+    const GameRecord* record = selectedRecord();
+    return record == nullptr ? QString() : shownValue(*record, field);
+}
+
+QString GameListController::tableViewSelectionROM() const
+{
+    return selectedValue(Field::Name);
+}
+
+QString GameListController::tableViewSelectionParentROM() const
+{
+    return selectedValue(Field::Cloneof);
+}
+
+QString GameListController::tableViewSelectionTitleE() const
+{
+    return selectedValue(Field::Title);
+}
+
+QString GameListController::tableViewSelectionTitleJ() const
+{
+    return selectedValue(Field::Titlejp);
+}
+
+RecordDictionary GameListController::objectDictionary() const
+{
+    return tessera::objectDictionary(*selectedRecord());
+}
+
+QList<RecordDictionary> GameListController::search_arrangedObjects(Field key,
+                                                                   const QStringList& searchstr) const
+{
+    const LookupResult result = lookUp(m_list, key, searchstr);
+    for (const QString& value : result.notFound)
+        m_desktop.log(value + QStringLiteral(" は見つかりませんでした"));
+    return result.found;
+}
+
+bool GameListController::commitEditing()
+{
+    if (m_table != nullptr)
+        m_table->commitOpenEditor();
+    return true;
+}
+
+bool GameListController::selectGame(const QString& name)
+{
+    const auto row = m_list.find(Field::Name, name.toStdString());
+    if (!row || m_table == nullptr)
+        return false;
+    m_table->selectRow(static_cast<int>(*row));
+    m_table->scrollTo(m_model->index(static_cast<int>(*row), 0), QAbstractItemView::PositionAtCenter);
+    return true;
+}
+
+void GameListController::main_tableViewSort()
+{
+    // Also arranges the list, by the first column, ascending.
+    m_table->sortByColumn(0, Qt::AscendingOrder);
+}
+
+void GameListController::tableViewSelectionDidChange()
+{
+    Q_EMIT selectionChanged();
+    romStatus();
+}
+
+void GameListController::romStatus()
+{
+    const GameRecord* record = selectedRecord();
+    const auto mark = record == nullptr ? statusMark(std::nullopt) : statusMark((*record)[Field::Status]);
+    if (mark)
+        Q_EMIT markChanged(QString::fromUtf8(mark->data(), static_cast<qsizetype>(mark->size())));
+}
+
+void GameListController::tableViewDoubleAction()
+{
+    const QString name = tableViewSelectionROM();
+    if (name.isEmpty())
+        m_desktop.beep();
+    else
+        Q_EMIT launchRequested(name);
+}
+
+void GameListController::openROMfile()
+{
+    OpenRequest request;
+    request.extensions = {QStringLiteral("zip")};
+    if (const auto path = m_desktop.openPanel(request))
+        Q_EMIT launchRequested(*path);
+}
+
+} // namespace tessera

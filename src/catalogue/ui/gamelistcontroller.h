@@ -1,0 +1,76 @@
+#pragma once
+
+#include "catalogue/arrangedlist.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/colortransformer.h"
+#include "catalogue/recorddictionary.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace tessera {
+
+class DefaultsController;
+class Desktop;
+class GameTableModel;
+class GameTableView;
+
+/// The game list's commands: what is selected, what a double click does, how the table is sorted.
+class GameListController : public QObject
+{
+    Q_OBJECT
+
+public:
+    GameListController(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
+                       QObject* parent = nullptr);
+
+    void setTable(GameTableView* table);
+    ArrangedList& list() { return m_list; }
+    GameTableModel* model() { return m_model; }
+
+    // Selection readers: a field of the first selected record, empty where nothing is selected.
+    QString tableViewSelectionROM() const;
+    QString tableViewSelectionParentROM() const;
+    QString tableViewSelectionTitleE() const;
+    QString tableViewSelectionTitleJ() const;
+    /// The first selected record's six fields; asked only while a row is selected.
+    RecordDictionary objectDictionary() const;
+    /// Nothing selected: nothing.
+    const GameRecord* selectedRecord() const;
+    int selectedCount() const;
+
+    QList<RecordDictionary> search_arrangedObjects(Field key, const QStringList& searchstr) const;
+    /// False where an open editor would not give its text up.
+    bool commitEditing();
+
+    /// Selects the record with this set name alone and scrolls to it; false where the list does not show it.
+    bool selectGame(const QString& name);
+
+public Q_SLOTS:
+    void main_tableViewSort();
+    void tableViewSelectionDidChange();
+    void romStatus();
+    void tableViewDoubleAction();
+    void openROMfile();
+
+Q_SIGNALS:
+    void launchRequested(const QString& game);
+    void selectionChanged();
+    /// The status mark to show; a status without one leaves the mark that was shown before.
+    void markChanged(const QString& imageName);
+    /// "41 of 45,294", or an edit.
+    void countChanged();
+
+private:
+    QString selectedValue(Field field) const;
+
+    Catalogue& m_catalogue;
+    Desktop& m_desktop;
+    ArrangedList m_list;
+    ColorTransformer m_colors;
+    GameTableModel* m_model;
+    GameTableView* m_table = nullptr;
+};
+
+} // namespace tessera

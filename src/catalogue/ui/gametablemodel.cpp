@@ -1,0 +1,151 @@
+#include "catalogue/ui/gametablemodel.h"
+
+#include "catalogue/colortransformer.h"
+#include "catalogue/statusmark.h"
+#include "platform/defaultscontroller.h"
+#include "widgets/theme.h"
+
+namespace tessera {
+
+namespace {
+
+struct Heading {
+    Field field;
+    const char* text;
+};
+
+constexpr std::array headings{
+    Heading{Field::Name, textKey("column_name")},       Heading{Field::Title, textKey("column_title")},
+    Heading{Field::Titlejp, textKey("column_titlejp")}, Heading{Field::Year, textKey("column_year")},
+    Heading{Field::Maker, textKey("column_maker")},     Heading{Field::Cloneof, textKey("column_cloneof")},
+    Heading{Field::Device, textKey("column_device")},
+};
+
+static_assert(headings.size() == GameTableModel::columns.size());
+
+QString text(std::string_view value)
+{
+    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
+
+QIcon markIcon(std::string_view status)
+{
+    static const QIcon none = theme::mark(QStringLiteral("plovermark_none"));
+    static QHash<QString, QIcon> icons;
+    const auto name = statusMark(status);
+    if (!name)
+        return none;
+    const QString key = text(*name);
+    auto found = icons.find(key);
+    return found != icons.end() ? *found : *icons.insert(key, theme::mark(key));
+}
+
+} // namespace
+
+GameTableModel::GameTableModel(Catalogue& catalogue, ArrangedList& list, const ColorTransformer& colors,
+                               DefaultsController& defaults, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_catalogue(catalogue)
+    , m_list(list)
+    , m_colors(colors)
+    , m_defaults(defaults)
+{
+    readFont();
+    connect(&m_list, &ArrangedList::aboutToArrange, this, &GameTableModel::beginResetModel);
+    connect(&m_list, &ArrangedList::arranged, this, &GameTableModel::endResetModel);
+    connect(&m_catalogue, &Catalogue::recordChanged, this, &GameTableModel::showRecord);
+    connect(&m_defaults, &DefaultsController::changed, this, &GameTableModel::readFont);
+}
+
+void GameTableModel::readFont()
+{
+    m_font = QFont();
+    m_font.setFamilies(QStringList{m_defaults.text(keys::TablefontName)} + m_font.families());
+    m_font.setPixelSize(qBound(4, m_defaults.index(keys::fontSize), 200));
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                           {Qt::FontRole, Qt::ForegroundRole});
+}
+
+void GameTableModel::showRecord(std::uint32_t record)
+{
+    if (const auto row = m_list.rowOf(record)) {
+        const int shown = static_cast<int>(*row);
+        Q_EMIT dataChanged(index(shown, 0), index(shown, columnCount() - 1));
+    }
+}
+
+int GameTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_list.size());
+}
+
+int GameTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(columns.size());
+}
+
+QVariant GameTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const GameRecord& record = m_list[static_cast<std::size_t>(index.row())];
+    const Field field = columns[static_cast<std::size_t>(index.column())];
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return text(record[field]);
+    case Qt::FontRole:
+        return m_font;
+    case Qt::DecorationRole:
+        return field == Field::Name ? QVariant(markIcon(record[Field::Status])) : QVariant();
+    case Qt::ToolTipRole:
+        if (field != Field::Name)
+            return QVariant();
+        return QString(text(record[Field::Name]) + QStringLiteral(" · ") + text(record[Field::Status]));
+    case Qt::ForegroundRole:
+        if (!record.has(Field::Name))
+            return QVariant();
+        if (const auto color = m_colors.transformedValue(text(record[Field::Name])))
+            return *color;
+        return QVariant();
+    default:
+        return QVariant();
+    }
+}
+
+QVariant GameTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return QVariant();
+    if (role == Qt::DisplayRole)
+        return qtTrId(headings[static_cast<std::size_t>(section)].text);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return QVariant();
+}
+
+Qt::ItemFlags GameTableModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+}
+
+bool GameTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const auto row = static_cast<std::size_t>(index.row());
+    if (role != Qt::EditRole || !index.isValid() || data(index, Qt::EditRole) == value)
+        return false;
+    m_catalogue.setValue(m_list.rows()[row], columns[static_cast<std::size_t>(index.column())],
+                         value.toString());
+    return true;
+}
+
+void GameTableModel::sort(int column, Qt::SortOrder order)
+{
+    if (column >= 0 && column < columnCount())
+        m_list.setSort(columns[static_cast<std::size_t>(column)], order == Qt::AscendingOrder);
+}
+
+} // namespace tessera

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "catalogue/arrangedlist.h"
+#include "catalogue/catalogue.h"
+
+#include <QAbstractTableModel>
+#include <QFont>
+
+namespace tessera {
+
+class ColorTransformer;
+class DefaultsController;
+
+/// A thin model over an arranged list: one row a record, text made only for the rows that are drawn.
+class GameTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    /// The columns in their first order; the set name is the first and sets the initial sort.
+    static constexpr std::array columns{Field::Name,  Field::Title,   Field::Titlejp, Field::Year,
+                                        Field::Maker, Field::Cloneof, Field::Device};
+
+    GameTableModel(Catalogue& catalogue, ArrangedList& list, const ColorTransformer& colors,
+                   DefaultsController& defaults, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// An undoable edit of the record.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    void sort(int column, Qt::SortOrder order) override;
+
+private:
+    void readFont();
+    void showRecord(std::uint32_t record);
+
+    Catalogue& m_catalogue;
+    ArrangedList& m_list;
+    const ColorTransformer& m_colors;
+    DefaultsController& m_defaults;
+    QFont m_font;
+};
+
+} // namespace tessera

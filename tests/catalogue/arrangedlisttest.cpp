@@ -1,0 +1,233 @@
+#include "catalogue/arrangedlist.h"
+
+#include "samplerecords.h"
+#include "support/testmain.h"
+
+#include <QSignalSpy>
+
+#include <algorithm>
+
+using namespace tessera;
+using namespace tessera::test;
+
+namespace {
+
+// Records whose titles are the given values; their names are their numbers.
+SampleRecords titled(const std::vector<const char*>& titles)
+{
+    SampleRecords sample;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        const std::string number = std::to_string(i);
+        sample.add({"game", number.c_str(), number.c_str(), titles[i], "", "", "", "", ""});
+    }
+    return sample;
+}
+
+QString rows(const ArrangedList& list)
+{
+    QStringList numbers;
+    for (const std::uint32_t record : list.rows())
+        numbers << QString::number(record);
+    return numbers.join(u' ');
+}
+
+// The same order, found the plain way.
+std::vector<std::uint32_t> plainlySorted(const std::vector<GameRecord>& records, Field field, bool ascending)
+{
+    std::vector<std::uint32_t> order(records.size());
+    for (std::uint32_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    const auto key = [&](std::uint32_t i) { return std::pair(records[i].has(field), records[i][field]); };
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        if (key(a) == key(b))
+            return a < b;
+        return ascending ? key(a) < key(b) : key(b) < key(a);
+    });
+    return order;
+}
+
+} // namespace
+
+class ArrangedListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesAreSorted_data()
+    {
+        using Titles = std::vector<const char*>;
+        QTest::addColumn<Titles>("titles");
+        QTest::addColumn<QString>("ascending");
+        QTest::addColumn<QString>("descending");
+        const auto row = [](const char* name, const Titles& titles, const char* up, const char* down) {
+            QTest::newRow(name) << titles << QString::fromLatin1(up) << QString::fromLatin1(down);
+        };
+        row("none", {}, "", "");
+        row("one", {"a"}, "0", "0");
+        row("two", {"b", "a"}, "1 0", "0 1");
+        row("sorted already", {"a", "b", "c"}, "0 1 2", "2 1 0");
+        row("capitals first", {"a", "B", "b", "A"}, "3 1 0 2", "2 0 1 3");
+        row("digits as text", {"10", "9", "1"}, "2 0 1", "1 0 2");
+        row("equal keep their order", {"a", "b", "a", "b", "a"}, "0 2 4 1 3", "1 3 0 2 4");
+        row("absent, empty, text", {"a", "", absent, "b", absent, ""}, "2 4 1 5 0 3", "3 0 1 5 2 4");
+        row("absent only", {absent, absent}, "0 1", "0 1");
+        row("beginning goes first", {"pacman2", "pac", "pacman", "p"}, "3 1 2 0", "0 2 1 3");
+        row("eight bytes", {"12345678", "123456789", "1234567"}, "2 0 1", "1 0 2");
+        row("differ behind eight bytes", {"12345678b", "12345678a", "12345678"}, "2 1 0", "0 1 2");
+        row("differ behind sixteen", {"1234567812345678b", "1234567812345678", "1234567812345678a"}, "1 2 0",
+            "0 2 1");
+        row("equal behind sixteen", {"1234567812345678b", "a", "1234567812345678b"}, "0 2 1", "1 0 2");
+        row("by code point", {"é", "z", "ア", "😀", "ﾊ"}, "1 0 2 4 3", "3 4 2 0 1");
+    }
+    void valuesAreSorted()
+    {
+        QFETCH(std::vector<const char*>, titles);
+        QFETCH(QString, ascending);
+        QFETCH(QString, descending);
+        const SampleRecords sample = titled(titles);
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, true);
+        QCOMPARE(rows(list), ascending);
+        list.setSort(Field::Title, false);
+        QCOMPARE(rows(list), descending);
+    }
+
+    void everyFieldCanBeSortedBy()
+    {
+        for (std::size_t i = 0; i < fieldCount; ++i) {
+            SampleRecords sample;
+            for (const char* value : {"b", "c", "a"}) {
+                GameRecord record;
+                record.values[i] = sample.store.arena.add(value);
+                sample.store.records.push_back(record);
+            }
+            ArrangedList list;
+            list.setContent(sample.store.records);
+            list.setSort(static_cast<Field>(i), true);
+            QCOMPARE(rows(list), QStringLiteral("2 0 1"));
+        }
+    }
+
+    void anyListIsSortedAsPlainly_data()
+    {
+        QTest::addColumn<bool>("ascending");
+        QTest::newRow("ascending") << true;
+        QTest::newRow("descending") << false;
+    }
+    void anyListIsSortedAsPlainly()
+    {
+        QFETCH(bool, ascending);
+        SampleRecords sample;
+        RandomTexts random;
+        for (int i = 0; i < 3000; ++i) {
+            GameRecord record;
+            const int kind = random.number(8);
+            // Few different letters and lengths round the eight bytes of a step, so that ties are many.
+            std::string text(static_cast<std::size_t>(random.number(3)) * 8, 'x');
+            for (int length = random.number(4); length > 0; --length)
+                text += static_cast<char>('a' + random.number(2));
+            if (kind > 0)
+                record[Field::Title] = sample.store.arena.add(text);
+            sample.store.records.push_back(record);
+        }
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, ascending);
+        const auto order = plainlySorted(sample.store.records, Field::Title, ascending);
+        QVERIFY(std::ranges::equal(list.rows(), order));
+    }
+
+    void longEqualBeginningsAreSorted()
+    {
+        const std::string common(100'000, 'x');
+        SampleRecords sample;
+        for (const char* end : {"b", "a", "", "c", "a"})
+            sample.add({"game", "n", "n", (common + end).c_str(), "", "", "", "", ""});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, true);
+        QCOMPARE(rows(list), QStringLiteral("2 1 4 0 3"));
+    }
+
+    void predicateLetsRecordsThrough()
+    {
+        const SampleRecords sample = titled({"c", "x", "b", "x", "a"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        list.setPredicate([](const GameRecord& record) { return record[Field::Title] != "x"; });
+        QCOMPARE(rows(list), QStringLiteral("4 2 0"));
+        QCOMPARE(list.size(), std::size_t(3));
+        QCOMPARE(list[1][Field::Title], std::string_view("b"));
+        list.setPredicate({});
+        QCOMPARE(rows(list), QStringLiteral("4 2 0 1 3"));
+    }
+
+    void recordsAreFoundByTheirRow()
+    {
+        const SampleRecords sample = titled({"c", "x", "b"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setPredicate([](const GameRecord& record) { return record[Field::Title] != "x"; });
+        list.setContent(sample.store.records);
+        QCOMPARE(list.rowOf(0), std::optional<std::size_t>(1));
+        QCOMPARE(list.rowOf(1), std::optional<std::size_t>());
+        QCOMPARE(list.rowOf(2), std::optional<std::size_t>(0));
+        QCOMPARE(list.rowOf(3), std::optional<std::size_t>());
+    }
+
+    void firstRowWithAValueIsFound()
+    {
+        const SampleRecords sample = titled({"b", "a", "b", absent, ""});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, false);
+        QCOMPARE(rows(list), QStringLiteral("0 2 1 4 3"));
+        QCOMPARE(list.find(Field::Title, "b"), std::optional<std::size_t>(0));
+        QCOMPARE(list.find(Field::Title, "a"), std::optional<std::size_t>(2));
+        QCOMPARE(list.find(Field::Title, "A"), std::optional<std::size_t>());
+        QCOMPARE(list.find(Field::Name, "3"), std::optional<std::size_t>(4));
+    }
+
+    void absentValueIsNotFoundAsAnEmptyOne()
+    {
+        const SampleRecords sample = titled({absent, ""});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        QCOMPARE(list.find(Field::Title, ""), std::optional<std::size_t>(1));
+    }
+
+    void everyChangeIsAnnouncedBeforeAndAfter()
+    {
+        const SampleRecords sample = titled({"b", "a"});
+        ArrangedList list;
+        QSignalSpy before(&list, &ArrangedList::aboutToArrange);
+        QSignalSpy after(&list, &ArrangedList::arranged);
+        std::size_t sizeBefore = 99;
+        connect(&list, &ArrangedList::aboutToArrange, this, [&] { sizeBefore = list.size(); });
+        list.setContent(sample.store.records);
+        QCOMPARE(sizeBefore, std::size_t(0));
+        list.setPredicate([](const GameRecord&) { return false; });
+        QCOMPARE(sizeBefore, std::size_t(2));
+        list.setSort(Field::Year, false);
+        QCOMPARE(before.size(), 3);
+        QCOMPARE(after.size(), 3);
+        QCOMPARE(list.sortField(), Field::Year);
+        QVERIFY(!list.ascending());
+    }
+
+    void emptyContentEmptiesTheList()
+    {
+        const SampleRecords sample = titled({"b", "a"});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setContent({});
+        QCOMPARE(list.size(), std::size_t(0));
+        QCOMPARE(list.rowOf(0), std::optional<std::size_t>());
+    }
+};
+
+TESSERA_TEST(ArrangedListTest);
+#include "arrangedlisttest.moc"

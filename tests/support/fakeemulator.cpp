@@ -1,0 +1,144 @@
+// A program that plays the emulator. The first argument says how it behaves, as a game's name would; see
+// `plays`. With -showusage it prints the file that FAKE_USAGE names, and adds a line to the file that
+// FAKE_RUNS names. With -listxml it says FAKE_WORDS on standard error, prints the file that FAKE_LISTXML
+// names, and then behaves as FAKE_THEN says.
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr unsigned longEnough = 20; // seconds; a run that a failing test forgot ends by itself
+
+bool printFile(const char* path)
+{
+    std::FILE* file = path ? std::fopen(path, "rb") : nullptr;
+    if (!file)
+        return false;
+    char buffer[4096];
+    while (const std::size_t size = std::fread(buffer, 1, sizeof buffer, file))
+        std::fwrite(buffer, 1, size, stdout);
+    return std::fclose(file) == 0;
+}
+
+int showUsage()
+{
+    if (const char* runs = std::getenv("FAKE_RUNS")) {
+        if (std::FILE* file = std::fopen(runs, "a")) {
+            std::fputs("asked\n", file);
+            std::fclose(file);
+        }
+    }
+    return printFile(std::getenv("FAKE_USAGE")) ? 0 : 1;
+}
+
+[[noreturn]] void waitToBeEnded()
+{
+    alarm(longEnough);
+    std::puts("ready");
+    std::fflush(stdout);
+    for (;;)
+        pause();
+}
+
+void flood(long megabytes, char lineEnd)
+{
+    std::string line(79, 'x');
+    line += lineEnd;
+    for (long i = 0; i < megabytes * 1'000'000 / 80; ++i)
+        std::fputs(line.c_str(), stdout);
+}
+
+// It keeps our output open after we are gone.
+void leaveGrandchild()
+{
+    std::fflush(stdout);
+    if (fork() == 0) {
+        sleep(longEnough);
+        std::_Exit(0);
+    }
+}
+
+int plays(const std::string& game, int argc, char* argv[])
+{
+    const auto number = [&](std::size_t from) { return std::strtol(game.c_str() + from, nullptr, 10); };
+    if (game == "print") {
+        for (int i = 1; i < argc; ++i)
+            std::printf("[%s]\n", argv[i]);
+    } else if (game.starts_with("exit")) {
+        std::puts("leaving");
+        return static_cast<int>(number(4));
+    } else if (game.starts_with("signal")) {
+        std::fflush(stdout);
+        std::raise(static_cast<int>(number(6)));
+    } else if (game.starts_with("flood")) {
+        flood(number(5), '\n');
+    } else if (game.starts_with("wide")) {
+        flood(number(4), 'x');
+    } else if (game == "endless") {
+        alarm(longEnough);
+        for (;;)
+            flood(1, '\n');
+    } else if (game == "latin1") {
+        std::fputs("caf\xE9 \xFF\n", stdout);
+    } else if (game == "cutoff") {
+        std::fputs("a\xE3\x81", stdout);
+    } else if (game == "split") {
+        std::fputs("\xE3", stdout);
+        std::fflush(stdout);
+        usleep(50'000);
+        std::fputs("\x81\x82\n", stdout);
+    } else if (game == "both") {
+        std::fputs("out\n", stdout);
+        std::fflush(stdout);
+        std::fputs("err\n", stderr);
+    } else if (game == "folder") {
+        char folder[4096];
+        std::puts(getcwd(folder, sizeof folder));
+    } else if (game == "stdin") {
+        std::puts(std::getchar() == EOF ? "nothing" : "something");
+    } else if (game == "numeric") {
+        const char* all = std::getenv("LC_ALL");
+        std::printf("%s %s\n", std::getenv("LC_NUMERIC"), all ? all : "unset");
+    } else if (game == "wait") {
+        waitToBeEnded();
+    } else if (game == "stubborn") {
+        std::signal(SIGTERM, SIG_IGN);
+        waitToBeEnded();
+    } else if (game == "grandchild") {
+        leaveGrandchild();
+        std::puts("gone");
+    } else if (game == "quietgrandchild") {
+        leaveGrandchild();
+    } else {
+        std::fprintf(stderr, "Unknown system \"%s\"\n", game.c_str());
+        return 5;
+    }
+    return 0;
+}
+
+int listMachines(int argc, char* argv[])
+{
+    if (const char* words = std::getenv("FAKE_WORDS"))
+        std::fputs(words, stderr);
+    printFile(std::getenv("FAKE_LISTXML"));
+    std::fflush(stdout);
+    const char* then = std::getenv("FAKE_THEN");
+    return then ? plays(then, argc, argv) : 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc > 1 && std::strcmp(argv[1], "-showusage") == 0)
+        return showUsage();
+    if (argc > 1 && std::strcmp(argv[1], "-listxml") == 0)
+        return listMachines(argc, argv);
+    return plays(argc > 1 ? argv[1] : "", argc, argv);
+}
