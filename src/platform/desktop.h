@@ -11,7 +11,7 @@
 
 namespace tessera {
 
-/// A modal question. The first button is the default one and acts; the last one answers Escape.
+/// A modal question. The first button is the default one and acts; Escape presses the last one, or the one named.
 struct Alert {
     enum class Style { Informational, Warning };
 
@@ -19,6 +19,7 @@ struct Alert {
     QString informative;
     QStringList buttons;
     Style style = Style::Informational;
+    std::optional<int> escape = std::nullopt;
 };
 
 /// What a modal open panel lets the user choose: exactly one item.

@@ -69,8 +69,13 @@ void bind(QComboBox& popup, DefaultsController& defaults, const Key<float>& key)
 void bind(QButtonGroup& buttons, DefaultsController& defaults, const Key<float>& key)
 {
     follow(buttons, defaults, key.name, [&buttons, &defaults, &key] {
-        if (QAbstractButton* button = buttons.button(defaults.index(key)))
+        if (QAbstractButton* button = buttons.button(defaults.index(key))) {
             button->setChecked(true);
+        } else if (QAbstractButton* checked = buttons.checkedButton()) {
+            buttons.setExclusive(false);
+            checked->setChecked(false);
+            buttons.setExclusive(true);
+        }
     });
     QObject::connect(&buttons, &QButtonGroup::idClicked, &defaults,
                      [&defaults, &key](int id) { defaults.setIndex(key, id); });

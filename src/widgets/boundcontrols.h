@@ -16,7 +16,7 @@ void bind(QCheckBox& box, DefaultsController& defaults, const Key<bool>& key);
 void bind(QCheckBox& box, DefaultsController& defaults, const ChosenKey& key);
 /// The setting is the selected position; one that the pop-up does not have selects nothing.
 void bind(QComboBox& popup, DefaultsController& defaults, const Key<float>& key);
-/// The setting is the id of the checked button.
+/// The setting is the id of the checked button; one that no button has checks none.
 void bind(QButtonGroup& buttons, DefaultsController& defaults, const Key<float>& key);
 void bind(QLineEdit& field, DefaultsController& defaults, const Key<float>& key);
 void bind(QLineEdit& field, DefaultsController& defaults, const Key<QLatin1StringView>& key);

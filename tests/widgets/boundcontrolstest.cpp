@@ -92,6 +92,19 @@ private Q_SLOTS:
         QCOMPARE(field.cursorPosition(), 4);
     }
 
+    void aRowThatNoButtonHasChecksNone()
+    {
+        QRadioButton first;
+        QButtonGroup group;
+        group.addButton(&first, 0);
+        bind(group, *m_controller, keys::Moviematrix);
+        QVERIFY(first.isChecked());
+        m_controller->setIndex(keys::Moviematrix, 5);
+        QCOMPARE(group.checkedId(), -1);
+        m_controller->setIndex(keys::Moviematrix, 0);
+        QVERIFY(first.isChecked());
+    }
+
     void controlsFollowAReset()
     {
         QCheckBox box;

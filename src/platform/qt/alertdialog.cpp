@@ -28,7 +28,7 @@ QLabel* makeText(const QString& text, const QString& role)
 
 AlertDialog::AlertDialog(const Alert& alert, QWidget* parent)
     : QDialog(parent)
-    , m_pressed(static_cast<int>(alert.buttons.size()) - 1)
+    , m_pressed(alert.escape.value_or(static_cast<int>(alert.buttons.size()) - 1))
 {
     setWindowTitle(QStringLiteral("Tessera"));
     setAccessibleName(alert.message);

@@ -14,7 +14,7 @@ class AlertDialog : public QDialog
 public:
     AlertDialog(const Alert& alert, QWidget* parent);
 
-    /// The index of the pressed button; the last one's for Escape and a closed window.
+    /// The index of the pressed button; Escape's for a closed window.
     int run();
 
 private:

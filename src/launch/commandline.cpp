@@ -1,0 +1,53 @@
+#include "launch/commandline.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace tessera {
+
+namespace {
+
+// A program of today wants a short name; it finds the archive when its folder comes first among the ROM
+// folders.
+void putFolderFirst(const QString& folder, QStringList& arguments)
+{
+    const QString option = QStringLiteral("-rompath");
+    // The builder sends its own ROM folder last.
+    if (const qsizetype at = arguments.size() - 2; at >= 0 && arguments[at] == option)
+        arguments[at + 1].prepend(folder + QLatin1Char(';'));
+    else
+        arguments << option << folder;
+}
+
+} // namespace
+
+QString CommandLine::leftOutLine() const
+{
+    if (leftOut.isEmpty())
+        return QString();
+    return qtTrId("launch_leftout").replace(QStringLiteral("%1"), leftOut.join(QStringLiteral(", ")));
+}
+
+CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QString& game,
+                        const QStringList& built, const QStringList& own)
+{
+    if (!profile)
+        return {QStringList{game} + built + own, {}};
+    auto [arguments, leftOut] = profile->fit(built);
+    if (QDir::isAbsolutePath(game))
+        putFolderFirst(QFileInfo(game).path(), arguments);
+    return {QStringList{gameName(game)} + arguments + own, leftOut};
+}
+
+QStringList ownOptions(const QString& text)
+{
+    return text.isEmpty() ? QStringList() : text.split(QLatin1Char(' '));
+}
+
+QString gameName(const QString& game)
+{
+    return QDir::isAbsolutePath(game) ? QFileInfo(game).completeBaseName() : game;
+}
+
+} // namespace tessera

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "launch/emulatorprofile.h"
+
+namespace tessera {
+
+/// What the emulator is started with.
+struct CommandLine {
+    QStringList arguments; ///< the game first
+    QStringList leftOut; ///< what of the builder's list the emulator would not understand
+
+    /// One line for the log, without a line end; empty where nothing was left out.
+    QString leftOutLine() const;
+};
+
+/// `game` is a short name or the absolute path of an archive; `built` is argumentsArray(), `own` the options
+/// of a favourite, which go as they are. Without a profile everything does.
+CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QString& game,
+                        const QStringList& built, const QStringList& own);
+
+/// An option text parted at every single blank, so that two of them make an empty element.
+QStringList ownOptions(const QString& text);
+
+/// The last component of an archive's path without its extension; a short name as it is.
+QString gameName(const QString& game);
+
+} // namespace tessera

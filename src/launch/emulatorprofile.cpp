@@ -1,0 +1,103 @@
+#include "launch/emulatorprofile.h"
+
+#include "launch/argumentsarray.h"
+
+#include <QStringTokenizer>
+
+#include <algorithm>
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+// Names are padded to this many columns. A name as long as that, or longer, runs into its description.
+constexpr qsizetype nameColumn = 20;
+
+struct Renamed {
+    const char* option;
+    const char* now;
+};
+constexpr std::array renamedOptions{Renamed{"-beam", "-beam_width_min"}};
+
+// As every program before 0.175 does itself.
+QString withoutQuotes(const QString& value)
+{
+    const QLatin1Char quote('"');
+    if (value.size() >= 2 && value.startsWith(quote) && value.endsWith(quote))
+        return value.mid(1, value.size() - 2);
+    return value;
+}
+
+} // namespace
+
+std::optional<EmulatorProfile> EmulatorProfile::fromUsage(QByteArrayView usage)
+{
+    EmulatorProfile profile;
+    const QString text = QString::fromUtf8(usage);
+    for (QStringView line : QStringTokenizer(text, QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (!line.startsWith(QLatin1Char('-')))
+            continue;
+        const qsizetype blank = line.indexOf(QLatin1Char(' '));
+        const QStringView name = line.first(blank < 0 ? line.size() : blank).mid(1).trimmed();
+        if (name.size() >= nameColumn)
+            profile.m_overlong << name.toString();
+        else if (!name.isEmpty())
+            profile.m_names.insert(name.toString());
+        // Until 0.153 sound was a switch ("enable sound output"); since then it names an output.
+        if (name == QLatin1String("sound"))
+            profile.m_soundTakesValue
+                = !line.mid(1 + name.size()).trimmed().startsWith(QLatin1String("enable"));
+    }
+    if (!profile.listsName(u"rompath"))
+        return std::nullopt;
+    return profile;
+}
+
+bool EmulatorProfile::listsName(QStringView name) const
+{
+    if (name.size() < nameColumn)
+        return m_names.contains(name.toString());
+    return std::ranges::any_of(m_overlong, [&](const QString& word) { return word.startsWith(name); });
+}
+
+bool EmulatorProfile::lists(QStringView option) const
+{
+    if (!option.startsWith(QLatin1Char('-')))
+        return false;
+    const QStringView name = option.mid(1);
+    return listsName(name) || (name.startsWith(QLatin1String("no")) && listsName(name.mid(2)));
+}
+
+EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built) const
+{
+    Fitted fitted;
+    for (qsizetype i = 0; i < built.size(); ++i) {
+        const QString& option = built[i];
+        if (takesValue(option) && i + 1 < built.size())
+            fitValue(option, built[++i], fitted);
+        else if (lists(option))
+            fitted.arguments << option;
+        else
+            fitted.leftOut << option;
+    }
+    return fitted;
+}
+
+void EmulatorProfile::fitValue(QString option, const QString& value, Fitted& fitted) const
+{
+    for (const Renamed& row : renamedOptions) {
+        if (option == QLatin1String(row.option) && !lists(option) && lists(QString::fromLatin1(row.now)))
+            option = QString::fromLatin1(row.now);
+    }
+    const QString bare = withoutQuotes(value);
+    // An empty argument ends old programs with an error, and every program takes its own default without it.
+    if (!lists(option) || bare.isEmpty())
+        fitted.leftOut << option + QLatin1Char(' ') + (value.isEmpty() ? QStringLiteral("\"\"") : value);
+    else if (option == QLatin1String("-sound") && !m_soundTakesValue)
+        fitted.arguments << (bare == QLatin1String("none") ? QStringLiteral("-nosound") : option);
+    else
+        fitted.arguments << option << bare;
+}
+
+} // namespace tessera

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "launch/ui/optionpage.h"
+
+namespace tessera {
+
+/// Filters, artwork around the picture, and vector screens.
+class EffectsPage : public OptionPage
+{
+    Q_OBJECT
+
+public:
+    explicit EffectsPage(DefaultsController& defaults, QWidget* parent = nullptr);
+
+    QCheckBox* checkboxBilinear;
+    QCheckBox* checkboxEffect;
+    QLineEdit* effectTextField;
+    QComboBox* scalemodePop;
+    QCheckBox* checkboxArtwork;
+    QCheckBox* checkboxBackdrops;
+    QCheckBox* checkboxOverlays;
+    QCheckBox* checkboxBezels;
+    QCheckBox* checkboxAntialias;
+    QLineEdit* beemTextField;
+    QLineEdit* flickerTextField;
+};
+
+} // namespace tessera

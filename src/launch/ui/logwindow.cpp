@@ -1,0 +1,42 @@
+#include "launch/ui/logwindow.h"
+
+#include "launch/ui/logview.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+constexpr QSize firstSize(760, 480);
+}
+
+LogWindow::LogWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , infomationTextView(new LogView(this))
+    , saveButton(new QPushButton(qtTrId("log_save"), this))
+{
+    setObjectName(QStringLiteral("logWindow"));
+    setWindowTitle(qtTrId("log_title"));
+    infomationTextView->setObjectName(QStringLiteral("infomationTextView"));
+    infomationTextView->setAccessibleName(qtTrId("log_title"));
+    saveButton->setObjectName(QStringLiteral("saveButton"));
+
+    auto* foot = new QWidget(this);
+    foot->setProperty("role", QStringLiteral("foot"));
+    foot->setAttribute(Qt::WA_StyledBackground);
+    auto* footLayout = new QHBoxLayout(foot);
+    footLayout->setContentsMargins(16, 10, 16, 10);
+    footLayout->addStretch();
+    footLayout->addWidget(saveButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(infomationTextView, 1);
+    layout->addWidget(foot);
+    resize(firstSize);
+}
+
+} // namespace tessera

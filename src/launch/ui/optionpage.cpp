@@ -1,0 +1,65 @@
+#include "launch/ui/optionpage.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+namespace tessera {
+
+namespace {
+constexpr int popupWidth = 190;
+}
+
+OptionPage::OptionPage(const char* titleKey, const QString& icon, QWidget* parent)
+    : FormPage(parent)
+    , m_title(qtTrId(titleKey))
+    , m_icon(icon)
+{
+}
+
+QComboBox* OptionPage::makePopup(const char* name, std::span<const PopupItem> items)
+{
+    auto* popup = new QComboBox(this);
+    popup->setObjectName(QString::fromLatin1(name));
+    popup->setMinimumWidth(popupWidth);
+    popup->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    for (const PopupItem& item : items) {
+        if (item.title)
+            popup->addItem(QString::fromLatin1(item.title));
+        else if (item.labelKey)
+            popup->addItem(qtTrId(item.labelKey));
+        else
+            popup->insertSeparator(popup->count());
+    }
+    return popup;
+}
+
+QCheckBox* OptionPage::makeBox(const char* name, const char* labelKey)
+{
+    auto* box = new QCheckBox(qtTrId(labelKey), this);
+    box->setObjectName(QString::fromLatin1(name));
+    return box;
+}
+
+QLineEdit* OptionPage::makeField(const char* name, const char* accessibleKey)
+{
+    auto* field = new QLineEdit(this);
+    field->setObjectName(QString::fromLatin1(name));
+    if (accessibleKey)
+        field->setAccessibleName(qtTrId(accessibleKey));
+    return field;
+}
+
+QButtonGroup* OptionPage::makeMatrix(const char* name, std::span<const char* const> labelKeys)
+{
+    auto* matrix = new QButtonGroup(this);
+    matrix->setObjectName(QString::fromLatin1(name));
+    int row = 0;
+    for (const char* key : labelKeys)
+        matrix->addButton(new QRadioButton(qtTrId(key), this), row++);
+    return matrix;
+}
+
+} // namespace tessera

@@ -1,0 +1,86 @@
+#include "launch/usagequestion.h"
+
+#include "launch/emulatoridentity.h"
+
+#include <QFileInfo>
+#include <QTimer>
+
+#include <chrono>
+
+namespace tessera {
+
+namespace {
+constexpr std::chrono::seconds timeLimit(30);
+constexpr qsizetype outputLimit = 1 << 20; // an emulator prints some 20 KB
+} // namespace
+
+UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
+    : QObject(parent)
+    , m_executable(executable)
+{
+    m_process.setProgram(executable);
+    m_process.setArguments({QStringLiteral("-showusage")});
+    m_process.setWorkingDirectory(QFileInfo(executable).path());
+    m_process.setProcessEnvironment(emulatorEnvironment());
+    m_process.setStandardInputFile(QProcess::nullDevice());
+    m_process.setStandardErrorFile(QProcess::nullDevice());
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &UsageQuestion::read);
+    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            settle(std::nullopt);
+    });
+    // The status is of no interest: some programs end with an error after a good text.
+    connect(&m_process, &QProcess::finished, this, [this] {
+        read();
+        settle(m_text);
+    });
+}
+
+UsageQuestion::~UsageQuestion()
+{
+    // Its end would be told when the members after it are gone.
+    m_process.disconnect(this);
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void UsageQuestion::ask()
+{
+    QTimer::singleShot(timeLimit, this, &UsageQuestion::giveUp);
+    m_process.start(QIODevice::ReadOnly);
+}
+
+void UsageQuestion::askAndWait()
+{
+    const QDeadlineTimer deadline(timeLimit);
+    m_process.start(QIODevice::ReadOnly);
+    while (!m_settled && m_process.state() != QProcess::NotRunning && !deadline.hasExpired())
+        m_process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+    giveUp();
+}
+
+void UsageQuestion::read()
+{
+    if (m_settled)
+        return;
+    m_text += m_process.readAllStandardOutput();
+    if (m_text.size() > outputLimit)
+        giveUp();
+}
+
+void UsageQuestion::giveUp()
+{
+    settle(QByteArray());
+    m_process.kill();
+}
+
+void UsageQuestion::settle(const std::optional<QByteArray>& answer)
+{
+    if (m_settled)
+        return;
+    m_settled = true;
+    m_answer = answer;
+    Q_EMIT answered();
+}
+
+} // namespace tessera

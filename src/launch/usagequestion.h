@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QObject>
+#include <QProcess>
+
+#include <optional>
+
+namespace tessera {
+
+/// One run of an emulator with -showusage, with a limit to its time and to its output.
+class UsageQuestion : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UsageQuestion(const QString& executable, QObject* parent = nullptr);
+    /// Ends a program that has not answered yet.
+    ~UsageQuestion() override;
+
+    /// Starts the program; answered() follows from the event loop.
+    void ask();
+    /// Starts the program and blocks until it has answered.
+    void askAndWait();
+
+    /// What it printed: nothing where it could not be started, empty where it gave no whole answer.
+    std::optional<QByteArray> answer() const { return m_answer; }
+
+Q_SIGNALS:
+    void answered();
+
+private:
+    void read();
+    void giveUp();
+    void settle(const std::optional<QByteArray>& answer);
+
+    QString m_executable;
+    QProcess m_process;
+    QByteArray m_text;
+    std::optional<QByteArray> m_answer;
+    bool m_settled = false;
+};
+
+} // namespace tessera

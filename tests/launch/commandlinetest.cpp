@@ -1,0 +1,76 @@
+#include "launch/commandline.h"
+
+#include "launch/usagetexts.h"
+#include "support/testmain.h"
+
+using namespace tessera;
+
+namespace {
+
+const QStringList built{"-video", "opengl", "-nomultithreading", "-bios", "\"\"", "-rompath", "\"/roms\""};
+
+std::optional<EmulatorProfile> profile()
+{
+    return EmulatorProfile::fromUsage(test::newUsage());
+}
+
+} // namespace
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutAProfileEverythingGoesAsBuilt()
+    {
+        const CommandLine line = commandLine(std::nullopt, "/r/pong.zip", built, {"-x", ""});
+        QCOMPARE(line.arguments, QStringList({"/r/pong.zip"}) + built + QStringList({"-x", ""}));
+        QVERIFY(line.leftOutLine().isEmpty());
+    }
+
+    void withAProfileTheGameComesFirstAndOwnOptionsGoUntouched()
+    {
+        const CommandLine line
+            = commandLine(profile(), "pong", built, {"-nomultithreading", "", "-effect", "\"x\""});
+        QCOMPARE(line.arguments,
+                 QStringList({"pong", "-video", "opengl", "-rompath", "/roms", "-nomultithreading", "",
+                              "-effect", "\"x\""}));
+        QCOMPARE(line.leftOut, QStringList({"-nomultithreading", "-bios \"\""}));
+        QVERIFY(!line.leftOutLine().isEmpty());
+        QVERIFY(!line.leftOutLine().contains(QLatin1Char('\n')));
+    }
+
+    void anArchiveGoesByNameWithItsFolderFirst()
+    {
+        QCOMPARE(commandLine(profile(), "/my archives/pong.zip", built, {}).arguments,
+                 QStringList({"pong", "-video", "opengl", "-rompath", "/my archives;/roms"}));
+        QCOMPARE(commandLine(profile(), "/my archives/pong.zip", built.mid(0, 2), {}).arguments,
+                 QStringList({"pong", "-video", "opengl", "-rompath", "/my archives"}));
+        QCOMPARE(commandLine(profile(), "/pong.zip", {}, {}).arguments,
+                 QStringList({"pong", "-rompath", "/"}));
+    }
+
+    void aRomPathThatIsAValueIsNotTakenForTheOption()
+    {
+        QCOMPARE(commandLine(profile(), "/r/pong.zip", {"-wavwrite", "-rompath"}, {}).arguments,
+                 QStringList({"pong", "-wavwrite", "-rompath", "-rompath", "/r"}));
+    }
+
+    void ownOptionsArePartedAtEverySingleBlank()
+    {
+        QCOMPARE(ownOptions("-cheat  -autosave"), QStringList({"-cheat", "", "-autosave"}));
+        QCOMPARE(ownOptions(""), QStringList());
+        QCOMPARE(ownOptions(" "), QStringList({"", ""}));
+    }
+
+    void theNameOfAGame()
+    {
+        QCOMPARE(gameName("pong"), QStringLiteral("pong"));
+        QCOMPARE(gameName("odd.name"), QStringLiteral("odd.name"));
+        QCOMPARE(gameName("/r/pong.zip"), QStringLiteral("pong"));
+        QCOMPARE(gameName("/r.d/pong"), QStringLiteral("pong"));
+    }
+};
+
+TESSERA_TEST(CommandLineTest);
+#include "commandlinetest.moc"

@@ -1,0 +1,128 @@
+#include "launch/emulatorprofile.h"
+
+#include "launch/usagetexts.h"
+#include "support/testmain.h"
+
+using namespace tessera;
+
+namespace {
+
+EmulatorProfile oldProfile()
+{
+    return *EmulatorProfile::fromUsage(test::oldUsage());
+}
+
+EmulatorProfile newProfile()
+{
+    return *EmulatorProfile::fromUsage(test::newUsage());
+}
+
+} // namespace
+
+class EmulatorProfileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void noEmulatorsTextGivesNoProfile_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("another program")
+            << QByteArray("Usage: ls [OPTION]... [FILE]...\n  -a, --all\n-l  long\n");
+        QTest::newRow("an error") << QByteArray("Error: unknown option: -showusage\n");
+        QTest::newRow("binary") << QByteArray("\x7f"
+                                              "ELF\0\xff\xfe-\n-\n--\n- \n",
+                                              14);
+    }
+
+    void noEmulatorsTextGivesNoProfile()
+    {
+        QFETCH(QByteArray, text);
+        QVERIFY(!EmulatorProfile::fromUsage(text));
+    }
+
+    void listsOptionsAndTheirOpposites()
+    {
+        const EmulatorProfile profile = newProfile();
+        for (const char* option :
+             {"-rotate", "-norotate", "-rompath", "-joystick_saturation", "-beam_intensity_weight"})
+            QVERIFY2(profile.lists(QString::fromLatin1(option)), option);
+        for (const char* option :
+             {"-multithreading", "-nomultithreading", "-beam", "-joystick_satur", "-beam_intensity", "rotate",
+              "-", "", "-no", "-Usage:", "-beam_intensity_weighty"})
+            QVERIFY2(!profile.lists(QString::fromLatin1(option)), option);
+    }
+
+    void takesLineEndsOfWindows()
+    {
+        const auto profile
+            = EmulatorProfile::fromUsage(test::oldUsage().append("-bare\n").replace("\n", "\r\n"));
+        QVERIFY(profile);
+        QVERIFY(profile->lists(u"-bare"));
+    }
+
+    void leavesOutWhatIsNotListed()
+    {
+        const auto fitted
+            = newProfile().fit({"-rotate", "-nomultithreading", "-antialias", "-nouse_bezels", "-norol"});
+        QCOMPARE(fitted.arguments, QStringList({"-rotate", "-norol"}));
+        QCOMPARE(fitted.leftOut, QStringList({"-nomultithreading", "-antialias", "-nouse_bezels"}));
+    }
+
+    void leavesOutAValueWithItsOption()
+    {
+        auto usage = test::newUsage().replace("-scalemode ", "-othermode ");
+        const auto fitted = EmulatorProfile::fromUsage(usage)->fit({"-scalemode", "-rotate", "-rotate"});
+        QCOMPARE(fitted.arguments, QStringList({"-rotate"}));
+        QCOMPARE(fitted.leftOut, QStringList({"-scalemode -rotate"}));
+    }
+
+    void aValueThatLooksLikeAnOptionIsAValue()
+    {
+        const auto fitted = newProfile().fit({"-volume", "-12", "-rotate"});
+        QCOMPARE(fitted.arguments, QStringList({"-volume", "-12", "-rotate"}));
+        QVERIFY(fitted.leftOut.isEmpty());
+    }
+
+    void sendsBeamUnderTheNameThatExists()
+    {
+        QCOMPARE(oldProfile().fit({"-beam", "2"}).arguments, QStringList({"-beam", "2"}));
+        QCOMPARE(newProfile().fit({"-beam", "2"}).arguments, QStringList({"-beam_width_min", "2"}));
+        const auto both
+            = EmulatorProfile::fromUsage(test::oldUsage().append("-beam_width_min      smallest width\n"));
+        QCOMPARE(both->fit({"-beam", "2"}).arguments, QStringList({"-beam", "2"}));
+        const auto neither = EmulatorProfile::fromUsage(test::newUsage().replace("-beam_width_min", "-gone"))
+                                 ->fit({"-beam", "2"});
+        QVERIFY(neither.arguments.isEmpty());
+        QCOMPARE(neither.leftOut, QStringList({"-beam 2"}));
+    }
+
+    void takesQuotesOffValues()
+    {
+        const auto fitted = newProfile().fit({"-effect", "\"scan lines\"", "-record", "\"Foo \"Bar\".inp\"",
+                                              "-playback", "\"", "-rompath", "\"/my roms\""});
+        QCOMPARE(fitted.arguments,
+                 QStringList({"-effect", "scan lines", "-record", "Foo \"Bar\".inp", "-playback", "\"",
+                              "-rompath", "/my roms"}));
+    }
+
+    void leavesOutEmptyValues()
+    {
+        const auto fitted = newProfile().fit({"-bios", "\"\"", "-flicker", "", "-cheat"});
+        QCOMPARE(fitted.arguments, QStringList({"-cheat"}));
+        QCOMPARE(fitted.leftOut, QStringList({"-bios \"\"", "-flicker \"\""}));
+    }
+
+    void soundIsASwitchWhereItTakesNoValue()
+    {
+        QCOMPARE(oldProfile().fit({"-sound", "sdl", "-volume", "0"}).arguments,
+                 QStringList({"-sound", "-volume", "0"}));
+        QCOMPARE(oldProfile().fit({"-sound", "none"}).arguments, QStringList({"-nosound"}));
+        QCOMPARE(newProfile().fit({"-sound", "sdl"}).arguments, QStringList({"-sound", "sdl"}));
+        QCOMPARE(newProfile().fit({"-sound", "none"}).arguments, QStringList({"-sound", "none"}));
+    }
+};
+
+TESSERA_TEST(EmulatorProfileTest);
+#include "emulatorprofiletest.moc"

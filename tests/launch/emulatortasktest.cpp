@@ -1,0 +1,266 @@
+#include "launch/emulatortask.h"
+
+#include "support/testmain.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <csignal>
+
+using namespace tessera;
+
+namespace {
+
+// A task with what was heard of it.
+struct Heard {
+    EmulatorTask task;
+    QString text;
+    QList<int> statuses;
+    QStringList failures;
+    int pieces = 0;
+
+    Heard()
+    {
+        QObject::connect(&task, &EmulatorTask::output, &task, [this](const QString& piece) {
+            text += piece;
+            ++pieces;
+        });
+        QObject::connect(&task, &EmulatorTask::ended, &task, [this](int status) { statuses << status; });
+        QObject::connect(&task, &EmulatorTask::failedToStart, &task,
+                         [this](const QString& reason) { failures << reason; });
+    }
+
+    void start(const QString& game, const QStringList& more = {}, const QString& folder = QStringLiteral("/"))
+    {
+        task.start(QStringLiteral(TESSERA_FAKEEMULATOR), folder, QStringList{game} + more);
+    }
+
+    bool waitForEnd()
+    {
+        QEventLoop loop;
+        QObject::connect(&task, &EmulatorTask::ended, &loop, &QEventLoop::quit);
+        QObject::connect(&task, &EmulatorTask::failedToStart, &loop, &QEventLoop::quit);
+        QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+        loop.exec();
+        return !statuses.isEmpty() || !failures.isEmpty();
+    }
+    bool waitForText(const QString& wanted)
+    {
+        return QTest::qWaitFor([&] { return text.contains(wanted); }, 20000);
+    }
+};
+
+} // namespace
+
+class EmulatorTaskTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void passesArgumentsAsTheyStand()
+    {
+        Heard heard;
+        heard.start("print", {"", "two words", "\"quoted\"", "$HOME", QString::fromUtf8("日本")});
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text, QString::fromUtf8("[print]\n[]\n[two words]\n[\"quoted\"]\n[$HOME]\n[日本]\n"));
+        QCOMPARE(heard.statuses, {0});
+    }
+
+    void tellsTheStatusAfterTheOutput()
+    {
+        Heard heard;
+        QString atEnd;
+        connect(&heard.task, &EmulatorTask::ended, this, [&] { atEnd = heard.text; });
+        heard.start("exit3");
+        QVERIFY(heard.task.isRunning());
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.statuses, {3});
+        QCOMPARE(atEnd, QStringLiteral("leaving\n"));
+        QVERIFY(!heard.task.isRunning());
+    }
+
+    void aSignalShowsItsNumber_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::newRow("segmentation fault") << SIGSEGV;
+        QTest::newRow("abort") << SIGABRT;
+        QTest::newRow("kill") << SIGKILL;
+    }
+
+    void aSignalShowsItsNumber()
+    {
+        QFETCH(int, number);
+        Heard heard;
+        heard.start(QStringLiteral("signal%1").arg(number));
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.statuses, {number});
+    }
+
+    void decodesWhatItHears_data()
+    {
+        QTest::addColumn<QString>("game");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a character in two pieces") << "split" << QString::fromUtf8("あ\n");
+        QTest::newRow("bytes that are not UTF-8") << "latin1" << QString::fromUtf8("caf\uFFFD \uFFFD\n");
+        QTest::newRow("a character cut off by the end") << "cutoff" << QString::fromUtf8("a\uFFFD");
+        QTest::newRow("both channels") << "both" << "out\nerr\n";
+        QTest::newRow("no input") << "stdin" << "nothing\n";
+        QTest::newRow("numbers with a point") << "numeric" << "C unset\n";
+    }
+
+    void decodesWhatItHears()
+    {
+        QFETCH(QString, game);
+        QFETCH(QString, text);
+        Heard heard;
+        heard.start(game);
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text, text);
+    }
+
+    void worksInTheGivenFolder()
+    {
+        const QTemporaryDir folder;
+        Heard heard;
+        heard.start("folder", {}, folder.path());
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text.trimmed(), QFileInfo(folder.path()).canonicalFilePath());
+    }
+
+    void saysWhyAProgramCannotBeStarted_data()
+    {
+        QTest::addColumn<QString>("executable");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("missing") << "missing" << ".";
+        QTest::newRow("a folder") << "folder" << ".";
+        QTest::newRow("not executable") << "file" << ".";
+        QTest::newRow("no program") << "" << ".";
+        QTest::newRow("missing folder") << "program" << "missing";
+    }
+
+    void saysWhyAProgramCannotBeStarted()
+    {
+        QFETCH(QString, executable);
+        QFETCH(QString, folder);
+        QTemporaryDir place;
+        QVERIFY(QDir(place.path()).mkdir("folder"));
+        QFile file(place.filePath("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(QFile::link(TESSERA_FAKEEMULATOR, place.filePath("program")));
+        Heard heard;
+        heard.task.start(executable.isEmpty() ? QString() : place.filePath(executable),
+                         place.filePath(folder), {"print"});
+        QVERIFY(heard.failures.isEmpty());
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.failures.size(), 1);
+        QVERIFY(!heard.failures.first().isEmpty());
+        QVERIFY(heard.statuses.isEmpty());
+        QVERIFY(!heard.task.isRunning());
+    }
+
+    void startsAgainAfterAFailure()
+    {
+        Heard heard;
+        heard.task.start("/missing/program", "/", {});
+        QVERIFY(heard.waitForEnd());
+        heard.failures.clear();
+        heard.start("exit0");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.statuses, {0});
+    }
+
+    void ourOwnStopIsSilent()
+    {
+        Heard heard;
+        heard.start("wait");
+        QVERIFY(heard.waitForText("ready\n"));
+        heard.task.stop();
+        QVERIFY(!heard.task.isRunning());
+        heard.start("exit0");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text, QStringLiteral("ready\nleaving\n"));
+        QCOMPARE(heard.statuses, {0});
+    }
+
+    void aRunThatWillNotEndIsReplacedAndEndedWithTheTask()
+    {
+        qint64 id = 0;
+        {
+            Heard heard;
+            heard.start("stubborn");
+            QVERIFY(heard.waitForText("ready\n"));
+            id = heard.task.findChild<QProcess*>()->processId();
+            QVERIFY(id > 0);
+            heard.start("exit4");
+            QVERIFY(heard.waitForEnd());
+            QCOMPARE(heard.statuses, {4});
+            QCOMPARE(::kill(static_cast<pid_t>(id), 0), 0);
+        }
+        QVERIFY(::kill(static_cast<pid_t>(id), 0) != 0);
+    }
+
+    void aGrandchildThatKeepsTheOutputOpenIsNotWaitedFor()
+    {
+        Heard heard;
+        heard.start("grandchild");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text, QStringLiteral("gone\n"));
+        QCOMPARE(heard.statuses, {0});
+    }
+
+    void aFloodComesWholeInBoundedPieces()
+    {
+        Heard heard;
+        qsizetype longest = 0;
+        connect(&heard.task, &EmulatorTask::output, this,
+                [&](const QString& piece) { longest = std::max(longest, piece.size()); });
+        heard.start("flood20");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.text.size(), 20'000'000);
+        QVERIFY(longest <= 64 * 1024);
+    }
+
+    void timersRunDuringAFlood()
+    {
+        Heard heard;
+        int turns = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { ++turns; });
+        heard.start("endless");
+        QVERIFY(QTest::qWaitFor([&] { return heard.pieces > 0; }));
+        timer.start(0);
+        QVERIFY(QTest::qWaitFor([&] { return turns > 20 && heard.pieces > 50; }, 20000));
+        heard.task.stop();
+    }
+
+    void aListenerMayStartAnotherRun()
+    {
+        Heard heard;
+        bool again = false;
+        connect(&heard.task, &EmulatorTask::ended, this, [&] {
+            if (!std::exchange(again, true))
+                heard.start("exit2");
+        });
+        heard.start("exit1");
+        QVERIFY(QTest::qWaitFor([&] { return heard.statuses.size() == 2; }));
+        QCOMPARE(heard.statuses, QList<int>({1, 2}));
+    }
+
+    void aListenerMayStopTheRunWhoseOutputItHears()
+    {
+        Heard heard;
+        connect(&heard.task, &EmulatorTask::output, this, [&] { heard.task.stop(); });
+        heard.start("endless");
+        QVERIFY(QTest::qWaitFor([&] { return heard.pieces > 0; }));
+        QVERIFY(!heard.task.isRunning());
+        heard.start("exit0");
+        QVERIFY(QTest::qWaitFor([&] { return heard.text.contains("leaving"); }));
+    }
+};
+
+TESSERA_TEST(EmulatorTaskTest);
+#include "emulatortasktest.moc"

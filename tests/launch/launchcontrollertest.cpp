@@ -1,0 +1,445 @@
+#include "launch/ui/launchcontroller.h"
+
+#include "launch/argumentsarray.h"
+#include "launch/emulatortask.h"
+#include "launch/profilecache.h"
+#include "launch/ui/generalpage.h"
+#include "launch/ui/launchpages.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/logwindow.h"
+#include "launch/ui/miscpage.h"
+#include "launch/ui/pathchooser.h"
+#include "launch/usagetexts.h"
+#include "platform/defaultscontroller.h"
+#include "support/scripteddesktop.h"
+#include "support/testmain.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace tessera;
+
+namespace {
+
+const QString header = QStringLiteral("SDL MAME :  %1  Launch...\n\n");
+
+// Everything around one controller; "mame" in `folder` plays the emulator.
+struct Room {
+    QTemporaryDir folder;
+    UserDefaults settings{folder.filePath(QStringLiteral("Tessera.ini"))};
+    DefaultsController defaults{settings};
+    test::ScriptedDesktop desktop;
+    std::unique_ptr<LaunchPages> pages;
+    std::unique_ptr<PathChooser> chooser;
+    LogWindow log;
+    EmulatorTask task;
+    ProfileCache profiles{folder.filePath(QStringLiteral("profiles"))};
+    QHash<QString, QString> favourites;
+    std::unique_ptr<LaunchController> controller;
+    std::unique_ptr<QSignalSpy> running;
+
+    Room()
+    {
+        defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
+        if (!QFile::link(TESSERA_FAKEEMULATOR, emulator()))
+            qFatal("no emulator");
+        defaults.setText(keys::ExecutionPath, emulator());
+        pages = std::make_unique<LaunchPages>(defaults, QString());
+        chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
+        const SelectionReaders selection{[] { return QStringLiteral("sel"); },
+                                         [] { return QStringLiteral("Title"); },
+                                         [] { return QStringLiteral("題"); }};
+        controller = std::make_unique<LaunchController>(
+            LaunchParts{desktop, defaults, *pages, *chooser, log, task, profiles, selection,
+                        [this](const QString& name) { return favourites.value(name); }});
+        running = std::make_unique<QSignalSpy>(controller.get(), &LaunchController::runningChanged);
+    }
+
+    QString emulator() const { return folder.filePath(QStringLiteral("mame")); }
+    QString text() const { return log.infomationTextView->text(); }
+
+    bool launch(const QString& game)
+    {
+        controller->Launchusing(game);
+        return waitForEnd();
+    }
+    bool waitForEnd()
+    {
+        return QTest::qWaitFor([this] { return !running->isEmpty() && !running->last().first().toBool(); },
+                               20000);
+    }
+    bool waitForText(const QString& wanted)
+    {
+        return QTest::qWaitFor([&] { return text().contains(wanted); }, 20000);
+    }
+
+    // The arguments that the "print" game shows, without the game itself.
+    QStringList printed() const
+    {
+        QStringList list;
+        for (const QString& line : text().split(QLatin1Char('\n'))) {
+            if (line.startsWith(QLatin1Char('[')))
+                list << line.mid(1, line.size() - 2);
+        }
+        return list.mid(1);
+    }
+
+    QStringList built() const
+    {
+        return argumentsArray(
+            liveOptions(*pages, {QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
+    }
+};
+
+} // namespace
+
+class LaunchControllerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { qunsetenv("FAKE_USAGE"); }
+
+    void startsTheGameWithTheBuildersList()
+    {
+        Room room;
+        QVERIFY(room.launch("print"));
+        QCOMPARE(room.printed(), room.built());
+        QVERIFY(room.text().startsWith(header.arg("print") + "[print]\n[-video]\n[opengl]\n"));
+        QCOMPARE(room.desktop.transcript(),
+                 QStringList({"recent " + room.folder.path() + "/roms/print.zip"}));
+    }
+
+    void worksInTheEmulatorsFolder()
+    {
+        Room room;
+        QVERIFY(room.launch("folder"));
+        QCOMPARE(room.text(),
+                 header.arg("folder") + QFileInfo(room.folder.path()).canonicalFilePath() + "\n");
+    }
+
+    void theRecordFileIsNamedAfterTheSelectedGame()
+    {
+        Room room;
+        room.defaults.setFlag(keys::Replaymove, true);
+        room.defaults.setIndex(keys::Recordfilepop, 2);
+        QVERIFY(room.launch("print"));
+        QVERIFY(room.printed().contains(QString::fromUtf8("\"題.inp\"")));
+    }
+
+    void ownOptionsOfAFavouriteComeLast()
+    {
+        Room room;
+        room.favourites.insert("print", "-cheat  -autosave");
+        QVERIFY(room.launch("print"));
+        QCOMPARE(room.printed(), room.built() + QStringList({"-cheat", "", "-autosave"}));
+    }
+
+    void anArchiveIsTheFirstArgumentAndMatchesNoFavourite()
+    {
+        Room room;
+        room.favourites.insert("pong", "-cheat");
+        room.desktop.answerAlert("errerAlert 5", 0);
+        QVERIFY(room.launch("/r/pong.zip"));
+        QVERIFY(QTest::qWaitFor([&] { return room.desktop.transcript().size() == 3; }));
+        QCOMPARE(room.text(), header.arg("pong") + "Unknown system \"/r/pong.zip\"\n");
+        QCOMPARE(room.desktop.transcript(),
+                 QStringList({"recent /r/pong.zip", "beep", "alert errerAlert 5"}));
+    }
+
+    void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed_data()
+    {
+        QTest::addColumn<bool>("use");
+        QTest::addColumn<bool>("exists");
+        QTest::addColumn<QString>("recent");
+        QTest::newRow("used") << true << true << "recent %1/my roms/exit0.zip";
+        QTest::newRow("used but missing") << true << false << "recent %1/roms/exit0.zip";
+        QTest::newRow("not used") << false << true << "recent %1/roms/exit0.zip";
+    }
+
+    void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed()
+    {
+        QFETCH(bool, use);
+        QFETCH(bool, exists);
+        QFETCH(QString, recent);
+        Room room;
+        if (exists)
+            QVERIFY(QDir(room.folder.path()).mkdir("my roms"));
+        room.defaults.setText(keys::RomsPath, room.folder.filePath("my roms"));
+        room.defaults.setFlag(keys::Outputserror, use);
+        QCOMPARE(room.controller->romsfolder_FoundCheck(), exists);
+        QVERIFY(room.launch("exit0"));
+        QCOMPARE(room.desktop.transcript(), QStringList({recent.arg(room.folder.path())}));
+    }
+
+    void theProfileFitsTheListAndTheLogSaysHow()
+    {
+        Room room;
+        QFile usage(room.folder.filePath("usage"));
+        QVERIFY(usage.open(QIODevice::WriteOnly));
+        usage.write(test::newUsage());
+        usage.close();
+        qputenv("FAKE_USAGE", QFile::encodeName(usage.fileName()));
+        room.favourites.insert("print", "-nomultithreading");
+        QVERIFY(room.launch("print"));
+        const QStringList sent = room.printed();
+        QVERIFY(sent.contains("-beam_width_min") && !sent.contains("-bios"));
+        QCOMPARE(sent.count("-nomultithreading"), 1);
+        QCOMPARE(sent.last(), QStringLiteral("-nomultithreading"));
+        QCOMPARE(room.text().count("launch_leftout"), 1);
+        QVERIFY(room.text().startsWith(header.arg("print") + "launch_leftout"));
+    }
+
+    void aLaunchBeforeTheAnswerWaitsWithoutBlocking()
+    {
+        Room room;
+        room.controller->Launchusing("print");
+        QCOMPARE(room.text(), header.arg("print"));
+        QVERIFY(room.controller->isRunning());
+        QVERIFY(!room.task.isRunning());
+        QVERIFY(room.waitForEnd());
+        // Now that the answer is known, the next one starts at once.
+        room.running->clear();
+        room.controller->Launchusing("exit0");
+        QVERIFY(room.task.isRunning());
+        QVERIFY(room.waitForEnd());
+    }
+
+    void aWaitingLaunchCanBeStoppedAndReplaced()
+    {
+        Room room;
+        room.controller->Launchusing("exit3");
+        room.controller->stopProcess();
+        QVERIFY(!room.controller->isRunning());
+        room.running->clear();
+        room.controller->Launchusing("exit4");
+        room.running->clear();
+        room.controller->Launchusing("print");
+        room.running->clear();
+        QVERIFY(room.waitForEnd());
+        QCOMPARE(room.printed(), room.built());
+    }
+
+    void aBadEndRaisesTheAlertAfterTheOutput()
+    {
+        Room room;
+        room.desktop.answerAlert("errerAlert 3", 0);
+        QVERIFY(room.launch("exit3"));
+        QVERIFY(QTest::qWaitFor([&] { return !room.desktop.alerts.empty(); }));
+        QVERIFY(room.desktop.alerts.at(0).message.endsWith(" 3"));
+        QCOMPARE(room.desktop.alerts.at(0).informative, QStringLiteral("errerInfo"));
+        QCOMPARE(room.desktop.alerts.at(0).buttons, QStringList({"OK", "Log"}));
+        QCOMPARE(room.desktop.transcript().mid(1), QStringList({"beep", "alert errerAlert 3"}));
+        QCOMPARE(room.text(), header.arg("exit3") + "leaving\n");
+        QVERIFY(!room.log.isVisible());
+    }
+
+    void theAlertsOtherButtonShowsTheLog()
+    {
+        Room room;
+        room.desktop.answerAlert("errerAlert 11", 1);
+        QVERIFY(room.launch("signal11"));
+        QVERIFY(QTest::qWaitFor([&] { return room.log.isVisible(); }));
+    }
+
+    void aGoodEndRaisesNoAlert()
+    {
+        Room room;
+        QVERIFY(room.launch("exit0"));
+        QVERIFY(room.desktop.alerts.empty());
+    }
+
+    void aNewLaunchEndsTheRunningGameSilently()
+    {
+        Room room;
+        room.controller->Launchusing("wait");
+        QVERIFY(room.waitForText("ready"));
+        room.controller->Launchusing("print");
+        room.running->clear();
+        QVERIFY(room.waitForEnd());
+        QVERIFY(room.desktop.alerts.empty());
+        QVERIFY(!room.text().contains("ready"));
+        QVERIFY(room.text().startsWith(header.arg("print") + "[print]\n"));
+    }
+
+    void stopProcessEndsTheGameAndKeepsItsOutput()
+    {
+        Room room;
+        room.controller->Launchusing("wait");
+        QVERIFY(room.waitForText("ready"));
+        room.controller->stopProcess();
+        QVERIFY(!room.controller->isRunning());
+        QCOMPARE(room.text(), header.arg("wait") + "ready\n");
+        QVERIFY(room.waitForEnd());
+    }
+
+    void aMissingEmulatorAlertsAndTheLaunchGoesOn()
+    {
+        Room room;
+        room.defaults.setText(keys::ExecutionPath, "/missing/mame");
+        room.desktop.answerAlert("alert_Message1", 1);
+        QVERIFY(room.launch("pong"));
+        QCOMPARE(room.desktop.transcript(),
+                 QStringList({"beep", "alert alert_Message1", "recent /missing/roms/pong.zip"}));
+        QVERIFY(room.text().startsWith(header.arg("pong") + "launch_notstarted"));
+        QVERIFY(room.text().endsWith('\n'));
+    }
+
+    void anEmulatorChosenInTheAlertIsUsed()
+    {
+        Room room;
+        room.defaults.setText(keys::ExecutionPath, "/missing/mame");
+        room.desktop.answerAlert("alert_Message1", 0);
+        room.desktop.answerOpen(room.emulator());
+        QVERIFY(room.launch("exit0"));
+        QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
+    }
+
+    void whatCannotBeStartedIsToldInTheLog_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a folder") << "folder";
+        QTest::newRow("not executable") << "Tessera.ini";
+    }
+
+    void whatCannotBeStartedIsToldInTheLog()
+    {
+        QFETCH(QString, name);
+        Room room;
+        QVERIFY(QDir(room.folder.path()).mkdir("folder"));
+        QVERIFY(room.settings.synchronize());
+        room.defaults.setText(keys::ExecutionPath, room.folder.filePath(name));
+        QSignalSpy status(room.controller.get(), &LaunchController::statusMessage);
+        QVERIFY(room.launch("pong"));
+        QVERIFY(room.text().startsWith(header.arg("pong") + "launch_notstarted"));
+        QVERIFY(status.last().first().toString().contains("launch_notstarted"));
+        QVERIFY(room.desktop.alerts.empty());
+    }
+
+    void theCheckPassesAFoundEmulator()
+    {
+        Room room;
+        room.controller->LaunchemuCheck();
+        QVERIFY(room.desktop.transcript().isEmpty());
+    }
+
+    void anUnknownModeLaunchesNothing()
+    {
+        Room room;
+        room.pages->general().launchusingPop->setCurrentIndex(-1);
+        room.controller->Launchusing("pong");
+        QCOMPARE(room.text(), QStringLiteral(" :  pong  Launch...\n\n"));
+        QVERIFY(!room.controller->isRunning());
+        QVERIFY(room.desktop.transcript().isEmpty());
+    }
+
+    void outputHasTheListsTextColour()
+    {
+        Room room;
+        room.defaults.setText(keys::TableViewTextColor, "#ff102030");
+        room.controller->appendOutput("text");
+        QTextCursor cursor(room.log.infomationTextView->document());
+        cursor.movePosition(QTextCursor::End);
+        QCOMPARE(cursor.charFormat().foreground().color(), QColor(0x10, 0x20, 0x30));
+    }
+
+    void aChangeOfTheModeIsTold()
+    {
+        Room room;
+        QSignalSpy spy(room.controller.get(), &LaunchController::launchModeChanged);
+        room.controller->LaunchemuPopAction();
+        QCOMPARE(spy.size(), 1);
+    }
+
+    void anEmptyLogIsNotSaved()
+    {
+        Room room;
+        room.log.saveButton->click();
+        QCOMPARE(room.desktop.transcript(), QStringList({"beep"}));
+    }
+
+    void theLogIsSavedAsText()
+    {
+        Room room;
+        room.controller->appendOutput(QString::fromUtf8("行\nline"));
+        const QString path = room.folder.filePath("log.txt");
+        room.desktop.answerSave("Log output", path);
+        room.log.saveButton->click();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("行\nline"));
+        QCOMPARE(room.desktop.saveRequests.at(0).extensions, QStringList({"txt"}));
+    }
+
+    void aLogThatCannotBeSavedIsNotSpokenOf()
+    {
+        Room room;
+        room.controller->appendOutput("text");
+        room.desktop.answerSave("Log output", "/no such folder/log.txt");
+        room.controller->saveLogAction();
+        room.desktop.answerSave("Log output", std::nullopt);
+        room.controller->saveLogAction();
+        QCOMPARE(room.desktop.transcript(), QStringList({"save Log output", "save Log output"}));
+    }
+
+    void theLogWindowTogglesOrComesForward()
+    {
+        Room room;
+        room.controller->showLogWindow();
+        QVERIFY(room.log.isVisible());
+        room.controller->windowLog();
+        QVERIFY(room.log.isVisible());
+        room.controller->showLogWindow();
+        QVERIFY(!room.log.isVisible());
+        room.controller->windowLog();
+        QVERIFY(room.log.isVisible());
+    }
+
+    void quittingAsksOnceWhileAGameRuns()
+    {
+        Room room;
+        QVERIFY(room.controller->confirmQuit());
+        room.controller->Launchusing("wait");
+        QVERIFY(room.waitForText("ready"));
+        room.desktop.takeTranscript();
+        room.desktop.answerAlert("launch_quitmessage", 1);
+        QVERIFY(!room.controller->confirmQuit());
+        QVERIFY(room.controller->isRunning());
+        room.desktop.answerAlert("launch_quitmessage", 0);
+        QVERIFY(room.controller->confirmQuit());
+        QVERIFY(!room.controller->isRunning());
+        QVERIFY(room.controller->confirmQuit());
+        QCOMPARE(room.desktop.transcript(),
+                 QStringList({"beep", "alert launch_quitmessage", "beep", "alert launch_quitmessage"}));
+    }
+
+    void theProfileCanBePreparedAhead()
+    {
+        Room room;
+        QSignalSpy spy(&room.profiles, &ProfileCache::answered);
+        room.controller->prepareProfile();
+        QVERIFY(spy.wait());
+        room.controller->Launchusing("exit0");
+        QVERIFY(room.task.isRunning());
+        QVERIFY(room.waitForEnd());
+    }
+
+    void aFloodWithoutLineEndsReachesTheLogWhole()
+    {
+        Room room;
+        room.log.show();
+        QVERIFY(room.launch("wide3"));
+        QCOMPARE(room.text().size(), header.arg("wide3").size() + 3'000'000);
+        QCOMPARE(room.text().count('\n'), 2);
+    }
+};
+
+TESSERA_TEST(LaunchControllerTest);
+#include "launchcontrollertest.moc"

@@ -1,0 +1,347 @@
+#include "launch/ui/launchpages.h"
+
+#include "launch/argumentsarray.h"
+#include "launch/storedoptions.h"
+#include "launch/ui/effectspage.h"
+#include "launch/ui/generalpage.h"
+#include "launch/ui/inputpage.h"
+#include "launch/ui/miscpage.h"
+#include "launch/ui/soundpage.h"
+#include "launch/ui/videopage.h"
+#include "platform/defaultscontroller.h"
+#include "support/testmain.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace tessera;
+
+namespace {
+
+const SelectedGame selected{QStringLiteral("foo"), QStringLiteral("Foo"), QStringLiteral("フー")};
+
+// The settings of the launch options, each with what its control is.
+constexpr std::array flags{
+    keys::Maximize,          keys::Keepaspect,        keys::Unevenstretch,   keys::Resolutionswitc,
+    keys::Waitvsync,         keys::Multithreading,    keys::Bilinear,        keys::Effect,
+    keys::Artwork,           keys::Backdrops,         keys::Overlays,        keys::Bezels,
+    keys::Antialiased,       keys::Soundsmples,       keys::Movierecord,     keys::Mousecontrolle,
+    keys::Joystickcontrolle, keys::Lightguncontrolle, keys::Offscreenreload, keys::Registersimultaneous,
+    keys::Outputserror,      keys::Replaymove,        keys::Cheatsystem,     keys::Gameinfo,
+    keys::Automaticsavestate};
+constexpr std::array indexes{
+    keys::Displaymode,  keys::Videodriver,  keys::Scaling,      keys::Displayframeskip, keys::Displayrotation,
+    keys::Displayflip,  keys::ScalemodePop, keys::Soundoutput,  keys::Soundsmplerate,   keys::Moviematrix,
+    keys::Debugoptions, keys::Biostype,     keys::Replaymatrix, keys::Recordfilepop};
+constexpr std::array numbers{keys::Displaybeam, keys::Displayflicker, keys::Soundvolume};
+constexpr std::array texts{keys::Effectname,  keys::Audiolatency, keys::Wavfilename,
+                           keys::Mngfilename, keys::Avifilename,  keys::Playbackfilename};
+
+QList<QLatin1StringView> launchKeys()
+{
+    QList<QLatin1StringView> names;
+    for (const auto& key : flags)
+        names << key.name;
+    for (const auto& key : indexes)
+        names << key.name;
+    for (const auto& key : numbers)
+        names << key.name;
+    for (const auto& key : texts)
+        names << key.name;
+    names << keys::RomsPath.name;
+    return names;
+}
+
+} // namespace
+
+class LaunchPagesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<UserDefaults> m_settings;
+    std::unique_ptr<DefaultsController> m_defaults;
+
+    std::unique_ptr<LaunchPages> pages(const QString& found = QString())
+    {
+        return std::make_unique<LaunchPages>(*m_defaults, found);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<UserDefaults>(m_folder->filePath("Tessera.ini"));
+        m_defaults = std::make_unique<DefaultsController>(*m_settings);
+        m_defaults->setInitialValues("Sans", "/home/me");
+    }
+
+    void liveAndStoredOptionsAgree_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("nothing stored") << QString() << QVariant();
+        const auto row = [](QLatin1StringView key, const QVariant& value) {
+            QTest::newRow(qPrintable(QString(key) + ' ' + value.toString())) << QString(key) << value;
+        };
+        for (const auto& key : flags) {
+            row(key.name, true);
+            row(key.name, false);
+        }
+        for (const auto& key : indexes) {
+            for (const QVariant& value :
+                 QVariantList{-1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 12, 99, "no number", 2.5})
+                row(key.name, value);
+        }
+        for (const auto& key : numbers) {
+            for (const QVariant& value : QVariantList{0, 1.0, 1.5, -32, "", "typed", "1.0"})
+                row(key.name, value);
+        }
+        for (const auto& key : texts) {
+            for (const QVariant& value : QVariantList{"", "a text", QString::fromUtf8("日本 \"x\"")})
+                row(key.name, value);
+        }
+        row(keys::RomsPath.name, "/");
+        row(keys::RomsPath.name, "/no such folder");
+    }
+
+    void liveAndStoredOptionsAgree()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        if (!key.isEmpty())
+            m_settings->setValue(QLatin1StringView(key.toLatin1()), value);
+        const auto shown = pages();
+        const LaunchOptions live = liveOptions(*shown, selected);
+        const LaunchOptions stored = storedOptions(*m_defaults, selected);
+        QCOMPARE(argumentsArray(live), argumentsArray(stored));
+        QCOMPARE(argumentsArray2(live), argumentsArray2(stored));
+        QVERIFY(live == stored);
+    }
+
+    void everyChangeOfASettingReachesTheOptions()
+    {
+        const auto shown = pages();
+        for (const auto& key : flags)
+            m_defaults->setFlag(key, !key.initial);
+        for (const auto& key : indexes)
+            m_defaults->setIndex(key, key.initial == 1 ? 0 : 1);
+        for (const auto& key : numbers)
+            m_defaults->setText(key, "7");
+        for (const auto& key : texts)
+            m_defaults->setText(key, "changed");
+        m_defaults->setText(keys::RomsPath, "/");
+        const LaunchOptions live = liveOptions(*shown, selected);
+        QVERIFY(live == storedOptions(*m_defaults, selected));
+        QCOMPARE(live.displayframePop, 1);
+        QCOMPARE(live.beemTextField, QStringLiteral("7"));
+        QVERIFY(live.romsFolderFound);
+    }
+
+    void everySettingHasAControlThatStoresIt()
+    {
+        const auto shown = pages();
+        QWidget window;
+        QVBoxLayout layout(&window);
+        for (OptionPage* page : shown->all())
+            layout.addWidget(page);
+        window.show();
+        for (auto* box : window.findChildren<QCheckBox*>())
+            box->click();
+        for (auto* popup : window.findChildren<QComboBox*>()) {
+            popup->setFocus();
+            QTest::keyClick(popup, popup->currentIndex() == 0 ? Qt::Key_End : Qt::Key_Home);
+        }
+        for (auto* radio : window.findChildren<QRadioButton*>())
+            radio->click();
+        for (auto* field : window.findChildren<QLineEdit*>()) {
+            field->setFocus();
+            QTest::keyClicks(field, "9");
+        }
+        for (const QLatin1StringView name : launchKeys()) {
+            // The BIOS pop-up has one item, and with one there is nothing to choose.
+            if (name != keys::Biostype.name)
+                QVERIFY2(m_settings->value(name), name.data());
+        }
+        QVERIFY(liveOptions(*shown, selected) == storedOptions(*m_defaults, selected));
+    }
+
+    void showingWritesNothing()
+    {
+        const auto shown = pages("/usr/games/mame");
+        shown->misc().switchRecordingOff();
+        for (const QLatin1StringView name : launchKeys())
+            QVERIFY2(!m_settings->value(name), name.data());
+        QVERIFY(!m_settings->value(keys::ExecutionPath.name));
+    }
+
+    void mixedStatesReachTheOptions()
+    {
+        const auto shown = pages();
+        shown->video().checkboxMaximize->setTristate();
+        shown->video().checkboxMaximize->setCheckState(Qt::PartiallyChecked);
+        const LaunchOptions live = liveOptions(*shown, selected);
+        QCOMPARE(live.checkboxMaximize, -1);
+        const QStringList arguments = argumentsArray(live);
+        QVERIFY(!arguments.contains("-maximize") && !arguments.contains("-nomaximize"));
+    }
+
+    void numbersInFieldsReadWithoutAPoint()
+    {
+        const auto shown = pages();
+        QCOMPARE(shown->effects().beemTextField->text(), QStringLiteral("1"));
+        QCOMPARE(shown->effects().flickerTextField->text(), QStringLiteral("0"));
+        QCOMPARE(shown->sound().soundvolumetextField->text(), QStringLiteral("0"));
+    }
+
+    void theLogPopupHasASeparator()
+    {
+        const auto shown = pages();
+        const QComboBox* log = shown->misc().errorlogPop;
+        QCOMPARE(log->count(), 7);
+        QCOMPARE(log->itemData(1, Qt::AccessibleDescriptionRole).toString(), QStringLiteral("separator"));
+    }
+
+    void recordingAndReplayCanBeSwitchedOff()
+    {
+        m_defaults->setFlag(keys::Movierecord, true);
+        m_defaults->setFlag(keys::Replaymove, true);
+        const auto shown = pages();
+        QVERIFY(shown->misc().checkMovierecord->isChecked());
+        shown->misc().switchRecordingOff();
+        QVERIFY(!m_defaults->flag(keys::Movierecord));
+        QVERIFY(!m_defaults->flag(keys::Replaymove));
+    }
+
+    void aFoundEmulatorIsShownUntilOneIsChosen()
+    {
+        const auto shown = pages("/usr/games/mame");
+        QLineEdit* field = shown->general().exeTextField;
+        QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
+        m_defaults->setText(keys::ExecutionPath, "/x/mame");
+        QCOMPARE(field->text(), QStringLiteral("/x/mame"));
+        m_defaults->setText(keys::ExecutionPath, "");
+        QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
+        m_defaults->revertToInitialValues();
+        QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
+    }
+
+    void anEmulatorCanBeTypedInPlaceOfTheFoundOne()
+    {
+        const auto shown = pages("/usr/games/mame");
+        QWidget window;
+        QVBoxLayout layout(&window);
+        layout.addWidget(&shown->general());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QLineEdit* field = shown->general().exeTextField;
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        QCOMPARE(field->text(), QString());
+        QTest::keyClicks(field, "/m");
+        QCOMPARE(field->text(), QStringLiteral("/m"));
+        QCOMPARE(m_settings->string(keys::ExecutionPath.name), QStringLiteral("/m"));
+        field->clear();
+        QTest::keyClicks(field, "x");
+        QTest::keyClick(field, Qt::Key_Backspace);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
+    }
+
+    void saysWhenTheChosenRomFolderIsNotUsed()
+    {
+        const auto shown = pages();
+        const QWidget* note = shown->general().findChild<QWidget*>("rompathNote");
+        QVERIFY(note);
+        QVERIFY(note->isHidden());
+        m_defaults->setText(keys::RomsPath, "/roms");
+        QVERIFY(!note->isHidden());
+        m_defaults->setFlag(keys::Outputserror, true);
+        QVERIFY(note->isHidden());
+    }
+
+    void everyControlHasItsNameAndAnAccessibleOne()
+    {
+        const auto shown = pages();
+        QSet<QString> names;
+        for (OptionPage* page : shown->all()) {
+            QVERIFY(!page->title().isEmpty());
+            QVERIFY(!page->icon().isEmpty());
+            for (auto* matrix : page->findChildren<QButtonGroup*>())
+                names << matrix->objectName();
+            for (auto* control : page->findChildren<QWidget*>()) {
+                if (!qobject_cast<QComboBox*>(control) && !qobject_cast<QLineEdit*>(control)
+                    && !qobject_cast<QCheckBox*>(control))
+                    continue;
+                names << control->objectName();
+                const auto* box = qobject_cast<QCheckBox*>(control);
+                QVERIFY2(box ? !box->text().isEmpty() : !control->accessibleName().isEmpty(),
+                         qPrintable(control->objectName()));
+            }
+        }
+        const QSet<QString> expected{"launchusingPop",
+                                     "exeTextField",
+                                     "devicevideoPop",
+                                     "displaymodePop",
+                                     "scalingPop",
+                                     "checkboxMaximize",
+                                     "checkboxAspect",
+                                     "checkboxStretch",
+                                     "checkboxResolution",
+                                     "checkboxWaitvsync",
+                                     "checkboxMultithread",
+                                     "displayframePop",
+                                     "displayrotation",
+                                     "displayflipPop",
+                                     "checkboxBilinear",
+                                     "checkboxEffect",
+                                     "effectTextField",
+                                     "scalemodePop",
+                                     "checkboxArtwork",
+                                     "checkboxBackdrops",
+                                     "checkboxOverlays",
+                                     "checkboxBezels",
+                                     "checkboxAntialias",
+                                     "beemTextField",
+                                     "flickerTextField",
+                                     "popup_Sound",
+                                     "soundvolumetextField",
+                                     "soundsampleratePop",
+                                     "soundlatencytextField",
+                                     "checkboxSoundsamples",
+                                     "checkMovierecord",
+                                     "recordMatrix",
+                                     "wavnameTextField",
+                                     "mngnameTextField",
+                                     "avinameTextField",
+                                     "biosPop",
+                                     "checkBoxReplay",
+                                     "replayMatrix",
+                                     "recordfilePop",
+                                     "textfildPlayback",
+                                     "checkboxCheat",
+                                     "checkboxGameinfo",
+                                     "checkboxAutosave",
+                                     "errorlogPop",
+                                     "checkboxMouse",
+                                     "checkboxJoystick",
+                                     "checkboxLightgun",
+                                     "checkboxOffscreen",
+                                     "checkboxSteadykey",
+                                     "checkboxRompath",
+                                     "romsTextField"};
+        QCOMPARE(names, expected);
+    }
+};
+
+TESSERA_TEST(LaunchPagesTest);
+#include "launchpagestest.moc"
