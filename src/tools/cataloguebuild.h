@@ -1,0 +1,66 @@
+#pragma once
+
+#include "core/failure.h"
+
+#include <QObject>
+#include <QProcess>
+
+#include <expected>
+#include <memory>
+
+namespace tessera {
+
+class ListxmlConverter;
+class TitleTable;
+struct ConvertedList;
+
+/// Builds the catalogue from an emulator: runs it with -listxml and converts what it prints while it prints
+/// it. The file is replaced in one step, and only by the whole list of an emulator that ended well; after
+/// anything else the old one stands. Every outcome comes with a signal, from the event loop.
+class CatalogueBuild : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CatalogueBuild(QObject* parent = nullptr);
+    /// A run that is still going is killed.
+    ~CatalogueBuild() override;
+
+    /// `titles` is the title list, or empty; one that cannot be read is done without. A file that is replaced
+    /// is kept under the name `keepOldAs` if there is one. Not while another run goes on.
+    void start(const QString& emulator, const QString& output, const QString& titles = {},
+               const QString& keepOldAs = {});
+    /// The emulator is asked to end, and killed when it does not; then comes cancelled().
+    void cancel();
+    bool isRunning() const { return m_converter != nullptr; }
+
+Q_SIGNALS:
+    void progress(int machines);
+    void finished(int machines);
+    void failed(const tessera::Failure& failure);
+    void cancelled();
+
+private:
+    std::optional<Failure> obstacle() const;
+    void read();
+    void readErrors();
+    void conclude(int status, QProcess::ExitStatus how);
+    std::expected<int, Failure> result(int status, QProcess::ExitStatus how);
+    std::expected<void, Failure> replace(const ConvertedList& list) const;
+    QString lastWords() const;
+    void fail(const Failure& failure);
+    void letGo();
+
+    QProcess m_process;
+    std::unique_ptr<TitleTable> m_titles;
+    std::unique_ptr<ListxmlConverter> m_converter;
+    QString m_emulator;
+    QString m_output;
+    QString m_keepOldAs;
+    QByteArray m_errors; ///< the last of what was printed on standard error
+    std::optional<Failure> m_failure;
+    bool m_printed = false;
+    bool m_isCancelled = false;
+};
+
+} // namespace tessera

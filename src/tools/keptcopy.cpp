@@ -1,0 +1,51 @@
+#include "tools/keptcopy.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <system_error>
+
+#include <unistd.h>
+
+namespace tessera {
+
+namespace {
+
+QString numbered(const QString& path, const QString& ending)
+{
+    const QFileInfo file(path);
+    return QDir(file.path())
+        .filePath(file.completeBaseName() + QLatin1Char(' ') + ending + QLatin1Char('.') + file.suffix());
+}
+
+QString reason(int error)
+{
+    return QString::fromStdString(std::generic_category().message(error));
+}
+
+} // namespace
+
+QString datedName(const QString& path, const QDateTime& when)
+{
+    return numbered(path, when.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")));
+}
+
+std::expected<QString, Failure> keepAs(const QString& path, const QString& name)
+{
+    if (!QFileInfo(path).isFile())
+        return QString();
+    QString free = name;
+    for (int number = 2; QFileInfo::exists(free); ++number)
+        free = numbered(name, QString::number(number));
+    // Where the file system has no second names, as some that are shared with other systems, a copy does as
+    // well.
+    if (::link(QFile::encodeName(path).constData(), QFile::encodeName(free).constData()) == 0)
+        return free;
+    const int error = errno;
+    if (QFile::copy(path, free))
+        return free;
+    return std::unexpected(Failure{"failure_write", {free, reason(error)}});
+}
+
+} // namespace tessera

@@ -1,0 +1,166 @@
+#include "tools/listxmlconverter.h"
+
+#include "catalogue/storelayout.h"
+#include "catalogue/xmltext.h"
+#include "tools/copiedtext.h"
+#include "tools/machinefields.h"
+#include "tools/titletable.h"
+
+#include <cstring>
+#include <numeric>
+
+namespace tessera {
+
+namespace {
+
+// Neither a store nor a single element may be larger.
+constexpr std::size_t sizeLimit = (std::size_t{1} << 31) - 1;
+
+constexpr std::string_view unknown = "????";
+constexpr std::size_t lastBytesKept = 256;
+
+Failure tooLarge()
+{
+    return Failure{"convert_too_large", {}};
+}
+
+} // namespace
+
+ListxmlConverter::ListxmlConverter(const TitleTable& titles, ConversionOptions options, ElementName name,
+                                   CandidateSearch search)
+    : m_titles(titles)
+    , m_options(options)
+    , m_scanner(name, search)
+{
+}
+
+std::expected<void, Failure> ListxmlConverter::feed(std::string_view piece)
+{
+    if (piece.empty())
+        return {};
+    std::memcpy(room(piece.size()).data(), piece.data(), piece.size());
+    return extend(piece.size());
+}
+
+std::expected<void, Failure> ListxmlConverter::extend(std::size_t count)
+{
+    m_scanner.extend(count);
+    const std::string_view held = m_scanner.held();
+    const std::string_view piece = held.substr(held.size() - count);
+    m_lastBytes += piece.substr(piece.size() - std::min(piece.size(), lastBytesKept));
+    m_lastBytes.erase(0, m_lastBytes.size() - std::min(m_lastBytes.size(), lastBytesKept));
+    if (!m_restStarts.empty())
+        m_rest += piece;
+    if (std::max(held.size(), m_rest.size()) > sizeLimit)
+        return std::unexpected(tooLarge());
+    return convertElements();
+}
+
+std::expected<void, Failure> ListxmlConverter::convertElements()
+{
+    while (const ListxmlElement* element = m_scanner.next()) {
+        if (isLeftOut(*element))
+            continue;
+        if (const auto written = write(readFields(*element)); !written)
+            return written;
+    }
+    if (m_scanner.sawNul())
+        return std::unexpected(Failure{"convert_has_nul", {}});
+    return {};
+}
+
+bool ListxmlConverter::isLeftOut(const ListxmlElement& element) const
+{
+    return (m_options.withoutBios && element.isBios) || (m_options.withoutMechanical && element.isMechanical)
+        || (m_options.withoutDevices && element.isDevice);
+}
+
+std::expected<void, Failure> ListxmlConverter::write(const MachineFields& fields)
+{
+    std::array<std::string_view, fieldCount> values;
+    const auto put = [&](Field field, std::string_view bytes) {
+        const auto at = static_cast<std::size_t>(field);
+        values[at] = copiedText(bytes, m_rooms[at]);
+        return values[at];
+    };
+    values[static_cast<std::size_t>(Field::Type)] = fields.type;
+    const std::string_view name = put(Field::Name, fields.name.value_or(unknown));
+    m_titles.expect(name);
+    const bool cloneofLater = !fields.cloneof && !fields.name;
+    if (cloneofLater)
+        rememberRest();
+    else if (fields.cloneof)
+        put(Field::Cloneof, *fields.cloneof);
+    else
+        values[static_cast<std::size_t>(Field::Cloneof)] = name;
+    const std::string_view title = put(Field::Title, fields.title.value_or(unknown));
+    put(Field::Year, fields.year.value_or(unknown));
+    put(Field::Maker, fields.maker.value_or(unknown));
+    put(Field::Status, fields.status.value_or(unknown));
+    put(Field::Device, fields.device.value_or(std::string_view()));
+    values[static_cast<std::size_t>(Field::Titlejp)] = japaneseTitle(name).value_or(title);
+
+    for (const std::string_view value : values)
+        m_written += value.size();
+    if (m_written > sizeLimit)
+        return std::unexpected(tooLarge());
+    m_store.appendObject(values, cloneofLater);
+    return {};
+}
+
+std::optional<std::string_view> ListxmlConverter::japaneseTitle(std::string_view name)
+{
+    const auto title = m_titles.titleOf(name);
+    if (!title)
+        return std::nullopt;
+    std::string& escaped = m_rooms[static_cast<std::size_t>(Field::Titlejp)];
+    escaped.clear();
+    appendEscaped(escaped, *title);
+    return escaped;
+}
+
+// Deliberate: such an element's cloneof is everything from its start to the end of the whole text.
+void ListxmlConverter::rememberRest()
+{
+    const std::string_view rest = m_scanner.textFromElement();
+    if (m_restStarts.empty())
+        m_rest = rest;
+    m_restStarts.push_back(m_rest.size() - rest.size());
+}
+
+// `starts` are its places, which replacing moves. A blank stands before each, so none parts a character.
+std::string ListxmlConverter::copiedRest(std::vector<std::size_t>& starts) const
+{
+    std::string text;
+    std::string room;
+    for (std::size_t i = 0; i < m_restStarts.size(); ++i) {
+        const std::size_t end = i + 1 < m_restStarts.size() ? m_restStarts[i + 1] : m_rest.size();
+        starts.push_back(text.size());
+        text += copiedText(std::string_view(m_rest).substr(m_restStarts[i], end - m_restStarts[i]), room);
+    }
+    return text;
+}
+
+bool ListxmlConverter::endsWithEndTag() const
+{
+    const std::size_t last = m_lastBytes.find_last_not_of(" \t\r\n");
+    const std::size_t tag = m_lastBytes.rfind('<');
+    return last != std::string::npos && m_lastBytes[last] == '>' && tag != std::string::npos
+        && m_lastBytes[tag + 1] == '/';
+}
+
+std::expected<ConvertedList, Failure> ListxmlConverter::finish()
+{
+    m_scanner.end();
+    if (const auto converted = convertElements(); !converted)
+        return std::unexpected(converted.error());
+    std::vector<std::size_t> starts;
+    std::string rest = copiedRest(starts);
+    m_store.complete(storelayout::newUuid(), std::move(rest), std::move(starts));
+    if (m_store.size() > sizeLimit)
+        return std::unexpected(tooLarge());
+    const std::size_t games = m_store.objects();
+    return ConvertedList{std::move(m_store), games, !m_scanner.isInElement() && endsWithEndTag()};
+}
+
+} // namespace tessera

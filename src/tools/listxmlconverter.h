@@ -1,0 +1,73 @@
+#pragma once
+
+#include "core/failure.h"
+#include "tools/listxmlscanner.h"
+#include "tools/storetext.h"
+
+#include <expected>
+#include <optional>
+
+namespace tessera {
+
+class TitleTable;
+struct MachineFields;
+
+/// Which sets are left out: each that carries one of these flags.
+struct ConversionOptions {
+    bool withoutBios = false;
+    bool withoutMechanical = false;
+    bool withoutDevices = false;
+};
+
+/// A complete store.
+struct ConvertedList {
+    StoreText text;
+    std::size_t games = 0;
+    bool isWhole = false; ///< no element was cut off, and the list ends with an end tag
+};
+
+/// Makes a store of an emulator's list while the list comes in, piece by piece. It holds no more of it than
+/// the element that it is in.
+class ListxmlConverter
+{
+public:
+    /// `titles` outlives the converter.
+    ListxmlConverter(const TitleTable& titles, ConversionOptions options,
+                     ElementName name = ElementName::Undecided, CandidateSearch search = candidateSearch());
+
+    /// Room for the next piece, of at least `count` bytes; extend() says how many were put there.
+    std::span<char> room(std::size_t count) { return m_scanner.room(count); }
+    std::expected<void, Failure> extend(std::size_t count);
+    std::expected<void, Failure> feed(std::string_view piece);
+
+    std::expected<ConvertedList, Failure> finish();
+
+    /// Written so far.
+    std::size_t games() const { return m_store.objects(); }
+    /// Elements were taken to be called "machine", but a "<game " stands in the text as well: one that can be
+    /// read again is begun again with that name.
+    bool shouldBeginAgain() const { return m_scanner.sawGame(); }
+
+private:
+    std::expected<void, Failure> convertElements();
+    bool isLeftOut(const ListxmlElement& element) const;
+    std::expected<void, Failure> write(const MachineFields& fields);
+    std::optional<std::string_view> japaneseTitle(std::string_view name);
+    void rememberRest();
+    std::string copiedRest(std::vector<std::size_t>& starts) const;
+    bool endsWithEndTag() const;
+
+    const TitleTable& m_titles;
+    ConversionOptions m_options;
+    ListxmlScanner m_scanner;
+    StoreText m_store;
+    std::size_t m_written = 0; ///< bytes of values
+    std::array<std::string, fieldCount> m_rooms;
+    std::string m_lastBytes; ///< of the text that has come
+
+    // The text from the first element on that has neither name nor cloneof, and where in it each such begins.
+    std::string m_rest;
+    std::vector<std::size_t> m_restStarts;
+};
+
+} // namespace tessera

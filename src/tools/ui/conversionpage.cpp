@@ -1,0 +1,56 @@
+#include "tools/ui/conversionpage.h"
+
+#include "widgets/boundcontrols.h"
+#include "widgets/pathfield.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tessera {
+
+ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
+    : FormPage(parent)
+{
+    addHeading(qtTrId("convert_heading"), qtTrId("convert_explanation"));
+    const PathField* listxml = addPath(qtTrId("convert_listxml"), QStringLiteral("listxml"));
+    const PathField* titles = addPath(qtTrId("convert_titles"), QStringLiteral("mame32jp"));
+    listxmlTextField = listxml->field();
+    button_listxml = listxml->chooseButton();
+    reveal_listxml = listxml->revealButton();
+    mame32jpTextField = titles->field();
+    button_mame32jp = titles->chooseButton();
+    reveal_mame32jp = titles->revealButton();
+
+    button_isbios = makeBox(qtTrId("convert_bios"), QStringLiteral("button_isbios"));
+    button_ismechanical = makeBox(qtTrId("convert_mechanical"), QStringLiteral("button_ismechanical"));
+    button_isdevice = makeBox(qtTrId("convert_devices"), QStringLiteral("button_isdevice"));
+    addRow(qtTrId("convert_leave_out"), {button_isbios, button_ismechanical, button_isdevice});
+    addStretch();
+
+    bind(*listxmlTextField, defaults, keys::listxmlPath);
+    bind(*mame32jpTextField, defaults, keys::localizePath);
+}
+
+PathField* ConversionPage::addPath(const QString& label, const QString& name)
+{
+    QString plain = label;
+    auto* path
+        = new PathField(plain.remove(QLatin1Char('&')), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
+    path->field()->setObjectName(name + QStringLiteral("TextField"));
+    path->chooseButton()->setObjectName(QStringLiteral("button_") + name);
+    path->revealButton()->setObjectName(QStringLiteral("reveal_") + name);
+    addRow(label, path);
+    return path;
+}
+
+QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)
+{
+    auto* box = new QCheckBox(label, this);
+    box->setObjectName(name);
+    return box;
+}
+
+} // namespace tessera

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "widgets/formpage.h"
+
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace tessera {
+
+class DefaultsController;
+class PathField;
+
+/// The utility window's first page: what a catalogue is made of.
+class ConversionPage : public FormPage
+{
+    Q_OBJECT
+
+public:
+    explicit ConversionPage(DefaultsController& defaults, QWidget* parent = nullptr);
+
+    QLineEdit* listxmlTextField;
+    QLineEdit* mame32jpTextField;
+    QPushButton* button_listxml;
+    QPushButton* button_mame32jp;
+    QToolButton* reveal_listxml;
+    QToolButton* reveal_mame32jp;
+    QCheckBox* button_isbios;
+    QCheckBox* button_ismechanical;
+    QCheckBox* button_isdevice;
+
+private:
+    PathField* addPath(const QString& label, const QString& name);
+    QCheckBox* makeBox(const QString& label, const QString& name);
+};
+
+} // namespace tessera
