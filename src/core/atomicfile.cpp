@@ -6,20 +6,32 @@ namespace tessera {
 
 std::expected<void, Failure> writeAtomically(const QString& path, std::span<const std::string_view> pieces)
 {
+    return writeAtomically(path, [pieces](const ContentSink& sink) {
+        for (const std::string_view piece : pieces) {
+            if (!sink(piece))
+                return;
+        }
+    });
+}
+
+std::expected<void, Failure> writeAtomically(const QString& path,
+                                             const std::function<void(const ContentSink&)>& content)
+{
     QSaveFile file(path);
     const auto failed = [&] { return std::unexpected(Failure{"failure_write", {path, file.errorString()}}); };
     if (!file.open(QIODevice::WriteOnly))
         return failed();
-    for (std::string_view piece : pieces) {
+    bool isGood = true;
+    content([&](std::string_view piece) {
         // A disk that fills up takes a part of the piece first; the next attempt has the reason.
-        while (!piece.empty()) {
+        while (isGood && !piece.empty()) {
             const qint64 written = file.write(piece.data(), static_cast<qint64>(piece.size()));
-            if (written <= 0)
-                return failed();
-            piece.remove_prefix(static_cast<std::size_t>(written));
+            isGood = written > 0;
+            piece.remove_prefix(isGood ? static_cast<std::size_t>(written) : 0);
         }
-    }
-    if (!file.commit())
+        return isGood;
+    });
+    if (!isGood || !file.commit())
         return failed();
     return {};
 }

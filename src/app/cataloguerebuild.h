@@ -1,0 +1,63 @@
+#pragma once
+
+#include "core/failure.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace tessera {
+
+class Catalogue;
+class CatalogueBuild;
+class DefaultsController;
+class Desktop;
+class RebuildStrip;
+
+/// The command that builds the catalogue from the emulator and puts it in place of the present one.
+class CatalogueRebuild : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `emulator` gives the path of the emulator to ask, empty where there is none; `chooseEmulator` lets the
+    /// user choose one.
+    CatalogueRebuild(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
+                     RebuildStrip& strip, std::function<QString()> emulator,
+                     std::function<void()> chooseEmulator, QObject* parent = nullptr);
+    ~CatalogueRebuild() override;
+
+    bool isRunning() const { return m_build != nullptr; }
+    /// True where the catalogue was built from an emulator that is another one now.
+    bool isOutdated() const;
+
+public Q_SLOTS:
+    /// As the menu's command: asks about unsaved edits, and when this emulator is the one already built from.
+    void rebuild();
+    /// As the way out of a missing catalogue: nothing is asked but for an emulator where none is found.
+    void build();
+    void cancel();
+
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+    void runningChanged(bool running);
+
+private:
+    bool mayReplace();
+    void stand();
+    void finish(int machines);
+    void fail(const Failure& failure);
+    void letGo();
+
+    Catalogue& m_catalogue;
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    RebuildStrip& m_strip;
+    std::function<QString()> m_emulator;
+    std::function<void()> m_chooseEmulator;
+    std::unique_ptr<CatalogueBuild> m_build;
+    QString m_identity; ///< of the emulator that is being asked
+};
+
+} // namespace tessera

@@ -1,0 +1,127 @@
+#include "app/mainmenu.h"
+
+#include "app/tessera_appdelegate.h"
+#include "platform/recentdocuments.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+using Command = void (Tessera_AppDelegate::*)();
+using Hub = Tessera_AppDelegate;
+
+struct MenuRow {
+    const char* menu;
+    const char* text; ///< nullptr is a separator
+    const char* shortcut;
+    Command command;
+};
+
+constexpr const char* file = textKey("menu_file");
+constexpr const char* edit = textKey("menu_edit");
+constexpr const char* game = textKey("menu_game");
+constexpr const char* emulator = textKey("menu_emulator");
+constexpr const char* window = textKey("menu_window");
+
+// clang-format off
+constexpr std::array rows{
+    MenuRow{file,     textKey("menu_openrom"),     "Ctrl+O",       &Hub::openROMfile},
+    MenuRow{file,     textKey("menu_save"),        "Ctrl+S",       &Hub::saveAction},
+    MenuRow{file,     nullptr,                     nullptr,        nullptr},
+    MenuRow{file,     textKey("menu_rebuild"),     nullptr,        &Hub::rebuildCatalogue},
+    MenuRow{file,     textKey("menu_tools"),       "Ctrl+T",       &Hub::utilityOrderFront},
+    MenuRow{file,     textKey("menu_savelog"),     nullptr,        &Hub::saveLogAction},
+    MenuRow{file,     nullptr,                     nullptr,        nullptr},
+    MenuRow{file,     textKey("menu_quit"),        "Ctrl+Q",       &Hub::terminate},
+    MenuRow{edit,     textKey("menu_undo"),        "Ctrl+Z",       &Hub::undo},
+    MenuRow{edit,     textKey("menu_redo"),        "Ctrl+Shift+Z", &Hub::redo},
+    MenuRow{edit,     nullptr,                     nullptr,        nullptr},
+    MenuRow{edit,     textKey("menu_editcell"),    nullptr,        &Hub::editCell},
+    MenuRow{edit,     nullptr,                     nullptr,        nullptr},
+    MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
+    MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},
+    MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::playSelected},
+    MenuRow{game,     textKey("menu_stop"),        "Ctrl+.",       &Hub::stopGame},
+    MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
+    MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
+    MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
+    MenuRow{window,   textKey("menu_log"),         "Ctrl+L",       &Hub::showLogWindow},
+};
+// clang-format on
+
+QMenu* menuOf(QMenuBar& bar, const char* key)
+{
+    const QString name = QLatin1String(key);
+    if (auto* menu = bar.findChild<QMenu*>(name))
+        return menu;
+    QMenu* menu = bar.addMenu(qtTrId(key));
+    menu->setObjectName(name);
+    return menu;
+}
+
+void fillRecent(QMenu& menu, Tessera_AppDelegate& delegate)
+{
+    menu.clear();
+    for (const QString& path : delegate.recentDocuments().paths()) {
+        // An ampersand in a file name is no mnemonic.
+        QAction* action
+            = menu.addAction(QFileInfo(path).fileName().replace(QLatin1Char('&'), QStringLiteral("&&")));
+        action->setToolTip(path);
+        QObject::connect(action, &QAction::triggered, &delegate,
+                         [&delegate, path] { delegate.application_openFile(path); });
+    }
+    if (menu.isEmpty())
+        menu.addAction(qtTrId("menu_norecent"))->setEnabled(false);
+}
+
+void addRecentMenu(QMenu& fileMenu, Tessera_AppDelegate& delegate)
+{
+    auto* recent = new QMenu(qtTrId("menu_recent"), &fileMenu);
+    recent->setToolTipsVisible(true);
+    fileMenu.insertMenu(fileMenu.actions().value(1), recent);
+    QObject::connect(recent, &QMenu::aboutToShow, &delegate,
+                     [recent, &delegate] { fillRecent(*recent, delegate); });
+}
+
+// Undo and Redo are dim while there is nothing to undo or redo.
+void followUndo(QMenuBar& bar, QUndoStack& stack)
+{
+    auto* undo = bar.findChild<QAction*>(QStringLiteral("menu_undo"));
+    auto* redo = bar.findChild<QAction*>(QStringLiteral("menu_redo"));
+    undo->setEnabled(stack.canUndo());
+    redo->setEnabled(stack.canRedo());
+    QObject::connect(&stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
+    QObject::connect(&stack, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
+}
+
+} // namespace
+
+void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
+{
+    for (const MenuRow& row : rows) {
+        QMenu* menu = menuOf(bar, row.menu);
+        if (row.text == nullptr) {
+            menu->addSeparator();
+            continue;
+        }
+        auto* action = new QAction(qtTrId(row.text), &bar);
+        action->setObjectName(QLatin1String(row.text));
+        if (row.shortcut != nullptr)
+            action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
+        action->setShortcutContext(Qt::ApplicationShortcut);
+        action->setMenuRole(QAction::NoRole);
+        QObject::connect(action, &QAction::triggered, &delegate, row.command);
+        menu->addAction(action);
+    }
+    addRecentMenu(*menuOf(bar, file), delegate);
+    followUndo(bar, delegate.catalogue().undoStack());
+}
+
+} // namespace tessera

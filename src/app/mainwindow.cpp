@@ -1,0 +1,233 @@
+#include "app/mainwindow.h"
+
+#include "app/emptystate.h"
+#include "app/rebuildstrip.h"
+#include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gametableview.h"
+#include "platform/defaultscontroller.h"
+#include "widgets/theme.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+
+constexpr QSize firstSize(1200, 760);
+constexpr int sidePanelWidth = 300;
+constexpr std::array columnWidths{118, 240, 180, 56, 118, 84}; // the last column takes what is left
+
+} // namespace
+
+MainWindow::MainWindow(DefaultsController& defaults)
+    : gameTable(new GameTableView)
+    , factsPanel(new FactsPanel)
+    , rebuildStrip(new RebuildStrip)
+    , emptyState(new EmptyState)
+    , m_defaults(defaults)
+    , m_split(new QSplitter)
+    , m_pages(new QStackedWidget)
+    , m_count(new QLabel)
+    , m_message(new QLabel)
+    , m_emulator(new QLabel)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    gameTable->setObjectName(QStringLiteral("gameTable"));
+    gameTable->setAccessibleName(qtTrId("main_list"));
+
+    m_pages->addWidget(gameTable);
+    m_pages->addWidget(emptyState);
+    auto* listSide = new QWidget;
+    auto* listLayout = new QVBoxLayout(listSide);
+    listLayout->setContentsMargins(0, 0, 0, 0);
+    listLayout->setSpacing(0);
+    listLayout->addWidget(rebuildStrip);
+    listLayout->addWidget(m_pages, 1);
+
+    m_split->addWidget(factsPanel);
+    m_split->addWidget(listSide);
+    m_split->setHandleWidth(1);
+    m_split->setStretchFactor(1, 1);
+    m_split->setCollapsible(1, false);
+
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeToolRow());
+    layout->addWidget(m_split, 1);
+    setCentralWidget(content);
+    makeStatusLine();
+
+    applyRowHeight();
+    connect(&m_defaults, &DefaultsController::changed, this, &MainWindow::applyRowHeight);
+    sayWhatToDo(false);
+}
+
+QToolButton* MainWindow::toolButton(const QString& icon, const QString& name)
+{
+    auto* button = new QToolButton;
+    button->setIcon(theme::icon(icon));
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setObjectName(icon + QStringLiteral("Button"));
+    return button;
+}
+
+QWidget* MainWindow::makeToolRow()
+{
+    auto* row = new QWidget;
+    row->setProperty("role", QStringLiteral("toolbar"));
+    row->setAttribute(Qt::WA_StyledBackground);
+    playButton = new QPushButton(qtTrId("main_play"));
+    playButton->setIcon(theme::icon(QStringLiteral("play"), "onaccent"));
+    playButton->setObjectName(QStringLiteral("playButton"));
+    playButton->setProperty("role", QStringLiteral("accent"));
+    stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
+    stopButton->setEnabled(false);
+    logButton = toolButton(QStringLiteral("log"), qtTrId("main_log"));
+    toolsButton = toolButton(QStringLiteral("tools"), qtTrId("main_tools"));
+    preferencesButton = toolButton(QStringLiteral("preferences"), qtTrId("main_preferences"));
+
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(12, 10, 12, 10);
+    layout->setSpacing(8);
+    layout->addWidget(playButton);
+    for (QToolButton* button : {stopButton, logButton, toolsButton, preferencesButton})
+        layout->addWidget(button);
+    layout->addStretch();
+    return row;
+}
+
+void MainWindow::makeStatusLine()
+{
+    m_count->setObjectName(QStringLiteral("countLabel"));
+    m_message->setObjectName(QStringLiteral("messageLabel"));
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_emulator->setObjectName(QStringLiteral("emulatorLabel"));
+    m_emulator->setTextFormat(Qt::PlainText);
+    rebuildButton = new QPushButton(qtTrId("rebuild_button"));
+    rebuildButton->setObjectName(QStringLiteral("rebuildButton"));
+    rebuildButton->setToolTip(qtTrId("rebuild_outdated"));
+    rebuildButton->setProperty("role", QStringLiteral("link"));
+    rebuildButton->hide();
+    progressIndicator = new QProgressBar;
+    progressIndicator->setFixedWidth(96);
+    progressIndicator->setTextVisible(false);
+    progressIndicator->setAccessibleName(qtTrId("main_progress"));
+    progressIndicator->hide();
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(m_count);
+    statusBar()->addWidget(m_message, 1);
+    statusBar()->addPermanentWidget(progressIndicator);
+    statusBar()->addPermanentWidget(rebuildButton);
+    statusBar()->addPermanentWidget(m_emulator);
+}
+
+void MainWindow::applyRowHeight()
+{
+    const int height = qBound(8, m_defaults.index(keys::rowHeight), 400);
+    if (gameTable->verticalHeader()->defaultSectionSize() != height)
+        gameTable->verticalHeader()->setDefaultSectionSize(height);
+}
+
+void MainWindow::showCount(std::size_t shown, std::size_t all)
+{
+    const QLocale locale;
+    const QString total = locale.toString(static_cast<qulonglong>(all));
+    m_count->setText(
+        shown == all ? qtTrId("main_count").arg(total)
+                     : qtTrId("main_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total));
+    m_pages->setCurrentWidget(all == 0 ? static_cast<QWidget*>(emptyState) : gameTable);
+}
+
+void MainWindow::say(const QString& sentence)
+{
+    m_message->setText(sentence);
+    m_message->setToolTip(sentence);
+}
+
+void MainWindow::showEmulator(const QString& text)
+{
+    m_emulator->setText(text);
+}
+
+void MainWindow::setRunning(bool running)
+{
+    stopButton->setEnabled(running);
+}
+
+void MainWindow::setRebuilding(bool rebuilding)
+{
+    gameTable->setEditTriggers(rebuilding ? QAbstractItemView::NoEditTriggers
+                                          : QAbstractItemView::EditKeyPressed);
+    if (rebuilding)
+        offerRebuild(false);
+    sayWhatToDo(rebuilding);
+}
+
+void MainWindow::sayWhatToDo(bool rebuilding)
+{
+    if (rebuilding)
+        emptyState->say(qtTrId("empty_rebuilding"), QString());
+    else
+        emptyState->say(qtTrId("empty_catalogue"), qtTrId("rebuild_from_mame"));
+}
+
+void MainWindow::offerRebuild(bool offered)
+{
+    rebuildButton->setVisible(offered);
+    if (offered)
+        say(qtTrId("rebuild_outdated"));
+}
+
+void MainWindow::setBusy(bool busy)
+{
+    progressIndicator->setRange(0, busy ? 0 : 1);
+    progressIndicator->setVisible(busy);
+}
+
+void MainWindow::restore()
+{
+    const UserDefaults& stored = m_defaults.defaults();
+    resize(firstSize);
+    if (const auto geometry = stored.value(keys::MainWindowGeometry.name))
+        restoreGeometry(geometry->toByteArray());
+    m_split->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
+    if (const auto split = stored.value(keys::MainWindowSplit.name))
+        m_split->restoreState(split->toByteArray());
+    for (std::size_t i = 0; i < columnWidths.size(); ++i)
+        gameTable->setColumnWidth(static_cast<int>(i), columnWidths[i]);
+    if (const auto columns = stored.value(keys::MainWindowColumns.name))
+        gameTable->horizontalHeader()->restoreState(columns->toByteArray());
+}
+
+void MainWindow::remember()
+{
+    UserDefaults& stored = m_defaults.defaults();
+    stored.setValue(keys::MainWindowGeometry.name, saveGeometry());
+    stored.setValue(keys::MainWindowSplit.name, m_split->saveState());
+    stored.setValue(keys::MainWindowColumns.name, gameTable->horizontalHeader()->saveState());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    // The delegate decides, and hides the window when the program ends.
+    event->ignore();
+    Q_EMIT closeRequested();
+}
+
+} // namespace tessera

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QSplitter;
+class QStackedWidget;
+class QToolButton;
+
+namespace tessera {
+
+class DefaultsController;
+class EmptyState;
+class FactsPanel;
+class GameTableView;
+class RebuildStrip;
+
+/// The game list with its side panel, tool row and status line. Closing it asks for the end of the program.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(DefaultsController& defaults);
+
+    GameTableView* gameTable;
+    FactsPanel* factsPanel;
+    RebuildStrip* rebuildStrip;
+    EmptyState* emptyState;
+    QPushButton* playButton;
+    QToolButton* stopButton;
+    QToolButton* logButton;
+    QToolButton* toolsButton;
+    QToolButton* preferencesButton;
+    QPushButton* rebuildButton;
+    QProgressBar* progressIndicator;
+
+    void showCount(std::size_t shown, std::size_t all);
+    /// Says a thing once in the status line; it stays until the next one.
+    void say(const QString& sentence);
+    void showEmulator(const QString& text);
+    void setRunning(bool running);
+    /// While a catalogue is being built the old one is not edited: the edits would go with it.
+    void setRebuilding(bool rebuilding);
+    /// A button in the status line, for an emulator that is another one than the catalogue was built from.
+    void offerRebuild(bool offered);
+    void setBusy(bool busy);
+
+    /// Geometry and columns as they were left, and back into the settings.
+    void restore();
+    void remember();
+
+Q_SIGNALS:
+    void closeRequested();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QWidget* makeToolRow();
+    void makeStatusLine();
+    void applyRowHeight();
+    void sayWhatToDo(bool rebuilding);
+    QToolButton* toolButton(const QString& icon, const QString& name);
+
+    DefaultsController& m_defaults;
+    QSplitter* m_split;
+    QStackedWidget* m_pages;
+    QLabel* m_count;
+    QLabel* m_message;
+    QLabel* m_emulator;
+};
+
+} // namespace tessera

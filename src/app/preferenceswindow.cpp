@@ -1,0 +1,93 @@
+#include "app/preferenceswindow.h"
+
+#include "widgets/theme.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+constexpr QSize pageButtonSize(84, 60);
+constexpr QSize firstSize(760, 620);
+} // namespace
+
+PreferencesWindow::PreferencesWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , resetButton(new QPushButton(qtTrId("preferences_reset")))
+    , m_buttons(new QButtonGroup(this))
+    , m_pages(new QStackedWidget)
+{
+    setObjectName(QStringLiteral("preferencesWindow"));
+    setWindowTitle(qtTrId("preferences_title"));
+    resetButton->setObjectName(QStringLiteral("resetButton"));
+
+    auto* bar = new QWidget;
+    bar->setProperty("role", QStringLiteral("toolbar"));
+    bar->setAttribute(Qt::WA_StyledBackground);
+    m_bar = new QHBoxLayout(bar);
+    m_bar->setContentsMargins(12, 8, 12, 8);
+    m_bar->setSpacing(4);
+    m_bar->addStretch();
+    m_bar->addStretch();
+
+    auto* foot = new QWidget;
+    foot->setProperty("role", QStringLiteral("foot"));
+    foot->setAttribute(Qt::WA_StyledBackground);
+    auto* footLayout = new QHBoxLayout(foot);
+    footLayout->setContentsMargins(16, 10, 16, 10);
+    footLayout->addStretch();
+    footLayout->addWidget(resetButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(foot);
+    connect(m_buttons, &QButtonGroup::idClicked, m_pages, &QStackedWidget::setCurrentIndex);
+    resize(firstSize);
+}
+
+void PreferencesWindow::addPage(QWidget* page, const QString& title, const QString& icon)
+{
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(page);
+    const int index = m_pages->addWidget(scroll);
+
+    auto* button = new QToolButton;
+    button->setProperty("role", QStringLiteral("page"));
+    button->setText(title);
+    button->setIcon(theme::icon(icon));
+    button->setIconSize(QSize(20, 20));
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setCheckable(true);
+    button->setChecked(index == 0);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setFixedSize(pageButtonSize);
+    m_buttons->addButton(button, index);
+    m_bar->insertWidget(m_bar->count() - 1, button);
+}
+
+void PreferencesWindow::showPage(int index)
+{
+    if (QAbstractButton* button = m_buttons->button(index)) {
+        button->setChecked(true);
+        m_pages->setCurrentIndex(index);
+    }
+}
+
+void PreferencesWindow::centre()
+{
+    if (const QScreen* shownOn = screen())
+        move(shownOn->availableGeometry().center() - rect().center());
+}
+
+} // namespace tessera

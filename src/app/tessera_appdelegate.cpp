@@ -1,0 +1,353 @@
+#include "app/tessera_appdelegate.h"
+
+#include "app/cataloguerebuild.h"
+#include "app/emptystate.h"
+#include "app/mainmenu.h"
+#include "app/mainwindow.h"
+#include "app/preferenceswindow.h"
+#include "app/rebuildstrip.h"
+#include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "launch/emulatorfinder.h"
+#include "launch/emulatortask.h"
+#include "launch/profilecache.h"
+#include "launch/ui/generalpage.h"
+#include "launch/ui/launchcontroller.h"
+#include "launch/ui/launchpages.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/logwindow.h"
+#include "launch/ui/miscpage.h"
+#include "launch/ui/optionpage.h"
+#include "launch/ui/pathchooser.h"
+#include "platform/desktop.h"
+#include "platform/recentdocuments.h"
+#include "tools/ui/utilityobject.h"
+#include "tools/ui/utilitywindow.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+
+namespace tessera {
+
+Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
+                                         const QString& cataloguePath)
+    : m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_recent(recent)
+    , m_catalogue(cataloguePath)
+{
+    initialize();
+}
+
+Tessera_AppDelegate::~Tessera_AppDelegate() = default;
+
+void Tessera_AppDelegate::run(const QString& file)
+{
+    loadInterface();
+    awakeFromNib();
+    m_mainWindow->show();
+    applicationDidFinishLaunching();
+    // After the first paint: the emulator's options, asked of it once, so that no launch waits for them.
+    QTimer::singleShot(0, m_launch.get(), &LaunchController::prepareProfile);
+    if (m_buildWanted)
+        QTimer::singleShot(0, m_rebuild.get(), &CatalogueRebuild::build);
+    application_openFile(file);
+}
+
+void Tessera_AppDelegate::initialize()
+{
+    m_defaults.setInitialValues(QFontDatabase::systemFont(QFontDatabase::GeneralFont).family(),
+                                QDir::homePath());
+    m_defaults.defaults().synchronize();
+}
+
+void Tessera_AppDelegate::loadInterface()
+{
+    m_mainWindow = std::make_unique<MainWindow>(m_defaults);
+    m_logWindow = std::make_unique<LogWindow>();
+    m_preferencesWindow = std::make_unique<PreferencesWindow>();
+    m_pages = std::make_unique<LaunchPages>(m_defaults, emulatorToUse(QString()));
+    m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
+    m_pages->general().setChooser(*m_chooser);
+    for (OptionPage* page : m_pages->all())
+        m_preferencesWindow->addPage(page, page->title(), page->icon());
+
+    m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
+    m_gameList->setTable(m_mainWindow->gameTable);
+    m_task = std::make_unique<EmulatorTask>();
+    m_profiles = std::make_unique<ProfileCache>();
+    m_launch = std::make_unique<LaunchController>(
+        LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
+                    SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
+                                     [this] { return m_gameList->tableViewSelectionTitleE(); },
+                                     [this] { return m_gameList->tableViewSelectionTitleJ(); }},
+                    [](const QString&) { return QString(); }});
+    m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+    m_rebuild = std::make_unique<CatalogueRebuild>(
+        m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip,
+        [this] { return emulatorToUse(m_defaults.text(keys::ExecutionPath)); },
+        [this] { m_chooser->exeSelect(); });
+    joinRooms();
+    fillMainMenu(*m_mainWindow->menuBar(), *this);
+    openCatalogue();
+}
+
+void Tessera_AppDelegate::joinRooms()
+{
+    connect(m_gameList.get(), &GameListController::launchRequested, m_launch.get(),
+            &LaunchController::Launchusing);
+    connect(m_gameList.get(), &GameListController::selectionChanged, this,
+            &Tessera_AppDelegate::showSelection);
+    connect(m_gameList.get(), &GameListController::markChanged, m_mainWindow->factsPanel,
+            &FactsPanel::showMark);
+    connect(m_gameList.get(), &GameListController::countChanged, this, &Tessera_AppDelegate::showCount);
+    connect(&m_catalogue, &Catalogue::recordChanged, this, &Tessera_AppDelegate::showSelection);
+    connect(m_launch.get(), &LaunchController::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_launch.get(), &LaunchController::runningChanged, m_mainWindow.get(), &MainWindow::setRunning);
+    connect(m_chooser.get(), &PathChooser::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_chooser.get(), &PathChooser::chosen, this, &Tessera_AppDelegate::showEmulator);
+    connect(m_chooser.get(), &PathChooser::chosen, m_launch.get(), &LaunchController::prepareProfile);
+    connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
+            &MainWindow::setRebuilding);
+
+    connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
+    connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
+            &GameListController::tableViewDoubleAction);
+    connect(m_mainWindow->emptyState, &EmptyState::acted, this, &Tessera_AppDelegate::rebuildCatalogue);
+    connect(m_mainWindow->playButton, &QPushButton::clicked, this, &Tessera_AppDelegate::playSelected);
+    connect(m_mainWindow->stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
+    connect(m_mainWindow->logButton, &QToolButton::clicked, this, &Tessera_AppDelegate::showLogWindow);
+    connect(m_mainWindow->toolsButton, &QToolButton::clicked, this, &Tessera_AppDelegate::utilityOrderFront);
+    connect(m_mainWindow->preferencesButton, &QToolButton::clicked, this,
+            &Tessera_AppDelegate::showPrefsWindow);
+    connect(m_mainWindow->rebuildButton, &QPushButton::clicked, this, &Tessera_AppDelegate::rebuildCatalogue);
+    connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
+            &Tessera_AppDelegate::DefaultAction);
+    connect(m_pages->general().launchusingPop, &QComboBox::activated, m_launch.get(),
+            &LaunchController::LaunchemuPopAction);
+    connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
+}
+
+void Tessera_AppDelegate::openCatalogue()
+{
+    QDir().mkpath(applicationSupportFolder());
+    const auto opened = m_catalogue.open();
+    if (opened)
+        return;
+    const Recovery recovery{qtTrId("rebuild_from_mame"), [this] { return m_buildWanted = true; }};
+    m_desktop.presentError(opened.error().text(), qtTrId("rebuild_offer"), {recovery});
+}
+
+void Tessera_AppDelegate::awakeFromNib()
+{
+    m_preferencesWindow->centre();
+    m_pages->misc().switchRecordingOff();
+    m_launch->LaunchemuPopAction();
+    m_mainWindow->restore();
+    m_gameList->main_tableViewSort();
+}
+
+void Tessera_AppDelegate::applicationDidFinishLaunching()
+{
+    m_launch->LaunchemuCheck();
+    showEmulator();
+    m_mainWindow->offerRebuild(m_rebuild->isOutdated());
+}
+
+QString Tessera_AppDelegate::applicationSupportFolder() const
+{
+    return QFileInfo(m_catalogue.path()).absolutePath();
+}
+
+QUndoStack* Tessera_AppDelegate::windowWillReturnUndoManager()
+{
+    return &m_catalogue.undoStack();
+}
+
+bool Tessera_AppDelegate::application_openFile(const QString& path)
+{
+    if (path.isEmpty())
+        return false;
+    m_launch->Launchusing(path);
+    return true;
+}
+
+void Tessera_AppDelegate::comeForward(const QString& file)
+{
+    windowMain();
+    application_openFile(file);
+}
+
+void Tessera_AppDelegate::showSelection()
+{
+    m_mainWindow->factsPanel->showRecord(m_gameList->selectedRecord(), m_gameList->selectedCount());
+}
+
+void Tessera_AppDelegate::showCount()
+{
+    m_mainWindow->showCount(m_gameList->list().size(), m_catalogue.records().size());
+}
+
+void Tessera_AppDelegate::showEmulator()
+{
+    const QString emulator = emulatorToUse(m_defaults.text(keys::ExecutionPath));
+    m_mainWindow->showEmulator(emulator.isEmpty() ? qtTrId("main_no_emulator") : emulator);
+}
+
+// The commands
+
+void Tessera_AppDelegate::saveAction()
+{
+    if (const auto saved = m_catalogue.save(); !saved)
+        m_desktop.presentError(saved.error().text(), QString(), {});
+}
+
+void Tessera_AppDelegate::undo()
+{
+    m_catalogue.undoStack().undo();
+}
+
+void Tessera_AppDelegate::redo()
+{
+    m_catalogue.undoStack().redo();
+}
+
+void Tessera_AppDelegate::editCell()
+{
+    if (!m_rebuild->isRunning())
+        m_mainWindow->gameTable->edit(m_mainWindow->gameTable->currentIndex());
+}
+
+void Tessera_AppDelegate::openROMfile()
+{
+    m_gameList->openROMfile();
+}
+
+void Tessera_AppDelegate::rebuildCatalogue()
+{
+    m_rebuild->rebuild();
+}
+
+void Tessera_AppDelegate::playSelected()
+{
+    m_gameList->tableViewDoubleAction();
+}
+
+void Tessera_AppDelegate::stopGame()
+{
+    m_launch->stopProcess();
+}
+
+void Tessera_AppDelegate::selectExefile()
+{
+    m_chooser->selectExefile();
+}
+
+void Tessera_AppDelegate::selectROMfolder()
+{
+    m_chooser->selectROMfolder();
+}
+
+void Tessera_AppDelegate::saveLogAction()
+{
+    m_launch->saveLogAction();
+}
+
+void Tessera_AppDelegate::windowMain()
+{
+    m_gameList->tableViewSelectionDidChange();
+    m_mainWindow->show();
+    m_mainWindow->raise();
+    m_mainWindow->activateWindow();
+}
+
+void Tessera_AppDelegate::showLogWindow()
+{
+    m_launch->showLogWindow();
+}
+
+void Tessera_AppDelegate::showPrefsWindow()
+{
+    if (m_preferencesWindow->isVisible()) {
+        m_preferencesWindow->close();
+        return;
+    }
+    m_preferencesWindow->show();
+    m_preferencesWindow->raise();
+    m_preferencesWindow->activateWindow();
+}
+
+void Tessera_AppDelegate::utilityOrderFront()
+{
+    m_utility->utilityOrderFront();
+}
+
+void Tessera_AppDelegate::DefaultAction()
+{
+    m_mainWindow->setBusy(true);
+    m_defaults.revertToInitialValues();
+    Q_EMIT defaultAction();
+    m_launch->LaunchemuPopAction();
+    m_logWindow->infomationTextView->replace(qtTrId("preferences_ini"));
+    m_mainWindow->setBusy(false);
+    m_desktop.playSound(QStringLiteral("Tink"));
+}
+
+void Tessera_AppDelegate::Setwindowtitle()
+{
+    m_mainWindow->setWindowTitle(QStringLiteral("Tessera  |  ")
+                                 + m_pages->general().launchusingPop->currentText());
+}
+
+void Tessera_AppDelegate::terminate()
+{
+    if (!applicationShouldTerminate())
+        return;
+    applicationWillTerminate();
+    QCoreApplication::quit();
+}
+
+bool Tessera_AppDelegate::applicationShouldTerminate()
+{
+    const bool quits = m_gameList->commitEditing() && m_launch->confirmQuit() && saveBeforeQuitting();
+    // Whatever the answer: recording and replay never stay switched on into the next run.
+    m_defaults.setFlag(keys::Movierecord, false);
+    m_defaults.setFlag(keys::Replaymove, false);
+    m_defaults.defaults().synchronize();
+    return quits;
+}
+
+bool Tessera_AppDelegate::saveBeforeQuitting()
+{
+    if (!m_catalogue.hasChanges())
+        return true;
+    const auto saved = m_catalogue.save();
+    if (saved)
+        return true;
+    if (m_desktop.presentError(saved.error().text(), QString(), {}))
+        return false;
+    Alert alert;
+    alert.message = QStringLiteral("Could not save changes while quitting. Quit anyway?");
+    alert.buttons = {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")};
+    alert.style = Alert::Style::Warning;
+    return m_desktop.runAlert(alert) == 0;
+}
+
+void Tessera_AppDelegate::applicationWillTerminate()
+{
+    m_rebuild->cancel();
+    m_launch->stopProcess();
+    m_mainWindow->remember();
+    m_defaults.defaults().synchronize();
+}
+
+} // namespace tessera

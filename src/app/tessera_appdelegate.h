@@ -1,0 +1,115 @@
+#pragma once
+
+#include "catalogue/catalogue.h"
+#include "platform/defaultscontroller.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tessera {
+
+class CatalogueRebuild;
+class Desktop;
+class EmulatorTask;
+class GameListController;
+class LaunchController;
+class LaunchPages;
+class LogWindow;
+class MainWindow;
+class PathChooser;
+class PreferencesWindow;
+class ProfileCache;
+class RecentDocuments;
+class UtilityObject;
+
+/// The hub: builds the rooms, hands each what it needs, and joins them. Its slots are the program's commands,
+/// one line each.
+class Tessera_AppDelegate : public QObject
+{
+    Q_OBJECT
+
+public:
+    Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
+                        const QString& cataloguePath);
+    ~Tessera_AppDelegate() override;
+
+    /// Start-up in its order, then the file that the program was opened with.
+    void run(const QString& file);
+
+    // The catalogue
+    QString applicationSupportFolder() const;
+    QUndoStack* windowWillReturnUndoManager();
+    /// True for "terminate now".
+    bool applicationShouldTerminate();
+    void applicationWillTerminate();
+
+    bool application_openFile(const QString& path);
+
+    MainWindow& mainWindow() { return *m_mainWindow; }
+    LogWindow& logWindow() { return *m_logWindow; }
+    PreferencesWindow& preferencesWindow() { return *m_preferencesWindow; }
+    GameListController& gameList() { return *m_gameList; }
+    LaunchController& launcher() { return *m_launch; }
+    CatalogueRebuild& rebuild() { return *m_rebuild; }
+    UtilityObject& utility() { return *m_utility; }
+    Catalogue& catalogue() { return m_catalogue; }
+    RecentDocuments& recentDocuments() { return m_recent; }
+
+public Q_SLOTS:
+    void saveAction();
+    void undo();
+    void redo();
+    void editCell();
+    void openROMfile();
+    void rebuildCatalogue();
+    void terminate();
+    void playSelected();
+    void stopGame();
+    void selectExefile();
+    void selectROMfolder();
+    void saveLogAction();
+    void windowMain();
+    void showLogWindow();
+    void showPrefsWindow();
+    void utilityOrderFront();
+    void DefaultAction();
+    void Setwindowtitle();
+    /// Another start of the program: come to the front and open its file.
+    void comeForward(const QString& file);
+
+Q_SIGNALS:
+    /// Posted by the reset, so that other controllers can reset their own state.
+    void defaultAction();
+
+private:
+    void initialize();
+    void loadInterface();
+    void joinRooms();
+    void openCatalogue();
+    void awakeFromNib();
+    void applicationDidFinishLaunching();
+    void showSelection();
+    void showCount();
+    void showEmulator();
+    bool saveBeforeQuitting();
+
+    Desktop& m_desktop;
+    DefaultsController m_defaults;
+    RecentDocuments& m_recent;
+    Catalogue m_catalogue;
+    std::unique_ptr<MainWindow> m_mainWindow;
+    std::unique_ptr<LogWindow> m_logWindow;
+    std::unique_ptr<PreferencesWindow> m_preferencesWindow;
+    std::unique_ptr<GameListController> m_gameList;
+    std::unique_ptr<LaunchPages> m_pages;
+    std::unique_ptr<PathChooser> m_chooser;
+    std::unique_ptr<EmulatorTask> m_task;
+    std::unique_ptr<ProfileCache> m_profiles;
+    std::unique_ptr<LaunchController> m_launch;
+    std::unique_ptr<UtilityObject> m_utility;
+    std::unique_ptr<CatalogueRebuild> m_rebuild;
+    bool m_buildWanted = false;
+};
+
+} // namespace tessera

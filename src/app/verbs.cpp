@@ -1,0 +1,111 @@
+#include "app/verbs.h"
+
+#include <QStandardPaths>
+
+#include <array>
+#include <cstdio>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::array table{
+    Verb{"arguments", "[--dialect sdl|osx] [--catalogue FILE] [--set KEY=VALUE]... [--for EMULATOR] [GAME]",
+         "Print the launch arguments that the settings make, one a line.", &runArguments},
+    Verb{"build", "[--emulator PATH] [-o FILE]",
+         "Build the catalogue from what the emulator lists about itself.", &runBuild},
+    Verb{"convert", "LISTXML TITLES -o FILE [--without-bios] [--without-mechanical] [--without-devices]",
+         "Make a catalogue file from a saved -listxml text and a list of Japanese titles.", &runConvert},
+    Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
+         &runLaunch},
+    Verb{"list", "[--catalogue FILE] [--format tsv|json]", "Print the catalogue's records.", &runList},
+};
+
+void printTo(std::FILE* stream, const QString& line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+QString usage(const Verb& verb)
+{
+    return QStringLiteral("Usage: tessera %1 %2").arg(QLatin1String(verb.name), QLatin1String(verb.form));
+}
+
+} // namespace
+
+std::span<const Verb> verbs()
+{
+    return table;
+}
+
+const Verb* verbNamed(const QString& name)
+{
+    for (const Verb& verb : table) {
+        if (name == QLatin1String(verb.name))
+            return &verb;
+    }
+    return nullptr;
+}
+
+QString overview()
+{
+    QString page = QStringLiteral("Usage: tessera [FILE]\n       tessera VERB ...\n\n"
+                                  "Without a verb the windows open; a FILE is started in the emulator.\n\n");
+    for (const Verb& verb : table)
+        page
+            += QStringLiteral("  %1%2\n").arg(QLatin1String(verb.name), -11).arg(QLatin1String(verb.summary));
+    return page + QStringLiteral("\n\"tessera VERB --help\" tells more.");
+}
+
+std::optional<int> parseVerb(const Verb& verb, QCommandLineParser& parser, const QStringList& arguments,
+                             int fewest, int most)
+{
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
+    parser.addOption(help);
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
+    if (!parser.parse(arguments))
+        return badCommandLine(verb, parser.errorText());
+    if (parser.isSet(help)) {
+        print(usage(verb) + QStringLiteral("\n\n") + QLatin1String(verb.summary));
+        return Done;
+    }
+    const auto count = parser.positionalArguments().size();
+    if (count < fewest)
+        return badCommandLine(verb, QStringLiteral("Something is missing."));
+    if (count > most)
+        return badCommandLine(
+            verb, QStringLiteral("\"%1\" is one too many.").arg(parser.positionalArguments()[most]));
+    return std::nullopt;
+}
+
+int badCommandLine(const Verb& verb, const QString& why)
+{
+    printTo(stderr, QStringLiteral("tessera %1: %2\n%3").arg(QLatin1String(verb.name), why, usage(verb)));
+    return BadCommandLine;
+}
+
+int failed(const Failure& failure)
+{
+    printTo(stderr, QStringLiteral("tessera: ") + failure.text());
+    return Failed;
+}
+
+void print(const QString& line)
+{
+    printTo(stdout, line);
+}
+
+bool printBytes(std::string_view bytes)
+{
+    return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
+}
+
+QString standardCataloguePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+        + QStringLiteral("/Tessera/Tessera.xml");
+}
+
+} // namespace tessera

@@ -1,0 +1,226 @@
+#include "stagedapp.h"
+
+#include "app/cataloguerebuild.h"
+#include "app/mainwindow.h"
+#include "app/rebuildstrip.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "support/testmain.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace tessera;
+using test::StagedApp;
+
+namespace {
+
+constexpr char twoMachines[]
+    = "<?xml version=\"1.0\"?>\n<mame build=\"0.1\">\n"
+      "\t<machine name=\"pacman\" sourcefile=\"pacman.cpp\">\n"
+      "\t\t<description>Pac-Man</description>\n\t\t<year>1980</year>\n"
+      "\t\t<manufacturer>Namco</manufacturer>\n\t\t<driver status=\"good\" emulation=\"good\"/>\n"
+      "\t</machine>\n"
+      "\t<machine name=\"puckman\" sourcefile=\"pacman.cpp\" cloneof=\"pacman\" romof=\"pacman\">\n"
+      "\t\t<description>Puck Man</description>\n\t\t<year>1980</year>\n"
+      "\t\t<manufacturer>Namco</manufacturer>\n\t\t<driver status=\"good\" emulation=\"good\"/>\n"
+      "\t</machine>\n</mame>\n";
+
+// An emulator that lists the two machines; `after` is what it does then.
+QString makeEmulator(const StagedApp& staged, const QByteArray& after = "exit 0")
+{
+    const QString list = staged.path(QStringLiteral("list.xml"));
+    QFile listFile(list);
+    if (!listFile.open(QIODevice::WriteOnly) || listFile.write(twoMachines) < 0)
+        qFatal("no list");
+    const QString program = staged.path(QStringLiteral("mame"));
+    QFile script(program);
+    if (!script.open(QIODevice::WriteOnly)
+        || script.write("#!/bin/sh\n[ \"$1\" = -listxml ] || exit 1\ncat '" + list.toUtf8() + "'\n" + after
+                        + '\n')
+            < 0)
+        qFatal("no emulator");
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    return program;
+}
+
+QStringList keptCopies(const StagedApp& staged)
+{
+    return QDir(staged.path(QStringLiteral("data"))).entryList({QStringLiteral("Tessera *.xml")});
+}
+
+} // namespace
+
+class CatalogueRebuildTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFirstStartBuildsTheCatalogue()
+    {
+        StagedApp staged;
+        staged.useEmulator(makeEmulator(staged));
+        staged.expectMissingStore(0);
+        staged.start();
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        QVERIFY(staged.app->mainWindow().gameTable->isVisible());
+        QVERIFY(staged.store().contains("Pac-Man"));
+        QVERIFY(!staged.defaults.string(keys::BuiltFrom.name).isEmpty());
+        QVERIFY(!staged.app->mainWindow().rebuildStrip->isVisible());
+        QVERIFY(!staged.app->rebuild().isRunning());
+    }
+
+    void anUnreadableStoreIsReplacedAndKept()
+    {
+        StagedApp staged;
+        staged.writeStore("no store at all");
+        staged.useEmulator(makeEmulator(staged));
+        staged.desktop.answerError(QString(), 0);
+        staged.start();
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        QCOMPARE(keptCopies(staged), QStringList{QStringLiteral("Tessera 2026-01-02 03-04-05.xml")});
+        // What was unreadable is not a reason to refuse saving any longer.
+        staged.app->catalogue().setValue(0, Field::Title, QStringLiteral("Edited"));
+        staged.app->saveAction();
+        QVERIFY(staged.store().contains("Edited"));
+    }
+
+    void theMenuCommandKeepsTheOldFileAndClearsUndo()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        const QByteArray old = staged.store();
+        staged.app->rebuildCatalogue();
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        QVERIFY(!staged.app->catalogue().undoStack().canUndo());
+        QCOMPARE(keptCopies(staged).size(), 1);
+        QFile kept(staged.path(QStringLiteral("data/")) + keptCopies(staged).constFirst());
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), old);
+    }
+
+    void unsavedEditsAreAskedAboutFirst()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        staged.app->catalogue().setValue(0, Field::Title, QStringLiteral("Unsaved"));
+        staged.desktop.answerAlert(QStringLiteral("rebuild_unsaved_message"), 1);
+        staged.app->rebuildCatalogue();
+        QVERIFY(!staged.app->rebuild().isRunning());
+        QVERIFY(staged.app->catalogue().hasChanges());
+
+        staged.desktop.answerAlert(QStringLiteral("rebuild_unsaved_message"), 0);
+        staged.app->rebuildCatalogue();
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        QVERIFY(!staged.app->catalogue().hasChanges());
+    }
+
+    void theSameEmulatorIsSaid()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        staged.desktop.answerAlert(QStringLiteral("rebuild_same_message"), 1);
+        staged.app->rebuildCatalogue();
+        QVERIFY(!staged.app->rebuild().isRunning());
+    }
+
+    void aChangedEmulatorIsOfferedInTheStatusLine()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        staged.app.reset();
+
+        staged.start();
+        QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
+        staged.app.reset();
+
+        makeEmulator(staged, "exit 0 # another one now");
+        staged.start();
+        QVERIFY(staged.app->mainWindow().rebuildButton->isVisible());
+        staged.app->mainWindow().rebuildButton->click();
+        QVERIFY(staged.app->rebuild().isRunning());
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
+    }
+
+    void cancellingLeavesTheOldCatalogue()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        const QByteArray old = staged.store();
+        staged.useEmulator(makeEmulator(staged, "sleep 20"));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        RebuildStrip* strip = staged.app->mainWindow().rebuildStrip;
+        QTRY_VERIFY(strip->isVisible());
+        QVERIFY(!strip->findChild<QLabel*>(QStringLiteral("rebuildCount"))->text().isEmpty());
+        strip->findChild<QPushButton*>(QStringLiteral("rebuildCancel"))->click();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QVERIFY(!strip->isVisible());
+        QCOMPARE(staged.store(), old);
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
+        QCOMPARE(keptCopies(staged), QStringList());
+    }
+
+    void aFailureLeavesTheOldCatalogue()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        const QByteArray old = staged.store();
+        staged.useEmulator(makeEmulator(staged, "exit 3"));
+        staged.start();
+        staged.desktop.answerError(QString());
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QCOMPARE(staged.store(), old);
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
+        QCOMPARE(keptCopies(staged), QStringList());
+        QCOMPARE(staged.app->mainWindow().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
+                 QStringLiteral("rebuild_failed"));
+    }
+
+    void whileBuildingTheOldListIsNotEdited()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged, "sleep 20"));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        QCOMPARE(staged.app->mainWindow().gameTable->editTriggers(), QAbstractItemView::NoEditTriggers);
+        staged.app->rebuild().cancel();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QCOMPARE(staged.app->mainWindow().gameTable->editTriggers(), QAbstractItemView::EditKeyPressed);
+    }
+
+    void anEarlierChosenTitleListIsUsed()
+    {
+        StagedApp staged;
+        QFile titles(staged.path(QStringLiteral("titles.lst")));
+        QVERIFY(titles.open(QIODevice::WriteOnly));
+        titles.write("pacman\tパックマン\tぱっくまん\tNamco\n");
+        titles.close();
+        staged.defaults.setValue(keys::localizePath.name, titles.fileName());
+        staged.useEmulator(makeEmulator(staged));
+        staged.expectMissingStore(0);
+        staged.start();
+        QTRY_VERIFY(staged.store().contains("パックマン"));
+    }
+};
+
+TESSERA_TEST(CatalogueRebuildTest);
+#include "cataloguerebuildtest.moc"

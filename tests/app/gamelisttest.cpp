@@ -1,0 +1,229 @@
+#include "stagedapp.h"
+
+#include "app/mainwindow.h"
+#include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
+#include "catalogue/ui/gametableview.h"
+#include "support/testmain.h"
+
+#include <QAbstractItemModelTester>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSignalSpy>
+
+using namespace tessera;
+using test::StagedApp;
+
+class GameListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staged = std::make_unique<StagedApp>();
+        m_staged->writeCatalogue();
+        m_staged->start();
+        m_list = &m_staged->app->gameList();
+        m_table = m_staged->app->mainWindow().gameTable;
+    }
+
+    void cleanup() { m_staged.reset(); }
+
+    void theModelIsSound()
+    {
+        QAbstractItemModelTester tester(m_list->model(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_table->sortByColumn(1, Qt::DescendingOrder);
+        m_staged->app->catalogue().setValue(0, Field::Title, QStringLiteral("Other"));
+        QVERIFY(m_staged->app->catalogue().open());
+    }
+
+    void theFirstSortIsBySetNameAscending()
+    {
+        QCOMPARE(names(),
+                 (QStringList{QStringLiteral("1943"), QStringLiteral("galaga"), QStringLiteral("pong"),
+                              QStringLiteral("qix")}));
+        QCOMPARE(m_table->horizontalHeader()->sortIndicatorSection(), 0);
+    }
+
+    void aHeaderClickSortsByItsColumn()
+    {
+        m_table->sortByColumn(3, Qt::AscendingOrder);
+        QCOMPARE(names(),
+                 (QStringList{QStringLiteral("pong"), QStringLiteral("galaga"), QStringLiteral("qix"),
+                              QStringLiteral("1943")}));
+        m_table->sortByColumn(3, Qt::DescendingOrder);
+        QCOMPARE(names().constFirst(), QStringLiteral("1943"));
+    }
+
+    void readersAreEmptyWithoutASelection()
+    {
+        m_table->clearSelection();
+        QCOMPARE(m_list->tableViewSelectionROM(), QString());
+        QCOMPARE(m_list->tableViewSelectionParentROM(), QString());
+        QCOMPARE(m_list->tableViewSelectionTitleE(), QString());
+        QCOMPARE(m_list->tableViewSelectionTitleJ(), QString());
+    }
+
+    void readersTakeTheFirstSelectedRecord()
+    {
+        m_table->selectRow(2);
+        m_table->selectionModel()->select(m_list->model()->index(1, 0),
+                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        QCOMPARE(m_list->selectedCount(), 2);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("galaga"));
+        QCOMPARE(m_list->tableViewSelectionParentROM(), QStringLiteral("galaga88"));
+        QCOMPARE(m_list->tableViewSelectionTitleE(), QStringLiteral("Galaga"));
+        QCOMPARE(m_list->tableViewSelectionTitleJ(), QStringLiteral("ギャラガ"));
+    }
+
+    void objectDictionaryHoldsSixFields()
+    {
+        QVERIFY(m_list->selectGame(QStringLiteral("galaga")));
+        const RecordDictionary dictionary = m_list->objectDictionary();
+        QCOMPARE(QStringList(dictionary.keys()),
+                 (QStringList{QStringLiteral("cloneof"), QStringLiteral("maker"), QStringLiteral("name"),
+                              QStringLiteral("title"), QStringLiteral("titlejp"), QStringLiteral("year")}));
+        QCOMPARE(dictionary.value(QStringLiteral("cloneof")), QStringLiteral("galaga88"));
+    }
+
+    void theStatusMarkFollowsTheSelection_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("game");
+        QTest::addColumn<QString>("mark");
+        QTest::newRow("good") << QString() << QStringLiteral("pong") << QStringLiteral("plovermark_good");
+        QTest::newRow("preliminary") << QString() << QStringLiteral("qix")
+                                     << QStringLiteral("plovermark_preliminary");
+        QTest::newRow("imperfect") << QString() << QStringLiteral("1943")
+                                   << QStringLiteral("plovermark_imperfect");
+        QTest::newRow("another status leaves the old mark")
+            << QStringLiteral("qix") << QStringLiteral("galaga") << QStringLiteral("plovermark_preliminary");
+        QTest::newRow("nothing selected")
+            << QStringLiteral("qix") << QString() << QStringLiteral("plovermark_none");
+    }
+
+    void theStatusMarkFollowsTheSelection()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, game);
+        QFETCH(QString, mark);
+        if (!before.isEmpty())
+            QVERIFY(m_list->selectGame(before));
+        if (game.isEmpty())
+            m_table->clearSelection();
+        else
+            QVERIFY(m_list->selectGame(game));
+        QCOMPARE(m_staged->app->mainWindow().factsPanel->romMark->property("mark").toString(), mark);
+    }
+
+    void lookupsKeepTheOrderOfTheQuestionAndLogWhatIsMissing()
+    {
+        m_staged->desktop.takeTranscript();
+        const auto found = m_list->search_arrangedObjects(
+            Field::Name,
+            {QStringLiteral("qix"), QStringLiteral("Pong"), QStringLiteral("1943"), QStringLiteral("qix")});
+        QCOMPARE(found.size(), 3);
+        QCOMPARE(found[0].value(QStringLiteral("maker")), QStringLiteral("Taito"));
+        QCOMPARE(found[1].value(QStringLiteral("maker")), QStringLiteral("Capcom"));
+        QCOMPARE(found[2].value(QStringLiteral("name")), QStringLiteral("qix"));
+        QCOMPARE(found[0].size(), 9);
+        QCOMPARE(m_staged->desktop.transcript(),
+                 QStringList{QStringLiteral("log Pong は見つかりませんでした")});
+    }
+
+    void aDoubleClickWithNothingSelectedBeeps()
+    {
+        m_table->clearSelection();
+        m_staged->desktop.takeTranscript();
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        m_list->tableViewDoubleAction();
+        QCOMPARE(launches.count(), 0);
+        QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void anEmptySetNameBeepsToo()
+    {
+        m_staged->app->catalogue().setValue(0, Field::Name, QString());
+        m_table->selectRow(2);
+        QCOMPARE(m_list->tableViewSelectionROM(), QString());
+        m_staged->desktop.takeTranscript();
+        m_list->tableViewDoubleAction();
+        QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void openROMfileTakesOneArchive()
+    {
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        m_staged->desktop.answerOpen(std::nullopt);
+        m_list->openROMfile();
+        QCOMPARE(launches.count(), 0);
+        const OpenRequest& request = m_staged->desktop.openRequests.back();
+        QVERIFY(request.files && !request.folders);
+        QCOMPARE(request.extensions, QStringList{QStringLiteral("zip")});
+    }
+
+    void anEditIsUndone()
+    {
+        QVERIFY(m_list->selectGame(QStringLiteral("pong")));
+        const QModelIndex title = m_list->model()->index(2, 1);
+        QVERIFY(m_list->model()->setData(title, QStringLiteral("Tennis"), Qt::EditRole));
+        QCOMPARE(title.data().toString(), QStringLiteral("Tennis"));
+        m_staged->app->undo();
+        QCOMPARE(title.data().toString(), QStringLiteral("Pong"));
+        QVERIFY(!m_staged->app->catalogue().hasChanges());
+        m_staged->app->redo();
+        QCOMPARE(title.data().toString(), QStringLiteral("Tennis"));
+    }
+
+    void theFactsFollowTheSelection()
+    {
+        QVERIFY(m_list->selectGame(QStringLiteral("pong")));
+        QVERIFY(shownTexts().contains(QStringLiteral("ポン")));
+        QVERIFY(shownTexts().contains(QStringLiteral("Atari")));
+        m_table->selectAll();
+        QVERIFY(!shownTexts().contains(QStringLiteral("Atari")));
+    }
+
+    void rowsFollowFontAndHeightSettings()
+    {
+        QCOMPARE(m_table->verticalHeader()->defaultSectionSize(), 20);
+        QCOMPARE(m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 13);
+    }
+
+    void coloursComeOnlyWithTheColouringKey()
+    {
+        const QModelIndex pong = m_list->model()->index(2, 0);
+        QCOMPARE(pong.data(Qt::ForegroundRole).value<QColor>().alphaF(), 1.0F);
+        m_staged->defaults.setValue(keys::GamelistColoring.name, true);
+        QVERIFY(pong.data(Qt::ForegroundRole).value<QColor>().alphaF() < 0.6F);
+    }
+
+private:
+    QStringList names() const
+    {
+        QStringList list;
+        for (int row = 0; row < m_list->model()->rowCount(); ++row)
+            list << m_list->model()->index(row, 0).data().toString();
+        return list;
+    }
+
+    QStringList shownTexts() const
+    {
+        QStringList texts;
+        for (const QLabel* label : m_staged->app->mainWindow().factsPanel->findChildren<QLabel*>()) {
+            if (label->isVisible())
+                texts << label->text();
+        }
+        return texts;
+    }
+
+    std::unique_ptr<StagedApp> m_staged;
+    GameListController* m_list = nullptr;
+    GameTableView* m_table = nullptr;
+};
+
+TESSERA_TEST(GameListTest);
+#include "gamelisttest.moc"

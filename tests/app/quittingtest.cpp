@@ -1,0 +1,153 @@
+#include "stagedapp.h"
+
+#include "app/mainwindow.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "support/ordinaryuser.h"
+#include "support/testmain.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+
+using namespace tessera;
+using test::StagedApp;
+
+namespace {
+
+void editFirstTitle(StagedApp& staged, const QString& text)
+{
+    staged.app->catalogue().setValue(0, Field::Title, text);
+}
+
+} // namespace
+
+class QuittingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutEditsNothingIsAskedOrWritten()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        const QByteArray before = staged.store();
+        staged.start();
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QCOMPARE(staged.store(), before);
+    }
+
+    void editsAreSaved()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Table tennis"));
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QVERIFY(staged.store().contains("Table tennis"));
+        QVERIFY(!staged.app->catalogue().hasChanges());
+    }
+
+    void textStillInAnEditorIsCommittedFirst()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        GameTableView* table = staged.app->mainWindow().gameTable;
+        table->setCurrentIndex(table->model()->index(2, 1));
+        QVERIFY(QTest::qWaitForWindowExposed(&staged.app->mainWindow()));
+        staged.app->editCell();
+        auto* editor = table->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText(QStringLiteral("Typed and not yet entered"));
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QVERIFY(staged.store().contains("Typed and not yet entered"));
+    }
+
+    void aFailedSaveAsks_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("quits");
+        QTest::newRow("Quit anyway") << 0 << true;
+        QTest::newRow("Cancel") << 1 << false;
+    }
+
+    void aFailedSaveAsks()
+    {
+        QFETCH(int, button);
+        QFETCH(bool, quits);
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        const QByteArray before = staged.store();
+        editFirstTitle(staged, QStringLiteral("Lost?"));
+        staged.defaults.setValue(keys::Movierecord.name, true);
+        staged.defaults.setValue(keys::Replaymove.name, true);
+        staged.desktop.answerError(QStringLiteral("failure_write"));
+        staged.desktop.answerAlert(QStringLiteral("Could not save changes while quitting. Quit anyway?"),
+                                   button);
+
+        QFile::setPermissions(staged.storePath(), QFile::ReadOwner | QFile::ReadOther);
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            QCOMPARE(staged.app->applicationShouldTerminate(), quits);
+        }
+        const Alert& alert = staged.desktop.alerts.back();
+        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+        QCOMPARE(staged.store(), before);
+        QVERIFY(staged.app->catalogue().hasChanges());
+        // Whatever the answer, recording and replay do not stay on.
+        QCOMPARE(staged.defaults.value(keys::Movierecord.name), QVariant(false));
+        QCOMPARE(staged.defaults.value(keys::Replaymove.name), QVariant(false));
+    }
+
+    void recordingIsOffOnDiskAfterwards()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.defaults.setValue(keys::Movierecord.name, true);
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QCOMPARE(UserDefaults(staged.settingsPath()).flag(keys::Movierecord.name), false);
+    }
+
+    void closingTheMainWindowIsARequestToQuit()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Kept"));
+        staged.app->mainWindow().close();
+        QVERIFY(staged.store().contains("Kept"));
+    }
+
+    void theWindowStaysAfterCancel()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Lost?"));
+        staged.desktop.answerError(QStringLiteral("failure_write"));
+        staged.desktop.answerAlert(QStringLiteral("Could not save"), 1);
+        QFile::remove(staged.storePath());
+        QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
+        staged.app->mainWindow().close();
+        QVERIFY(staged.app->mainWindow().isVisible());
+    }
+
+    void aStoreThatCouldNotBeReadIsNeverOverwritten()
+    {
+        StagedApp staged;
+        staged.writeStore("<database><object type=\"MAME\"");
+        staged.desktop.answerError(QString());
+        staged.start();
+        QVERIFY(staged.app->catalogue().records().empty());
+        staged.desktop.answerError(QStringLiteral("failure_store_unread"));
+        staged.app->saveAction();
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QCOMPARE(staged.store(), QByteArray("<database><object type=\"MAME\""));
+    }
+};
+
+TESSERA_TEST(QuittingTest);
+#include "quittingtest.moc"

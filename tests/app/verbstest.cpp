@@ -1,0 +1,275 @@
+#include "catalogue/storewriter.h"
+#include "platform/userdefaults.h"
+#include "support/testmain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+namespace {
+
+struct Outcome {
+    int status = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+constexpr char oneGame[] = "<game name=\"pong\" sourcefile=\"pong.c\">\n<description>Pong</description>\n"
+                           "<year>1972</year>\n<manufacturer>Atari</manufacturer>\n"
+                           "<driver status=\"good\" emulation=\"good\"/>\n</game>\n";
+
+} // namespace
+
+/// The program itself, run as from a shell, with a home of its own.
+class VerbsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_environment = QProcessEnvironment::systemEnvironment();
+        for (const char* variable :
+             {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+            m_environment.insert(QLatin1String(variable), path(QLatin1String(variable)));
+        // No verb needs a display.
+        m_environment.remove(QStringLiteral("DISPLAY"));
+        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none at all"));
+    }
+
+    void badCommandLinesEndWithTwo_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        const auto row = [](const char* name, const QString& line) {
+            QTest::newRow(name) << line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        };
+        row("convert without files", QStringLiteral("convert"));
+        row("convert without -o", QStringLiteral("convert a b"));
+        row("an unknown option", QStringLiteral("list --nonsense"));
+        row("one too many", QStringLiteral("list pong"));
+        row("an unknown format", QStringLiteral("list --format xml"));
+        row("an unknown dialect", QStringLiteral("arguments --dialect dos"));
+        row("--set without a value", QStringLiteral("arguments --set Maximize"));
+        row("an unknown setting", QStringLiteral("arguments --set Nonsense=1"));
+        row("a flag that is none", QStringLiteral("arguments --set Maximize=perhaps"));
+        row("launch without a game", QStringLiteral("launch"));
+        row("an unknown option for the windows", QStringLiteral("--nonsense"));
+    }
+
+    void badCommandLinesEndWithTwo()
+    {
+        QFETCH(QStringList, arguments);
+        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 2);
+        QVERIFY(outcome.out.isEmpty());
+        QVERIFY(outcome.err.contains("Usage:"));
+    }
+
+    void everyVerbHasHelp_data()
+    {
+        QTest::addColumn<QString>("verb");
+        for (const char* verb : {"arguments", "build", "convert", "launch", "list"})
+            QTest::newRow(verb) << QString(QLatin1String(verb));
+    }
+
+    void everyVerbHasHelp()
+    {
+        QFETCH(QString, verb);
+        const Outcome outcome = tessera({verb, QStringLiteral("--help")});
+        QCOMPARE(outcome.status, 0);
+        QVERIFY(outcome.out.startsWith(QByteArray("Usage: tessera " + verb.toUtf8())));
+        QVERIFY(tessera({QStringLiteral("--help")}).out.contains(QByteArray("  " + verb.toUtf8())));
+    }
+
+    void failuresEndWithOneAndASentence_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("sentence");
+        QTest::newRow("no catalogue") << QStringList{QStringLiteral("list")} << QByteArray("does not exist");
+        QTest::newRow("no list to convert")
+            << QStringList{QStringLiteral("convert"), QStringLiteral("/nowhere/a"),
+                           QStringLiteral("/nowhere/b"), QStringLiteral("-o"), QStringLiteral("/nowhere/c")}
+            << QByteArray("/nowhere/a");
+        QTest::newRow("an emulator that is none")
+            << QStringList{QStringLiteral("build"), QStringLiteral("--emulator"),
+                           QStringLiteral("/nowhere/mame")}
+            << QByteArray("/nowhere/mame");
+        QTest::newRow("a folder as emulator")
+            << QStringList{QStringLiteral("build"), QStringLiteral("--emulator"), QStringLiteral("/usr")}
+            << QByteArray("/usr");
+    }
+
+    void failuresEndWithOneAndASentence()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, sentence);
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.err.startsWith("tessera: ") && outcome.err.contains(sentence),
+                 outcome.err.constData());
+        QCOMPARE(outcome.err.count('\n'), 1);
+    }
+
+    void convertWritesAStoreAndSaysTheReport()
+    {
+        write(QStringLiteral("list.xml"), oneGame);
+        write(QStringLiteral("titles.lst"), "pong\tポン\n");
+        const Outcome outcome = tessera({QStringLiteral("convert"), path(QStringLiteral("list.xml")),
+                                         path(QStringLiteral("titles.lst")), QStringLiteral("-o"),
+                                         path(QStringLiteral("store.xml"))});
+        QCOMPARE(outcome.err, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out, QByteArray("The conversion work is finished.  ( 1 games )\n"));
+        QCOMPARE(listed(), QByteArray("game\tpong\tpong\tPong\tポン\t1972\tAtari\tgood\t\n"));
+    }
+
+    void listPrintsNineFieldsInOrder()
+    {
+        GameRecord record{
+            {"game", "a", "b", "tab\there", "line\nhere", "back\\slash", "\"quoted\"", "good", ""}};
+        record[Field::Device] = std::string_view();
+        QVERIFY(writeStore(path(QStringLiteral("store.xml")), std::array{record}));
+        QCOMPARE(listed(),
+                 QByteArray("game\ta\tb\ttab\\there\tline\\nhere\tback\\\\slash\t\"quoted\"\tgood\t\n"));
+
+        const QJsonArray json = QJsonDocument::fromJson(listed(QStringLiteral("json"))).array();
+        QCOMPARE(json.size(), 1);
+        QCOMPARE(json[0].toObject().size(), 9);
+        QCOMPARE(json[0][QStringLiteral("title")].toString(), QStringLiteral("tab\there"));
+        QCOMPARE(json[0][QStringLiteral("maker")].toString(), QStringLiteral("\"quoted\""));
+        QVERIFY(json[0][QStringLiteral("device")].isNull());
+    }
+
+    void anEmptyCatalogueIsAnEmptyList()
+    {
+        QVERIFY(writeStore(path(QStringLiteral("store.xml")), {}));
+        QCOMPARE(listed(), QByteArray());
+        QVERIFY(QJsonDocument::fromJson(listed(QStringLiteral("json"))).isArray());
+    }
+
+    void argumentsAreTheBuildersElements()
+    {
+        const QList<QByteArray> lines = tessera({QStringLiteral("arguments")}).out.split('\n');
+        QCOMPARE(lines.mid(0, 6),
+                 (QList<QByteArray>{"-video", "opengl", "-window", "-prescale", "1", "-nomaximize"}));
+        const auto bios = lines.indexOf("-bios");
+        QVERIFY(bios > 0);
+        QCOMPARE(lines[bios + 1], QByteArray("\"\""));
+    }
+
+    void settingsAreTriedWithoutChangingThem()
+    {
+        const QByteArray out
+            = tessera({QStringLiteral("arguments"), QStringLiteral("--set"), QStringLiteral("Maximize=true"),
+                       QStringLiteral("--set"), QStringLiteral("Videodriver=0")})
+                  .out;
+        QVERIFY(out.startsWith("-video\nsoft\n"));
+        QVERIFY(out.contains("\n-maximize\n"));
+        QVERIFY(tessera({QStringLiteral("arguments")}).out.contains("\n-nomaximize\n"));
+    }
+
+    void theRecordFileIsNamedAfterTheGame()
+    {
+        const GameRecord record{{"game", "pong", "pong", "Pong", "ポン", "1972", "Atari", "good", ""}};
+        QVERIFY(writeStore(path(QStringLiteral("store.xml")), std::array{record}));
+        const QByteArray out = tessera({QStringLiteral("arguments"), QStringLiteral("--catalogue"),
+                                        path(QStringLiteral("store.xml")), QStringLiteral("--set"),
+                                        QStringLiteral("Replaymove=true"), QStringLiteral("--set"),
+                                        QStringLiteral("Recordfilepop=2"), QStringLiteral("pong")})
+                                   .out;
+        QVERIFY2(out.contains("-record\n\"ポン.inp\"\n"), out.constData());
+    }
+
+    void theOtherDialectHasItsOwnOptions()
+    {
+        const QByteArray out
+            = tessera({QStringLiteral("arguments"), QStringLiteral("--dialect"), QStringLiteral("osx")}).out;
+        QVERIFY(out.startsWith("-Cheat\n0\n-AutoSave\n0\n-SoundEnabled\n1\n"));
+    }
+
+    void anEmulatorTakesWhatItUnderstands()
+    {
+        write(QStringLiteral("usage.txt"),
+              "Usage:  mame [machine] [media] [software] [options]\n\nOptions:\n\n"
+              "-video               video output method\n-window              enable window mode\n"
+              "-rompath             path to ROM sets\n");
+        m_environment.insert(QStringLiteral("FAKE_USAGE"), path(QStringLiteral("usage.txt")));
+        const Outcome outcome = tessera({QStringLiteral("arguments"), QStringLiteral("--for"),
+                                         QStringLiteral(TESSERA_FAKEEMULATOR), QStringLiteral("pong")});
+        QCOMPARE(outcome.out, QByteArray("pong\n-video\nopengl\n-window\n"));
+        QVERIFY(outcome.err.contains("-multithreading") || outcome.err.contains("-nomultithreading"));
+    }
+
+    void launchGivesTheEmulatorsOutputAndStatus()
+    {
+        useStandIn();
+        Outcome outcome = tessera({QStringLiteral("launch"), QStringLiteral("exit3")});
+        QCOMPARE(outcome.status, 3);
+        QCOMPARE(outcome.out, QByteArray("leaving\n"));
+        outcome = tessera({QStringLiteral("launch"), QStringLiteral("both")});
+        QCOMPARE(outcome.out, QByteArray("out\nerr\n"));
+        outcome = tessera({QStringLiteral("launch"), QStringLiteral("print")});
+        QVERIFY(outcome.out.startsWith("[print]\n[-video]\n[opengl]\n"));
+    }
+
+    void launchSaysWhatCouldNotBeStarted()
+    {
+        UserDefaults settings(settingsPath());
+        settings.setValue(keys::ExecutionPath.name, QStringLiteral("/nowhere/mame"));
+        QVERIFY(settings.synchronize());
+        const Outcome outcome = tessera({QStringLiteral("launch"), QStringLiteral("pong")});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY(outcome.err.contains("/nowhere/mame"));
+    }
+
+private:
+    QString path(const QString& name) const { return m_folder->filePath(name); }
+    QString settingsPath() const { return path(QStringLiteral("XDG_CONFIG_HOME/Tessera/Tessera.ini")); }
+
+    void write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    void useStandIn() const
+    {
+        UserDefaults settings(settingsPath());
+        settings.setValue(keys::ExecutionPath.name, QStringLiteral(TESSERA_FAKEEMULATOR));
+        QVERIFY(settings.synchronize());
+    }
+
+    QByteArray listed(const QString& format = QStringLiteral("tsv")) const
+    {
+        return tessera({QStringLiteral("list"), QStringLiteral("--format"), format,
+                        QStringLiteral("--catalogue"), path(QStringLiteral("store.xml"))})
+            .out;
+    }
+
+    Outcome tessera(const QStringList& arguments) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.start(QStringLiteral(TESSERA_PROGRAM), arguments);
+        if (!process.waitForFinished())
+            return {};
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QProcessEnvironment m_environment;
+};
+
+TESSERA_TEST(VerbsTest);
+#include "verbstest.moc"
