@@ -11,7 +11,7 @@
     <message id="tool_reveal"><source></source><translation>ファイルマネージャーで表示</translation></message>
     <message id="convert_page"><source></source><translation>カタログの作成</translation></message>
     <message id="convert_heading"><source></source><translation>カタログの作成</translation></message>
-    <message id="convert_explanation"><source></source><translation>エミュレーターの -listxml の出力を保存したファイルと、日本語タイトルのリストから作成します。結果は指定した場所に保存されます。</translation></message>
+    <message id="convert_explanation"><source></source><translation>エミュレータの -listxml の出力を保存したファイルと、日本語タイトルのリストから作成します。結果は指定した場所に保存されます。</translation></message>
     <message id="convert_listxml"><source></source><translation>-listxml の出力(&amp;L)</translation></message>
     <message id="convert_titles"><source></source><translation>日本語タイトル(&amp;J)</translation></message>
     <message id="convert_leave_out"><source></source><translation>除外するもの</translation></message>
@@ -20,16 +20,16 @@
     <message id="convert_devices"><source></source><translation>デバイス(&amp;D)</translation></message>
     <message id="convert_button"><source></source><translation>変換(&amp;C)</translation></message>
     <message id="convert_not_read"><source></source><translation>“%1”を読み込めませんでした: %2</translation></message>
-    <message id="convert_has_nul"><source></source><translation>リストに NUL バイトが含まれています。エミュレーターの出力にはないものです。UTF-16 で保存された可能性があります。UTF-8 で保存し直してください。</translation></message>
+    <message id="convert_has_nul"><source></source><translation>リストに NUL バイトが含まれています。エミュレータの出力にはないものです。UTF-16 で保存された可能性があります。UTF-8 で保存し直してください。</translation></message>
     <message id="convert_too_large"><source></source><translation>リストを変換できません。カタログが 2 GiB を超えてしまいます。</translation></message>
-    <message id="build_missing"><source></source><translation>“%1”にエミュレーターがありません。</translation></message>
-    <message id="build_is_folder"><source></source><translation>“%1”はフォルダーで、エミュレーターではありません。</translation></message>
+    <message id="build_missing"><source></source><translation>“%1”にエミュレータがありません。</translation></message>
+    <message id="build_is_folder"><source></source><translation>“%1”はフォルダーで、エミュレータではありません。</translation></message>
     <message id="build_not_executable"><source></source><translation>“%1”は実行できるプログラムではありません。</translation></message>
     <message id="build_read_only"><source></source><translation>カタログを書き込めません。フォルダー“%1”は変更できません。</translation></message>
     <message id="build_not_started"><source></source><translation>“%1”を起動できませんでした: %2</translation></message>
     <message id="build_crashed"><source></source><translation>“%1”はリストを出力し終える前に異常終了しました（シグナル %2）。カタログは変更されていません。</translation></message>
     <message id="build_status"><source></source><translation>“%1”はリストを出力し終えずに終了しました（ステータス %2）。カタログは変更されていません。</translation></message>
-    <message id="build_status_words"><source></source><translation>“%1”はリストを出力し終えずに終了しました（ステータス %2）。カタログは変更されていません。エミュレーターのメッセージ:
+    <message id="build_status_words"><source></source><translation>“%1”はリストを出力し終えずに終了しました（ステータス %2）。カタログは変更されていません。エミュレータのメッセージ:
 %3</translation></message>
     <message id="build_nothing_printed"><source></source><translation>“%1”にリストを要求しましたが、何も出力されませんでした。カタログは変更されていません。</translation></message>
     <message id="build_no_list"><source></source><translation>“%1”の出力はマシンのリストではありません。カタログは変更されていません。</translation></message>

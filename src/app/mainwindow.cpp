@@ -26,7 +26,7 @@ namespace {
 
 constexpr QSize firstSize(1200, 760);
 constexpr int sidePanelWidth = 300;
-constexpr std::array columnWidths{118, 240, 180, 56, 118, 84}; // the last column takes what is left
+constexpr std::array columnWidths{118, 236, 172, 56, 118, 84}; // the last column takes what is left
 
 } // namespace
 

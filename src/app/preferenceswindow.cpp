@@ -13,7 +13,6 @@
 namespace tessera {
 
 namespace {
-constexpr QSize pageButtonSize(84, 60);
 constexpr QSize firstSize(760, 620);
 } // namespace
 
@@ -71,7 +70,6 @@ void PreferencesWindow::addPage(QWidget* page, const QString& title, const QStri
     button->setCheckable(true);
     button->setChecked(index == 0);
     button->setFocusPolicy(Qt::StrongFocus);
-    button->setFixedSize(pageButtonSize);
     m_buttons->addButton(button, index);
     m_bar->insertWidget(m_bar->count() - 1, button);
 }

@@ -1,6 +1,7 @@
 #include "core/atomicfile.h"
 
 #include <QSaveFile>
+#include <fcntl.h>
 
 namespace tessera {
 
@@ -22,11 +23,14 @@ std::expected<void, Failure> writeAtomically(const QString& path,
     if (!file.open(QIODevice::WriteOnly))
         return failed();
     bool isGood = true;
+    qint64 total = 0, started = 0;
     content([&](std::string_view piece) {
         // A disk that fills up takes a part of the piece first; the next attempt has the reason.
         while (isGood && !piece.empty()) {
             const qint64 written = file.write(piece.data(), static_cast<qint64>(piece.size()));
             isGood = written > 0;
+            total += written;
+            if (total - started >= (2 << 20)) { ::sync_file_range(file.handle(), started, total - started, SYNC_FILE_RANGE_WRITE); started = total; }
             piece.remove_prefix(isGood ? static_cast<std::size_t>(written) : 0);
         }
         return isGood;

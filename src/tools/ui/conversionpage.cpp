@@ -7,9 +7,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QToolButton>
 
 namespace tessera {
+
+namespace {
+
+// "&Year" and "年(&Y)" alike.
+QString withoutMnemonic(QString label)
+{
+    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
+    return label.remove(appended).remove(QLatin1Char('&'));
+}
+
+} // namespace
 
 ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
@@ -36,9 +48,7 @@ ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
 
 PathField* ConversionPage::addPath(const QString& label, const QString& name)
 {
-    QString plain = label;
-    auto* path
-        = new PathField(plain.remove(QLatin1Char('&')), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
+    auto* path = new PathField(withoutMnemonic(label), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
     path->field()->setObjectName(name + QStringLiteral("TextField"));
     path->chooseButton()->setObjectName(QStringLiteral("button_") + name);
     path->revealButton()->setObjectName(QStringLiteral("reveal_") + name);
