@@ -105,6 +105,7 @@ int showBare(QApplication& application, const QString& rowsFile)
             row << new QStandardItem(QString::fromUtf8(cell));
         model.appendRow(row);
     }
+    theme::applyStyleSheet(application);
     QTableView view;
     view.setAlternatingRowColors(true);
     view.setShowGrid(false);

@@ -40,7 +40,7 @@
     <message id="preferences_title"><source></source><translation>Preferences</translation></message>
     <message id="preferences_reset"><source></source><translation>Reset all settings</translation></message>
     <message id="preferences_ini"><source></source><translation>All settings are back at their initial values. Chosen files and folders were kept.</translation></message>
-    <message id="empty_catalogue"><source></source><translation>There is no catalogue yet. Build it from the MAME on this computer: it lists every machine that it knows.</translation></message>
+    <message id="empty_catalogue"><source></source><translation>The catalogue holds no machine. Build it from the MAME on this computer: it lists every machine that it knows.</translation></message>
     <message id="rebuild_from_mame"><source></source><translation>Build from MAME…</translation></message>
     <message id="rebuild_button"><source></source><translation>Rebuild</translation></message>
     <message id="rebuild_cancel"><source></source><translation>Cancel</translation></message>
@@ -61,5 +61,6 @@
     <message id="failure_exec"><source></source><translation>“%1” could not be started: %2.</translation></message>
     <message id="rebuild_offer"><source></source><translation>Tessera can ask the MAME on this computer for every machine that it knows, and build the catalogue from that.</translation></message>
     <message id="empty_rebuilding"><source></source><translation>The machines appear here as soon as the catalogue is complete.</translation></message>
+    <message id="menu_logfront"><source></source><translation>Bring Log to &amp;Front</translation></message>
 </context>
 </TS>

@@ -40,7 +40,7 @@
     <message id="preferences_title"><source></source><translation>環境設定</translation></message>
     <message id="preferences_reset"><source></source><translation>すべての設定を初期値に戻す</translation></message>
     <message id="preferences_ini"><source></source><translation>すべての設定を初期値に戻しました。選択したファイルとフォルダはそのままです。</translation></message>
-    <message id="empty_catalogue"><source></source><translation>カタログがまだありません。このコンピュータの MAME から作成すると、MAME が知っているすべてのマシンが並びます。</translation></message>
+    <message id="empty_catalogue"><source></source><translation>カタログにマシンがありません。このコンピュータの MAME から作成すると、MAME が知っているすべてのマシンが並びます。</translation></message>
     <message id="rebuild_from_mame"><source></source><translation>MAME から作成…</translation></message>
     <message id="rebuild_button"><source></source><translation>再作成</translation></message>
     <message id="rebuild_cancel"><source></source><translation>キャンセル</translation></message>
@@ -61,5 +61,6 @@
     <message id="failure_exec"><source></source><translation>“%1”を起動できませんでした: %2</translation></message>
     <message id="rebuild_offer"><source></source><translation>このコンピュータの MAME に、知っているすべてのマシンを問い合わせて、カタログを作成できます。</translation></message>
     <message id="empty_rebuilding"><source></source><translation>カタログができあがると、ここにマシンが並びます。</translation></message>
+    <message id="menu_logfront"><source></source><translation>ログを最前面に(&amp;F)</translation></message>
 </context>
 </TS>

@@ -34,5 +34,6 @@
     <message id="build_nothing_printed"><source></source><translation>“%1”にリストを要求しましたが、何も出力されませんでした。カタログは変更されていません。</translation></message>
     <message id="build_no_list"><source></source><translation>“%1”の出力はマシンのリストではありません。カタログは変更されていません。</translation></message>
     <message id="build_cut_off"><source></source><translation>“%1”の出力したリストは途中で切れています。カタログは変更されていません。</translation></message>
+    <message id="build_unreadable"><source></source><translation>“%1”の一覧は、カタログにできない形式です。</translation></message>
 </context>
 </TS>

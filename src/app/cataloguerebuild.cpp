@@ -6,7 +6,7 @@
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "tools/cataloguebuild.h"
-#include "tools/keptcopy.h"
+#include "core/keptcopy.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -56,14 +56,17 @@ void CatalogueRebuild::rebuild()
 bool CatalogueRebuild::mayReplace()
 {
     const QString builtFrom = m_defaults.text(keys::BuiltFrom);
+    const bool isSame
+        = !m_catalogue.records().empty() && !builtFrom.isEmpty() && builtFrom == identityText(m_emulator());
     Alert alert;
     alert.style = Alert::Style::Warning;
     alert.buttons = {qtTrId("rebuild_button"), qtTrId("cancel")};
     if (m_catalogue.hasChanges()) {
         alert.message = qtTrId("rebuild_unsaved_message");
         alert.informative = qtTrId("rebuild_unsaved_info");
-    } else if (!m_catalogue.records().empty() && !builtFrom.isEmpty()
-               && builtFrom == identityText(m_emulator())) {
+        if (isSame)
+            alert.informative += QLatin1Char('\n') + qtTrId("rebuild_same_info");
+    } else if (isSame) {
         alert.message = qtTrId("rebuild_same_message");
         alert.informative = qtTrId("rebuild_same_info");
     } else {

@@ -9,6 +9,10 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
 namespace {
 
 // Japanese where the user's language is Japanese, English elsewhere.
@@ -43,7 +47,12 @@ int runVerb(const tessera::Verb& verb, int argc, char* argv[])
     QCoreApplication application(argc, argv);
     QTranslator texts;
     installTexts(texts);
-    return verb.run(verb, application.arguments().mid(1));
+    const int status = verb.run(verb, application.arguments().mid(1));
+    // What was printed may still wait in a buffer for a disk that is full.
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    return tessera::failed(tessera::Failure{
+        "failure_write", {QStringLiteral("stdout"), QString::fromLocal8Bit(std::strerror(errno))}});
 }
 
 } // namespace

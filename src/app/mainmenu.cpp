@@ -53,6 +53,7 @@ constexpr std::array rows{
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
     MenuRow{window,   textKey("menu_log"),         "Ctrl+L",       &Hub::showLogWindow},
+    MenuRow{window,   textKey("menu_logfront"),    nullptr,        &Hub::windowLog},
 };
 // clang-format on
 

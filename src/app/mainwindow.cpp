@@ -213,6 +213,7 @@ void MainWindow::restore()
         gameTable->setColumnWidth(static_cast<int>(i), columnWidths[i]);
     if (const auto columns = stored.value(keys::MainWindowColumns.name))
         gameTable->horizontalHeader()->restoreState(columns->toByteArray());
+    gameTable->setFocus();
 }
 
 void MainWindow::remember()

@@ -18,6 +18,7 @@ RebuildStrip::RebuildStrip(QWidget* parent)
     setObjectName(QStringLiteral("rebuildStrip"));
     setProperty("role", QStringLiteral("toolbar"));
     setAttribute(Qt::WA_StyledBackground);
+    m_text->setTextFormat(Qt::PlainText);
     m_count->setProperty("role", QStringLiteral("dim"));
     m_count->setObjectName(QStringLiteral("rebuildCount"));
     m_progress->setRange(0, 0);

@@ -24,6 +24,7 @@
 #include "platform/recentdocuments.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/theme.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -35,6 +36,19 @@
 #include <QToolButton>
 
 namespace tessera {
+
+namespace {
+
+// As the key window; a minimised one comes back.
+void bringForward(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
 
 Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
                                          const QString& cataloguePath)
@@ -96,6 +110,7 @@ void Tessera_AppDelegate::loadInterface()
         [this] { m_chooser->exeSelect(); });
     joinRooms();
     fillMainMenu(*m_mainWindow->menuBar(), *this);
+    theme::applyStyleSheet(*qApp);
     openCatalogue();
 }
 
@@ -112,7 +127,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_launch.get(), &LaunchController::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_launch.get(), &LaunchController::runningChanged, m_mainWindow.get(), &MainWindow::setRunning);
     connect(m_chooser.get(), &PathChooser::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_chooser.get(), &PathChooser::chosen, this, &Tessera_AppDelegate::showEmulator);
+    connect(&m_defaults, &DefaultsController::changed, this, &Tessera_AppDelegate::settingChanged);
     connect(m_chooser.get(), &PathChooser::chosen, m_launch.get(), &LaunchController::prepareProfile);
     connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
@@ -132,8 +147,6 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_mainWindow->rebuildButton, &QPushButton::clicked, this, &Tessera_AppDelegate::rebuildCatalogue);
     connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
             &Tessera_AppDelegate::DefaultAction);
-    connect(m_pages->general().launchusingPop, &QComboBox::activated, m_launch.get(),
-            &LaunchController::LaunchemuPopAction);
     connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
 }
 
@@ -197,6 +210,12 @@ void Tessera_AppDelegate::showCount()
     m_mainWindow->showCount(m_gameList->list().size(), m_catalogue.records().size());
 }
 
+void Tessera_AppDelegate::settingChanged(const QString& name)
+{
+    if (name.isEmpty() || name == keys::ExecutionPath.name)
+        showEmulator();
+}
+
 void Tessera_AppDelegate::showEmulator()
 {
     const QString emulator = emulatorToUse(m_defaults.text(keys::ExecutionPath));
@@ -213,12 +232,14 @@ void Tessera_AppDelegate::saveAction()
 
 void Tessera_AppDelegate::undo()
 {
-    m_catalogue.undoStack().undo();
+    if (!m_rebuild->isRunning())
+        m_catalogue.undoStack().undo();
 }
 
 void Tessera_AppDelegate::redo()
 {
-    m_catalogue.undoStack().redo();
+    if (!m_rebuild->isRunning())
+        m_catalogue.undoStack().redo();
 }
 
 void Tessera_AppDelegate::editCell()
@@ -234,6 +255,7 @@ void Tessera_AppDelegate::openROMfile()
 
 void Tessera_AppDelegate::rebuildCatalogue()
 {
+    m_gameList->commitEditing();
     m_rebuild->rebuild();
 }
 
@@ -265,14 +287,17 @@ void Tessera_AppDelegate::saveLogAction()
 void Tessera_AppDelegate::windowMain()
 {
     m_gameList->tableViewSelectionDidChange();
-    m_mainWindow->show();
-    m_mainWindow->raise();
-    m_mainWindow->activateWindow();
+    bringForward(*m_mainWindow);
 }
 
 void Tessera_AppDelegate::showLogWindow()
 {
     m_launch->showLogWindow();
+}
+
+void Tessera_AppDelegate::windowLog()
+{
+    m_launch->windowLog();
 }
 
 void Tessera_AppDelegate::showPrefsWindow()
@@ -281,9 +306,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
-    m_preferencesWindow->show();
-    m_preferencesWindow->raise();
-    m_preferencesWindow->activateWindow();
+    bringForward(*m_preferencesWindow);
 }
 
 void Tessera_AppDelegate::utilityOrderFront()
@@ -313,7 +336,8 @@ void Tessera_AppDelegate::terminate()
     if (!applicationShouldTerminate())
         return;
     applicationWillTerminate();
-    QCoreApplication::quit();
+    // Not quit(): that would close the windows, which ask for the end of the program again.
+    QCoreApplication::exit(0);
 }
 
 bool Tessera_AppDelegate::applicationShouldTerminate()

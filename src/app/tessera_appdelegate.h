@@ -71,6 +71,7 @@ public Q_SLOTS:
     void saveLogAction();
     void windowMain();
     void showLogWindow();
+    void windowLog();
     void showPrefsWindow();
     void utilityOrderFront();
     void DefaultAction();
@@ -92,6 +93,7 @@ private:
     void showSelection();
     void showCount();
     void showEmulator();
+    void settingChanged(const QString& name);
     bool saveBeforeQuitting();
 
     Desktop& m_desktop;

@@ -34,6 +34,12 @@ std::optional<QString> set(UserDefaults& settings, const QString& assignment)
             if (!on && value != QStringLiteral("false") && value != QStringLiteral("0"))
                 return QStringLiteral("%1 is true or false, not \"%2\".").arg(key, value);
             settings.setValue(row.name, on);
+        } else if (std::holds_alternative<float>(row.value)) {
+            bool isNumber = false;
+            const float number = value.toFloat(&isNumber);
+            if (!isNumber || !(number > -1e6F && number < 1e6F))
+                return QStringLiteral("%1 is a number, not \"%2\".").arg(key, value);
+            settings.setValue(row.name, double{number});
         } else {
             settings.setValue(row.name, value);
         }
@@ -87,6 +93,8 @@ int runArguments(const Verb& verb, const QStringList& arguments)
 
     // Settings given here are tried on a copy: nothing of the user's changes.
     QTemporaryDir copy;
+    if (!copy.isValid())
+        return failed(Failure{"failure_write", {QDir::tempPath(), copy.errorString()}});
     const QString copiedSettings = copy.filePath(QStringLiteral("Tessera.ini"));
     QFile::copy(UserDefaults::standardPath(), copiedSettings);
     UserDefaults settings(copiedSettings);

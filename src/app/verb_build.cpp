@@ -5,7 +5,7 @@
 #include "platform/userdefaults.h"
 #include "tools/cataloguebuild.h"
 #include "tools/conversion.h"
-#include "tools/keptcopy.h"
+#include "core/keptcopy.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -36,11 +36,14 @@ int build(const QString& emulator, const QString& output, const QString& titles,
     CatalogueBuild job;
     int status = Failed;
     const bool terminal = isatty(STDERR_FILENO) == 1;
-    if (terminal)
+    if (terminal) {
+        std::fprintf(stderr, "Asking %s for its list of machines; Ctrl+C leaves the catalogue as it is.\n",
+                     qUtf8Printable(emulator));
         QObject::connect(&job, &CatalogueBuild::progress, &job, &showProgress);
+    }
     const auto end = [&] {
         if (terminal)
-            std::fputc('\n', stderr);
+            std::fputs("\r\033[K", stderr);
         QCoreApplication::quit();
     };
     QObject::connect(&job, &CatalogueBuild::finished, &job, [&](int machines) {
@@ -72,6 +75,8 @@ int runBuild(const Verb& verb, const QStringList& arguments)
 
     UserDefaults settings(UserDefaults::standardPath());
     const QString given = parser.value(emulatorOption);
+    if (parser.isSet(emulatorOption) && given.isEmpty())
+        return badCommandLine(verb, QStringLiteral("The emulator has no path."));
     const QString emulator = given.isEmpty() ? emulatorToUse(settings.string(keys::ExecutionPath.name))
                                              : QFileInfo(given).absoluteFilePath();
     if (emulator.isEmpty())

@@ -4,12 +4,14 @@
 #include "launch/argumentsarray.h"
 #include "launch/commandline.h"
 #include "launch/emulatorfinder.h"
+#include "launch/emulatoridentity.h"
 #include "launch/profilecache.h"
 #include "launch/storedoptions.h"
 #include "platform/defaultscontroller.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QProcessEnvironment>
 
 #include <cerrno>
 #include <cstdio>
@@ -34,11 +36,19 @@ Failure become(const QString& executable, const QStringList& arguments)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
 
+    std::vector<QByteArray> environment;
+    for (const QString& variable : emulatorEnvironment().toStringList())
+        environment.push_back(variable.toLocal8Bit());
+    std::vector<char*> variables;
+    for (QByteArray& variable : environment)
+        variables.push_back(variable.data());
+    variables.push_back(nullptr);
+
     std::fflush(stdout);
     const QByteArray folder = QFile::encodeName(QFileInfo(executable).absolutePath());
     const int ownStderr = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
     if (dup2(STDOUT_FILENO, STDERR_FILENO) >= 0 && chdir(folder.constData()) == 0)
-        execv(program.constData(), pointers.data());
+        execve(program.constData(), pointers.data(), variables.data());
     const auto failure = Failure{"failure_exec", {executable, QString::fromLocal8Bit(std::strerror(errno))}};
     dup2(ownStderr, STDERR_FILENO);
     return failure;
@@ -52,6 +62,8 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
     if (const auto status = parseVerb(verb, parser, arguments, 1, 1))
         return *status;
     const QString given = parser.positionalArguments().constFirst();
+    if (given.isEmpty())
+        return badCommandLine(verb, QStringLiteral("The game has no name."));
     const QString game = given.contains(QLatin1Char('/')) ? QFileInfo(given).absoluteFilePath() : given;
 
     UserDefaults settings(UserDefaults::standardPath());

@@ -2,7 +2,9 @@
 
 #include "catalogue/storereader.h"
 #include "catalogue/storewriter.h"
+#include "core/keptcopy.h"
 
+#include <QDateTime>
 #include <QUndoCommand>
 
 namespace tessera {
@@ -40,6 +42,7 @@ Catalogue::Catalogue(QString path, QObject* parent)
 
 std::expected<void, Failure> Catalogue::open()
 {
+    m_state = FileState::of(m_path);
     auto store = readStore(m_path);
     m_read = store.has_value();
     // The commands hold views of the old arena.
@@ -73,8 +76,14 @@ std::expected<void, Failure> Catalogue::save()
 {
     if (!m_read)
         return std::unexpected(Failure{"failure_store_unread", {m_path}});
+    // Another program's newer store is not lost under ours: it stays under a dated name.
+    if (FileState::of(m_path) != m_state) {
+        if (auto kept = keepAs(m_path, datedName(m_path, QDateTime::currentDateTime())); !kept)
+            return std::unexpected(kept.error());
+    }
     if (auto written = writeStore(m_path, m_records); !written)
         return written;
+    m_state = FileState::of(m_path);
     m_undo.setClean();
     return {};
 }

@@ -3,6 +3,7 @@
 #include "catalogue/gamerecord.h"
 #include "catalogue/textarena.h"
 #include "core/failure.h"
+#include "core/filestate.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -33,6 +34,7 @@ public:
     void setValue(std::uint32_t record, Field field, const QString& text);
 
     bool hasChanges() const;
+    /// A file that somebody else has written since is kept under a dated name.
     std::expected<void, Failure> save();
 
     QUndoStack& undoStack() { return m_undo; }
@@ -50,6 +52,7 @@ private:
     TextArena m_arena;
     std::vector<GameRecord> m_records;
     QUndoStack m_undo;
+    FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
 };
 

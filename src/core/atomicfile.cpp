@@ -1,7 +1,7 @@
 #include "core/atomicfile.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
-#include <fcntl.h>
 
 namespace tessera {
 
@@ -18,19 +18,20 @@ std::expected<void, Failure> writeAtomically(const QString& path, std::span<cons
 std::expected<void, Failure> writeAtomically(const QString& path,
                                              const std::function<void(const ContentSink&)>& content)
 {
+    // A pipe or a device would be replaced by a file.
+    const QFileInfo present(path);
+    if (present.exists() && !present.isFile())
+        return std::unexpected(Failure{"failure_write", {path, QStringLiteral("not a regular file")}});
     QSaveFile file(path);
     const auto failed = [&] { return std::unexpected(Failure{"failure_write", {path, file.errorString()}}); };
     if (!file.open(QIODevice::WriteOnly))
         return failed();
     bool isGood = true;
-    qint64 total = 0, started = 0;
     content([&](std::string_view piece) {
         // A disk that fills up takes a part of the piece first; the next attempt has the reason.
         while (isGood && !piece.empty()) {
             const qint64 written = file.write(piece.data(), static_cast<qint64>(piece.size()));
             isGood = written > 0;
-            total += written;
-            if (total - started >= (2 << 20)) { ::sync_file_range(file.handle(), started, total - started, SYNC_FILE_RANGE_WRITE); started = total; }
             piece.remove_prefix(isGood ? static_cast<std::size_t>(written) : 0);
         }
         return isGood;

@@ -4,13 +4,21 @@
 
 namespace tessera {
 
+// In one pass: an argument from outside may hold "%1" itself.
 QString Failure::text() const
 {
-    QString sentence = qtTrId(key);
-    // Filled from the last placeholder to the first: an argument from outside may hold "%1" itself.
-    for (qsizetype i = arguments.size(); i > 0; --i)
-        sentence.replace(QLatin1Char('%') + QString::number(i), arguments[i - 1]);
-    return sentence;
+    const QString sentence = qtTrId(key);
+    QString filled;
+    for (qsizetype i = 0; i < sentence.size(); ++i) {
+        const int place = sentence[i] == QLatin1Char('%') ? sentence.mid(i + 1, 1).toInt() : 0;
+        if (place >= 1 && place <= arguments.size()) {
+            filled += arguments[place - 1];
+            ++i;
+        } else {
+            filled += sentence[i];
+        }
+    }
+    return filled;
 }
 
 } // namespace tessera

@@ -123,6 +123,11 @@ ProfileAnswer ProfileCache::keep(const std::optional<EmulatorIdentity>& identity
     // One that could not be started was not asked.
     if (!usage || !identity)
         return {};
+    const ProfileAnswer answer{EmulatorProfile::fromUsage(*usage)};
+    m_known[identity->text()] = answer;
+    // A program that crashed or was too slow is asked again in the next run.
+    if (!question.isAnsweredForGood())
+        return answer;
     QDir().mkpath(m_folder);
     const QByteArray first = head(*identity, *usage);
     const std::array<std::string_view, 2> pieces{
@@ -130,7 +135,7 @@ ProfileAnswer ProfileCache::keep(const std::optional<EmulatorIdentity>& identity
         std::string_view(usage->constData(), static_cast<std::size_t>(usage->size()))};
     // Where the answer cannot be written it is kept for this run.
     (void)writeAtomically(fileFor(*identity), pieces);
-    return m_known[identity->text()] = ProfileAnswer{EmulatorProfile::fromUsage(*usage)};
+    return answer;
 }
 
 } // namespace tessera

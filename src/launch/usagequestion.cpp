@@ -30,8 +30,10 @@ UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
             settle(std::nullopt);
     });
     // The status is of no interest: some programs end with an error after a good text.
-    connect(&m_process, &QProcess::finished, this, [this] {
+    connect(&m_process, &QProcess::finished, this, [this](int, QProcess::ExitStatus how) {
         read();
+        if (!m_settled)
+            m_isAnsweredForGood = how == QProcess::NormalExit;
         settle(m_text);
     });
 }
@@ -64,8 +66,10 @@ void UsageQuestion::read()
     if (m_settled)
         return;
     m_text += m_process.readAllStandardOutput();
-    if (m_text.size() > outputLimit)
+    if (m_text.size() > outputLimit) {
+        m_isAnsweredForGood = true;
         giveUp();
+    }
 }
 
 void UsageQuestion::giveUp()

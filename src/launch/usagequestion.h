@@ -25,6 +25,8 @@ public:
 
     /// What it printed: nothing where it could not be started, empty where it gave no whole answer.
     std::optional<QByteArray> answer() const { return m_answer; }
+    /// False where the program was ended before it had finished: it may answer another time.
+    bool isAnsweredForGood() const { return m_isAnsweredForGood; }
 
 Q_SIGNALS:
     void answered();
@@ -39,6 +41,7 @@ private:
     QByteArray m_text;
     std::optional<QByteArray> m_answer;
     bool m_settled = false;
+    bool m_isAnsweredForGood = false;
 };
 
 } // namespace tessera

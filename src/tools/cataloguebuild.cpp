@@ -1,8 +1,9 @@
 #include "tools/cataloguebuild.h"
 
+#include "catalogue/storereader.h"
 #include "launch/emulatoridentity.h"
 #include "tools/conversion.h"
-#include "tools/keptcopy.h"
+#include "core/keptcopy.h"
 #include "tools/titletable.h"
 
 #include <QDir>
@@ -13,7 +14,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include <csignal>
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace tessera {
@@ -31,6 +34,8 @@ CatalogueBuild::CatalogueBuild(QObject* parent)
 {
     m_process.setProcessEnvironment(emulatorEnvironment());
     m_process.setStandardInputFile(QProcess::nullDevice());
+    // An emulator does not go on by itself when we are killed.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &CatalogueBuild::read);
     connect(&m_process, &QProcess::readyReadStandardError, this, &CatalogueBuild::readErrors);
     connect(&m_process, &QProcess::finished, this, &CatalogueBuild::conclude);
@@ -171,6 +176,9 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
         return std::unexpected(Failure{"build_no_list", {m_emulator}});
     if (!list->isWhole)
         return std::unexpected(Failure{"build_cut_off", {m_emulator}});
+    // What was copied as it stands can break the store's own text.
+    if (const auto readBack = readStoreText(list->text.joined(), m_output); !readBack)
+        return std::unexpected(Failure{"build_unreadable", {m_emulator}});
     if (const auto replaced = replace(*list); !replaced)
         return std::unexpected(replaced.error());
     return static_cast<int>(list->games);

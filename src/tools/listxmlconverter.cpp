@@ -13,8 +13,10 @@ namespace tessera {
 
 namespace {
 
-// Neither a store nor a single element may be larger.
+// Nothing that is converted may be larger than positions of 32 bits reach.
 constexpr std::size_t sizeLimit = (std::size_t{1} << 31) - 1;
+// The largest element of a real list has about 2 MB: one that does not end is none.
+constexpr std::size_t elementLimit = std::size_t{64} << 20;
 
 constexpr std::string_view unknown = "????";
 constexpr std::size_t lastBytesKept = 256;
@@ -51,7 +53,7 @@ std::expected<void, Failure> ListxmlConverter::extend(std::size_t count)
     m_lastBytes.erase(0, m_lastBytes.size() - std::min(m_lastBytes.size(), lastBytesKept));
     if (!m_restStarts.empty())
         m_rest += piece;
-    if (std::max(held.size(), m_rest.size()) > sizeLimit)
+    if (held.size() > elementLimit || m_rest.size() > sizeLimit)
         return std::unexpected(tooLarge());
     return convertElements();
 }
@@ -145,8 +147,11 @@ bool ListxmlConverter::endsWithEndTag() const
 {
     const std::size_t last = m_lastBytes.find_last_not_of(" \t\r\n");
     const std::size_t tag = m_lastBytes.rfind('<');
-    return last != std::string::npos && m_lastBytes[last] == '>' && tag != std::string::npos
-        && m_lastBytes[tag + 1] == '/';
+    if (last == std::string::npos || m_lastBytes[last] != '>' || tag == std::string::npos)
+        return false;
+    // An element's own end tag is not yet the list's.
+    const std::string_view end = std::string_view(m_lastBytes).substr(tag, last + 1 - tag);
+    return end.starts_with("</") && end != "</machine>" && end != "</game>";
 }
 
 std::expected<ConvertedList, Failure> ListxmlConverter::finish()

@@ -9,6 +9,7 @@ namespace tessera {
 namespace {
 
 constexpr std::size_t page = 4096;
+constexpr std::size_t largeElement = 1 << 20;
 
 constexpr std::size_t roundUp(std::size_t size)
 {
@@ -27,6 +28,10 @@ void SlidingWindow::drop(std::size_t count)
 // same place, which stays in the processor's cache.
 std::span<char> SlidingWindow::room(std::size_t count)
 {
+    // A large element is not moved again and again while it grows.
+    const std::size_t filled = m_start + m_size;
+    if (m_size >= largeElement && filled + count <= m_capacity)
+        return {m_bytes.get() + filled, m_capacity - filled};
     const std::size_t end = roundUp(m_size);
     const std::size_t start = end - m_size;
     if (end + count > m_capacity) {

@@ -138,7 +138,12 @@ void apply(QApplication& application)
     font.setPixelSize(13);
     application.setFont(font);
     application.setPalette(palette());
-    application.setStyleSheet(styleSheet());
+}
+
+void applyStyleSheet(QApplication& application)
+{
+    if (application.styleSheet().isEmpty())
+        application.setStyleSheet(styleSheet());
 }
 
 } // namespace tessera::theme

@@ -10,8 +10,12 @@ class QApplication;
 /// "status").
 namespace tessera::theme {
 
-/// Gives the whole program its palette, font families and style sheet.
+/// Gives the whole program its style, palette and font families; before the first widget.
 void apply(QApplication& application);
+
+/// Gives the whole program its style sheet, once; after the windows are put together and before one is shown.
+/// Each widget that moves to another parent under a style sheet costs a full polish of everything in it.
+void applyStyleSheet(QApplication& application);
 
 QColor color(const char* token);
 

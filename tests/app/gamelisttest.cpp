@@ -58,6 +58,25 @@ private Q_SLOTS:
         QCOMPARE(names().constFirst(), QStringLiteral("1943"));
     }
 
+    void sortingKeepsTheSelection()
+    {
+        QVERIFY(m_list->selectGame(QStringLiteral("qix")));
+        m_table->sortByColumn(3, Qt::DescendingOrder);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("qix"));
+        QCOMPARE(m_list->selectedCount(), 1);
+    }
+
+    void anAbsentValueIsShownAsNothing()
+    {
+        m_staged->writeStore("<database><object type=\"MAME\" id=\"z102\"><attribute name=\"name\" "
+                             "type=\"string\">bare</attribute></object></database>");
+        QVERIFY(m_staged->app->catalogue().open());
+        QVERIFY(m_list->selectGame(QStringLiteral("bare")));
+        QCOMPARE(m_list->tableViewSelectionTitleE(), QStringLiteral("(null)"));
+        QVERIFY(!shownTexts().contains(QStringLiteral("(null)")));
+        QVERIFY(shownTexts().contains(QStringLiteral("bare")));
+    }
+
     void readersAreEmptyWithoutASelection()
     {
         m_table->clearSelection();
@@ -116,7 +135,9 @@ private Q_SLOTS:
             m_table->clearSelection();
         else
             QVERIFY(m_list->selectGame(game));
-        QCOMPARE(m_staged->app->mainWindow().factsPanel->romMark->property("mark").toString(), mark);
+        const QLabel* shown = m_staged->app->mainWindow().factsPanel->romMark;
+        QCOMPARE(shown->property("mark").toString(), mark);
+        QVERIFY(shown->isVisible());
     }
 
     void lookupsKeepTheOrderOfTheQuestionAndLogWhatIsMissing()
@@ -163,6 +184,11 @@ private Q_SLOTS:
         const OpenRequest& request = m_staged->desktop.openRequests.back();
         QVERIFY(request.files && !request.folders);
         QCOMPARE(request.extensions, QStringList{QStringLiteral("zip")});
+
+        m_staged->desktop.answerOpen(QStringLiteral("/roms/qix.zip"));
+        m_list->openROMfile();
+        QCOMPARE(launches.count(), 1);
+        QCOMPARE(launches.at(0).at(0).toString(), QStringLiteral("/roms/qix.zip"));
     }
 
     void anEditIsUndone()

@@ -99,6 +99,7 @@ private Q_SLOTS:
         QVERIFY(staged.app->launcher().isRunning());
         staged.desktop.answerAlert(QString(), 0);
         QVERIFY(staged.app->applicationShouldTerminate());
+        staged.app->applicationWillTerminate();
         QVERIFY(!staged.app->launcher().isRunning());
         QCOMPARE(staged.desktop.alerts.size(), std::size_t(2));
     }

@@ -6,8 +6,11 @@
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
+#include <QAction>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace tessera;
 using test::StagedApp;
@@ -108,7 +111,48 @@ private Q_SLOTS:
         staged.start();
         staged.defaults.setValue(keys::Movierecord.name, true);
         QVERIFY(staged.app->applicationShouldTerminate());
-        QCOMPARE(UserDefaults(staged.settingsPath()).flag(keys::Movierecord.name), false);
+        QFile file(staged.settingsPath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(file.readAll().contains("Movierecord=false"));
+    }
+
+    void theMenuCommandAsksOnce()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Lost"));
+        QFile::remove(staged.storePath());
+        QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
+        staged.desktop.answerError(QStringLiteral("failure_write"));
+        staged.desktop.answerAlert(QStringLiteral("Could not save"), 0);
+        auto* quit = staged.app->mainWindow().menuBar()->findChild<QAction*>(QStringLiteral("menu_quit"));
+        QVERIFY(quit != nullptr);
+        QTimer::singleShot(0, quit, &QAction::trigger);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QCOMPARE(staged.desktop.alerts.size(), std::size_t(1));
+    }
+
+    void aStoreThatSomebodyElseWroteIsKept()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Ours"));
+        QFile::remove(staged.storePath());
+        staged.writeStore("somebody else's newer store");
+        staged.app->saveAction();
+        QVERIFY(staged.store().contains("Ours"));
+        const QDir folder(staged.path(QStringLiteral("data")));
+        const QStringList kept = folder.entryList({QStringLiteral("Tessera *.xml")});
+        QCOMPARE(kept.size(), 1);
+        QFile file(folder.filePath(kept.constFirst()));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("somebody else's newer store"));
+        // Our own file is not a reason to keep another.
+        editFirstTitle(staged, QStringLiteral("Again"));
+        staged.app->saveAction();
+        QCOMPARE(folder.entryList({QStringLiteral("Tessera *.xml")}).size(), 1);
     }
 
     void closingTheMainWindowIsARequestToQuit()

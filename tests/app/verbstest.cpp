@@ -60,6 +60,7 @@ private Q_SLOTS:
         row("--set without a value", QStringLiteral("arguments --set Maximize"));
         row("an unknown setting", QStringLiteral("arguments --set Nonsense=1"));
         row("a flag that is none", QStringLiteral("arguments --set Maximize=perhaps"));
+        row("a number that is none", QStringLiteral("arguments --set Videodriver=abc"));
         row("launch without a game", QStringLiteral("launch"));
         row("an unknown option for the windows", QStringLiteral("--nonsense"));
     }
@@ -72,6 +73,17 @@ private Q_SLOTS:
         QCOMPARE(outcome.status, 2);
         QVERIFY(outcome.out.isEmpty());
         QVERIFY(outcome.err.contains("Usage:"));
+    }
+
+    void aFullOutputIsAFailure()
+    {
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(QStringLiteral(TESSERA_PROGRAM), {QStringLiteral("arguments")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 1);
+        QVERIFY(process.readAllStandardError().contains("stdout"));
     }
 
     void everyVerbHasHelp_data()

@@ -97,6 +97,12 @@ private Q_SLOTS:
         QCOMPARE(content(m_path), QByteArray("old"));
     }
 
+    void aDeviceIsNotReplacedByAFile()
+    {
+        QVERIFY(!writeAtomically(QStringLiteral("/dev/null"), std::array<std::string_view, 1>{"x"}));
+        QVERIFY(!QFileInfo(QStringLiteral("/dev/null")).isFile());
+    }
+
     void aFolderOfThatNameIsAFailure()
     {
         QVERIFY(QDir().mkpath(m_path));

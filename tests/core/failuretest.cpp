@@ -39,6 +39,8 @@ private Q_SLOTS:
         QCoreApplication::installTranslator(&texts);
         QCOMPARE((Failure{"key", {QStringLiteral("100%2"), QStringLiteral("two")}}.text()),
                  QStringLiteral("two after 100%2"));
+        QCOMPARE((Failure{"key", {QStringLiteral("one"), QStringLiteral("%1%")}}.text()),
+                 QStringLiteral("%1% after one"));
     }
 };
 

@@ -414,7 +414,9 @@ private Q_SLOTS:
         QVERIFY(room.controller->isRunning());
         room.desktop.answerAlert("launch_quitmessage", 0);
         QVERIFY(room.controller->confirmQuit());
-        QVERIFY(!room.controller->isRunning());
+        // What is asked after us may still keep the program running.
+        QVERIFY(room.controller->isRunning());
+        room.controller->stopProcess();
         QVERIFY(room.controller->confirmQuit());
         QCOMPARE(room.desktop.transcript(),
                  QStringList({"beep", "alert launch_quitmessage", "beep", "alert launch_quitmessage"}));

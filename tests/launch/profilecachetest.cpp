@@ -121,6 +121,19 @@ private Q_SLOTS:
         QCOMPARE(timesAsked(), 1);
     }
 
+    void aCrashIsNoAnswerForGood()
+    {
+        QFile script(m_folder->filePath("crashing"));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\nkill -SEGV $$\n");
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner));
+        ProfileCache cache(m_cache);
+        QVERIFY(!cache.ask(script.fileName()).profile);
+        QVERIFY(cache.remembered(script.fileName()));
+        QVERIFY(!ProfileCache(m_cache).remembered(script.fileName()));
+    }
+
     void aDamagedFileIsAskedAgain_data()
     {
         QTest::addColumn<int>("damage");

@@ -2,6 +2,7 @@
 
 #include "support/testmain.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -65,7 +66,10 @@ private Q_SLOTS:
         m_controller->setText(keys::RomsPath, QStringLiteral("/a b/ロム, \"x\";%20"));
         QVERIFY(m_defaults->synchronize());
 
-        UserDefaults again(path());
+        // Another path, since settings of one path share what they hold in memory.
+        const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+        QVERIFY(QFile::copy(path(), copy));
+        UserDefaults again(copy);
         DefaultsController controller(again);
         controller.setInitialValues(QString(), QString());
         QCOMPARE(controller.flag(keys::Maximize), true);
@@ -98,7 +102,9 @@ private Q_SLOTS:
         QCOMPARE(m_controller->index(keys::Displayrotation), 1);
         QCOMPARE(m_controller->index(keys::Soundsmplerate), 3);
         QCOMPARE(m_controller->flag(keys::verifyromsButton_isbad), true);
-        UserDefaults onDisk(path());
+        const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+        QVERIFY(QFile::copy(path(), copy));
+        UserDefaults onDisk(copy);
         for (const InitialSetting& row : initialSettings)
             QVERIFY2(onDisk.string(row.name) != QStringLiteral("7"), row.name.data());
         QCOMPARE(onDisk.string(keys::ExecutionPath.name), QStringLiteral("/usr/games/mame"));

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr unsigned longEnough = 20; // seconds; a run that a failing test forgot ends by itself
+constexpr unsigned longEnough = 120; // seconds; a run that a failing test forgot ends by itself
 
 bool printFile(const char* path)
 {

@@ -147,6 +147,14 @@ private Q_SLOTS:
         QTest::newRow("prints NULs") << fake << QByteArray("<machine \0", 10) << QByteArray()
                                      << QByteArray("convert_has_nul");
         QTest::newRow("cut off") << fake << list.left(120) << QByteArray() << QByteArray("build_cut_off");
+        QTest::newRow("ends after an element")
+            << fake << list.left(list.lastIndexOf("</")) << QByteArray() << QByteArray("build_cut_off");
+        // The name runs on into the markup behind it, which no store can hold.
+        QTest::newRow("a form that breaks the store")
+            << fake
+            << QByteArray(
+                   "<mame><machine name=\"a\"><description>A</description><b c=\"d\" /></machine></mame>\n")
+            << QByteArray() << QByteArray("build_unreadable");
         QTest::newRow("crashes") << fake << list << QByteArray("signal9") << QByteArray("build_crashed");
         QTest::newRow("a status") << fake << list << QByteArray("exit3") << QByteArray("build_status");
         QTest::newRow("NULs without an end")

@@ -1,7 +1,6 @@
 #include "catalogue/ui/factspanel.h"
 
 #include "catalogue/gametypetransformer.h"
-#include "catalogue/recorddictionary.h"
 #include "core/failure.h"
 #include "widgets/theme.h"
 
@@ -29,6 +28,12 @@ constexpr std::array factRows{
 
 constexpr int markSize = 12;
 constexpr int pictureHeight = 206;
+
+// An absent value is shown as nothing.
+QString text(std::string_view value)
+{
+    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
 
 QLabel* selectable(QLabel* label)
 {
@@ -73,22 +78,24 @@ FactsPanel::FactsPanel(QWidget* parent)
         m_rows.push_back({row.field, addFact(row.label, value), value});
     }
 
-    auto* status = new QWidget(this);
-    auto* statusLayout = new QHBoxLayout(status);
-    statusLayout->setContentsMargins(0, 0, 0, 0);
-    romMark = new QLabel(status);
+    // Beside the title, not among the facts: the mark is shown whatever is selected.
+    auto* titleRow = new QHBoxLayout;
+    titleRow->setSpacing(8);
+    romMark = new QLabel(this);
     romMark->setObjectName(QStringLiteral("romMark"));
-    m_status = new QLabel(status);
-    statusLayout->addWidget(romMark);
-    statusLayout->addWidget(m_status, 1);
-    addFact(textKey("fact_status"), status);
+    romMark->setAlignment(Qt::AlignTop);
+    romMark->setContentsMargins(0, 6, 0, 0);
+    titleRow->addWidget(romMark);
+    titleRow->addWidget(m_title, 1);
+    m_status = selectable(new QLabel(this));
+    m_rows.push_back({Field::Status, addFact(textKey("fact_status"), m_status), m_status});
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
     layout->setSpacing(6);
     layout->addWidget(picture);
     layout->addSpacing(8);
-    layout->addWidget(m_title);
+    layout->addLayout(titleRow);
     layout->addWidget(m_titlejp);
     layout->addWidget(m_kind);
     layout->addWidget(m_factsBox);
@@ -118,18 +125,18 @@ void FactsPanel::showRecord(const GameRecord* record, int count)
                                    : qtTrId("facts_none"));
         return;
     }
-    m_title->setText(shownValue(*record, Field::Title));
-    m_titlejp->setText(shownValue(*record, Field::Titlejp));
-    m_titlejp->setVisible((*record)[Field::Titlejp] != (*record)[Field::Title]);
+    const bool hasTitle = !(*record)[Field::Title].empty();
+    m_title->setText(text((*record)[hasTitle ? Field::Title : Field::Name]));
+    m_titlejp->setText(text((*record)[Field::Titlejp]));
+    m_titlejp->setVisible(!m_titlejp->text().isEmpty() && m_titlejp->text() != m_title->text());
     m_kind->setText(GameTypeTransformer::transformedValue((*record)[Field::Type]));
     m_kind->setVisible(!m_kind->text().isEmpty());
     for (const Fact& fact : m_rows) {
         const bool known = !(*record)[fact.field].empty();
-        fact.value->setText(known ? shownValue(*record, fact.field) : QString());
+        fact.value->setText(text((*record)[fact.field]));
         fact.name->setVisible(known);
         fact.value->setVisible(known);
     }
-    m_status->setText(shownValue(*record, Field::Status));
 }
 
 void FactsPanel::showMark(const QString& imageName)

@@ -51,8 +51,14 @@ GameTableModel::GameTableModel(Catalogue& catalogue, ArrangedList& list, const C
     , m_defaults(defaults)
 {
     readFont();
-    connect(&m_list, &ArrangedList::aboutToArrange, this, &GameTableModel::beginResetModel);
-    connect(&m_list, &ArrangedList::arranged, this, &GameTableModel::endResetModel);
+    connect(&m_list, &ArrangedList::aboutToArrange, this, [this] {
+        if (!m_sorting)
+            beginResetModel();
+    });
+    connect(&m_list, &ArrangedList::arranged, this, [this] {
+        if (!m_sorting)
+            endResetModel();
+    });
     connect(&m_catalogue, &Catalogue::recordChanged, this, &GameTableModel::showRecord);
     connect(&m_defaults, &DefaultsController::changed, this, &GameTableModel::readFont);
 }
@@ -145,7 +151,29 @@ bool GameTableModel::setData(const QModelIndex& index, const QVariant& value, in
 void GameTableModel::sort(int column, Qt::SortOrder order)
 {
     if (column >= 0 && column < columnCount())
-        m_list.setSort(columns[static_cast<std::size_t>(column)], order == Qt::AscendingOrder);
+        resort(columns[static_cast<std::size_t>(column)], order == Qt::AscendingOrder);
+}
+
+// The same records in another order: what is selected stays selected.
+void GameTableModel::resort(Field field, bool ascending)
+{
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<std::uint32_t> records;
+    records.reserve(static_cast<std::size_t>(before.size()));
+    for (const QModelIndex& place : before)
+        records.push_back(m_list.rows()[static_cast<std::size_t>(place.row())]);
+    m_sorting = true;
+    m_list.setSort(field, ascending);
+    m_sorting = false;
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        const auto row = m_list.rowOf(records[static_cast<std::size_t>(i)]);
+        after << (row ? index(static_cast<int>(*row), before[i].column()) : QModelIndex());
+    }
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
 } // namespace tessera

@@ -36,12 +36,14 @@ public:
 private:
     void readFont();
     void showRecord(std::uint32_t record);
+    void resort(Field field, bool ascending);
 
     Catalogue& m_catalogue;
     ArrangedList& m_list;
     const ColorTransformer& m_colors;
     DefaultsController& m_defaults;
     QFont m_font;
+    bool m_sorting = false;
 };
 
 } // namespace tessera

@@ -197,10 +197,7 @@ bool LaunchController::confirmQuit()
                       {qtTrId("launch_quitend"), qtTrId("cancel")},
                       Alert::Style::Warning};
     m_parts.desktop.beep();
-    if (m_parts.desktop.runAlert(alert) != 0)
-        return false;
-    stopProcess();
-    return true;
+    return m_parts.desktop.runAlert(alert) == 0;
 }
 
 void LaunchController::saveLogAction()

@@ -48,7 +48,7 @@ public:
 
     /// True while a game runs, or is about to.
     bool isRunning() const;
-    /// False when the user wants to go on playing; otherwise no game runs any more.
+    /// False when the user wants to go on playing. The game goes on in any case, until the program ends.
     bool confirmQuit();
     bool romsfolder_FoundCheck() const;
     /// Asks the emulator for its options now, so that no launch has to wait for it.

@@ -1,4 +1,6 @@
-#include "tools/keptcopy.h"
+#include "core/keptcopy.h"
+
+#include "core/atomicfile.h"
 
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
@@ -17,6 +19,21 @@ private Q_SLOTS:
     {
         const QDateTime when(QDate(2026, 1, 2), QTime(3, 4, 5));
         QCOMPARE(datedName("/a.b/Tessera.xml", when), "/a.b/Tessera 2026-01-02 03-04-05.xml");
+    }
+
+    void aLinkKeepsWhatItLeadsTo()
+    {
+        QTemporaryDir folder;
+        const QString real = folder.filePath("real.xml");
+        const QString path = folder.filePath("Tessera.xml");
+        QVERIFY(writeAtomically(real, std::array<std::string_view, 1>{"old"}));
+        QVERIFY(QFile::link(real, path));
+        const auto kept = keepAs(path, folder.filePath("kept.xml"));
+        QVERIFY(kept);
+        QVERIFY(writeAtomically(path, std::array<std::string_view, 1>{"new"}));
+        QFile file(*kept);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("old"));
     }
 
     void bothNamesHoldTheWholeFile()

@@ -1,4 +1,4 @@
-#include "tools/keptcopy.h"
+#include "core/keptcopy.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace tessera {
@@ -40,7 +41,10 @@ std::expected<QString, Failure> keepAs(const QString& path, const QString& name)
         free = numbered(name, QString::number(number));
     // Where the file system has no second names, as some that are shared with other systems, a copy does as
     // well.
-    if (::link(QFile::encodeName(path).constData(), QFile::encodeName(free).constData()) == 0)
+    // A link is followed: what it leads to is what a new text replaces.
+    if (::linkat(AT_FDCWD, QFile::encodeName(path).constData(), AT_FDCWD, QFile::encodeName(free).constData(),
+                 AT_SYMLINK_FOLLOW)
+        == 0)
         return free;
     const int error = errno;
     if (QFile::copy(path, free))
