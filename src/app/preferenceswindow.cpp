@@ -55,11 +55,8 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
 
 void PreferencesWindow::addPage(QWidget* page, const QString& title, const QString& icon)
 {
-    auto* scroll = new QScrollArea;
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidget(page);
-    const int index = m_pages->addWidget(scroll);
+    const int index = static_cast<int>(m_buttons->buttons().size());
+    m_waiting << page;
 
     auto* button = new QToolButton;
     button->setProperty("role", QStringLiteral("page"));
@@ -72,6 +69,19 @@ void PreferencesWindow::addPage(QWidget* page, const QString& title, const QStri
     button->setFocusPolicy(Qt::StrongFocus);
     m_buttons->addButton(button, index);
     m_bar->insertWidget(m_bar->count() - 1, button);
+}
+
+void PreferencesWindow::showEvent(QShowEvent* event)
+{
+    for (QWidget* page : std::exchange(m_waiting, {})) {
+        auto* scroll = new QScrollArea;
+        scroll->setWidgetResizable(true);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidget(page);
+        m_pages->addWidget(scroll);
+    }
+    m_pages->setCurrentIndex(m_buttons->checkedId());
+    QWidget::showEvent(event);
 }
 
 void PreferencesWindow::showPage(int index)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QHBoxLayout;
@@ -17,16 +18,21 @@ class PreferencesWindow : public QWidget
 public:
     explicit PreferencesWindow(QWidget* parent = nullptr);
 
+    /// The window takes the page over when it is first shown: a start of the program lays nothing out here.
     void addPage(QWidget* page, const QString& title, const QString& icon);
     void showPage(int index);
     void centre();
 
     QPushButton* resetButton;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QHBoxLayout* m_bar;
     QButtonGroup* m_buttons;
     QStackedWidget* m_pages;
+    QList<QPointer<QWidget>> m_waiting;
 };
 
 } // namespace tessera

@@ -58,6 +58,7 @@ Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& default
     , m_catalogue(cataloguePath)
 {
     initialize();
+    m_catalogue.readAhead();
 }
 
 Tessera_AppDelegate::~Tessera_AppDelegate() = default;

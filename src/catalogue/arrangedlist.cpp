@@ -26,6 +26,8 @@ void ArrangedList::setPredicate(Predicate predicate)
 
 void ArrangedList::setSort(Field field, bool ascending)
 {
+    if (field == m_field && ascending == m_ascending)
+        return;
     Q_EMIT aboutToArrange();
     m_field = field;
     m_ascending = ascending;

@@ -26,6 +26,7 @@ public:
     void setContent(std::span<const GameRecord> content);
     /// No predicate lets every record through.
     void setPredicate(Predicate predicate);
+    /// The order that the list has already changes nothing.
     void setSort(Field field, bool ascending);
 
     /// Indexes into the content, one a row.

@@ -40,10 +40,17 @@ Catalogue::Catalogue(QString path, QObject* parent)
 {
 }
 
-std::expected<void, Failure> Catalogue::open()
+void Catalogue::readAhead()
 {
     m_state = FileState::of(m_path);
-    auto store = readStore(m_path);
+    m_ahead = std::async(std::launch::async, [path = m_path] { return readStore(path); });
+}
+
+std::expected<void, Failure> Catalogue::open()
+{
+    if (!m_ahead.valid())
+        readAhead();
+    auto store = m_ahead.get();
     m_read = store.has_value();
     // The commands hold views of the old arena.
     m_undo.clear();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
-#include "catalogue/textarena.h"
+#include "catalogue/storedcatalogue.h"
 #include "core/failure.h"
 #include "core/filestate.h"
 
@@ -9,6 +9,7 @@
 #include <QUndoStack>
 
 #include <expected>
+#include <future>
 #include <span>
 #include <vector>
 
@@ -24,6 +25,8 @@ public:
 
     QString path() const { return m_path; }
 
+    /// Begins to read the store beside what the caller does next; the next open() takes the result.
+    void readAhead();
     /// Reads the store anew; edits and their undo history are dropped. After a failure there are no records,
     /// and save() refuses, so that a store which could not be read is never overwritten.
     std::expected<void, Failure> open();
@@ -54,6 +57,7 @@ private:
     QUndoStack m_undo;
     FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
+    std::future<std::expected<StoredCatalogue, Failure>> m_ahead;
 };
 
 } // namespace tessera

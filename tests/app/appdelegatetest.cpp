@@ -83,6 +83,7 @@ private Q_SLOTS:
         staged.defaults.setValue(keys::Movierecord.name, true);
         staged.defaults.setValue(keys::Replaymove.name, true);
         staged.start();
+        staged.app->showPrefsWindow();
         for (const char* name : {"checkMovierecord", "checkBoxReplay"})
             QVERIFY(!staged.app->preferencesWindow().findChild<QCheckBox*>(QLatin1String(name))->isChecked());
     }
@@ -135,6 +136,7 @@ private Q_SLOTS:
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
+        staged.app->showPrefsWindow();
         auto* maximize
             = staged.app->preferencesWindow().findChild<QCheckBox*>(QStringLiteral("checkboxMaximize"));
         maximize->click();
@@ -183,6 +185,7 @@ private Q_SLOTS:
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
+        staged.app->showPrefsWindow();
         for (QWidget* window : {static_cast<QWidget*>(&staged.app->mainWindow()),
                                 static_cast<QWidget*>(&staged.app->preferencesWindow()),
                                 static_cast<QWidget*>(&staged.app->logWindow())}) {
