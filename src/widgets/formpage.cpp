@@ -10,6 +10,8 @@ namespace tessera {
 namespace {
 constexpr int labelColumn = 0;
 constexpr int controlColumn = 1;
+constexpr int fillColumn = 2;
+constexpr int allColumns = 3;
 constexpr int labelWidth = 150;
 } // namespace
 
@@ -22,6 +24,8 @@ FormPage::FormPage(QWidget* parent)
     m_grid->setVerticalSpacing(8);
     m_grid->setColumnMinimumWidth(labelColumn, labelWidth);
     m_grid->setColumnStretch(controlColumn, 1);
+    // Takes what a column of narrow controls leaves, so that labels stay where they are on every page.
+    m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, fillColumn);
 }
 
 void FormPage::addHeading(const QString& title, const QString& explanation)
@@ -31,8 +35,8 @@ void FormPage::addHeading(const QString& title, const QString& explanation)
     auto* text = new QLabel(explanation, this);
     text->setProperty("role", QStringLiteral("dim"));
     text->setWordWrap(true);
-    m_grid->addWidget(heading, m_row++, labelColumn, 1, 2);
-    m_grid->addWidget(text, m_row++, labelColumn, 1, 2);
+    m_grid->addWidget(heading, m_row++, labelColumn, 1, allColumns);
+    m_grid->addWidget(text, m_row++, labelColumn, 1, allColumns);
     m_grid->setRowMinimumHeight(m_row++, 8);
 }
 
@@ -40,11 +44,11 @@ QLabel* FormPage::addRow(const QString& label, QWidget* control)
 {
     auto* name = new QLabel(label, this);
     name->setProperty("role", QStringLiteral("dim"));
-    name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     name->setBuddy(control);
     if (control->accessibleName().isEmpty() && !label.isEmpty())
         control->setAccessibleName(label);
-    m_grid->addWidget(name, m_row, labelColumn);
+    m_grid->addWidget(name, m_row, labelColumn, Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(control, m_row, controlColumn);
     ++m_row;
     return name;
@@ -79,7 +83,7 @@ void FormPage::addLine()
     auto* line = new QFrame(this);
     line->setFrameShape(QFrame::HLine);
     line->setProperty("role", QStringLiteral("line"));
-    m_grid->addWidget(line, m_row++, labelColumn, 1, 2);
+    m_grid->addWidget(line, m_row++, labelColumn, 1, allColumns);
 }
 
 void FormPage::addStretch()

@@ -47,6 +47,7 @@ QLineEdit* OptionPage::makeField(const char* name, const char* accessibleKey)
 {
     auto* field = new QLineEdit(this);
     field->setObjectName(QString::fromLatin1(name));
+    field->setMaximumWidth(popupWidth);
     if (accessibleKey)
         field->setAccessibleName(qtTrId(accessibleKey));
     return field;
