@@ -35,5 +35,6 @@
     <message id="build_no_list"><source></source><translation>What “%1” printed is not a list of machines. The catalogue was not changed.</translation></message>
     <message id="build_cut_off"><source></source><translation>The list that “%1” printed is cut off. The catalogue was not changed.</translation></message>
     <message id="build_unreadable"><source></source><translation>“%1” lists machines in a form that no catalogue can be made of.</translation></message>
+    <message id="convert_no_titles"><source></source><translation>“%1” is not a list of titles.</translation></message>
 </context>
 </TS>

@@ -35,5 +35,6 @@
     <message id="build_no_list"><source></source><translation>“%1”の出力はマシンのリストではありません。カタログは変更されていません。</translation></message>
     <message id="build_cut_off"><source></source><translation>“%1”の出力したリストは途中で切れています。カタログは変更されていません。</translation></message>
     <message id="build_unreadable"><source></source><translation>“%1”の一覧は、カタログにできない形式です。</translation></message>
+    <message id="convert_no_titles"><source></source><translation>“%1”はタイトルのリストではありません。</translation></message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "app/preferenceswindow.h"
 
+#include "widgets/closekeys.h"
 #include "widgets/theme.h"
 
 #include <QButtonGroup>
@@ -50,6 +51,7 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     layout->addWidget(m_pages, 1);
     layout->addWidget(foot);
     connect(m_buttons, &QButtonGroup::idClicked, m_pages, &QStackedWidget::setCurrentIndex);
+    closeByKeyboard(*this);
     resize(firstSize);
 }
 

@@ -8,6 +8,8 @@ namespace tessera {
 
 namespace {
 
+// Bytes; real lists have less than one MB, a device may have no end.
+constexpr qint64 titlesLimit = qint64{64} << 20;
 // As much as stays in the processor's cache between being read and being looked at.
 constexpr std::size_t readAtOnce = std::size_t{128} * 1024;
 
@@ -39,9 +41,11 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::unexpected(Failure{"convert_not_read", {path, file.errorString()}});
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = file.read(titlesLimit + 1);
     if (file.error() != QFileDevice::NoError)
         return std::unexpected(Failure{"convert_not_read", {path, file.errorString()}});
+    if (bytes.size() > titlesLimit)
+        return std::unexpected(Failure{"convert_no_titles", {path}});
     return TitleTable({bytes.data(), static_cast<std::size_t>(bytes.size())});
 }
 

@@ -155,6 +155,23 @@ private Q_SLOTS:
         QCOMPARE(staged.desktop.transcript(), QStringList{QStringLiteral("sound Tink")});
     }
 
+    void escapeClosesTheOtherWindows()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->showPrefsWindow();
+        staged.app->showLogWindow();
+        for (QWidget* window : {static_cast<QWidget*>(&staged.app->preferencesWindow()),
+                                static_cast<QWidget*>(&staged.app->logWindow())}) {
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            QTest::keyClick(window, Qt::Key_Escape);
+            QVERIFY(!window->isVisible());
+        }
+        QVERIFY(staged.app->mainWindow().isVisible());
+    }
+
     void everyMenuCommandHasAName()
     {
         StagedApp staged;

@@ -27,6 +27,14 @@ private Q_SLOTS:
         QCOMPARE(QString(conversiontexts::logged), "Search end.");
     }
 
+    void aTitleListWithoutAnEndIsRefused()
+    {
+        const auto titles = readTitles("/dev/zero");
+        QVERIFY(!titles);
+        QCOMPARE(QByteArray(titles.error().key), QByteArray("convert_no_titles"));
+        QVERIFY(readTitles("/dev/null"));
+    }
+
     void convertsTwoFiles()
     {
         const QString listxml = file("list.xml", "<game name=\"a\" ><description>A</description></game>");

@@ -1,6 +1,7 @@
 #include "launch/ui/logwindow.h"
 
 #include "launch/ui/logview.h"
+#include "widgets/closekeys.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -36,6 +37,7 @@ LogWindow::LogWindow(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(infomationTextView, 1);
     layout->addWidget(foot);
+    closeByKeyboard(*this);
     resize(firstSize);
 }
 

@@ -9,7 +9,8 @@ namespace tessera {
 
 namespace {
 
-constexpr int handOverTimeout = 1500; // milliseconds; a hung first instance does not keep us from starting
+constexpr int connectTimeout = 1500; // milliseconds
+constexpr int answerTimeout = 10000; // milliseconds; a busy instance answers late, a hung one never
 constexpr qint64 longestPath = 1 << 16; // bytes that are read of a message
 
 } // namespace
@@ -33,11 +34,11 @@ bool SingleInstance::handOver(const QString& path)
 {
     QLocalSocket socket;
     socket.connectToServer(m_name);
-    if (!socket.waitForConnected(handOverTimeout))
+    if (!socket.waitForConnected(connectTimeout))
         return false;
     socket.write(path.toUtf8() + '\n');
     // The answer says that the message was taken: without it this start goes on by itself.
-    return socket.waitForBytesWritten(handOverTimeout) && socket.waitForReadyRead(handOverTimeout);
+    return socket.waitForBytesWritten(connectTimeout) && socket.waitForReadyRead(answerTimeout);
 }
 
 bool SingleInstance::listen()
@@ -55,6 +56,9 @@ void SingleInstance::receive()
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
             if (!socket->canReadLine() && socket->bytesAvailable() < longestPath)
+                return;
+            // Whoever did not wait has gone on by itself, with its file.
+            if (socket->state() != QLocalSocket::ConnectedState)
                 return;
             const QString path = QString::fromUtf8(socket->readLine(longestPath)).chopped(1);
             socket->write("\n");

@@ -1,6 +1,7 @@
 #include "tools/ui/utilitywindow.h"
 
 #include "tools/ui/conversionpage.h"
+#include "widgets/closekeys.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -8,7 +9,6 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -48,8 +48,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
 
     connect(pageList, &QListWidget::currentRowChanged, utilityTabView, &QStackedWidget::setCurrentIndex);
     pageList->setCurrentRow(0);
-    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    closeByKeyboard(*this);
     resize(usualSize);
 }
 
