@@ -122,7 +122,7 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
         menu->addAction(action);
     }
     addRecentMenu(*menuOf(bar, file), delegate);
-    followUndo(bar, delegate.catalogue().undoStack());
+    followUndo(bar, *delegate.windowWillReturnUndoManager());
 }
 
 } // namespace tessera

@@ -7,12 +7,12 @@ namespace {
 constexpr std::array objectFields{Field::Name,    Field::Cloneof, Field::Title,
                                   Field::Titlejp, Field::Year,    Field::Maker};
 
-QString text(std::string_view bytes)
-{
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-}
-
 } // namespace
+
+QString fieldText(std::string_view value)
+{
+    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
 
 RecordDictionary recordDictionary(const GameRecord& record)
 {
@@ -20,7 +20,7 @@ RecordDictionary recordDictionary(const GameRecord& record)
     for (std::size_t i = 0; i < fieldCount; ++i) {
         const auto field = static_cast<Field>(i);
         if (record.has(field))
-            dictionary.insert(text(fieldName(field)), text(record[field]));
+            dictionary.insert(fieldText(fieldName(field)), fieldText(record[field]));
     }
     return dictionary;
 }
@@ -29,13 +29,13 @@ RecordDictionary objectDictionary(const GameRecord& record)
 {
     RecordDictionary dictionary;
     for (const Field field : objectFields)
-        dictionary.insert(text(fieldName(field)), shownValue(record, field));
+        dictionary.insert(fieldText(fieldName(field)), shownValue(record, field));
     return dictionary;
 }
 
 QString shownValue(const GameRecord& record, Field field)
 {
-    return record.has(field) ? text(record[field]) : QStringLiteral("(null)");
+    return record.has(field) ? fieldText(record[field]) : QStringLiteral("(null)");
 }
 
 } // namespace tessera

@@ -7,6 +7,9 @@
 
 namespace tessera {
 
+/// A value as people read it: an absent one is empty.
+QString fieldText(std::string_view value);
+
 /// A record's values under its attributes' names. An absent value has no entry.
 using RecordDictionary = QMap<QString, QString>;
 

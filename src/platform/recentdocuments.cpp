@@ -19,11 +19,6 @@ void RecentDocuments::note(const QString& path)
     m_defaults.setValue(keys::RecentDocuments.name, list.mid(0, keptDocuments));
 }
 
-void RecentDocuments::clear()
-{
-    m_defaults.remove(keys::RecentDocuments.name);
-}
-
 QStringList RecentDocuments::paths() const
 {
     return m_defaults.value(keys::RecentDocuments.name).value_or(QVariant()).toStringList();

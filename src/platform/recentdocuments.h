@@ -12,7 +12,6 @@ public:
     explicit RecentDocuments(UserDefaults& defaults);
 
     void note(const QString& path);
-    void clear();
     /// Absolute paths, at most ten; they need not exist.
     QStringList paths() const;
 

@@ -22,8 +22,6 @@ private Q_SLOTS:
         recent.note(QStringLiteral("/roms/pong.zip"));
         QCOMPARE(recent.paths(),
                  (QStringList{QStringLiteral("/roms/pong.zip"), QStringLiteral("/roms/galaga.zip")}));
-        recent.clear();
-        QVERIFY(recent.paths().isEmpty());
     }
 
     void tenAreKept()

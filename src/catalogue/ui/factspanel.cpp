@@ -1,6 +1,7 @@
 #include "catalogue/ui/factspanel.h"
 
 #include "catalogue/gametypetransformer.h"
+#include "catalogue/recorddictionary.h"
 #include "core/failure.h"
 #include "widgets/theme.h"
 
@@ -28,12 +29,6 @@ constexpr std::array factRows{
 
 constexpr int markSize = 12;
 constexpr int pictureHeight = 206;
-
-// An absent value is shown as nothing.
-QString text(std::string_view value)
-{
-    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
 
 QLabel* selectable(QLabel* label)
 {
@@ -126,14 +121,14 @@ void FactsPanel::showRecord(const GameRecord* record, int count)
         return;
     }
     const bool hasTitle = !(*record)[Field::Title].empty();
-    m_title->setText(text((*record)[hasTitle ? Field::Title : Field::Name]));
-    m_titlejp->setText(text((*record)[Field::Titlejp]));
+    m_title->setText(fieldText((*record)[hasTitle ? Field::Title : Field::Name]));
+    m_titlejp->setText(fieldText((*record)[Field::Titlejp]));
     m_titlejp->setVisible(!m_titlejp->text().isEmpty() && m_titlejp->text() != m_title->text());
     m_kind->setText(GameTypeTransformer::transformedValue((*record)[Field::Type]));
     m_kind->setVisible(!m_kind->text().isEmpty());
     for (const Fact& fact : m_rows) {
         const bool known = !(*record)[fact.field].empty();
-        fact.value->setText(text((*record)[fact.field]));
+        fact.value->setText(fieldText((*record)[fact.field]));
         fact.name->setVisible(known);
         fact.value->setVisible(known);
     }

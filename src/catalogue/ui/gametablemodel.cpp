@@ -1,6 +1,7 @@
 #include "catalogue/ui/gametablemodel.h"
 
 #include "catalogue/colortransformer.h"
+#include "catalogue/recorddictionary.h"
 #include "catalogue/statusmark.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/theme.h"
@@ -23,11 +24,6 @@ constexpr std::array headings{
 
 static_assert(headings.size() == GameTableModel::columns.size());
 
-QString text(std::string_view value)
-{
-    return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
-
 QIcon markIcon(std::string_view status)
 {
     static const QIcon none = theme::mark(QStringLiteral("plovermark_none"));
@@ -35,7 +31,7 @@ QIcon markIcon(std::string_view status)
     const auto name = statusMark(status);
     if (!name)
         return none;
-    const QString key = text(*name);
+    const QString key = fieldText(*name);
     auto found = icons.find(key);
     return found != icons.end() ? *found : *icons.insert(key, theme::mark(key));
 }
@@ -100,7 +96,7 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return text(record[field]);
+        return fieldText(record[field]);
     case Qt::FontRole:
         return m_font;
     case Qt::DecorationRole:
@@ -108,11 +104,12 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         if (field != Field::Name)
             return QVariant();
-        return QString(text(record[Field::Name]) + QStringLiteral(" · ") + text(record[Field::Status]));
+        return QString(fieldText(record[Field::Name]) + QStringLiteral(" · ")
+                       + fieldText(record[Field::Status]));
     case Qt::ForegroundRole:
         if (!record.has(Field::Name))
             return QVariant();
-        if (const auto color = m_colors.transformedValue(text(record[Field::Name])))
+        if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
             return *color;
         return QVariant();
     default:
