@@ -1,8 +1,13 @@
 #include "tools/conversion.h"
 
+#include "tools/listxmlparts.h"
 #include "tools/titletable.h"
 
 #include <QFile>
+
+#include <algorithm>
+#include <future>
+#include <limits>
 
 namespace tessera {
 
@@ -13,20 +18,71 @@ constexpr qint64 titlesLimit = qint64{64} << 20;
 // As much as stays in the processor's cache between being read and being looked at.
 constexpr std::size_t readAtOnce = std::size_t{128} * 1024;
 
-std::expected<ConvertedList, Failure> convert(QFile& file, ListxmlConverter& converter)
+// More threads than these wait for the memory, not for a processor.
+constexpr int mostParts = 4;
+
+// Feeds the file from where it stands to `end`, or to its own end.
+std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end)
 {
-    for (;;) {
+    while (file.isSequential() || file.pos() < end) {
         const std::span<char> room = converter.room(readAtOnce);
-        const qint64 count = file.read(room.data(), readAtOnce);
+        const qint64 wanted
+            = file.isSequential() ? readAtOnce : std::min<qint64>(readAtOnce, end - file.pos());
+        const qint64 count = file.read(room.data(), wanted);
         if (count < 0)
             return std::unexpected(Failure{"convert_not_read", {file.fileName(), file.errorString()}});
         if (count == 0)
-            return converter.finish();
+            break;
         if (const auto taken = converter.extend(static_cast<std::size_t>(count)); !taken)
-            return std::unexpected(taken.error());
+            return taken;
         if (converter.shouldBeginAgain() && !file.isSequential())
-            return converter.finish();
+            break;
     }
+    return {};
+}
+
+std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter& converter)
+{
+    if (const auto fed = feed(converter, file, std::numeric_limits<qint64>::max()); !fed)
+        return std::unexpected(fed.error());
+    return converter.finish();
+}
+
+// Nothing where the part cannot stand alone: it failed, or holds what concerns the whole text.
+std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint64 end,
+                                         ListxmlConverter& converter)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || !file.seek(from)
+        || !feed(converter, file, end) || converter.shouldBeginAgain() || converter.needsRest())
+        return std::nullopt;
+    auto list = converter.finish();
+    return list && !converter.shouldBeginAgain() && !converter.needsRest() ? std::optional(std::move(*list))
+                                                                           : std::nullopt;
+}
+
+// The parts beside each other, a thread each. Nothing where one of them cannot stand alone.
+std::optional<ConvertedList> convertParts(const QString& path, const ListxmlParts& parts,
+                                          const TitleTable& titles, ConversionOptions options)
+{
+    std::vector<std::future<std::optional<ConvertedList>>> converted;
+    qint64 from = 0;
+    for (const qint64 end : parts.ends) {
+        converted.push_back(std::async(std::launch::async, [&, from, end] {
+            ListxmlConverter converter(titles, options, parts.name);
+            return convertPart(path, from, end, converter);
+        }));
+        from = end;
+    }
+    std::optional<ConvertedList> whole = converted.front().get();
+    for (auto& next : std::span(converted).subspan(1)) {
+        std::optional<ConvertedList> part = next.get();
+        if (!part || !whole)
+            whole.reset();
+        else
+            whole->append(std::move(*part));
+    }
+    return whole;
 }
 
 } // namespace
@@ -50,17 +106,25 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
 }
 
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options)
+                                                  ConversionOptions options, int threads)
 {
     QFile file(listxml);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return std::unexpected(Failure{"convert_not_read", {listxml, file.errorString()}});
+    const auto parts = partsOf(file, std::min(threads, mostParts));
+    if (parts.ends.size() > 1) {
+        if (auto list = convertParts(listxml, parts, titles, options))
+            return std::move(*list);
+    }
+    // Where the file was looked into, it stands somewhere else now.
+    if (!file.isSequential())
+        file.seek(0);
     ListxmlConverter converter(titles, options);
-    auto converted = convert(file, converter);
+    auto converted = convertWhole(file, converter);
     if (!converter.shouldBeginAgain() || file.isSequential() || !file.seek(0))
         return converted;
     ListxmlConverter again(titles, options, ElementName::Game);
-    return convert(file, again);
+    return convertWhole(file, again);
 }
 
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,

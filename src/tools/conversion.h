@@ -3,6 +3,7 @@
 #include "tools/listxmlconverter.h"
 
 #include <QString>
+#include <QThread>
 
 namespace tessera {
 
@@ -22,9 +23,11 @@ QString conversionReport(std::size_t games);
 std::expected<TitleTable, Failure> readTitles(const QString& path);
 
 /// Converts a saved list. One that can be read from its start again is begun again where its elements turn
-/// out to be called "game" after all; in a pipe the first element decides.
+/// out to be called "game" after all; in a pipe the first element decides. Large ones are converted in parts
+/// beside each other, at most `threads`.
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options);
+                                                  ConversionOptions options,
+                                                  int threads = QThread::idealThreadCount());
 
 /// Both files in, the complete store out.
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,

@@ -28,6 +28,13 @@ Failure tooLarge()
 
 } // namespace
 
+void ConvertedList::append(ConvertedList next)
+{
+    text.append(std::move(next.text));
+    games += next.games;
+    isWhole = next.isWhole;
+}
+
 ListxmlConverter::ListxmlConverter(const TitleTable& titles, ConversionOptions options, ElementName name,
                                    CandidateSearch search)
     : m_titles(titles)

@@ -24,6 +24,9 @@ struct ConvertedList {
     StoreText text;
     std::size_t games = 0;
     bool isWhole = false; ///< no element was cut off, and the list ends with an end tag
+
+    /// The part of the list that follows.
+    void append(ConvertedList next);
 };
 
 /// Makes a store of an emulator's list while the list comes in, piece by piece. It holds no more of it than
@@ -44,6 +47,8 @@ public:
 
     /// Written so far.
     std::size_t games() const { return m_store.objects(); }
+    /// A value is all that follows in the whole text: what was fed must be its end.
+    bool needsRest() const { return !m_restStarts.empty(); }
     /// Elements were taken to be called "machine", but a "<game " stands in the text as well: one that can be
     /// read again is begun again with that name.
     bool shouldBeginAgain() const { return m_scanner.sawGame(); }

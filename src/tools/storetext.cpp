@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <new>
 
@@ -136,6 +137,13 @@ void StoreText::complete(std::string uuid, std::string later, std::vector<std::s
     m_uuid = std::move(uuid);
     m_later = std::move(later);
     m_laterStarts = std::move(laterStarts);
+}
+
+void StoreText::append(StoreText next)
+{
+    std::ranges::move(next.m_blocks, std::back_inserter(m_blocks));
+    m_objects += next.m_objects;
+    m_valueBytes += next.m_valueBytes;
 }
 
 std::string StoreText::header() const

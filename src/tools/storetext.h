@@ -26,6 +26,9 @@ public:
     /// another.
     void complete(std::string uuid, std::string later = {}, std::vector<std::size_t> laterStarts = {});
 
+    /// The objects of another text, none of whose cloneofs was left for later.
+    void append(StoreText next);
+
     std::size_t objects() const { return m_objects; }
     /// Bytes of the whole text.
     std::size_t size() const;

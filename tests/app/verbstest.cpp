@@ -1,3 +1,4 @@
+#include "app/verbs/names.h"
 #include "catalogue/storewriter.h"
 #include "platform/userdefaults.h"
 #include "support/testmain.h"
@@ -43,6 +44,29 @@ private Q_SLOTS:
         // No verb needs a display.
         m_environment.remove(QStringLiteral("DISPLAY"));
         m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("none at all"));
+    }
+
+    void helpNamesEveryVerb()
+    {
+        const Outcome help = tessera({QStringLiteral("--help")});
+        QCOMPARE(help.status, 0);
+        for (const std::string_view verb : verbNames)
+            QVERIFY2(help.out.contains(
+                         QByteArray("\n  ").append(verb.data(), static_cast<qsizetype>(verb.size()))),
+                     help.out);
+        QCOMPARE(tessera({QStringLiteral("-h")}).out, help.out);
+        QCOMPARE(tessera({QStringLiteral("--version")}).out, QByteArray("Tessera " TESSERA_VERSION "\n"));
+    }
+
+    void badWordsForTheWindowsEndWithTwo()
+    {
+        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        for (const QStringList& words : {QStringList{QStringLiteral("--nonsense")},
+                                         {QStringLiteral("a.zip"), QStringLiteral("b.zip")}}) {
+            const Outcome bad = tessera(words);
+            QCOMPARE(bad.status, 2);
+            QVERIFY2(bad.err.contains("tessera --help"), bad.err);
+        }
     }
 
     void badCommandLinesEndWithTwo_data()

@@ -1,6 +1,7 @@
 #include "tools/conversion.h"
 
 #include "support/testmain.h"
+#include "tools/listxmlparts.h"
 #include "tools/titletable.h"
 
 #include <QFile>
@@ -73,6 +74,66 @@ private Q_SLOTS:
         QVERIFY(list->text.joined().find(">m<") != std::string::npos);
     }
 
+    void largeListsArePartedBehindEndTags()
+    {
+        QFile list(file("parted.xml", manyMachines("machine", largeEnough)));
+        QVERIFY(list.open(QIODevice::ReadOnly));
+        const ListxmlParts parts = partsOf(list, 2);
+        QCOMPARE(parts.name, ElementName::Machine);
+        QCOMPARE(parts.ends.size(), std::size_t(2));
+        QCOMPARE(parts.ends[1], list.size());
+        QVERIFY(list.seek(parts.ends[0] - 10));
+        QCOMPARE(list.read(10), QByteArray("</machine>"));
+        QVERIFY(std::abs(parts.ends[0] - list.size() / 2) < 1000);
+        QCOMPARE(partsOf(list, 1).ends.size(), std::size_t(1));
+    }
+
+    void smallListsStayInOnePart()
+    {
+        QFile list(file("small.xml", manyMachines("machine", 1'000'000)));
+        QVERIFY(list.open(QIODevice::ReadOnly));
+        QCOMPARE(partsOf(list, 4).ends, std::vector<qint64>{list.size()});
+    }
+
+    void partsMakeWhatTheWholeMakes_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        const QByteArray half = manyMachines("machine", largeEnough / 2);
+        QTest::newRow("machines") << half + half + "</mame>";
+        QTest::newRow("games") << manyMachines("game", largeEnough) + "</mame>";
+        QTest::newRow("a value is the rest of the text") << half + "<machine x=\"\" ></machine>" + half;
+        QTest::newRow("a value of the last part is the rest") << half + half + "<machine x=\"\" ></machine>";
+        QTest::newRow("a game comes after all") << half + half + "<game name=\"late\" ></game>";
+        QTest::newRow("cut off in an element") << half + half + "<machine name=\"cut\" >";
+        QTest::newRow("a NUL") << half + half + QByteArray(1, '\0') + half;
+        QTest::newRow("a NUL in an element")
+            << half + half + "<machine name=\"" + QByteArray(1, '\0') + "\" ></machine>" + half;
+        QTest::newRow("no element's end in the middle")
+            << half + "<machine name=\"long\" >" + QByteArray(4'000'000, 'x') + "</machine>" + half;
+        QTest::newRow("no elements at all") << QByteArray(largeEnough, ' ');
+    }
+
+    void partsMakeWhatTheWholeMakes()
+    {
+        QFETCH(QByteArray, text);
+        const QString path = file("parts.xml", text);
+        const auto whole = convertFile(path, TitleTable("m7\tseven\n"), {}, 1);
+        const auto parts = convertFile(path, TitleTable("m7\tseven\n"), {}, 3);
+        QCOMPARE(parts.has_value(), whole.has_value());
+        if (!whole) {
+            QCOMPARE(QByteArray(parts.error().key), QByteArray(whole.error().key));
+            return;
+        }
+        QCOMPARE(parts->games, whole->games);
+        QCOMPARE(parts->isWhole, whole->isWhole);
+        QCOMPARE(parts->text.size(), whole->text.size());
+        // Before the objects stands what is drawn anew each time.
+        const auto objects = [](const std::string& store) {
+            return store.substr(std::min(store.find("<object "), store.size()));
+        };
+        QVERIFY(objects(parts->text.joined()) == objects(whole->text.joined()));
+    }
+
     void saysWhatCannotBeRead_data()
     {
         QTest::addColumn<QString>("listxml");
@@ -100,6 +161,20 @@ private Q_SLOTS:
     }
 
 private:
+    // Bytes; enough for three parts.
+    static constexpr qsizetype largeEnough = 26'000'000;
+
+    static QByteArray manyMachines(const QByteArray& name, qsizetype size)
+    {
+        QByteArray text;
+        text.reserve(size + 200);
+        for (int i = 0; text.size() < size; ++i)
+            text += "<" + name + " name=\"m" + QByteArray::number(i)
+                + "\" ><description>Title</description><year>1980</year>"
+                + "<driver status=\"good\" emulation=\"good\"/></" + name + ">\n";
+        return text;
+    }
+
     QString file(const QString& name, const QByteArray& bytes)
     {
         QFile file(m_folder.filePath(name));

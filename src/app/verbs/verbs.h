@@ -38,9 +38,6 @@ void print(const QString& line);
 /// Writes bytes to stdout; false when that failed (a full disk, a closed pipe).
 bool printBytes(std::string_view bytes);
 
-/// $XDG_DATA_HOME/Tessera/Tessera.xml
-QString standardCataloguePath();
-
 int runArguments(const Verb& verb, const QStringList& arguments);
 int runBuild(const Verb& verb, const QStringList& arguments);
 int runConvert(const Verb& verb, const QStringList& arguments);

@@ -1,5 +1,6 @@
-#include "app/verbs.h"
+#include "app/verbs/verbs.h"
 
+#include "catalogue/cataloguepath.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatoridentity.h"
 #include "platform/userdefaults.h"

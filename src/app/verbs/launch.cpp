@@ -1,6 +1,7 @@
-#include "app/verbs.h"
+#include "app/verbs/verbs.h"
 
-#include "app/selectedgame.h"
+#include "catalogue/cataloguepath.h"
+#include "app/verbs/selectedgame.h"
 #include "launch/argumentsarray.h"
 #include "launch/commandline.h"
 #include "launch/emulatorfinder.h"

@@ -1,7 +1,8 @@
-#include "app/verbs.h"
+#include "app/verbs/verbs.h"
 
-#include <QStandardPaths>
+#include "app/verbs/names.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -20,6 +21,9 @@ constexpr std::array table{
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json]", "Print the catalogue's records.", &runList},
 };
+
+static_assert(std::ranges::equal(table, verbNames, {},
+                                 [](const Verb& verb) { return std::string_view(verb.name); }));
 
 void printTo(std::FILE* stream, const QString& line)
 {
@@ -100,12 +104,6 @@ void print(const QString& line)
 bool printBytes(std::string_view bytes)
 {
     return std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0;
-}
-
-QString standardCataloguePath()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-        + QStringLiteral("/Tessera/Tessera.xml");
 }
 
 } // namespace tessera

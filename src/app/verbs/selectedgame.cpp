@@ -1,4 +1,4 @@
-#include "app/selectedgame.h"
+#include "app/verbs/selectedgame.h"
 
 #include "catalogue/recorddictionary.h"
 #include "catalogue/storereader.h"

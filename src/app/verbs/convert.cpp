@@ -1,4 +1,4 @@
-#include "app/verbs.h"
+#include "app/verbs/verbs.h"
 
 #include "tools/conversion.h"
 

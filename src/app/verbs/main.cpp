@@ -1,0 +1,44 @@
+#include "core/texts.h"
+#include "app/verbs/verbs.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// What was printed may still wait in a buffer for a disk that is full.
+int flushed(int status)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return status;
+    return tessera::failed(tessera::Failure{
+        "failure_write", {QStringLiteral("stdout"), QString::fromLocal8Bit(std::strerror(errno))}});
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    using namespace tessera;
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Tessera"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TESSERA_VERSION));
+    QTranslator texts;
+    installTexts(texts);
+
+    const QStringList arguments = application.arguments().mid(1);
+    const QString first = arguments.value(0);
+    if (const Verb* verb = verbNamed(first))
+        return flushed(verb->run(*verb, arguments));
+    if (first == QStringLiteral("--version")) {
+        print(QStringLiteral("Tessera " TESSERA_VERSION));
+        return flushed(Done);
+    }
+    if (first == QStringLiteral("--help") || first == QStringLiteral("-h")) {
+        print(overview());
+        return flushed(Done);
+    }
+    std::fputs(qUtf8Printable(overview() + QLatin1Char('\n')), stderr);
+    return BadCommandLine;
+}

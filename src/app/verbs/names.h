@@ -1,0 +1,11 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace tessera {
+
+/// What `tessera` takes for a verb; anything else opens the windows.
+inline constexpr std::array<std::string_view, 5> verbNames{"arguments", "build", "convert", "launch", "list"};
+
+} // namespace tessera

@@ -1,0 +1,48 @@
+#include "app/tessera_appdelegate.h"
+#include "core/texts.h"
+#include "catalogue/cataloguepath.h"
+#include "platform/qt/qtdesktop.h"
+#include "platform/qt/singleinstance.h"
+#include "widgets/theme.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+int runWindows(QApplication& application, const QString& file)
+{
+    using namespace tessera;
+    SingleInstance instance;
+    if (instance.handOver(file))
+        return 0;
+    instance.listen();
+
+    UserDefaults defaults(UserDefaults::standardPath());
+    RecentDocuments recent(defaults);
+    QtDesktop desktop(recent);
+    theme::apply(application);
+    Tessera_AppDelegate delegate(desktop, defaults, recent, standardCataloguePath());
+    QObject::connect(&instance, &SingleInstance::handedOver, &delegate, &Tessera_AppDelegate::comeForward);
+    delegate.run(file);
+    return application.exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Tessera"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TESSERA_VERSION));
+    QApplication application(argc, argv);
+    QTranslator texts;
+    tessera::installTexts(texts);
+    const QString file = application.arguments().value(1);
+    if (file.startsWith(QLatin1Char('-')) || application.arguments().size() > 2) {
+        std::fputs("Usage: tessera [FILE]\n\"tessera --help\" tells more.\n", stderr);
+        return 2;
+    }
+    return runWindows(application, file.isEmpty() ? file : QFileInfo(file).absoluteFilePath());
+}
