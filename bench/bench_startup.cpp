@@ -130,6 +130,11 @@ Run start(const QStringList& arguments)
     timer.start();
     child.start(QCoreApplication::applicationFilePath(), arguments);
     child.waitForFinished();
+    if (child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0) {
+        std::fprintf(stderr, "bench_startup: a program ended badly: %s\n",
+                     child.readAllStandardError().constData());
+        std::exit(1);
+    }
     const double elapsed = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     return {elapsed, child.readAllStandardOutput().trimmed().toDouble()};
 }

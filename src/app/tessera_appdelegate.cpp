@@ -86,6 +86,9 @@ void Tessera_AppDelegate::initialize()
 void Tessera_AppDelegate::loadInterface()
 {
     m_mainWindow = std::make_unique<MainWindow>(m_defaults);
+    fillMainMenu(*m_mainWindow->menuBar(), *this);
+    // Here it costs least: the main window's widgets take it together, the others when they are first shown.
+    theme::applyStyleSheet(*qApp);
     m_logWindow = std::make_unique<LogWindow>();
     m_preferencesWindow = std::make_unique<PreferencesWindow>();
     m_pages = std::make_unique<LaunchPages>(m_defaults, emulatorToUse(QString()));
@@ -110,8 +113,6 @@ void Tessera_AppDelegate::loadInterface()
         [this] { return emulatorToUse(m_defaults.text(keys::ExecutionPath)); },
         [this] { m_chooser->exeSelect(); });
     joinRooms();
-    fillMainMenu(*m_mainWindow->menuBar(), *this);
-    theme::applyStyleSheet(*qApp);
     openCatalogue();
 }
 
