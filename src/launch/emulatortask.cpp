@@ -16,7 +16,7 @@ constexpr std::chrono::seconds graceTime(5);
 constexpr int quitGraceTime = 2000; // milliseconds
 // A turn of the event loop takes no more, so that a program that floods us does not keep the windows from
 // answering.
-constexpr qint64 pieceSize = 64 * 1024;
+constexpr qint64 pieceSize = qint64{64} * 1024;
 
 // How many bytes at the end may be the beginning of a character.
 std::size_t beginningAtTheEnd(std::string_view bytes)

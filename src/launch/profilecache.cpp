@@ -134,7 +134,7 @@ ProfileAnswer ProfileCache::keep(const std::optional<EmulatorIdentity>& identity
         std::string_view(first.constData(), static_cast<std::size_t>(first.size())),
         std::string_view(usage->constData(), static_cast<std::size_t>(usage->size()))};
     // Where the answer cannot be written it is kept for this run.
-    (void)writeAtomically(fileFor(*identity), pieces);
+    std::ignore = writeAtomically(fileFor(*identity), pieces);
     return answer;
 }
 

@@ -21,8 +21,8 @@ bool printFile(const char* path)
     if (!file)
         return false;
     char buffer[4096];
-    while (const std::size_t size = std::fread(buffer, 1, sizeof buffer, file))
-        std::fwrite(buffer, 1, size, stdout);
+    while (std::feof(file) == 0 && std::ferror(file) == 0)
+        std::fwrite(buffer, 1, std::fread(buffer, 1, sizeof buffer, file), stdout);
     return std::fclose(file) == 0;
 }
 

@@ -64,8 +64,8 @@ void GameTableModel::readFont()
     m_font = QFont();
     m_font.setFamilies(QStringList{m_defaults.text(keys::TablefontName)} + m_font.families());
     m_font.setPixelSize(qBound(4, m_defaults.index(keys::fontSize), 200));
-    if (rowCount() > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+    if (const int rows = static_cast<int>(m_list.size()))
+        Q_EMIT dataChanged(index(0, 0), index(rows - 1, static_cast<int>(columns.size()) - 1),
                            {Qt::FontRole, Qt::ForegroundRole});
 }
 
