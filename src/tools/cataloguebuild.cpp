@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <chrono>
@@ -39,6 +38,9 @@ CatalogueBuild::CatalogueBuild(QObject* parent)
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &CatalogueBuild::read);
     connect(&m_process, &QProcess::readyReadStandardError, this, &CatalogueBuild::readErrors);
     connect(&m_process, &QProcess::finished, this, &CatalogueBuild::conclude);
+    m_grace.setSingleShot(true);
+    m_grace.setInterval(graceTime);
+    connect(&m_grace, &QTimer::timeout, &m_process, &QProcess::kill);
     connect(
         &m_process, &QProcess::errorOccurred, this,
         [this](QProcess::ProcessError error) {
@@ -65,11 +67,7 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
     m_failure.reset();
     m_printed = false;
     m_isCancelled = false;
-    m_titles = std::make_unique<TitleTable>();
-    if (!titles.isEmpty()) {
-        if (auto table = readTitles(titles))
-            *m_titles = std::move(*table);
-    }
+    readTitleList(titles);
     m_converter = std::make_unique<ListxmlConverter>(*m_titles, ConversionOptions{});
     if (const auto found = obstacle()) {
         QTimer::singleShot(0, this, [this, failure = *found] { fail(failure); });
@@ -79,6 +77,18 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
     m_process.setArguments({QStringLiteral("-listxml")});
     m_process.setWorkingDirectory(QFileInfo(emulator).path());
     m_process.start(QIODevice::ReadOnly);
+}
+
+void CatalogueBuild::readTitleList(const QString& path)
+{
+    m_titles = std::make_unique<TitleTable>();
+    m_titlesFailure.reset();
+    if (path.isEmpty())
+        return;
+    if (auto table = readTitles(path))
+        *m_titles = std::move(*table);
+    else
+        m_titlesFailure = table.error();
 }
 
 // What can be seen before minutes are spent on it.
@@ -105,7 +115,7 @@ void CatalogueBuild::cancel()
     if (m_process.state() == QProcess::NotRunning)
         return;
     m_process.terminate();
-    QTimer::singleShot(graceTime, &m_process, &QProcess::kill);
+    m_grace.start();
 }
 
 void CatalogueBuild::read()
@@ -221,6 +231,7 @@ void CatalogueBuild::fail(const Failure& failure)
 
 void CatalogueBuild::letGo()
 {
+    m_grace.stop();
     m_converter.reset();
     m_titles.reset();
 }
