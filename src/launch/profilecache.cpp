@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include <array>
+#include <tuple>
 
 namespace tessera {
 
