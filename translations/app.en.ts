@@ -63,5 +63,13 @@
     <message id="rebuild_offer"><source></source><translation>Tessera can ask the MAME on this computer for every machine that it knows, and build the catalogue from that.</translation></message>
     <message id="empty_rebuilding"><source></source><translation>The machines appear here as soon as the catalogue is complete.</translation></message>
     <message id="menu_logfront"><source></source><translation>Bring Log to &amp;Front</translation></message>
+    <message id="menu_view"><source></source><translation>&amp;View</translation></message>
+    <message id="menu_copy"><source></source><translation>&amp;Copy</translation></message>
+    <message id="menu_editrecord"><source></source><translation>&amp;Edit Record…</translation></message>
+    <message id="menu_removerecord"><source></source><translation>Re&amp;move from Catalogue…</translation></message>
+    <message id="menu_random"><source></source><translation>&amp;Random Game</translation></message>
+    <message id="menu_home"><source></source><translation>To the &amp;Top</translation></message>
+    <message id="menu_end"><source></source><translation>To the &amp;End</translation></message>
+    <message id="menu_columns"><source></source><translation>&amp;Columns</translation></message>
 </context>
 </TS>

@@ -63,5 +63,13 @@
     <message id="rebuild_offer"><source></source><translation>このコンピュータの MAME に、知っているすべてのマシンを問い合わせて、カタログを作成できます。</translation></message>
     <message id="empty_rebuilding"><source></source><translation>カタログができあがると、ここにマシンが並びます。</translation></message>
     <message id="menu_logfront"><source></source><translation>ログを最前面に(&amp;F)</translation></message>
+    <message id="menu_view"><source></source><translation>表示(&amp;V)</translation></message>
+    <message id="menu_copy"><source></source><translation>コピー(&amp;C)</translation></message>
+    <message id="menu_editrecord"><source></source><translation>レコードを編集(&amp;E)…</translation></message>
+    <message id="menu_removerecord"><source></source><translation>カタログから削除(&amp;M)…</translation></message>
+    <message id="menu_random"><source></source><translation>ランダムに選ぶ(&amp;R)</translation></message>
+    <message id="menu_home"><source></source><translation>先頭へ(&amp;T)</translation></message>
+    <message id="menu_end"><source></source><translation>末尾へ(&amp;E)</translation></message>
+    <message id="menu_columns"><source></source><translation>表示する列(&amp;C)</translation></message>
 </context>
 </TS>

@@ -16,5 +16,6 @@
     <message id="failure_store_truncated"><source></source><translation>“%1” is incomplete: it ends too early.</translation></message>
     <message id="failure_store_unread"><source></source><translation>“%1” could not be read before, so it is not overwritten.</translation></message>
     <message id="undo_edit_record"><source></source><translation>Edit Record</translation></message>
+    <message id="undo_remove_records"><source></source><translation>Remove Machines</translation></message>
 </context>
 </TS>

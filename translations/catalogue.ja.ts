@@ -16,5 +16,6 @@
     <message id="failure_store_truncated"><source></source><translation>“%1”は途中で終わっており、不完全です。</translation></message>
     <message id="failure_store_unread"><source></source><translation>“%1”を読み込めなかったため、上書き保存は行いません。</translation></message>
     <message id="undo_edit_record"><source></source><translation>レコードの編集</translation></message>
+    <message id="undo_remove_records"><source></source><translation>マシンの削除</translation></message>
 </context>
 </TS>

@@ -19,5 +19,15 @@
     <message id="facts_picture"><source></source><translation>ゲームの画像</translation></message>
     <message id="facts_several"><source></source><translation>%1 台を選択中</translation></message>
     <message id="facts_none"><source></source><translation>何も選択されていません</translation></message>
+    <message id="column_status"><source></source><translation>ドライバ</translation></message>
+    <message id="column_type"><source></source><translation>種類</translation></message>
+    <message id="record_remove_Message"><source></source><translation>選択したマシンをカタログから削除しますか?</translation></message>
+    <message id="record_remove_Info"><source></source><translation>ROM ファイルはそのまま残ります。Tessera の実行中は取り消しで元に戻せます。カタログのファイルは保存したときに変わります。</translation></message>
+    <message id="remove"><source></source><translation>削除</translation></message>
+    <message id="editor_window"><source></source><translation>レコードの編集</translation></message>
+    <message id="editor_remove"><source></source><translation>削除(&amp;R)…</translation></message>
+    <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
+    <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
+    <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
 </context>
 </TS>

@@ -1,6 +1,8 @@
 #include "app/mainmenu.h"
 
+#include "app/mainwindow.h"
 #include "app/tessera_appdelegate.h"
+#include "catalogue/ui/gametableview.h"
 #include "platform/recentdocuments.h"
 
 #include <QAction>
@@ -26,6 +28,7 @@ struct MenuRow {
 
 constexpr const char* file = textKey("menu_file");
 constexpr const char* edit = textKey("menu_edit");
+constexpr const char* view = textKey("menu_view");
 constexpr const char* game = textKey("menu_game");
 constexpr const char* emulator = textKey("menu_emulator");
 constexpr const char* window = textKey("menu_window");
@@ -43,12 +46,18 @@ constexpr std::array rows{
     MenuRow{edit,     textKey("menu_undo"),        "Ctrl+Z",       &Hub::undo},
     MenuRow{edit,     textKey("menu_redo"),        "Ctrl+Shift+Z", &Hub::redo},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
+    MenuRow{edit,     textKey("menu_copy"),        "Ctrl+C",       &Hub::copySelection},
     MenuRow{edit,     textKey("menu_editcell"),    nullptr,        &Hub::editCell},
+    MenuRow{edit,     textKey("menu_editrecord"),  "Ctrl+E",       &Hub::editRecord},
+    MenuRow{edit,     textKey("menu_removerecord"), "Ctrl+Backspace", &Hub::removeRecord},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
     MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
     MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},
     MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::playSelected},
     MenuRow{game,     textKey("menu_stop"),        "Ctrl+.",       &Hub::stopGame},
+    MenuRow{game,     textKey("menu_random"),      "Ctrl+G",       &Hub::mameslotAction},
+    MenuRow{view,     textKey("menu_home"),        "Home",         &Hub::scrollsHomeAction},
+    MenuRow{view,     textKey("menu_end"),         "End",          &Hub::scrollsEndAction},
     MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
@@ -91,6 +100,14 @@ void addRecentMenu(QMenu& fileMenu, Tessera_AppDelegate& delegate)
                      [recent, &delegate] { fillRecent(*recent, delegate); });
 }
 
+void addColumnsMenu(QMenu& viewMenu, Tessera_AppDelegate& delegate)
+{
+    auto* columns = new QMenu(qtTrId("menu_columns"), &viewMenu);
+    viewMenu.addMenu(columns);
+    QObject::connect(columns, &QMenu::aboutToShow, &delegate,
+                     [columns, &delegate] { delegate.mainWindow().gameTable->fillColumnsMenu(*columns); });
+}
+
 // Undo and Redo are dim while there is nothing to undo or redo.
 void followUndo(QMenuBar& bar, QUndoStack& stack)
 {
@@ -116,12 +133,16 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
         action->setObjectName(QLatin1String(row.text));
         if (row.shortcut != nullptr)
             action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
-        action->setShortcutContext(Qt::ApplicationShortcut);
+        // A key of its own is left to the controls of the other windows.
+        const bool isPlainKey
+            = action->shortcut().count() == 1 && action->shortcut()[0].keyboardModifiers() == Qt::NoModifier;
+        action->setShortcutContext(isPlainKey ? Qt::WindowShortcut : Qt::ApplicationShortcut);
         action->setMenuRole(QAction::NoRole);
         QObject::connect(action, &QAction::triggered, &delegate, row.command);
         menu->addAction(action);
     }
     addRecentMenu(*menuOf(bar, file), delegate);
+    addColumnsMenu(*menuOf(bar, view), delegate);
     followUndo(bar, *delegate.windowWillReturnUndoManager());
 }
 

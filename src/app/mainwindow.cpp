@@ -3,6 +3,7 @@
 #include "app/emptystate.h"
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/theme.h"
@@ -211,6 +212,11 @@ void MainWindow::restore()
         m_split->restoreState(split->toByteArray());
     for (std::size_t i = 0; i < columnWidths.size(); ++i)
         gameTable->setColumnWidth(static_cast<int>(i), columnWidths[i]);
+    for (std::size_t i = 0; i < GameTableModel::columns.size(); ++i) {
+        if (std::ranges::find(GameTableModel::hiddenColumns, GameTableModel::columns[i])
+            != GameTableModel::hiddenColumns.end())
+            gameTable->setColumnHidden(static_cast<int>(i), true);
+    }
     if (const auto columns = stored.value(keys::MainWindowColumns.name))
         gameTable->horizontalHeader()->restoreState(columns->toByteArray());
     gameTable->setFocus();

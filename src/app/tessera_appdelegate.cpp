@@ -2,6 +2,7 @@
 
 #include "app/cataloguerebuild.h"
 #include "app/emptystate.h"
+#include "app/keycommands.h"
 #include "app/mainmenu.h"
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
@@ -9,6 +10,7 @@
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/recordediting.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -31,6 +33,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
@@ -99,6 +103,9 @@ void Tessera_AppDelegate::loadInterface()
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
     m_gameList->setTable(m_mainWindow->gameTable);
+    m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
+    m_keyCommands = std::make_unique<KeyCommands>(*m_mainWindow, *m_logWindow,
+                                                  *m_logWindow->infomationTextView, *m_gameList, *m_editing);
     m_task = std::make_unique<EmulatorTask>();
     m_profiles = std::make_unique<ProfileCache>();
     m_launch = std::make_unique<LaunchController>(
@@ -112,6 +119,8 @@ void Tessera_AppDelegate::loadInterface()
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip,
         [this] { return emulatorToUse(m_defaults.text(keys::ExecutionPath)); },
         [this] { m_chooser->exeSelect(); });
+    for (const char* name : {"menu_home", "menu_end"})
+        m_logWindow->addAction(m_mainWindow->menuBar()->findChild<QAction*>(QLatin1String(name)));
     joinRooms();
     openCatalogue();
 }
@@ -135,6 +144,8 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
             &MainWindow::setRebuilding);
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_editing.get(),
+            [this](bool running) { m_editing->setEnabled(!running); });
 
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
@@ -250,6 +261,41 @@ void Tessera_AppDelegate::editCell()
         m_mainWindow->gameTable->edit(m_mainWindow->gameTable->currentIndex());
 }
 
+void Tessera_AppDelegate::copySelection()
+{
+    if (auto* log = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget()))
+        log->copy();
+    else
+        m_mainWindow->gameTable->copySelection();
+}
+
+void Tessera_AppDelegate::editRecord()
+{
+    m_keyCommands->editRecord();
+}
+
+void Tessera_AppDelegate::removeRecord()
+{
+    m_gameList->commitEditing();
+    m_editing->commitEditing();
+    m_editing->removeRecord();
+}
+
+void Tessera_AppDelegate::mameslotAction()
+{
+    m_keyCommands->mameslotAction();
+}
+
+void Tessera_AppDelegate::scrollsHomeAction()
+{
+    m_keyCommands->scrollsHomeAction();
+}
+
+void Tessera_AppDelegate::scrollsEndAction()
+{
+    m_keyCommands->scrollsEndAction();
+}
+
 void Tessera_AppDelegate::openROMfile()
 {
     m_gameList->openROMfile();
@@ -258,6 +304,7 @@ void Tessera_AppDelegate::openROMfile()
 void Tessera_AppDelegate::rebuildCatalogue()
 {
     m_gameList->commitEditing();
+    m_editing->commitEditing();
     m_rebuild->rebuild();
 }
 
@@ -344,6 +391,7 @@ void Tessera_AppDelegate::terminate()
 
 bool Tessera_AppDelegate::applicationShouldTerminate()
 {
+    m_editing->commitEditing();
     const bool quits = m_gameList->commitEditing() && m_launch->confirmQuit() && saveBeforeQuitting();
     // Whatever the answer: recording and replay never stay switched on into the next run.
     m_defaults.setFlag(keys::Movierecord, false);

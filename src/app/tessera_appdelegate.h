@@ -13,6 +13,7 @@ class CatalogueRebuild;
 class Desktop;
 class EmulatorTask;
 class GameListController;
+class KeyCommands;
 class LaunchController;
 class LaunchPages;
 class LogWindow;
@@ -21,6 +22,7 @@ class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
 class RecentDocuments;
+class RecordEditing;
 class UtilityObject;
 
 /// The hub: builds the rooms, hands each what it needs, and joins them. Its slots are the program's commands,
@@ -50,6 +52,7 @@ public:
     LogWindow& logWindow() { return *m_logWindow; }
     PreferencesWindow& preferencesWindow() { return *m_preferencesWindow; }
     GameListController& gameList() { return *m_gameList; }
+    RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     UtilityObject& utility() { return *m_utility; }
@@ -61,6 +64,12 @@ public Q_SLOTS:
     void undo();
     void redo();
     void editCell();
+    void copySelection();
+    void editRecord();
+    void removeRecord();
+    void mameslotAction();
+    void scrollsHomeAction();
+    void scrollsEndAction();
     void openROMfile();
     void rebuildCatalogue();
     void terminate();
@@ -104,6 +113,8 @@ private:
     std::unique_ptr<LogWindow> m_logWindow;
     std::unique_ptr<PreferencesWindow> m_preferencesWindow;
     std::unique_ptr<GameListController> m_gameList;
+    std::unique_ptr<RecordEditing> m_editing;
+    std::unique_ptr<KeyCommands> m_keyCommands;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;
     std::unique_ptr<EmulatorTask> m_task;

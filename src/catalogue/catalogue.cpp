@@ -1,38 +1,15 @@
 #include "catalogue/catalogue.h"
 
+#include "catalogue/recordcommands.h"
 #include "catalogue/storereader.h"
 #include "catalogue/storewriter.h"
 #include "core/keptcopy.h"
 
 #include <QDateTime>
-#include <QUndoCommand>
+
+#include <algorithm>
 
 namespace tessera {
-
-/// One value of one record, before and after. Both views stay in the catalogue's arena; before may be absent.
-class EditCommand : public QUndoCommand
-{
-public:
-    EditCommand(Catalogue& catalogue, std::uint32_t record, Field field, std::string_view after)
-        : QUndoCommand(qtTrId("undo_edit_record"))
-        , m_catalogue(catalogue)
-        , m_record(record)
-        , m_field(field)
-        , m_before(catalogue.m_records[record][field])
-        , m_after(after)
-    {
-    }
-
-    void undo() override { m_catalogue.put(m_record, m_field, m_before); }
-    void redo() override { m_catalogue.put(m_record, m_field, m_after); }
-
-private:
-    Catalogue& m_catalogue;
-    std::uint32_t m_record;
-    Field m_field;
-    std::string_view m_before;
-    std::string_view m_after;
-};
 
 Catalogue::Catalogue(QString path, QObject* parent)
     : QObject(parent)
@@ -75,6 +52,15 @@ void Catalogue::setValue(std::uint32_t record, Field field, const QString& text)
     m_undo.push(new EditCommand(*this, record, field, m_arena.add(value)));
 }
 
+void Catalogue::remove(std::vector<std::uint32_t> records)
+{
+    std::ranges::sort(records);
+    const auto twice = std::ranges::unique(records);
+    records.erase(twice.begin(), twice.end());
+    if (!records.empty())
+        m_undo.push(new RemoveCommand(*this, std::move(records)));
+}
+
 bool Catalogue::hasChanges() const
 {
     return !m_undo.isClean();
@@ -102,6 +88,37 @@ void Catalogue::put(std::uint32_t record, Field field, std::string_view text)
 {
     m_records[record][field] = text;
     Q_EMIT recordChanged(record);
+}
+
+// The old records live until everybody has let go of them.
+void Catalogue::takeOut(std::span<const std::uint32_t> places)
+{
+    std::vector<GameRecord> kept;
+    kept.reserve(m_records.size() - places.size());
+    std::size_t from = 0;
+    for (const std::uint32_t place : places) {
+        kept.insert(kept.end(), m_records.begin() + from, m_records.begin() + place);
+        from = place + 1;
+    }
+    kept.insert(kept.end(), m_records.begin() + from, m_records.end());
+    m_records.swap(kept);
+    Q_EMIT removed();
+}
+
+void Catalogue::putBack(std::span<const std::uint32_t> places, std::span<const GameRecord> records)
+{
+    std::vector<GameRecord> all;
+    all.reserve(m_records.size() + places.size());
+    auto next = m_records.begin();
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const auto before = static_cast<std::ptrdiff_t>(places[i] - all.size());
+        all.insert(all.end(), next, next + before);
+        next += before;
+        all.push_back(records[i]);
+    }
+    all.insert(all.end(), next, m_records.end());
+    m_records.swap(all);
+    Q_EMIT putBackAt(std::vector(places.begin(), places.end()));
 }
 
 } // namespace tessera

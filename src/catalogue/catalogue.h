@@ -36,6 +36,9 @@ public:
     /// Undoable. `record` is an index into records().
     void setValue(std::uint32_t record, Field field, const QString& text);
 
+    /// Undoable, all at once. Indexes into records(), in any order.
+    void remove(std::vector<std::uint32_t> records);
+
     bool hasChanges() const;
     /// A file that somebody else has written since is kept under a dated name.
     std::expected<void, Failure> save();
@@ -46,10 +49,17 @@ Q_SIGNALS:
     /// Every record is another one now.
     void replaced();
     void recordChanged(std::uint32_t record);
+    /// Records are gone; the others stand together now.
+    void removed();
+    /// Removed ones are back, at these indexes, rising.
+    void putBackAt(const std::vector<std::uint32_t>& records);
 
 private:
     friend class EditCommand;
+    friend class RemoveCommand;
     void put(std::uint32_t record, Field field, std::string_view text);
+    void takeOut(std::span<const std::uint32_t> places);
+    void putBack(std::span<const std::uint32_t> places, std::span<const GameRecord> records);
 
     QString m_path;
     TextArena m_arena;

@@ -22,7 +22,7 @@ public:
     {
         if (text.empty())
             return emptyText;
-        if (text.size() > m_free)
+        if (text.size() > m_free || m_next == nullptr)
             grow(text.size());
         char* const copy = m_next;
         std::memcpy(copy, text.data(), text.size());

@@ -16,7 +16,7 @@ namespace {
 // Bytes; real lists have less than one MB, a device may have no end.
 constexpr qint64 titlesLimit = qint64{64} << 20;
 // As much as stays in the processor's cache between being read and being looked at.
-constexpr std::size_t readAtOnce = std::size_t{128} * 1024;
+constexpr qint64 readAtOnce = qint64{128} * 1024;
 
 // More threads than these wait for the memory, not for a processor.
 constexpr int mostParts = 4;
@@ -26,8 +26,7 @@ std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint
 {
     while (file.isSequential() || file.pos() < end) {
         const std::span<char> room = converter.room(readAtOnce);
-        const qint64 wanted
-            = file.isSequential() ? readAtOnce : std::min<qint64>(readAtOnce, end - file.pos());
+        const qint64 wanted = file.isSequential() ? readAtOnce : std::min(readAtOnce, end - file.pos());
         const qint64 count = file.read(room.data(), wanted);
         if (count < 0)
             return std::unexpected(Failure{"convert_not_read", {file.fileName(), file.errorString()}});

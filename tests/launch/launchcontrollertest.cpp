@@ -378,14 +378,18 @@ private Q_SLOTS:
         QCOMPARE(room.desktop.saveRequests.at(0).extensions, QStringList({"txt"}));
     }
 
-    void aLogThatCannotBeSavedIsNotSpokenOf()
+    void aLogThatCannotBeSavedIsSaidInTheStatusLineOnly()
     {
         Room room;
+        QSignalSpy status(room.controller.get(), &LaunchController::statusMessage);
         room.controller->appendOutput("text");
         room.desktop.answerSave("Log output", "/no such folder/log.txt");
         room.controller->saveLogAction();
+        QCOMPARE(status.size(), 1);
+        QVERIFY(!status.at(0).at(0).toString().isEmpty());
         room.desktop.answerSave("Log output", std::nullopt);
         room.controller->saveLogAction();
+        QCOMPARE(status.size(), 1);
         QCOMPARE(room.desktop.transcript(), QStringList({"save Log output", "save Log output"}));
     }
 

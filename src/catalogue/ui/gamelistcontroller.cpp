@@ -9,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QRandomGenerator>
 
 #include <algorithm>
 
@@ -22,8 +23,8 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
     , m_colors(defaults.defaults())
     , m_model(new GameTableModel(catalogue, m_list, m_colors, defaults, this))
 {
-    m_list.setContent(catalogue.records());
-    connect(&catalogue, &Catalogue::replaced, this, [this] { m_list.setContent(m_catalogue.records()); });
+    setContent();
+    connect(&catalogue, &Catalogue::replaced, this, &GameListController::setContent);
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
 }
 
@@ -40,17 +41,39 @@ int GameListController::selectedCount() const
     return m_table == nullptr ? 0 : static_cast<int>(m_table->selectionModel()->selectedRows().size());
 }
 
-const GameRecord* GameListController::selectedRecord() const
+int GameListController::firstSelectedRow() const
 {
     if (m_table == nullptr)
-        return nullptr;
+        return -1;
     // Ranges, not rows: with everything selected there are 45,000 rows but one range.
     int first = -1;
     for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
         if (range.isValid() && (first < 0 || range.top() < first))
             first = range.top();
     }
-    return first < 0 ? nullptr : &m_list[static_cast<std::size_t>(first)];
+    return first;
+}
+
+std::optional<std::uint32_t> GameListController::firstSelected() const
+{
+    const int row = firstSelectedRow();
+    return row < 0 ? std::nullopt : std::optional(m_list.rows()[static_cast<std::size_t>(row)]);
+}
+
+const GameRecord* GameListController::selectedRecord() const
+{
+    const int row = firstSelectedRow();
+    return row < 0 ? nullptr : &m_list[static_cast<std::size_t>(row)];
+}
+
+std::vector<std::uint32_t> GameListController::selectedRecords() const
+{
+    std::vector<std::uint32_t> records;
+    if (m_table == nullptr)
+        return records;
+    for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
+        records.push_back(m_list.rows()[static_cast<std::size_t>(row.row())]);
+    return records;
 }
 
 QString GameListController::selectedValue(Field field) const
@@ -105,9 +128,47 @@ bool GameListController::selectGame(const QString& name)
     const auto row = m_list.find(Field::Name, name.toStdString());
     if (!row || m_table == nullptr)
         return false;
-    m_table->selectRow(static_cast<int>(*row));
-    m_table->scrollTo(m_model->index(static_cast<int>(*row), 0), QAbstractItemView::PositionAtCenter);
+    selectRow(static_cast<int>(*row));
     return true;
+}
+
+void GameListController::selectRow(int row)
+{
+    const int place = std::min(row, m_model->rowCount() - 1);
+    if (m_table == nullptr || place < 0)
+        return;
+    m_table->selectRow(place);
+    m_table->scrollTo(m_model->index(place, 0), QAbstractItemView::PositionAtCenter);
+}
+
+void GameListController::selectNeighbour(int step)
+{
+    const int row = firstSelectedRow();
+    if (row >= 0)
+        selectRow(std::max(0, row + step));
+}
+
+void GameListController::selectRecords(const std::vector<std::uint32_t>& records)
+{
+    QItemSelection selection;
+    int first = -1;
+    for (const std::uint32_t record : records) {
+        const auto row = m_list.rowOf(record);
+        if (!row)
+            continue;
+        const QModelIndex place = m_model->index(static_cast<int>(*row), 0);
+        selection.select(place, place);
+        first = first < 0 ? place.row() : std::min(first, place.row());
+    }
+    if (first < 0 || m_table == nullptr)
+        return;
+    selectRow(first);
+    m_table->selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void GameListController::setContent()
+{
+    m_list.setContent(m_catalogue.records());
 }
 
 void GameListController::main_tableViewSort()
@@ -145,6 +206,19 @@ void GameListController::openROMfile()
     request.extensions = {QStringLiteral("zip")};
     if (const auto path = m_desktop.openPanel(request))
         Q_EMIT launchRequested(*path);
+}
+
+void GameListController::gameShuffle()
+{
+    // The number is drawn before the list is looked at; of none it is 0.
+    const int count = m_model->rowCount();
+    const int row = count == 0 ? 0 : QRandomGenerator::global()->bounded(count);
+    if (count == 0) {
+        m_desktop.beep();
+        return;
+    }
+    selectRow(row);
+    m_desktop.playSound(QStringLiteral("slot_end"));
 }
 
 } // namespace tessera

@@ -39,6 +39,10 @@ public:
     /// Nothing selected: nothing.
     const GameRecord* selectedRecord() const;
     int selectedCount() const;
+    /// The first selected row, or -1; and the record in it.
+    int firstSelectedRow() const;
+    std::optional<std::uint32_t> firstSelected() const;
+    std::vector<std::uint32_t> selectedRecords() const;
 
     QList<RecordDictionary> search_arrangedObjects(Field key, const QStringList& searchstr) const;
     /// False where an open editor would not give its text up.
@@ -46,6 +50,14 @@ public:
 
     /// Selects the record with this set name alone and scrolls to it; false where the list does not show it.
     bool selectGame(const QString& name);
+    /// Selects a row alone and scrolls to it; the last one where there are not so many.
+    void selectRow(int row);
+    /// The row before or after the first selected one.
+    void selectNeighbour(int step);
+    /// Those that the list shows.
+    void selectRecords(const std::vector<std::uint32_t>& records);
+    /// After the catalogue's records became others.
+    void setContent();
 
 public Q_SLOTS:
     void main_tableViewSort();
@@ -53,6 +65,8 @@ public Q_SLOTS:
     void romStatus();
     void tableViewDoubleAction();
     void openROMfile();
+    /// A random row; of an empty list none.
+    void gameShuffle();
 
 Q_SIGNALS:
     void launchRequested(const QString& game);

@@ -1,6 +1,7 @@
 #include "catalogue/ui/gametablemodel.h"
 
 #include "catalogue/colortransformer.h"
+#include "catalogue/gametypetransformer.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/statusmark.h"
 #include "platform/defaultscontroller.h"
@@ -19,7 +20,8 @@ constexpr std::array headings{
     Heading{Field::Name, textKey("column_name")},       Heading{Field::Title, textKey("column_title")},
     Heading{Field::Titlejp, textKey("column_titlejp")}, Heading{Field::Year, textKey("column_year")},
     Heading{Field::Maker, textKey("column_maker")},     Heading{Field::Cloneof, textKey("column_cloneof")},
-    Heading{Field::Device, textKey("column_device")},
+    Heading{Field::Device, textKey("column_device")},   Heading{Field::Status, textKey("column_status")},
+    Heading{Field::Type, textKey("column_type")},
 };
 
 static_assert(headings.size() == GameTableModel::columns.size());
@@ -95,6 +97,8 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
     const Field field = columns[static_cast<std::size_t>(index.column())];
     switch (role) {
     case Qt::DisplayRole:
+        return field == Field::Type ? GameTypeTransformer::transformedValue(record[field])
+                                    : fieldText(record[field]);
     case Qt::EditRole:
         return fieldText(record[field]);
     case Qt::FontRole:

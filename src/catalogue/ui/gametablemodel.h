@@ -18,8 +18,11 @@ class GameTableModel : public QAbstractTableModel
 
 public:
     /// The columns in their first order; the set name is the first and sets the initial sort.
-    static constexpr std::array columns{Field::Name,  Field::Title,   Field::Titlejp, Field::Year,
-                                        Field::Maker, Field::Cloneof, Field::Device};
+    static constexpr std::array columns{Field::Name,   Field::Title,  Field::Titlejp,
+                                        Field::Year,   Field::Maker,  Field::Cloneof,
+                                        Field::Device, Field::Status, Field::Type};
+    /// Not among the shown ones at first.
+    static constexpr std::array hiddenColumns{Field::Status, Field::Type};
 
     GameTableModel(Catalogue& catalogue, ArrangedList& list, const ColorTransformer& colors,
                    DefaultsController& defaults, QObject* parent = nullptr);

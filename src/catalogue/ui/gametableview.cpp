@@ -1,8 +1,13 @@
 #include "catalogue/ui/gametableview.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
+
+#include <algorithm>
 
 namespace tessera {
 
@@ -27,6 +32,8 @@ GameTableView::GameTableView(QWidget* parent)
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &GameTableView::showColumnsMenu);
     connect(this, &QTableView::doubleClicked, this, &GameTableView::doubleAction);
 }
 
@@ -36,6 +43,61 @@ void GameTableView::commitOpenEditor()
         commitData(editor);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
+}
+
+// As they stand beside each other.
+QList<int> GameTableView::shownColumns() const
+{
+    const QHeaderView* header = horizontalHeader();
+    QList<int> columns;
+    for (int place = 0; place < header->count(); ++place) {
+        const int column = header->logicalIndex(place);
+        if (!header->isSectionHidden(column))
+            columns << column;
+    }
+    return columns;
+}
+
+void GameTableView::copySelection() const
+{
+    QList<int> rows;
+    for (const QModelIndex& row : selectionModel()->selectedRows())
+        rows << row.row();
+    if (rows.isEmpty())
+        return;
+    std::ranges::sort(rows);
+    const QList<int> columns = shownColumns();
+    QString text;
+    for (const int row : rows) {
+        for (const int column : columns) {
+            // A value's own tabs and line ends would be taken for ours.
+            const QString value = model()->index(row, column).data(Qt::EditRole).toString();
+            text += value.simplified() + (column == columns.last() ? u'\n' : u'\t');
+        }
+    }
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void GameTableView::fillColumnsMenu(QMenu& menu)
+{
+    menu.clear();
+    const QList<int> shown = shownColumns();
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        QAction* action = menu.addAction(model()->headerData(column, Qt::Horizontal).toString());
+        action->setCheckable(true);
+        action->setChecked(shown.contains(column));
+        action->setEnabled(shown != QList<int>{column});
+        connect(
+            action, &QAction::toggled, horizontalHeader(),
+            [header = horizontalHeader(), column](bool isOn) { header->setSectionHidden(column, !isOn); });
+    }
+}
+
+void GameTableView::showColumnsMenu(QPoint place)
+{
+    QMenu menu;
+    fillColumnsMenu(menu);
+    menu.exec(horizontalHeader()->mapToGlobal(place));
 }
 
 void GameTableView::setModel(QAbstractItemModel* model)

@@ -2,6 +2,8 @@
 
 #include <QTableView>
 
+class QMenu;
+
 namespace tessera {
 
 /// The table of games: whole rows are selected, Return plays, F2 edits the cell.
@@ -15,6 +17,12 @@ public:
     /// Puts the text of an open cell editor into its record, as leaving the cell would.
     void commitOpenEditor();
 
+    /// The selected rows on the clipboard: a line each, tabs between the columns that are shown, in their
+    /// order.
+    void copySelection() const;
+    /// A tick for each column; the last one that is shown stays.
+    void fillColumnsMenu(QMenu& menu);
+
     void setModel(QAbstractItemModel* model) override;
 
 Q_SIGNALS:
@@ -25,6 +33,10 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    QList<int> shownColumns() const;
+    void showColumnsMenu(QPoint place);
 };
 
 } // namespace tessera

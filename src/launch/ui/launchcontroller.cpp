@@ -112,8 +112,11 @@ void LaunchController::noteRecent(const QString& game)
 
 void LaunchController::profileAnswered(const QString& executable, const ProfileAnswer& answer)
 {
-    if (m_waiting && m_waiting->executable == executable)
-        begin(*std::exchange(m_waiting, std::nullopt), answer);
+    if (!m_waiting || m_waiting->executable != executable)
+        return;
+    const auto launch = std::move(*m_waiting);
+    m_waiting.reset();
+    begin(launch, answer);
 }
 
 void LaunchController::begin(const Launch& launch, const ProfileAnswer& answer)
@@ -214,8 +217,9 @@ void LaunchController::saveLogAction()
         return;
     const std::string text = log.text().toStdString();
     const std::array<std::string_view, 1> pieces{text};
-    // Deliberate: a failure is not reported.
-    (void)writeAtomically(*path, pieces);
+    // Deliberate: no alert and no beep for a failure.
+    if (const auto written = writeAtomically(*path, pieces); !written)
+        Q_EMIT statusMessage(written.error().text());
 }
 
 void LaunchController::showLogWindow()

@@ -1,0 +1,88 @@
+#include "catalogue/ui/recordediting.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/recordeditor.h"
+#include "platform/desktop.h"
+
+#include <QPushButton>
+
+namespace tessera {
+
+RecordEditing::RecordEditing(Catalogue& catalogue, Desktop& desktop, GameListController& list,
+                             QObject* parent)
+    : QObject(parent)
+    , m_catalogue(catalogue)
+    , m_desktop(desktop)
+    , m_list(list)
+    , m_editor(std::make_unique<RecordEditor>())
+{
+    connect(&list, &GameListController::selectionChanged, this, &RecordEditing::showSelection);
+    connect(&catalogue, &Catalogue::recordChanged, this, &RecordEditing::showSelection);
+    connect(&catalogue, &Catalogue::removed, this, &RecordEditing::removed);
+    connect(&catalogue, &Catalogue::putBackAt, this, &RecordEditing::putBack);
+    connect(m_editor.get(), &RecordEditor::edited, &catalogue, &Catalogue::setValue);
+    connect(m_editor->editRemove, &QPushButton::clicked, this, &RecordEditing::removeRecord);
+    connect(m_editor->previousButton, &QPushButton::clicked, &list, [&list] { list.selectNeighbour(-1); });
+    connect(m_editor->nextButton, &QPushButton::clicked, &list, [&list] { list.selectNeighbour(1); });
+}
+
+RecordEditing::~RecordEditing() = default;
+
+void RecordEditing::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    if (!enabled)
+        m_editor->close();
+    showSelection();
+}
+
+void RecordEditing::commitEditing()
+{
+    m_editor->commit();
+}
+
+void RecordEditing::editRecord()
+{
+    if (!m_enabled)
+        return;
+    showSelection();
+    m_editor->bringForward();
+}
+
+// What is selected at the answer is what was selected at the question: the alert is modal.
+void RecordEditing::removeRecord()
+{
+    std::vector<std::uint32_t> records = m_list.selectedRecords();
+    if (records.empty() || !m_enabled)
+        return;
+    m_desktop.beep();
+    Alert alert;
+    alert.style = Alert::Style::Warning;
+    alert.message = qtTrId("record_remove_Message");
+    alert.informative = qtTrId("record_remove_Info");
+    alert.buttons = {qtTrId("remove"), qtTrId("cancel")};
+    if (m_desktop.runAlert(alert) == 0)
+        m_catalogue.remove(std::move(records));
+}
+
+void RecordEditing::showSelection()
+{
+    m_editor->show(m_list.firstSelected(), m_catalogue.records(), m_enabled);
+}
+
+// The row that took the place of the first one is selected, so that several can be removed in a row.
+void RecordEditing::removed()
+{
+    const int row = m_list.firstSelectedRow();
+    m_list.setContent();
+    m_list.selectRow(row);
+}
+
+void RecordEditing::putBack(const std::vector<std::uint32_t>& records)
+{
+    m_list.setContent();
+    m_list.selectRecords(records);
+}
+
+} // namespace tessera

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+namespace tessera {
+
+class Catalogue;
+class Desktop;
+class GameListController;
+class RecordEditor;
+
+/// The commands that change records: the record editor, and removing.
+class RecordEditing : public QObject
+{
+    Q_OBJECT
+
+public:
+    RecordEditing(Catalogue& catalogue, Desktop& desktop, GameListController& list,
+                  QObject* parent = nullptr);
+    ~RecordEditing() override;
+
+    RecordEditor& editor() { return *m_editor; }
+    /// While a catalogue is being built the old one is not edited.
+    void setEnabled(bool enabled);
+    void commitEditing();
+
+public Q_SLOTS:
+    void editRecord();
+    void removeRecord();
+
+private:
+    void showSelection();
+    void removed();
+    void putBack(const std::vector<std::uint32_t>& records);
+
+    Catalogue& m_catalogue;
+    Desktop& m_desktop;
+    GameListController& m_list;
+    std::unique_ptr<RecordEditor> m_editor;
+    bool m_enabled = true;
+};
+
+} // namespace tessera

@@ -1,0 +1,177 @@
+#include "stagedapp.h"
+
+#include "app/mainwindow.h"
+#include "app/preferenceswindow.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
+#include "catalogue/ui/gametableview.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/logwindow.h"
+#include "support/testmain.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QMenu>
+#include <QScrollBar>
+
+using namespace tessera;
+using test::StagedApp;
+
+/// The commands that act on the window that is key, and those of the table.
+class KeyCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staged = std::make_unique<StagedApp>();
+        QByteArray store = "<database>";
+        for (int i = 0; i < 300; ++i)
+            store += "<object type=\"MAME\" id=\"z" + QByteArray::number(102 + i)
+                + "\"><attribute name=\"name\" type=\"string\">set" + QByteArray::number(1000 + i)
+                + "</attribute><attribute name=\"title\" type=\"string\">Title\t" + QByteArray::number(i)
+                + "</attribute></object>";
+        m_staged->writeStore(store + "</database>");
+        m_staged->start();
+        m_table = m_staged->app->mainWindow().gameTable;
+        becomeKey(m_staged->app->mainWindow());
+    }
+
+    void cleanup() { m_staged.reset(); }
+
+    void randomSelectsOneRowAndSounds()
+    {
+        QSet<QString> chosen;
+        for (int i = 0; i < 60; ++i) {
+            m_table->selectAll();
+            m_staged->app->mameslotAction();
+            QCOMPARE(m_staged->app->gameList().selectedCount(), 1);
+            QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("sound slot_end")});
+            const QRect row = m_table->visualRect(m_table->selectionModel()->selectedRows().constFirst());
+            QVERIFY(m_table->viewport()->rect().intersects(row));
+            chosen << m_staged->app->gameList().tableViewSelectionROM();
+        }
+        QVERIFY(chosen.size() > 10);
+    }
+
+    void randomOfAnEmptyListBeeps()
+    {
+        m_staged->app->gameList().list().setPredicate([](const GameRecord&) { return false; });
+        m_staged->app->mameslotAction();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+        QCOMPARE(m_staged->app->gameList().selectedCount(), 0);
+    }
+
+    void homeAndEndScrollTheList()
+    {
+        m_table->selectRow(150);
+        QScrollBar* bar = m_table->verticalScrollBar();
+        m_staged->app->scrollsEndAction();
+        QCOMPARE(bar->value(), bar->maximum());
+        m_staged->app->scrollsHomeAction();
+        QCOMPARE(bar->value(), 0);
+        QCOMPARE(m_staged->app->gameList().tableViewSelectionROM(), QStringLiteral("set1150"));
+    }
+
+    void theLogMovesByOnePageOnly()
+    {
+        LogWindow& log = m_staged->app->logWindow();
+        log.infomationTextView->replace(QStringLiteral("line\n").repeated(500));
+        m_staged->app->showLogWindow();
+        becomeKey(log);
+        QScrollBar* bar = log.infomationTextView->verticalScrollBar();
+        bar->setValue(200);
+        m_staged->app->scrollsHomeAction();
+        const int page = 200 - bar->value();
+        QVERIFY(page > 10 && page <= bar->pageStep() + 1);
+        m_staged->app->scrollsEndAction();
+        m_staged->app->scrollsEndAction();
+        QVERIFY(bar->value() > 200 && bar->value() <= 200 + page + 1);
+        QCOMPARE(m_table->verticalScrollBar()->value(), 0);
+    }
+
+    void otherWindowsLetTheCommandsDoNothing()
+    {
+        m_staged->app->showPrefsWindow();
+        becomeKey(m_staged->app->preferencesWindow());
+        m_staged->app->scrollsEndAction();
+        m_staged->app->mameslotAction();
+        QCOMPARE(m_table->verticalScrollBar()->value(), 0);
+        QCOMPARE(m_staged->app->gameList().selectedCount(), 0);
+        QVERIFY(m_staged->desktop.takeTranscript().isEmpty());
+    }
+
+    void aPopUpLeavesTheKeyWindowKey()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("item"));
+        menu.popup(QPoint(20, 20));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        m_staged->app->scrollsEndAction();
+        QVERIFY(m_table->verticalScrollBar()->value() > 0);
+    }
+
+    void copyGivesLinesWithTabs()
+    {
+        m_table->selectRow(4);
+        m_table->selectionModel()->select(m_table->model()->index(2, 0),
+                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        for (int column = 2; column < m_table->model()->columnCount(); ++column)
+            m_table->setColumnHidden(column, true);
+        m_staged->app->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 QStringLiteral("set1002\tTitle 2\nset1004\tTitle 4\n"));
+        m_table->horizontalHeader()->moveSection(1, 0);
+        m_staged->app->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 QStringLiteral("Title 2\tset1002\nTitle 4\tset1004\n"));
+    }
+
+    void nothingSelectedLeavesTheClipboard()
+    {
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        m_table->clearSelection();
+        m_staged->app->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+    }
+
+    void columnsAreShownAndHidden()
+    {
+        const int status = m_table->model()->columnCount() - 2;
+        QVERIFY(m_table->isColumnHidden(status));
+        QMenu menu;
+        m_table->fillColumnsMenu(menu);
+        menu.actions().at(status)->trigger();
+        QVERIFY(!m_table->isColumnHidden(status));
+        for (int column = 1; column < m_table->model()->columnCount(); ++column)
+            m_table->setColumnHidden(column, true);
+        m_table->fillColumnsMenu(menu);
+        QVERIFY(!menu.actions().at(0)->isEnabled());
+        QVERIFY(menu.actions().at(1)->isEnabled());
+    }
+
+    void hiddenColumnsAreRemembered()
+    {
+        m_table->setColumnHidden(2, true);
+        m_staged->app->mainWindow().remember();
+        m_table->setColumnHidden(2, false);
+        m_staged->app->mainWindow().restore();
+        QVERIFY(m_table->isColumnHidden(2));
+        QVERIFY(!m_table->isColumnHidden(1));
+    }
+
+private:
+    static void becomeKey(QWidget& window)
+    {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    std::unique_ptr<StagedApp> m_staged;
+    GameTableView* m_table = nullptr;
+};
+
+TESSERA_TEST(KeyCommandsTest);
+#include "keycommandstest.moc"
