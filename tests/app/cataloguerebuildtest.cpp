@@ -255,9 +255,10 @@ private Q_SLOTS:
     {
         StagedApp staged;
         staged.writeCatalogue();
-        staged.useEmulator(makeEmulator(staged));
         staged.start();
-        QVERIFY(QDir().mkpath(staged.settingsPath()));
+        QVERIFY(QFile::remove(staged.settingsPath()));
+        QVERIFY(QDir().mkdir(staged.settingsPath()));
+        staged.useEmulator(makeEmulator(staged));
         staged.app->rebuildCatalogue();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
         QCOMPARE(message(staged), QStringLiteral("rebuild_done failure_settings"));

@@ -286,8 +286,10 @@ private Q_SLOTS:
         QVERIFY(heard.waitForOutcome());
         QCOMPARE(heard.cancelled, 1);
         // It still runs when the first one would have been killed.
-        play(list, "after4");
-        heard.build.start(fakeEmulator, m_store);
+        const QString slow = m_folder->filePath("slow");
+        write(slow, "#!/bin/sh\ncat '" + QFile::encodeName(m_folder->filePath("list.xml")) + "'\nsleep 4\n");
+        QVERIFY(QFile::setPermissions(slow, QFile::ReadOwner | QFile::ExeOwner));
+        heard.build.start(slow, m_store);
         QVERIFY(QTest::qWaitFor([&] { return heard.outcomes() == 2; }, patience));
         QCOMPARE(heard.failure(), QByteArray());
         QCOMPARE(heard.finished, {2});
