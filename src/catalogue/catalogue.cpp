@@ -95,8 +95,8 @@ void Catalogue::takeOut(std::span<const std::uint32_t> places)
 {
     std::vector<GameRecord> kept;
     kept.reserve(m_records.size() - places.size());
-    std::size_t from = 0;
-    for (const std::uint32_t place : places) {
+    std::ptrdiff_t from = 0;
+    for (const std::ptrdiff_t place : places) {
         kept.insert(kept.end(), m_records.begin() + from, m_records.begin() + place);
         from = place + 1;
     }

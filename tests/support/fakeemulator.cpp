@@ -119,8 +119,6 @@ int plays(const std::string& game, int argc, char* argv[])
         std::printf("%s %s\n", std::getenv("LC_NUMERIC"), all ? all : "unset");
     } else if (game == "wait") {
         waitToBeEnded();
-    } else if (game.starts_with("after")) {
-        sleep(static_cast<unsigned>(number(5)));
     } else if (game == "stubborn") {
         std::signal(SIGTERM, SIG_IGN);
         waitToBeEnded();
