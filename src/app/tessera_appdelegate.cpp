@@ -9,6 +9,7 @@
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "launch/emulatorfinder.h"
@@ -148,6 +149,8 @@ void Tessera_AppDelegate::joinRooms()
             &MainWindow::setRebuilding);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_editing.get(),
             [this](bool running) { m_editing->setEnabled(!running); });
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_gameList->model(),
+            &GameTableModel::setLocked);
 
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
