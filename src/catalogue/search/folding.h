@@ -14,8 +14,12 @@ constexpr char foldedAscii(char c)
     return byte < 0x20 || byte == 0x7F ? ' ' : c;
 }
 
+/// Several blanks become one, from `begin` on.
+void squeezeBlanks(std::string& text, std::size_t begin);
+
 /// Appends the form in which texts are compared by a search: without case, accents, full or half width and
-/// long vowel marks, with hiragana for katakana. It holds no control character. Any thread may fold.
+/// long vowel marks, with hiragana for katakana and single blanks. It holds no control character. Any thread
+/// may fold.
 void appendFolded(std::string& out, std::string_view text);
 std::string folded(std::string_view text);
 
