@@ -87,17 +87,23 @@ bool isHiragana(UChar32 c)
     return (c >= 0x3041 && c <= 0x3096) || c == 0x309F;
 }
 
-// Only kana and what parts words is left: no letter of the text itself may pass for a reading.
+// What stands for a character in the text that is transliterated: no letter of the text itself may pass for a
+// reading. A bracket ends a title's first part.
+UChar32 unread(UChar32 c)
+{
+    return u_isalnum(c) != 0 ? UChar32{unreadSign} : c == u'(' ? c : UChar32{' '};
+}
+
 UnicodeString kanaOnly(const UnicodeString& text, bool& holdsKana)
 {
     UnicodeString out;
     for (int32_t i = 0; i < text.length(); i = text.moveIndex32(i, 1)) {
         const UChar32 c = text.char32At(i);
         holdsKana = holdsKana || isHiragana(c);
-        if (isHiragana(c))
+        if (!isHiragana(c))
+            out.append(unread(c));
+        else // ICU does not know the small ka and ke
             out.append(c == 0x3095 ? UChar32{0x304B} : c == 0x3096 ? UChar32{0x3051} : c);
-        else
-            out.append(u_isalnum(c) ? UChar32{unreadSign} : UChar32{' '});
     }
     return out;
 }
@@ -113,13 +119,13 @@ const icu::Transliterator* hiraganaToLatin()
     return made.get();
 }
 
-// What ICU leaves that is no Latin letter (an iteration mark, say) counts as unread.
+// What ICU leaves as it is (an iteration mark, say) counts as unread.
 std::string latinOnly(const UnicodeString& text)
 {
     std::string out;
     for (int32_t i = 0; i < text.length(); ++i) {
         const char16_t c = text[i];
-        const bool isLatin = (c >= u'a' && c <= u'z') || c == u'~' || c == u' ' || c == u'\'';
+        const bool isLatin = (c >= u'a' && c <= u'z') || std::u16string_view(u"~' (").contains(c);
         out += isLatin ? static_cast<char>(c) : unreadSign;
     }
     return out;
