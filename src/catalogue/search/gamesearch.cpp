@@ -146,4 +146,20 @@ void GameSearch::replace(std::uint32_t record, const GameRecord& now)
     m_facts.replace(record, now);
 }
 
+void GameSearch::remove(std::uint32_t record)
+{
+    m_texts.remove(record);
+    m_facts.remove(record);
+    if (!m_haves.empty())
+        m_haves.erase(m_haves.begin() + record);
+}
+
+void GameSearch::insert(std::uint32_t record, const GameRecord& added, Have have)
+{
+    m_texts.insert(record, added);
+    m_facts.insert(record, added);
+    if (!m_haves.empty())
+        m_haves.insert(m_haves.begin() + record, have);
+}
+
 } // namespace tessera

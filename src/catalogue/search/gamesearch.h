@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/found.h"
 #include "catalogue/have.h"
-#include "catalogue/recordset.h"
 #include "catalogue/search/chips.h"
 #include "catalogue/search/query.h"
 #include "catalogue/search/recordfacts.h"
@@ -11,13 +11,6 @@
 #include <vector>
 
 namespace tessera {
-
-/// What a search found.
-struct Found {
-    RecordSet records;
-    /// For each found record how well the words fit it, the least first. Empty where there are no words.
-    std::vector<std::uint8_t> ranks;
-};
 
 /// Finds records by words and terms. It keeps what it needs of them: the records themselves are only read
 /// while it is made and when one of them is replaced, so that it may be made on any thread.
@@ -32,11 +25,13 @@ public:
     }
 
     /// The second step of preparing the texts, as SearchTexts tells it.
-    SearchBuffer unfolded() const { return m_texts.unfolded(); }
-    void take(const FoldedTexts& folded) { m_texts.take(folded); }
+    SearchBuffer unfolded() { return m_texts.unfolded(); }
+    void take(FoldedTexts folded) { m_texts.take(std::move(folded)); }
 
-    /// A record of the content has been edited.
+    // A record of the content has been edited, or taken out of it, or put into it at this place.
     void replace(std::uint32_t record, const GameRecord& now);
+    void remove(std::uint32_t record);
+    void insert(std::uint32_t record, const GameRecord& added, Have have = Have::Missing);
     /// One a record, or none while nothing is known of the ROM folders: then nobody has anything.
     void setHaves(std::vector<Have> haves) { m_haves = std::move(haves); }
 

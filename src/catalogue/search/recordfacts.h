@@ -42,6 +42,11 @@ public:
     const std::vector<std::string>& devices() const { return m_devices; }
 
     void replace(std::uint32_t record, const GameRecord& now) { m_facts[record] = facts(now); }
+    void remove(std::uint32_t record) { m_facts.erase(m_facts.begin() + record); }
+    void insert(std::uint32_t record, const GameRecord& added)
+    {
+        m_facts.insert(m_facts.begin() + record, facts(added));
+    }
 
 private:
     RecordFacts facts(const GameRecord& record);

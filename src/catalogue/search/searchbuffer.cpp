@@ -112,6 +112,19 @@ void SearchBuffer::blank(std::uint32_t record)
     }
 }
 
+void SearchBuffer::remove(std::uint32_t record)
+{
+    blank(record);
+    for (std::uint32_t& each : m_records)
+        each -= each > record ? 1 : 0;
+}
+
+void SearchBuffer::makeRoom(std::uint32_t record)
+{
+    for (std::uint32_t& each : m_records)
+        each += each >= record ? 1 : 0;
+}
+
 // Steps that double find the place behind a gap of any length soon.
 std::size_t SearchBuffer::placeOf(std::size_t offset, std::size_t place) const
 {

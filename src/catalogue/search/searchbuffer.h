@@ -37,6 +37,10 @@ public:
     void append(const SearchBuffer& other);
     /// The record is not found here any more. Its room stays taken.
     void blank(std::uint32_t record);
+    /// The same, and all records behind it move up by one.
+    void remove(std::uint32_t record);
+    /// This record and all behind it move back by one.
+    void makeRoom(std::uint32_t record);
 
     /// Calls `hit(record, offset)` for each place of the word in bytes().
     template <class Hit>

@@ -122,31 +122,70 @@ FoldedTexts SearchTexts::fold(const SearchBuffer& unfolded)
     return folded;
 }
 
-void SearchTexts::take(const FoldedTexts& folded)
+SearchBuffer SearchTexts::unfolded()
 {
-    const SearchBuffer replacedTexts = m_texts.part(m_foldedEnd, m_texts.records());
-    const SearchBuffer replacedReadings = std::exchange(m_readings, folded.readings);
+    m_edits.clear();
+    return m_texts.part(m_asciiRecords, m_foldedEnd);
+}
+
+void SearchTexts::take(FoldedTexts folded)
+{
+    for (const auto& [kind, record] : m_edits) {
+        apply(kind, record, folded.texts);
+        apply(kind, record, folded.readings);
+    }
+    const SearchBuffer edited = m_texts.part(m_foldedEnd, m_texts.records());
     m_texts.cut(m_asciiRecords, m_texts.records());
     m_texts.append(folded.texts);
     m_foldedEnd = m_texts.records();
-    for (const std::uint32_t record : m_replaced) {
-        m_texts.blank(record);
-        m_readings.blank(record);
-    }
-    m_texts.append(replacedTexts);
-    m_readings.append(replacedReadings);
+    m_texts.append(edited);
+    m_readings.append(folded.readings);
+    m_edits.clear();
 }
 
 void SearchTexts::replace(std::uint32_t record, const GameRecord& now)
 {
+    edit(Edit::Replaced, record);
+    append(record, now);
+}
+
+void SearchTexts::remove(std::uint32_t record)
+{
+    edit(Edit::Removed, record);
+}
+
+void SearchTexts::insert(std::uint32_t record, const GameRecord& added)
+{
+    edit(Edit::Inserted, record);
+    append(record, added);
+}
+
+void SearchTexts::edit(Edit kind, std::uint32_t record)
+{
+    apply(kind, record, m_texts);
+    apply(kind, record, m_readings);
+    m_edits.emplace_back(kind, record);
+}
+
+void SearchTexts::apply(Edit kind, std::uint32_t record, SearchBuffer& buffer)
+{
+    switch (kind) {
+    case Edit::Replaced:
+        return buffer.blank(record);
+    case Edit::Removed:
+        return buffer.remove(record);
+    case Edit::Inserted:
+        return buffer.makeRoom(record);
+    }
+}
+
+void SearchTexts::append(std::uint32_t record, const GameRecord& added)
+{
     SearchBuffer one;
-    addFoldingAscii(one, record, now);
+    addFoldingAscii(one, record, added);
     const FoldedTexts folded = fold(one);
-    m_texts.blank(record);
-    m_readings.blank(record);
     m_texts.append(folded.texts);
     m_readings.append(folded.readings);
-    m_replaced.push_back(record);
 }
 
 } // namespace tessera

@@ -4,6 +4,8 @@
 #include "catalogue/search/searchbuffer.h"
 
 #include <span>
+#include <utility>
+#include <vector>
 
 namespace tessera {
 
@@ -29,23 +31,31 @@ public:
     explicit SearchTexts(std::span<const GameRecord> content);
 
     /// A copy of what the first step left, good on any thread and after the records are gone.
-    SearchBuffer unfolded() const { return m_texts.part(m_asciiRecords, m_foldedEnd); }
+    SearchBuffer unfolded();
     static FoldedTexts fold(const SearchBuffer& unfolded);
-    /// Records that were replaced meanwhile stay as they are.
-    void take(const FoldedTexts& folded);
+    /// What was edited since unfolded() stays as it is.
+    void take(FoldedTexts folded);
 
-    /// A record of the content has been edited.
+    // A record of the content has been edited, or taken out of it, or put into it at this place.
     void replace(std::uint32_t record, const GameRecord& now);
+    void remove(std::uint32_t record);
+    void insert(std::uint32_t record, const GameRecord& added);
 
     const SearchBuffer& texts() const { return m_texts; }
     const SearchBuffer& readings() const { return m_readings; }
 
 private:
-    SearchBuffer m_texts; // what is ASCII, what is unfolded or was folded, what was replaced
+    enum class Edit : std::uint8_t { Replaced, Removed, Inserted };
+
+    void edit(Edit kind, std::uint32_t record);
+    static void apply(Edit kind, std::uint32_t record, SearchBuffer& buffer);
+    void append(std::uint32_t record, const GameRecord& added);
+
+    SearchBuffer m_texts; // what is ASCII, what is unfolded or was folded, what was added by edits
     SearchBuffer m_readings;
     std::size_t m_asciiRecords = 0;
     std::size_t m_foldedEnd = 0;
-    std::vector<std::uint32_t> m_replaced;
+    std::vector<std::pair<Edit, std::uint32_t>> m_edits; // since unfolded()
 };
 
 } // namespace tessera

@@ -301,6 +301,49 @@ private Q_SLOTS:
         QCOMPARE(finds("prologica"), QStringLiteral("jp"));
     }
 
+    // A search that was edited finds what one made anew finds, whenever the second step came.
+    void editsAreLikeStartingAnew()
+    {
+        const SampleRecords sample = randomGames();
+        RandomTexts random;
+        for (int round = 0; round < 30; ++round) {
+            std::vector<GameRecord> records(sample.store.records.begin(), sample.store.records.begin() + 40);
+            GameSearch search(records);
+            const int asked = random.number(30);
+            const int taken = asked + random.number(10);
+            SearchBuffer unfolded;
+            for (int edit = 0; edit < 50; ++edit) {
+                if (edit == asked)
+                    unfolded = search.unfolded();
+                if (edit == taken)
+                    search.take(SearchTexts::fold(unfolded));
+                const auto at = static_cast<std::uint32_t>(random.number(static_cast<int>(records.size())));
+                const GameRecord& other = sample.store.records[static_cast<std::size_t>(random.number(300))];
+                switch (random.number(3)) {
+                case 0:
+                    records[at] = other;
+                    search.replace(at, other);
+                    break;
+                case 1:
+                    records.erase(records.begin() + at);
+                    search.remove(at);
+                    break;
+                default:
+                    records.insert(records.begin() + at, other);
+                    search.insert(at, other);
+                }
+            }
+            GameSearch anew(records);
+            anew.take(SearchTexts::fold(anew.unfolded()));
+            for (int i = 0; i < 40; ++i) {
+                const Query query(randomQuery(random));
+                QVERIFY(search.find(query).records == anew.find(query).records);
+                QVERIFY(search.find(query).ranks == anew.find(query).ranks);
+            }
+            QCOMPARE(search.chipCounts(), anew.chipCounts());
+        }
+    }
+
     void haveAsksTheRomFolders()
     {
         const SampleRecords sample = sampleGames();
