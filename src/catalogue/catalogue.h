@@ -45,7 +45,7 @@ public:
 Q_SIGNALS:
     /// Every record is another one now.
     void replaced();
-    void recordChanged(std::uint32_t record);
+    void recordChanged(std::uint32_t record, Field field);
 
 private:
     friend class EditCommand;

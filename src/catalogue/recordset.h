@@ -19,6 +19,16 @@ public:
     {
     }
 
+    static RecordSet all(std::size_t size)
+    {
+        RecordSet set(size);
+        for (std::uint64_t& word : set.m_words)
+            word = ~std::uint64_t{0};
+        if (size % 64 != 0)
+            set.m_words.back() >>= 64 - size % 64;
+        return set;
+    }
+
     /// The records whose byte is not zero.
     static RecordSet of(std::span<const std::uint8_t> kept)
     {

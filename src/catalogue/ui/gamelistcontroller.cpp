@@ -24,6 +24,8 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
 {
     m_list.setContent(catalogue.records());
     connect(&catalogue, &Catalogue::replaced, this, [this] { m_list.setContent(m_catalogue.records()); });
+    connect(&catalogue, &Catalogue::recordChanged, &m_list,
+            [this](std::uint32_t, Field field) { m_list.forgetOrder(field); });
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
 }
 
