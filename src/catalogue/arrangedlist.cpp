@@ -1,6 +1,6 @@
 #include "catalogue/arrangedlist.h"
 
-#include "catalogue/recordsort.h"
+#include "catalogue/families.h"
 
 namespace tessera {
 
@@ -8,12 +8,39 @@ namespace {
 
 constexpr std::uint32_t hidden = 0xFFFF'FFFF;
 
+// Equal ranks keep their order.
+std::vector<std::uint32_t> byRank(std::span<const std::uint32_t> rows, std::span<const std::uint8_t> ranks)
+{
+    std::array<std::uint32_t, 257> next{};
+    for (const std::uint32_t record : rows)
+        ++next[ranks[record] + 1U];
+    for (std::size_t rank = 1; rank < next.size(); ++rank)
+        next[rank] += next[rank - 1];
+    std::vector<std::uint32_t> ordered(rows.size());
+    for (const std::uint32_t record : rows)
+        ordered[next[ranks[record]]++] = record;
+    return ordered;
+}
+
 } // namespace
+
+RecordSet recordsWhere(std::span<const GameRecord> content, const Predicate& predicate)
+{
+    RecordSet records(content.size());
+    for (std::uint32_t record = 0; record < content.size(); ++record) {
+        if (predicate(content[record]))
+            records.insert(record);
+    }
+    return records;
+}
 
 void ArrangedList::setContent(std::span<const GameRecord> content)
 {
     Q_EMIT aboutToArrange();
     m_content = content;
+    m_found.reset();
+    m_families.reset();
+    m_sorted = {};
     arrange();
 }
 
@@ -24,25 +51,66 @@ void ArrangedList::setPredicate(Predicate predicate)
     arrange();
 }
 
+void ArrangedList::setFound(std::optional<Found> found)
+{
+    Q_EMIT aboutToArrange();
+    m_found = std::move(found);
+    arrange();
+}
+
 void ArrangedList::setSort(Field field, bool ascending)
 {
-    if (field == m_field && ascending == m_ascending)
+    if (field == m_field && ascending == m_ascending && !isRanked())
         return;
     Q_EMIT aboutToArrange();
     m_field = field;
     m_ascending = ascending;
+    if (m_found)
+        m_found->ranks.clear();
     arrange();
+}
+
+void ArrangedList::setFamilies(std::optional<Families> families)
+{
+    Q_EMIT aboutToArrange();
+    m_families = std::move(families);
+    arrange();
+}
+
+// The predicate is asked about what was found only.
+RecordSet ArrangedList::chosen() const
+{
+    if (!m_found)
+        return m_predicate ? recordsWhere(m_content, m_predicate) : RecordSet::all(m_content.size());
+    RecordSet records = m_found->records;
+    if (m_predicate) {
+        for (const std::uint32_t record : m_found->records.records()) {
+            if (!m_predicate(m_content[record]))
+                records.remove(record);
+        }
+    }
+    return records;
+}
+
+const SortedRecords& ArrangedList::sorted()
+{
+    auto& sorted = m_sorted[static_cast<std::size_t>(m_field)];
+    if (!sorted)
+        sorted.emplace(m_content, m_field);
+    return *sorted;
 }
 
 void ArrangedList::arrange()
 {
-    m_rows.clear();
-    m_rows.reserve(m_content.size());
-    for (std::uint32_t record = 0; record < m_content.size(); ++record) {
-        if (!m_predicate || m_predicate(m_content[record]))
-            m_rows.push_back(record);
+    m_rows = m_ascending ? sorted().ascending(chosen()) : sorted().descending(chosen());
+    m_clones.clear();
+    if (isRanked()) {
+        m_rows = byRank(m_rows, m_found->ranks);
+    } else if (m_families) {
+        FamilyRows folded = foldFamilies(m_rows, m_families->heads, m_families->open);
+        m_rows = std::move(folded.rows);
+        m_clones = std::move(folded.clones);
     }
-    sortRecords(m_rows, m_content, m_field, m_ascending);
 
     m_rowOf.assign(m_content.size(), hidden);
     for (std::uint32_t row = 0; row < m_rows.size(); ++row)

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "catalogue/found.h"
 #include "catalogue/gamerecord.h"
+#include "catalogue/recordsort.h"
 
 #include <QObject>
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -13,21 +17,41 @@ namespace tessera {
 
 using Predicate = std::function<bool(const GameRecord&)>;
 
-/// What a table shows of a content: the records that its predicate lets through, in its sort order.
+/// The records of a content that the predicate lets through.
+RecordSet recordsWhere(std::span<const GameRecord> content, const Predicate& predicate);
+
+/// What a table shows of a content: the records that its predicate lets through and a search has found, in
+/// its sort order or the best ranked first, with clones folded beneath their parents.
 class ArrangedList : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Which records belong together, by the index of each one's head, and the heads whose clones are shown.
+    struct Families {
+        std::vector<std::uint32_t> heads;
+        RecordSet open;
+    };
+
     using QObject::QObject;
 
-    /// The content outlives the list, or is replaced by another call. Absent values sort first, ties keep the
-    /// content's order, comparison is by code point, case-sensitive.
+    /// The content outlives the list, or is replaced by another call. What was found and the families, which
+    /// name records by their indexes, are gone then. Absent values sort first, ties keep the content's order,
+    /// comparison is by code point, case-sensitive.
     void setContent(std::span<const GameRecord> content);
     /// No predicate lets every record through.
     void setPredicate(Predicate predicate);
-    /// The order that the list has already changes nothing.
+    /// Besides the predicate: only what was found, the best ranked first. Nothing lets every record through.
+    void setFound(std::optional<Found> found);
+    /// The order that the list has already changes nothing. A sort wins over ranks: they are forgotten until
+    /// something else is found.
     void setSort(Field field, bool ascending);
+    /// Without families every record has a row of its own. So it has while ranks count.
+    void setFamilies(std::optional<Families> families);
+
+    /// A record's value in this field is another one now. Rows stay as they are until something asks for
+    /// others.
+    void forgetOrder(Field field) { m_sorted[static_cast<std::size_t>(field)].reset(); }
 
     /// Indexes into the content, one a row.
     std::span<const std::uint32_t> rows() const { return m_rows; }
@@ -36,8 +60,12 @@ public:
 
     Field sortField() const { return m_field; }
     bool ascending() const { return m_ascending; }
+    /// The best ranked come first.
+    bool isRanked() const { return m_found && !m_found->ranks.empty(); }
+    /// How many clones belong to a row, shown or folded.
+    std::uint32_t clones(std::size_t row) const { return m_clones.empty() ? 0 : m_clones[row]; }
 
-    /// The row that shows a record of the content, or nothing when the predicate hides it.
+    /// The row that shows a record of the content, or nothing when it is hidden or folded.
     std::optional<std::size_t> rowOf(std::uint32_t record) const;
     /// The first row whose field is exactly `value`.
     std::optional<std::size_t> find(Field field, std::string_view value) const;
@@ -48,12 +76,18 @@ Q_SIGNALS:
 
 private:
     void arrange();
+    RecordSet chosen() const;
+    const SortedRecords& sorted();
 
     std::span<const GameRecord> m_content;
     Predicate m_predicate;
+    std::optional<Found> m_found;
+    std::optional<Families> m_families;
     Field m_field = Field::Name;
     bool m_ascending = true;
+    std::array<std::optional<SortedRecords>, fieldCount> m_sorted;
     std::vector<std::uint32_t> m_rows;
+    std::vector<std::uint32_t> m_clones; // one a row, or none at all
     std::vector<std::uint32_t> m_rowOf; // the other way round: a row for each record of the content
 };
 

@@ -87,7 +87,7 @@ std::expected<void, Failure> Catalogue::save()
 void Catalogue::put(std::uint32_t record, Field field, std::string_view text)
 {
     m_records[record][field] = text;
-    Q_EMIT recordChanged(record);
+    Q_EMIT recordChanged(record, field);
 }
 
 // The old records live until everybody has let go of them.

@@ -48,7 +48,7 @@ public:
 Q_SIGNALS:
     /// Every record is another one now.
     void replaced();
-    void recordChanged(std::uint32_t record);
+    void recordChanged(std::uint32_t record, Field field);
     /// Records are gone; the others stand together now.
     void removed();
     /// Removed ones are back, at these indexes, rising.

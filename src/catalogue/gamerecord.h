@@ -30,8 +30,8 @@ constexpr std::optional<Field> fieldNamed(std::string_view name)
     return std::nullopt;
 }
 
-/// One machine: nine views of UTF-8 text that the catalogue's arena owns. A view without data is absent, which
-/// is not the same as empty.
+/// One machine: nine views of UTF-8 text that the catalogue's arena owns. A view without data is absent,
+/// which is not the same as empty.
 struct GameRecord {
     std::array<std::string_view, fieldCount> values;
 

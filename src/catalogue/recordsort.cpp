@@ -48,15 +48,13 @@ std::uint64_t keyAt(std::string_view value)
 class RecordSort
 {
 public:
-    RecordSort(std::span<std::uint32_t> rows, std::span<const GameRecord> content, Field field,
-               bool ascending)
+    RecordSort(std::span<const GameRecord> content, Field field)
         : m_content(content)
         , m_field(field)
-        , m_ascending(ascending)
-        , m_goesOn(ascending ? restGoesOn : ~restGoesOn)
+        , m_begins(content.size())
     {
-        m_entries.reserve(rows.size());
-        for (const std::uint32_t row : rows)
+        m_entries.reserve(content.size());
+        for (std::uint32_t row = 0; row < content.size(); ++row)
             m_entries.push_back({0, 0, row});
     }
 
@@ -71,6 +69,7 @@ public:
     }
 
     const std::vector<Entry>& entries() const { return m_entries; }
+    std::vector<std::uint8_t> takeBegins() { return std::move(m_begins); }
 
 private:
     std::string_view value(const Entry& entry) const { return m_content[entry.row][m_field]; }
@@ -81,9 +80,8 @@ private:
 
     std::span<const GameRecord> m_content;
     Field m_field;
-    bool m_ascending;
-    std::uint32_t m_goesOn;
     std::vector<Entry> m_entries;
+    std::vector<std::uint8_t> m_begins; // 1 where a value differs from the one before it
 };
 
 void RecordSort::fill(Entry& entry, std::size_t offset) const
@@ -96,11 +94,6 @@ void RecordSort::fill(Entry& entry, std::size_t offset) const
         const std::string_view text = whole.substr(offset);
         entry.key = keyAt(text);
         entry.rest = static_cast<std::uint32_t>(std::min(text.size(), keySize + 1) + 1);
-    }
-    // Turned over, larger keys go first while rows still ascend.
-    if (!m_ascending) {
-        entry.key = ~entry.key;
-        entry.rest = ~entry.rest;
     }
 }
 
@@ -129,8 +122,9 @@ void RecordSort::sortRun(const Run& run, std::vector<Run>& runs)
         while (end < run.end && m_entries[end].key == m_entries[begin].key
                && m_entries[end].rest == m_entries[begin].rest)
             ++end;
+        m_begins[begin] = 1;
         const Run equal{begin, end, run.offset + keySize};
-        if (end - begin > 1 && m_entries[begin].rest == m_goesOn && !isOneValue(equal))
+        if (end - begin > 1 && m_entries[begin].rest == restGoesOn && !isOneValue(equal))
             runs.push_back(equal);
         begin = end;
     }
@@ -138,12 +132,43 @@ void RecordSort::sortRun(const Run& run, std::vector<Run>& runs)
 
 } // namespace
 
-void sortRecords(std::span<std::uint32_t> rows, std::span<const GameRecord> content, Field field,
-                 bool ascending)
+SortedRecords::SortedRecords(std::span<const GameRecord> content, Field field)
+    : m_records(content.size())
 {
-    RecordSort order(rows, content, field, ascending);
+    RecordSort order(content, field);
     order.sort();
-    std::ranges::transform(order.entries(), rows.begin(), &Entry::row);
+    std::ranges::transform(order.entries(), m_records.begin(), &Entry::row);
+    m_begins = order.takeBegins();
+}
+
+std::vector<std::uint32_t> SortedRecords::ascending(const RecordSet& chosen) const
+{
+    // Written always and kept when chosen: a branch for each record would be guessed wrong too often.
+    std::vector<std::uint32_t> rows(m_records.size());
+    std::size_t size = 0;
+    for (const std::uint32_t record : m_records) {
+        rows[size] = record;
+        size += chosen.contains(record) ? 1 : 0;
+    }
+    rows.resize(size);
+    return rows;
+}
+
+std::vector<std::uint32_t> SortedRecords::descending(const RecordSet& chosen) const
+{
+    std::vector<std::uint32_t> rows;
+    rows.reserve(chosen.count());
+    for (std::size_t end = m_records.size(); end > 0;) {
+        std::size_t begin = end - 1;
+        while (m_begins[begin] == 0)
+            --begin;
+        for (std::size_t i = begin; i < end; ++i) {
+            if (chosen.contains(m_records[i]))
+                rows.push_back(m_records[i]);
+        }
+        end = begin;
+    }
+    return rows;
 }
 
 } // namespace tessera

@@ -31,6 +31,14 @@ QString rows(const ArrangedList& list)
     return numbers.join(u' ');
 }
 
+RecordSet chosen(std::size_t size, std::initializer_list<std::uint32_t> records)
+{
+    RecordSet set(size);
+    for (const std::uint32_t record : records)
+        set.insert(record);
+    return set;
+}
+
 // The same order, found the plain way.
 std::vector<std::uint32_t> plainlySorted(const std::vector<GameRecord>& records, Field field, bool ascending)
 {
@@ -216,6 +224,103 @@ private Q_SLOTS:
         QCOMPARE(after.size(), 3);
         QCOMPARE(list.sortField(), Field::Year);
         QVERIFY(!list.ascending());
+    }
+
+    void onlyWhatWasFoundIsShown()
+    {
+        const SampleRecords sample = titled({"c", "x", "b", "x", "a"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        list.setFound(Found{chosen(5, {0, 1, 2}), {}});
+        QCOMPARE(rows(list), QStringLiteral("2 0 1"));
+        QCOMPARE(list.rowOf(4), std::optional<std::size_t>());
+        QCOMPARE(list.find(Field::Title, "a"), std::optional<std::size_t>());
+        list.setPredicate([](const GameRecord& record) { return record[Field::Title] != "x"; });
+        QCOMPARE(rows(list), QStringLiteral("2 0"));
+        list.setFound(std::nullopt);
+        QCOMPARE(rows(list), QStringLiteral("4 2 0"));
+        list.setFound(Found{chosen(5, {}), {}});
+        QCOMPARE(list.size(), std::size_t(0));
+        // Indexes into another content mean nothing.
+        list.setContent(sample.store.records);
+        QCOMPARE(rows(list), QStringLiteral("4 2 0"));
+    }
+
+    void theBestRankedComeFirst()
+    {
+        const SampleRecords sample = titled({"c", "x", "b", "x", "a"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        list.setFound(Found{chosen(5, {0, 1, 2, 3}), {7, 0, 7, 3, 0}});
+        QVERIFY(list.isRanked());
+        QCOMPARE(rows(list), QStringLiteral("1 3 2 0"));
+        QCOMPARE(list.rowOf(3), std::optional<std::size_t>(1));
+    }
+
+    void aSortWinsOverRank_data()
+    {
+        QTest::addColumn<bool>("ascending");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("the order that was there") << true << QStringLiteral("2 0 1");
+        QTest::newRow("another order") << false << QStringLiteral("1 0 2");
+    }
+
+    void aSortWinsOverRank()
+    {
+        QFETCH(bool, ascending);
+        const SampleRecords sample = titled({"c", "x", "b"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        list.setFound(Found{chosen(3, {0, 1, 2}), {1, 0, 2}});
+        QCOMPARE(rows(list), QStringLiteral("1 0 2"));
+        list.setSort(Field::Title, ascending);
+        QVERIFY(!list.isRanked());
+        QTEST(rows(list), "order");
+        list.setFound(Found{chosen(3, {0, 1, 2}), {1, 0, 2}});
+        QVERIFY(list.isRanked());
+    }
+
+    void anEditCountsInTheNextSortByItsField()
+    {
+        SampleRecords sample = titled({"c", "a", "b"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0"));
+        sample.store.records[1][Field::Title] = "z";
+        list.forgetOrder(Field::Title);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0"));
+        list.setSort(Field::Title, false);
+        QCOMPARE(rows(list), QStringLiteral("1 0 2"));
+    }
+
+    void familiesAreFoldedAndOpened()
+    {
+        const SampleRecords sample = titled({"c", "x", "b", "x", "a"});
+        ArrangedList list;
+        list.setSort(Field::Title, true);
+        list.setContent(sample.store.records);
+        const std::vector<std::uint32_t> heads{0, 0, 2, 0, 4};
+        list.setFamilies(ArrangedList::Families{heads, RecordSet(5)});
+        QCOMPARE(rows(list), QStringLiteral("4 2 0"));
+        QCOMPARE(list.clones(2), 2U);
+        QCOMPARE(list.clones(0), 0U);
+        // Lookups see what is arranged.
+        QCOMPARE(list.find(Field::Title, "x"), std::optional<std::size_t>());
+        QCOMPARE(list.rowOf(1), std::optional<std::size_t>());
+        list.setFamilies(ArrangedList::Families{heads, chosen(5, {0})});
+        QCOMPARE(rows(list), QStringLiteral("4 2 0 1 3"));
+        list.setSort(Field::Title, false);
+        QCOMPARE(rows(list), QStringLiteral("0 1 3 2 4"));
+        list.setFound(Found{chosen(5, {0, 3}), {5, 5, 5, 1, 5}});
+        QCOMPARE(rows(list), QStringLiteral("3 0"));
+        QCOMPARE(list.clones(0), 0U);
+        list.setFound(std::nullopt);
+        list.setFamilies(std::nullopt);
+        QCOMPARE(list.size(), std::size_t(5));
     }
 
     void emptyContentEmptiesTheList()

@@ -25,6 +25,8 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
 {
     setContent();
     connect(&catalogue, &Catalogue::replaced, this, &GameListController::setContent);
+    connect(&catalogue, &Catalogue::recordChanged, &m_list,
+            [this](std::uint32_t, Field field) { m_list.forgetOrder(field); });
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
 }
 

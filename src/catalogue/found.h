@@ -1,0 +1,18 @@
+#pragma once
+
+#include "catalogue/recordset.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace tessera {
+
+/// What a search found.
+struct Found {
+    RecordSet records;
+    /// For each record of the content how well it fits, the least first; it counts for the found ones only.
+    /// Empty where nothing ranks them.
+    std::vector<std::uint8_t> ranks;
+};
+
+} // namespace tessera

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "catalogue/foldernames.h"
+#include "catalogue/gamerecord.h"
+#include "catalogue/have.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace tessera {
+
+/// Which sets the user has: the ROM folder and the emulator's own ones, each read once. It never changes, so
+/// that any thread may read the folders and ask; somebody who learns that they did reads them anew.
+class RomFolders
+{
+public:
+    RomFolders() = default;
+    /// Reads the folders. Without a ROM folder nobody has an archive in it.
+    RomFolders(std::optional<QString> romFolder, const QStringList& emulatorFolders);
+
+    RomFolders readAgain() const { return RomFolders(m_romFolder, m_emulatorFolders); }
+    const std::optional<QString>& romFolder() const { return m_romFolder; }
+    const QStringList& emulatorFolders() const { return m_emulatorFolders; }
+
+    /// The rule of the row colour: "name.zip" exists in the ROM folder.
+    bool hasArchive(std::string_view setName) const;
+    /// Or the emulator finds an archive or a folder of the set in one of its own.
+    bool holds(std::string_view setName) const;
+
+    Have have(const GameRecord& record) const;
+    std::vector<Have> haves(std::span<const GameRecord> content) const;
+
+private:
+    std::optional<QString> m_romFolder;
+    QStringList m_emulatorFolders;
+    std::optional<FolderNames> m_romNames;
+    std::vector<FolderNames> m_emulatorNames;
+};
+
+} // namespace tessera

@@ -1,0 +1,217 @@
+#include "catalogue/search/queryparser.h"
+
+#include "catalogue/recorddictionary.h"
+#include "catalogue/search/folding.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+bool isMinus(QChar c)
+{
+    return c == u'-' || c == u'－' || c == u'−';
+}
+
+bool isColon(QChar c)
+{
+    return c == u':' || c == u'：';
+}
+
+bool isQuote(QChar c)
+{
+    return c == u'"' || c == u'“' || c == u'”' || c == u'„' || c == u'＂';
+}
+
+std::string foldedText(QStringView text)
+{
+    return folded(text.toUtf8().toStdString());
+}
+
+std::string trimmed(std::string text)
+{
+    text.erase(0, text.find_first_not_of(' '));
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+QString joined(std::span<const std::string_view> values)
+{
+    QStringList list;
+    for (const std::string_view value : values)
+        list << fieldText(value);
+    return list.join(QStringLiteral(", "));
+}
+
+QString keyNames()
+{
+    std::vector<std::string_view> names;
+    for (const SearchKey& key : searchKeys)
+        names.push_back(key.name);
+    return joined(names);
+}
+
+// The first digits of years may be all that is typed so far.
+bool mayBecomeYears(std::string_view value)
+{
+    const auto dash = value.find('-');
+    const auto mayBecomeYear = [](std::string_view year) {
+        return year.size() <= 4
+            && std::ranges::all_of(year, [](char c) { return (c >= '0' && c <= '9') || c == '?'; });
+    };
+    if (dash == std::string_view::npos)
+        return mayBecomeYear(value);
+    const std::string_view first = value.substr(0, dash);
+    return (first.empty() || yearRange(first)) && mayBecomeYear(value.substr(dash + 1));
+}
+
+// "1985", "1985-1989", "1985-" or "-1989".
+std::optional<YearRange> askedYears(std::string_view value)
+{
+    const auto dash = value.find('-');
+    const std::string_view first = value.substr(0, dash);
+    if (dash == std::string_view::npos)
+        return yearRange(first);
+    const std::string_view last = value.substr(dash + 1);
+    if (first.empty() && last.empty())
+        return std::nullopt;
+    const auto from = first.empty() ? YearRange() : yearRange(first);
+    const auto to = last.empty() ? YearRange() : yearRange(last);
+    if (!from || !to)
+        return std::nullopt;
+    return YearRange{from->first, to->last};
+}
+
+} // namespace
+
+std::vector<Term> QueryParser::terms()
+{
+    std::vector<Term> terms;
+    for (skipBlanks(); !atEnd(); skipBlanks())
+        terms.push_back(term());
+    return terms;
+}
+
+void QueryParser::skipBlanks()
+{
+    while (!atEnd() && m_text[m_at].isSpace())
+        ++m_at;
+}
+
+Term QueryParser::term()
+{
+    Term term;
+    term.begin = m_at;
+    term.negated = isMinus(m_text[m_at]) && !blankFollows(m_at + 1);
+    if (term.negated)
+        ++m_at;
+    const QStringView name = key();
+    const auto* const known = std::ranges::find(searchKeys, foldedText(name), &SearchKey::name);
+    if (known != searchKeys.end()) {
+        m_at += name.size() + 1;
+        readKeyed(term, *known, value());
+    } else if (!name.isEmpty() && !blankFollows(m_at + name.size() + 1)) {
+        m_at += name.size() + 1;
+        value();
+        refuse(term, Failure{"search_wrong_key", {name.toString(), keyNames()}}, false);
+    } else if (isMinus(m_text[m_at]) && m_at + 1 == m_text.size()) {
+        ++m_at;
+        refuse(term, Failure{"search_no_words", {QStringLiteral("-")}}, true);
+    } else {
+        readWords(term, value());
+    }
+    term.size = m_at - term.begin;
+    return term;
+}
+
+// Letters up to a colon. A word that ends with a colon and is no key is a word like any other, since titles
+// are full of them.
+QStringView QueryParser::key() const
+{
+    qsizetype end = m_at;
+    while (end < m_text.size() && m_text[end].isLetter())
+        ++end;
+    return end > m_at && end < m_text.size() && isColon(m_text[end]) ? m_text.sliced(m_at, end - m_at)
+                                                                     : QStringView();
+}
+
+QueryParser::Value QueryParser::value()
+{
+    Value value;
+    value.quoted = !atEnd() && isQuote(m_text[m_at]);
+    if (value.quoted)
+        ++m_at;
+    const qsizetype begin = m_at;
+    while (!atEnd() && !(value.quoted ? isQuote(m_text[m_at]) : m_text[m_at].isSpace()))
+        ++m_at;
+    value.text = m_text.sliced(begin, m_at - begin);
+    value.open = value.quoted && atEnd();
+    if (value.quoted && !atEnd())
+        ++m_at;
+    return value;
+}
+
+void QueryParser::readWords(Term& term, const Value& value)
+{
+    term.words.text = trimmed(foldedText(value.text));
+    if (value.quoted)
+        term.words.ends = value.open ? WordEnds::Begun : WordEnds::Whole;
+    if (term.words.text.empty())
+        refuse(term, Failure{"search_no_words", {value.text.toString()}}, true);
+    else if (value.open) {
+        refuse(term, Failure{"search_open_quote", {}}, true);
+        term.applies = true;
+    }
+}
+
+void QueryParser::readKeyed(Term& term, const SearchKey& key, const Value& value)
+{
+    term.kind = key.kind;
+    if (value.text.isEmpty() && !value.quoted)
+        refuse(term, Failure{"search_no_value", {m_text.sliced(term.begin, m_at - term.begin).toString()}},
+               true);
+    else if (!key.values.empty())
+        readFixed(term, key, value.text);
+    else if (key.kind == TermKind::Year)
+        readYears(term, value.text);
+    else
+        readWords(term, value);
+}
+
+void QueryParser::readYears(Term& term, QStringView value)
+{
+    // A Japanese keyboard has the long vowel mark and the wave where others have the dash.
+    std::string years = foldedText(value.toString().replace(u'ー', u'-'));
+    std::ranges::replace(years, '~', '-');
+    const auto range = askedYears(years);
+    if (!range)
+        refuse(term, Failure{"search_wrong_year", {value.toString()}}, mayBecomeYears(years));
+    else if (range->first > range->last)
+        refuse(term, Failure{"search_reversed_years", {value.toString()}}, false);
+    else
+        term.years = *range;
+}
+
+void QueryParser::readFixed(Term& term, const SearchKey& key, QStringView value)
+{
+    const std::string asked = foldedText(value);
+    const auto found = std::ranges::find(key.values, asked);
+    term.value = static_cast<std::uint8_t>(found - key.values.begin());
+    if (found != key.values.end())
+        return;
+    const bool begun
+        = std::ranges::any_of(key.values, [&](std::string_view each) { return each.starts_with(asked); });
+    refuse(term, Failure{"search_wrong_value", {value.toString(), fieldText(key.name), joined(key.values)}},
+           begun);
+}
+
+// What stands at the query's end may still be half typed.
+void QueryParser::refuse(Term& term, Failure why, bool mayGoOn)
+{
+    term.state = mayGoOn && atEnd() ? Term::State::Unfinished : Term::State::Wrong;
+    term.why = std::move(why);
+    term.applies = false;
+}
+
+} // namespace tessera

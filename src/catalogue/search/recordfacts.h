@@ -1,0 +1,60 @@
+#pragma once
+
+#include "catalogue/gamerecord.h"
+#include "catalogue/search/yearrange.h"
+
+#include <array>
+#include <span>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tessera {
+
+enum class GameType : std::uint8_t { Game, Bios, Mechanical, Device, Other };
+enum class GameStatus : std::uint8_t { Good, Imperfect, Preliminary, Other };
+
+/// The values that a record's type and status may have, in the same order. Any other value counts as Other.
+inline constexpr std::array<std::string_view, 4> typeValues{"game", "bios", "mechanical", "device"};
+inline constexpr std::array<std::string_view, 3> statusValues{"good", "imperfect", "preliminary"};
+
+/// What terms and chips ask of a record, as numbers.
+struct RecordFacts {
+    YearRange years = unknownYear;
+    std::uint32_t device = 0; ///< place in the facts' list of devices
+    GameType type = GameType::Other;
+    GameStatus status = GameStatus::Other;
+    bool parent = false; ///< no clone of another set
+};
+
+/// The facts of a content's records, gathered once.
+class ContentFacts
+{
+public:
+    ContentFacts() = default;
+    explicit ContentFacts(std::span<const GameRecord> content);
+
+    std::size_t size() const { return m_facts.size(); }
+    const RecordFacts& operator[](std::size_t record) const { return m_facts[record]; }
+    std::span<const RecordFacts> all() const { return m_facts; }
+
+    /// The different values of the field, folded.
+    const std::vector<std::string>& devices() const { return m_devices; }
+
+    void replace(std::uint32_t record, const GameRecord& now) { m_facts[record] = facts(now); }
+    void remove(std::uint32_t record) { m_facts.erase(m_facts.begin() + record); }
+    void insert(std::uint32_t record, const GameRecord& added)
+    {
+        m_facts.insert(m_facts.begin() + record, facts(added));
+    }
+
+private:
+    RecordFacts facts(const GameRecord& record);
+    std::uint32_t device(std::string_view value);
+
+    std::vector<RecordFacts> m_facts;
+    std::vector<std::string> m_devices;
+    std::unordered_map<std::string, std::uint32_t> m_deviceNumbers;
+};
+
+} // namespace tessera

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "catalogue/search/recordfacts.h"
+#include "core/failure.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace tessera {
+
+enum class TermKind : std::uint8_t { Words, Maker, Year, Status, Type, Clone, Have, Device };
+
+enum class YesNo : std::uint8_t { No, Yes };
+inline constexpr std::array<std::string_view, 2> yesNoValues{"no", "yes"};
+
+enum class HaveValue : std::uint8_t { No, Parent, Own, Yes };
+inline constexpr std::array<std::string_view, 4> haveValues{"no", "parent", "own", "yes"};
+
+/// What stands before the colon of a term.
+struct SearchKey {
+    std::string_view name;
+    TermKind kind;
+    std::span<const std::string_view> values; ///< the only ones; empty where any text may follow
+    const char* help; ///< key of a short text
+};
+
+// clang-format off
+inline constexpr std::array searchKeys{
+    SearchKey{"maker",  TermKind::Maker,  {},           textKey("search_help_maker")},
+    SearchKey{"year",   TermKind::Year,   {},           textKey("search_help_year")},
+    SearchKey{"status", TermKind::Status, statusValues, textKey("search_help_status")},
+    SearchKey{"type",   TermKind::Type,   typeValues,   textKey("search_help_type")},
+    SearchKey{"clone",  TermKind::Clone,  yesNoValues,  textKey("search_help_clone")},
+    SearchKey{"have",   TermKind::Have,   haveValues,   textKey("search_help_have")},
+    SearchKey{"device", TermKind::Device, {},           textKey("search_help_device")},
+};
+// clang-format on
+
+} // namespace tessera

@@ -1,0 +1,254 @@
+#include "catalogue/search/query.h"
+
+#include "support/testmain.h"
+
+#include <random>
+
+using namespace tessera;
+
+namespace {
+
+QString kindName(TermKind kind)
+{
+    for (const SearchKey& key : searchKeys) {
+        if (key.kind == kind)
+            return QString::fromLatin1(key.name.data(), static_cast<qsizetype>(key.name.size()));
+    }
+    return QStringLiteral("words");
+}
+
+QString valueText(const Term& term)
+{
+    static constexpr std::array ends{"", "^", "="};
+    switch (term.kind) {
+    case TermKind::Words:
+    case TermKind::Maker:
+    case TermKind::Device:
+        return QLatin1String(ends[static_cast<std::size_t>(term.words.ends)])
+            + QString::fromStdString(term.words.text);
+    case TermKind::Year:
+        return QStringLiteral("%1..%2").arg(term.years.first).arg(term.years.last);
+    default:
+        return QString::number(term.value);
+    }
+}
+
+// One line a term: place, kind, value; then what is wrong with it.
+QString described(const Query& query)
+{
+    QStringList lines;
+    for (const Term& term : query.terms()) {
+        QString line = QStringLiteral("%1+%2 ").arg(term.begin).arg(term.size)
+            + (term.negated ? u"not " : u"") + kindName(term.kind);
+        if (term.applies)
+            line += u' ' + valueText(term);
+        if (term.state != Term::State::Good)
+            line += (term.state == Term::State::Wrong ? u" WRONG " : u" unfinished ")
+                + QLatin1String(term.why->key);
+        lines << line;
+    }
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+class QueryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void termsAreRead_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("terms");
+        const auto row = [](const char* query, const char* terms) {
+            QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(terms);
+        };
+        row("", "");
+        row("  \t ", "");
+        row("pac", "0+3 words pac");
+        row("  Street FIGHTER ", "2+6 words street\n9+7 words fighter");
+        row("グラディウス　ＩＩ", "0+6 words ぐらでぃうす\n7+2 words ii");
+        row("-bootleg", "0+8 not words bootleg");
+        row("－bootleg", "0+8 not words bootleg");
+        row("pac-man", "0+7 words pac-man");
+        row("a - b", "0+1 words a\n2+1 words -\n4+1 words b");
+        row("--x", "0+3 not words -x");
+        row("\"exact words\"", "0+13 words =exact words");
+        row("“Exact  Words”", "0+14 words =exact words");
+        row("-\"exact words\" x", "0+14 not words =exact words\n15+1 words x");
+        row("14\" screen", "0+3 words 14\"\n4+6 words screen");
+        row("\"a\"b", "0+3 words =a\n3+1 words b");
+        row("maker:konami", "0+12 maker konami");
+        row("MAKER:Konami", "0+12 maker konami");
+        row("ｍａｋｅｒ：ｋｏｎａｍｉ", "0+12 maker konami");
+        row("maker:\"taito corporation\" x", "0+25 maker =taito corporation\n26+1 words x");
+        row("-maker:sega", "0+11 not maker sega");
+        row("year:1985", "0+9 year 1985..1985");
+        row("year:1985-1989", "0+14 year 1985..1989");
+        row("year:1985-", "0+10 year 1985..9999");
+        row("year:-1989", "0+10 year 0..1989");
+        row("year:198?", "0+9 year 1980..1989");
+        row("year:197?-198?", "0+14 year 1970..1989");
+        row("year:１９８５～１９８９", "0+14 year 1985..1989");
+        row("year:１９８５ー", "0+10 year 1985..9999");
+        row("year:1985–1989", "0+14 year 1985..1989");
+        row("-year:1985", "0+10 not year 1985..1985");
+        row("status:good", "0+11 status 0");
+        row("status:PRELIMINARY", "0+18 status 2");
+        row("type:game", "0+9 type 0");
+        row("type:device", "0+11 type 3");
+        row("clone:no", "0+8 clone 0");
+        row("clone:yes", "0+9 clone 1");
+        row("have:yes have:no have:own have:parent", "0+8 have 3\n9+7 have 0\n17+8 have 2\n26+11 have 1");
+        row("device:cdrom", "0+12 device cdrom");
+        row("maker:konami year:1985-1989 status:good type:game clone:no have:yes device:cdrom -bootleg "
+            "\"exact words\"",
+            "0+12 maker konami\n13+14 year 1985..1989\n28+11 status 0\n40+9 type 0\n50+8 clone 0\n"
+            "59+8 have 3\n68+12 device cdrom\n81+8 not words bootleg\n90+13 words =exact words");
+        // Titles have colons too.
+        row("man: the", "0+4 words man:\n5+3 words the");
+        row("fighter:", "0+8 words fighter:");
+        row("51:x", "0+4 words 51:x");
+        row(":x", "0+2 words :x");
+    }
+
+    void termsAreRead()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, terms);
+        QCOMPARE(described(Query(query)), terms);
+    }
+
+    void wrongTermsAreReportedWithTheirPlace_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("terms");
+        const auto row = [](const char* query, const char* terms) {
+            QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(terms);
+        };
+        row("pac marker:konami x", "0+3 words pac\n4+13 words WRONG search_wrong_key\n18+1 words x");
+        row("メーカー:コナミ", "0+8 words WRONG search_wrong_key");
+        row("-foo:\"a b\" c", "0+10 not words WRONG search_wrong_key\n11+1 words c");
+        row("status:bad x", "0+10 status WRONG search_wrong_value\n11+1 words x");
+        row("status:bad", "0+10 status WRONG search_wrong_value");
+        row("clone:maybe", "0+11 clone WRONG search_wrong_value");
+        row("status:goo x", "0+10 status WRONG search_wrong_value\n11+1 words x");
+        row("year:abc", "0+8 year WRONG search_wrong_year");
+        row("year:19855", "0+10 year WRONG search_wrong_year");
+        row("year:1985-1989-", "0+15 year WRONG search_wrong_year");
+        row("year:19?5", "0+9 year unfinished search_wrong_year");
+        row("year:85 x", "0+7 year WRONG search_wrong_year\n8+1 words x");
+        row("year:1989-1985", "0+14 year WRONG search_reversed_years");
+        row("maker: konami", "0+6 maker WRONG search_no_value\n7+6 words konami");
+        row("maker:ー", "0+7 maker unfinished search_no_words");
+        row("ー x", "0+1 words WRONG search_no_words\n2+1 words x");
+        row("\"\" x", "0+2 words WRONG search_no_words\n3+1 words x");
+    }
+
+    void wrongTermsAreReportedWithTheirPlace()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, terms);
+        QCOMPARE(described(Query(query)), terms);
+    }
+
+    // Nothing that is typed on its way to a good term flashes as an error.
+    void halfTypedTermsAreUnfinished_data()
+    {
+        QTest::addColumn<QString>("query");
+        for (const char* query :
+             {"maker:konami", "year:1985-1989", "year:-1989", "year:198?", "status:imperfect",
+              "type:mechanical", "clone:no", "have:parent", "device:cdrom", "-bootleg", "\"exact words\"",
+              "maker:\"taito corporation\"", "-maker:\"a b\"", "street -fighter: year:1985"})
+            QTest::newRow(query) << QString::fromUtf8(query);
+    }
+
+    void halfTypedTermsAreUnfinished()
+    {
+        QFETCH(QString, query);
+        for (qsizetype size = 1; size <= query.size(); ++size) {
+            const Query begun(query.left(size));
+            for (const Term& term : begun.terms())
+                QVERIFY2(term.state != Term::State::Wrong, qPrintable(query.left(size)));
+        }
+        const Query whole(query);
+        for (const Term& term : whole.terms())
+            QCOMPARE(term.state, Term::State::Good);
+    }
+
+    void whatIsUnfinishedApplies_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QString>("terms");
+        const auto row = [](const char* query, const char* terms) {
+            QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(terms);
+        };
+        row("maker:", "0+6 maker unfinished search_no_value");
+        row("year:19", "0+7 year unfinished search_wrong_year");
+        row("year:1985-19", "0+12 year unfinished search_wrong_year");
+        row("year:-", "0+6 year unfinished search_wrong_year");
+        row("status:go", "0+9 status unfinished search_wrong_value");
+        row("-", "0+1 words unfinished search_no_words");
+        row("\"", "0+1 words unfinished search_no_words");
+        // An open quotation mark searches for what is there already.
+        row("\"exact wo", "0+9 words ^exact wo unfinished search_open_quote");
+        row("maker:\"taito co", "0+15 maker ^taito co unfinished search_open_quote");
+    }
+
+    void whatIsUnfinishedApplies()
+    {
+        QFETCH(QString, query);
+        QFETCH(QString, terms);
+        QCOMPARE(described(Query(query)), terms);
+    }
+
+    void aReasonNamesWhatWouldBeRight()
+    {
+        const Query query(u"status:bad foo:bar");
+        QCOMPARE(query.terms()[0].why->arguments,
+                 (QStringList{QStringLiteral("bad"), QStringLiteral("status"),
+                              QStringLiteral("good, imperfect, preliminary")}));
+        QCOMPARE(query.terms()[1].why->arguments,
+                 (QStringList{QStringLiteral("foo"),
+                              QStringLiteral("maker, year, status, type, clone, have, device")}));
+    }
+
+    void onlyWordsRank()
+    {
+        QVERIFY(Query(u"").isEmpty());
+        QVERIFY(Query(u"maker: ").isEmpty());
+        QVERIFY(Query(u"foo:bar").isEmpty());
+        QVERIFY(!Query(u"maker:x").isEmpty());
+        QVERIFY(!Query(u"maker:x -y").ranks());
+        QVERIFY(Query(u"maker:x y").ranks());
+        QCOMPARE(Query(u"Street maker:x -no \"Fighter II\"").phrase(), std::string("street fighter ii"));
+    }
+
+    // Every character of a query stands in a term or is a blank between them.
+    void nothingIsDropped()
+    {
+        static constexpr std::array pieces{u"\"", u" ",  u"-",  u":",  u"maker:", u"year:",
+                                           u"19", u"85", u"a",  u"ー", u"x y",    u"status:good",
+                                           u"日", u"　", u"：", u"é"};
+        std::mt19937 random(7);
+        for (int i = 0; i < 3000; ++i) {
+            QString text;
+            for (unsigned j = random() % 8; j > 0; --j)
+                text += QString::fromUtf16(pieces[random() % pieces.size()]);
+            qsizetype end = 0;
+            const Query query(text);
+            for (const Term& term : query.terms()) {
+                QVERIFY(term.begin >= end && term.size > 0);
+                QVERIFY2(QStringView(text).sliced(end, term.begin - end).trimmed().isEmpty(),
+                         qPrintable(text));
+                end = term.begin + term.size;
+                QVERIFY(term.applies || term.state != Term::State::Good);
+            }
+            QVERIFY2(QStringView(text).sliced(end).trimmed().isEmpty(), qPrintable(text));
+        }
+    }
+};
+
+TESSERA_TEST(QueryTest);
+#include "querytest.moc"
