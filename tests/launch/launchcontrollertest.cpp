@@ -368,13 +368,13 @@ private Q_SLOTS:
     void theLogIsSavedAsText()
     {
         Room room;
-        room.controller->appendOutput(QString::fromUtf8("行\nline"));
+        room.controller->appendOutput(QString::fromUtf8("行\nline\r10%\r20%\r\nend"));
         const QString path = room.folder.filePath("log.txt");
         room.desktop.answerSave("Log output", path);
         room.log.saveButton->click();
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("行\nline"));
+        QCOMPARE(file.readAll(), QByteArray("行\nline\r10%\r20%\r\nend"));
         QCOMPARE(room.desktop.saveRequests.at(0).extensions, QStringList({"txt"}));
     }
 

@@ -32,6 +32,51 @@ private Q_SLOTS:
         QCOMPARE(view.text(), QString());
     }
 
+    void everyCharacterComesBack_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("a progress line") << "\r 10%\r 20%\rdone\n";
+        QTest::newRow("line ends of two kinds") << "one\r\ntwo\nthree\r\n\r\n";
+        QTest::newRow("line feed first") << "\n\rone\n\r";
+        QTest::newRow("many carriage returns") << "\r\r\r\n\n\r";
+        QTest::newRow("only one") << "\r";
+        QTest::newRow("separators") << QStringLiteral("a\u2028b\u2029\u2029c\u2029\n");
+        QTest::newRow("what a document marks its frames with")
+            << QString(QChar('a') + QChar(0xFDD0) + QChar(0xFDD1) + QChar('b'));
+        QTest::newRow("other odd ones")
+            << QString(QStringLiteral("a\u00A0b\tc\fd\ve\u0085\uFFFC\uFEFF") + QChar(0) + QChar('z'));
+        QTest::newRow("a long line between") << "\r" + QString(9000, 'x') + "\r" + QString(5000, 'y') + "\n";
+    }
+
+    void everyCharacterComesBack()
+    {
+        QFETCH(QString, text);
+        LogView view;
+        view.append(text, Qt::white);
+        QCOMPARE(view.text(), text);
+        QVERIFY(!view.isEmpty());
+        // In any pieces, and with nothing left of what stood there before.
+        for (const qsizetype odd : {1, 2, 3}) {
+            const qsizetype piece = odd + text.size() / 100;
+            view.replace(QString());
+            for (qsizetype at = 0; at < text.size(); at += piece)
+                view.append(text.mid(at, piece), Qt::white);
+            QCOMPARE(view.text(), text);
+        }
+        view.selectAll();
+        view.copy();
+        QCOMPARE(QApplication::clipboard()->text(), text);
+    }
+
+    void bothEndsAreOneLineEnd()
+    {
+        LogView view;
+        view.append("one\r\ntwo\r", Qt::white);
+        view.append("\nthree\rfour", Qt::white);
+        QCOMPARE(view.document()->blockCount(), 4);
+        QCOMPARE(view.document()->lastBlock().text(), QStringLiteral("four"));
+    }
+
     void appendedTextHasItsColour()
     {
         LogView view;
