@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTimer>
 
 #include <algorithm>
 #include <chrono>
@@ -39,6 +38,9 @@ CatalogueBuild::CatalogueBuild(QObject* parent)
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &CatalogueBuild::read);
     connect(&m_process, &QProcess::readyReadStandardError, this, &CatalogueBuild::readErrors);
     connect(&m_process, &QProcess::finished, this, &CatalogueBuild::conclude);
+    m_grace.setSingleShot(true);
+    m_grace.setInterval(graceTime);
+    connect(&m_grace, &QTimer::timeout, &m_process, &QProcess::kill);
     connect(
         &m_process, &QProcess::errorOccurred, this,
         [this](QProcess::ProcessError error) {
@@ -105,7 +107,7 @@ void CatalogueBuild::cancel()
     if (m_process.state() == QProcess::NotRunning)
         return;
     m_process.terminate();
-    QTimer::singleShot(graceTime, &m_process, &QProcess::kill);
+    m_grace.start();
 }
 
 void CatalogueBuild::read()
@@ -221,6 +223,7 @@ void CatalogueBuild::fail(const Failure& failure)
 
 void CatalogueBuild::letGo()
 {
+    m_grace.stop();
     m_converter.reset();
     m_titles.reset();
 }

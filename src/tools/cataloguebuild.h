@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QProcess>
+#include <QTimer>
 
 #include <expected>
 #include <memory>
@@ -52,6 +53,7 @@ private:
     void letGo();
 
     QProcess m_process;
+    QTimer m_grace; ///< runs while a cancelled emulator may still end by itself
     std::unique_ptr<TitleTable> m_titles;
     std::unique_ptr<ListxmlConverter> m_converter;
     QString m_emulator;

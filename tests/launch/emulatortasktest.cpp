@@ -1,5 +1,6 @@
 #include "launch/emulatortask.h"
 
+#include "support/grandchild.h"
 #include "support/testmain.h"
 
 #include <QFile>
@@ -205,9 +206,11 @@ private Q_SLOTS:
 
     void aGrandchildThatKeepsTheOutputOpenIsNotWaitedFor()
     {
+        test::Grandchild grandchild;
         Heard heard;
         heard.start("grandchild");
         QVERIFY(heard.waitForEnd());
+        QVERIFY(grandchild.isAlive());
         QCOMPARE(heard.text, QStringLiteral("gone\n"));
         QCOMPARE(heard.statuses, {0});
     }

@@ -1,7 +1,8 @@
 // A program that plays the emulator. The first argument says how it behaves, as a game's name would; see
 // `plays`. With -showusage it prints the file that FAKE_USAGE names, and adds a line to the file that
 // FAKE_RUNS names. With -listxml it says FAKE_WORDS on standard error, prints the file that FAKE_LISTXML
-// names, and then behaves as FAKE_THEN says.
+// names, and then behaves as FAKE_THEN says. A grandchild that it leaves behind locks the file that
+// FAKE_GRANDCHILD names, with its number in it.
 
 #include <csignal>
 #include <cstdio>
@@ -9,6 +10,7 @@
 #include <cstring>
 #include <string>
 
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace {
@@ -54,14 +56,22 @@ void flood(long megabytes, char lineEnd)
         std::fputs(line.c_str(), stdout);
 }
 
-// It keeps our output open after we are gone.
+// It keeps our output open after we are gone, and the lock, which is its and ours.
 void leaveGrandchild()
 {
     std::fflush(stdout);
-    if (fork() == 0) {
-        sleep(longEnough);
-        std::_Exit(0);
+    const char* path = std::getenv("FAKE_GRANDCHILD");
+    std::FILE* file = path ? std::fopen(path, "w") : nullptr;
+    if (!file || flock(fileno(file), LOCK_EX) != 0)
+        std::_Exit(1);
+    const pid_t id = fork();
+    if (id == 0) {
+        alarm(longEnough);
+        for (;;)
+            pause();
     }
+    std::fprintf(file, "%d\n", static_cast<int>(id));
+    std::fclose(file);
 }
 
 int plays(const std::string& game, int argc, char* argv[])

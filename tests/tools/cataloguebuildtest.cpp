@@ -1,5 +1,6 @@
 #include "tools/cataloguebuild.h"
 
+#include "support/grandchild.h"
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
@@ -252,12 +253,33 @@ private Q_SLOTS:
         QCOMPARE(heard.finished, {2});
     }
 
+    void aCancelledRunLeavesTheNextOneAlone()
+    {
+        play(list, "wait");
+        Heard heard;
+        heard.build.start(fakeEmulator, m_store);
+        QVERIFY(QTest::qWaitFor([&] { return !heard.progress.isEmpty(); }, patience));
+        heard.build.cancel();
+        QVERIFY(heard.waitForOutcome());
+        QCOMPARE(heard.cancelled, 1);
+        // It still runs when the first one would have been killed.
+        const QString slow = m_folder->filePath("slow");
+        write(slow, "#!/bin/sh\ncat '" + QFile::encodeName(m_folder->filePath("list.xml")) + "'\nsleep 4\n");
+        QVERIFY(QFile::setPermissions(slow, QFile::ReadOwner | QFile::ExeOwner));
+        heard.build.start(slow, m_store);
+        QVERIFY(QTest::qWaitFor([&] { return heard.outcomes() == 2; }, patience));
+        QCOMPARE(heard.failure(), QByteArray());
+        QCOMPARE(heard.finished, {2});
+    }
+
     void aGrandchildThatKeepsThePipeOpenIsNotWaitedFor()
     {
         play(list, "quietgrandchild");
+        test::Grandchild grandchild;
         Heard heard;
         heard.build.start(fakeEmulator, m_store);
         QVERIFY(heard.waitForOutcome());
+        QVERIFY(grandchild.isAlive());
         QCOMPARE(heard.finished, {2});
     }
 
