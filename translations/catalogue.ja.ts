@@ -11,6 +11,7 @@
     <message id="failure_store_malformed"><source></source><translation>“%1”は正しいXMLではありません（%2行目）。</translation></message>
     <message id="failure_store_missing"><source></source><translation>“%1”が見つかりません。</translation></message>
     <message id="failure_store_nofile"><source></source><translation>“%1”はファイルではなく、フォルダまたはデバイスです。</translation></message>
+    <message id="failure_store_none"><source></source><translation>“%1”がなかったため、保存するカタログはありません。</translation></message>
     <message id="failure_store_read"><source></source><translation>“%1”を読み込めませんでした: %2</translation></message>
     <message id="failure_store_truncated"><source></source><translation>“%1”は途中で終わっており、不完全です。</translation></message>
     <message id="failure_store_unread"><source></source><translation>“%1”を読み込めなかったため、上書き保存は行いません。</translation></message>

@@ -52,6 +52,7 @@ std::expected<void, Failure> Catalogue::open()
         readAhead();
     auto store = m_ahead.get();
     m_read = store.has_value();
+    m_isMissing = !m_read && store.error().key == std::string_view("failure_store_missing");
     // The commands hold views of the old arena.
     m_undo.clear();
     StoredCatalogue content = store ? std::move(*store) : StoredCatalogue();
@@ -81,6 +82,8 @@ bool Catalogue::hasChanges() const
 
 std::expected<void, Failure> Catalogue::save()
 {
+    if (m_isMissing)
+        return std::unexpected(Failure{"failure_store_none", {m_path}});
     if (!m_read)
         return std::unexpected(Failure{"failure_store_unread", {m_path}});
     // Another program's newer store is not lost under ours: it stays under a dated name.

@@ -57,6 +57,7 @@ private:
     QUndoStack m_undo;
     FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
+    bool m_isMissing = false; ///< there was no file to read
     std::future<std::expected<StoredCatalogue, Failure>> m_ahead;
 };
 

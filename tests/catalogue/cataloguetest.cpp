@@ -89,6 +89,24 @@ private Q_SLOTS:
         QCOMPARE(fileBytes(m_path), QByteArray("<database>"));
     }
 
+    void aStoreThatNeverWasIsNotCalledUnreadable()
+    {
+        QVERIFY(QFile::remove(m_path));
+        Catalogue catalogue(m_path);
+        QVERIFY(!catalogue.open().has_value());
+        const auto saved = catalogue.save();
+        QVERIFY(!saved.has_value());
+        QCOMPARE(saved.error().key, "failure_store_none");
+        QCOMPARE(saved.error().arguments, {m_path});
+        QVERIFY(!QFile::exists(m_path));
+        // It may have come since: still not ours to overwrite.
+        QVERIFY(writeFile(m_path, "broken"));
+        QCOMPARE(catalogue.save().error().key, "failure_store_none");
+        QVERIFY(!catalogue.open().has_value());
+        QCOMPARE(catalogue.save().error().key, "failure_store_unread");
+        QCOMPARE(fileBytes(m_path), QByteArray("broken"));
+    }
+
     void failureAfterASuccessForgetsTheRecordsAndRefusesToSave()
     {
         Catalogue catalogue(m_path);
