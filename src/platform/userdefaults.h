@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <QVariant>
 
+#include <memory>
 #include <optional>
 
 namespace tessera {
@@ -34,7 +35,7 @@ public:
     QString path() const;
 
 private:
-    QSettings m_settings;
+    std::unique_ptr<QSettings> m_settings;
 };
 
 } // namespace tessera

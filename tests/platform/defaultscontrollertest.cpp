@@ -2,6 +2,7 @@
 
 #include "support/testmain.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -27,6 +28,18 @@ private Q_SLOTS:
         QVERIFY(m_defaults->synchronize());
         for (const InitialSetting& row : initialSettings)
             QVERIFY(!UserDefaults(path()).value(row.name));
+    }
+
+    void aFailedFlushIsToldAndTriedAgain()
+    {
+        QVERIFY(QDir().mkdir(path()));
+        m_controller->setText(keys::RomsPath, QStringLiteral("/roms"));
+        QVERIFY(!m_defaults->synchronize());
+        QVERIFY(!m_defaults->synchronize());
+        QCOMPARE(m_controller->text(keys::RomsPath), QStringLiteral("/roms"));
+        QVERIFY(QDir().rmdir(path()));
+        QVERIFY(m_defaults->synchronize());
+        QCOMPARE(UserDefaults(path()).string(keys::RomsPath.name), QStringLiteral("/roms"));
     }
 
     void controlsShowInitialValuesAndDirectReadersFindNone()
