@@ -53,7 +53,8 @@
     <message id="rebuild_same_info"><source></source><translation>その後エミュレータは変わっていません。現在のファイルは日付付きの名前で残ります。</translation></message>
     <message id="rebuild_no_emulator"><source></source><translation>エミュレータが選択されていないため、作成できません。</translation></message>
     <message id="rebuild_cancelled"><source></source><translation>作成を中止しました。カタログは元のままです。</translation></message>
-    <message id="rebuild_done"><source></source><translation>カタログを作成しました: %1 台</translation></message>
+    <message id="rebuild_done"><source></source><translation>カタログを作成しました（%1台）。</translation></message>
+    <message id="rebuild_without_titles"><source></source><translation>日本語タイトルはありません。%1</translation></message>
     <message id="rebuild_failed"><source></source><translation>カタログを作成できませんでした。元のままです。</translation></message>
     <message id="rebuild_outdated"><source></source><translation>カタログの作成後にエミュレータが変わりました。</translation></message>
     <message id="failure_no_profile"><source></source><translation>“%1”は使用できるオプションを答えませんでした。</translation></message>

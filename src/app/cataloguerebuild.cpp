@@ -95,8 +95,7 @@ void CatalogueRebuild::build()
     Q_EMIT runningChanged(true);
     m_strip.begin(QFileInfo(emulator).fileName());
     // Japanese titles are asked for nowhere here; a list that was chosen before is used.
-    const QString titles = m_defaults.text(keys::localizePath);
-    m_build->start(emulator, m_catalogue.path(), QFileInfo::exists(titles) ? titles : QString(),
+    m_build->start(emulator, m_catalogue.path(), m_defaults.text(keys::localizePath),
                    datedName(m_catalogue.path(), m_desktop.now()));
 }
 
@@ -114,14 +113,21 @@ void CatalogueRebuild::stand()
 
 void CatalogueRebuild::finish(int machines)
 {
+    const std::optional<Failure> titlesFailure = m_build->titlesFailure();
     letGo();
     if (const auto opened = m_catalogue.open(); !opened) {
         m_desktop.presentError(opened.error().text(), QString(), {});
-    } else {
-        m_defaults.setText(keys::BuiltFrom, m_identity);
-        m_defaults.defaults().synchronize();
-        Q_EMIT statusMessage(qtTrId("rebuild_done").arg(QLocale().toString(machines)));
+        return;
     }
+    // In one message, as the next one takes its place.
+    QStringList sentences{qtTrId("rebuild_done").arg(QLocale().toString(machines))};
+    if (titlesFailure)
+        sentences << Failure{"rebuild_without_titles", {titlesFailure->text()}}.text();
+    m_defaults.setText(keys::BuiltFrom, m_identity);
+    UserDefaults& settings = m_defaults.defaults();
+    if (!settings.synchronize())
+        sentences << Failure{"failure_settings", {settings.path()}}.text();
+    Q_EMIT statusMessage(sentences.join(QLatin1Char(' ')));
 }
 
 void CatalogueRebuild::fail(const Failure& failure)

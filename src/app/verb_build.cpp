@@ -28,7 +28,8 @@ void showProgress(int machines)
 void rememberEmulator(UserDefaults& settings, const QString& identity)
 {
     settings.setValue(keys::BuiltFrom.name, identity);
-    settings.synchronize();
+    if (!settings.synchronize())
+        warn(Failure{"failure_settings", {settings.path()}});
 }
 
 int build(const QString& emulator, const QString& output, const QString& titles, bool& built)
@@ -49,6 +50,8 @@ int build(const QString& emulator, const QString& output, const QString& titles,
     QObject::connect(&job, &CatalogueBuild::finished, &job, [&](int machines) {
         end();
         print(conversionReport(static_cast<std::size_t>(machines)));
+        if (const auto& titlesFailure = job.titlesFailure())
+            warn(Failure{"rebuild_without_titles", {titlesFailure->text()}});
         status = Done;
         built = true;
     });
@@ -84,11 +87,10 @@ int runBuild(const Verb& verb, const QStringList& arguments)
     const QString file = parser.isSet(output) ? parser.value(output) : standardCataloguePath();
     if (!parser.isSet(output))
         QDir().mkpath(QFileInfo(file).absolutePath());
-    const QString titles = settings.string(keys::localizePath.name);
     const auto identity = EmulatorIdentity::of(emulator);
 
     bool built = false;
-    const int status = build(emulator, file, QFileInfo::exists(titles) ? titles : QString(), built);
+    const int status = build(emulator, file, settings.string(keys::localizePath.name), built);
     if (built && !parser.isSet(output) && identity)
         rememberEmulator(settings, identity->text());
     return status;

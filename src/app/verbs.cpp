@@ -88,8 +88,13 @@ int badCommandLine(const Verb& verb, const QString& why)
 
 int failed(const Failure& failure)
 {
-    printTo(stderr, QStringLiteral("tessera: ") + failure.text());
+    warn(failure);
     return Failed;
+}
+
+void warn(const Failure& failure)
+{
+    printTo(stderr, QStringLiteral("tessera: ") + failure.text());
 }
 
 void print(const QString& line)

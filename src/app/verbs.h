@@ -34,6 +34,8 @@ std::optional<int> parseVerb(const Verb& verb, QCommandLineParser& parser, const
 
 int badCommandLine(const Verb& verb, const QString& why);
 int failed(const Failure& failure);
+/// Says on stderr what went wrong beside the job.
+void warn(const Failure& failure);
 void print(const QString& line);
 /// Writes bytes to stdout; false when that failed (a full disk, a closed pipe).
 bool printBytes(std::string_view bytes);

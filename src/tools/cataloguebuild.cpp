@@ -67,11 +67,7 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
     m_failure.reset();
     m_printed = false;
     m_isCancelled = false;
-    m_titles = std::make_unique<TitleTable>();
-    if (!titles.isEmpty()) {
-        if (auto table = readTitles(titles))
-            *m_titles = std::move(*table);
-    }
+    readTitleList(titles);
     m_converter = std::make_unique<ListxmlConverter>(*m_titles, ConversionOptions{});
     if (const auto found = obstacle()) {
         QTimer::singleShot(0, this, [this, failure = *found] { fail(failure); });
@@ -81,6 +77,18 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
     m_process.setArguments({QStringLiteral("-listxml")});
     m_process.setWorkingDirectory(QFileInfo(emulator).path());
     m_process.start(QIODevice::ReadOnly);
+}
+
+void CatalogueBuild::readTitleList(const QString& path)
+{
+    m_titles = std::make_unique<TitleTable>();
+    m_titlesFailure.reset();
+    if (path.isEmpty())
+        return;
+    if (auto table = readTitles(path))
+        *m_titles = std::move(*table);
+    else
+        m_titlesFailure = table.error();
 }
 
 // What can be seen before minutes are spent on it.

@@ -27,13 +27,16 @@ public:
     /// A run that is still going is killed.
     ~CatalogueBuild() override;
 
-    /// `titles` is the title list, or empty; one that cannot be read is done without. A file that is replaced
-    /// is kept under the name `keepOldAs` if there is one. Not while another run goes on.
+    /// `titles` is the title list, or empty; one that cannot be read is done without, see titlesFailure(). A
+    /// file that is replaced is kept under the name `keepOldAs` if there is one. Not while another run goes
+    /// on.
     void start(const QString& emulator, const QString& output, const QString& titles = {},
                const QString& keepOldAs = {});
     /// The emulator is asked to end, and killed when it does not; then comes cancelled().
     void cancel();
     bool isRunning() const { return m_converter != nullptr; }
+    /// Why the title list of this run, or the last one, could not be read.
+    const std::optional<Failure>& titlesFailure() const { return m_titlesFailure; }
 
 Q_SIGNALS:
     void progress(int machines);
@@ -42,6 +45,7 @@ Q_SIGNALS:
     void cancelled();
 
 private:
+    void readTitleList(const QString& path);
     std::optional<Failure> obstacle() const;
     void read();
     void readErrors();
@@ -61,6 +65,7 @@ private:
     QString m_keepOldAs;
     QByteArray m_errors; ///< the last of what was printed on standard error
     std::optional<Failure> m_failure;
+    std::optional<Failure> m_titlesFailure;
     bool m_printed = false;
     bool m_isCancelled = false;
 };

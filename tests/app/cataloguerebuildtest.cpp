@@ -5,6 +5,7 @@
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 
 #include <QLabel>
@@ -44,6 +45,11 @@ QString makeEmulator(const StagedApp& staged, const QByteArray& after = "exit 0"
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
     return program;
+}
+
+QString message(const StagedApp& staged)
+{
+    return staged.app->mainWindow().findChild<QLabel*>(QStringLiteral("messageLabel"))->text();
 }
 
 QStringList keptCopies(const StagedApp& staged)
@@ -190,8 +196,7 @@ private Q_SLOTS:
         QCOMPARE(staged.store(), old);
         QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
         QCOMPARE(keptCopies(staged), QStringList());
-        QCOMPARE(staged.app->mainWindow().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
-                 QStringLiteral("rebuild_failed"));
+        QCOMPARE(message(staged), QStringLiteral("rebuild_failed"));
     }
 
     void whileBuildingTheOldListIsNotEdited()
@@ -219,6 +224,50 @@ private Q_SLOTS:
         staged.expectMissingStore(0);
         staged.start();
         QTRY_VERIFY(staged.store().contains("パックマン"));
+        QTRY_COMPARE(message(staged), QStringLiteral("rebuild_done"));
+    }
+
+    void aTitleListThatCannotBeReadIsSaid_data()
+    {
+        QTest::addColumn<QString>("titles");
+        QTest::newRow("gone") << QStringLiteral("titles.lst");
+        QTest::newRow("a folder") << QStringLiteral("data");
+    }
+
+    void aTitleListThatCannotBeReadIsSaid()
+    {
+        QFETCH(QString, titles);
+        const test::InstalledTexts texts(QStringLiteral("en"));
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.defaults.setValue(keys::localizePath.name, staged.path(titles));
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        const QString sentences = QStringLiteral("The catalogue was built: 2 machines. Japanese titles are "
+                                                 "missing: “%1” could not be read: ");
+        QVERIFY2(message(staged).startsWith(sentences.arg(staged.path(titles))), qPrintable(message(staged)));
+    }
+
+    void settingsThatCannotBeWrittenAreSaidOnce()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        QVERIFY(QFile::remove(staged.settingsPath()));
+        QVERIFY(QDir().mkdir(staged.settingsPath()));
+        staged.useEmulator(makeEmulator(staged));
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QCOMPARE(message(staged), QStringLiteral("rebuild_done failure_settings"));
+
+        QVERIFY(QDir().rmdir(staged.settingsPath()));
+        staged.desktop.answerAlert(QStringLiteral("rebuild_same_message"), 0);
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QCOMPARE(message(staged), QStringLiteral("rebuild_done"));
     }
 };
 

@@ -109,22 +109,45 @@ private Q_SLOTS:
 
     void usesATitleListWhereThereIsOne_data()
     {
-        QTest::addColumn<bool>("exists");
-        QTest::newRow("there") << true;
-        QTest::newRow("gone") << false;
+        QTest::addColumn<QString>("titles");
+        QTest::addColumn<bool>("isUsed");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("there") << "titles.lst" << true << "";
+        QTest::newRow("none chosen") << "" << false << "";
+        QTest::newRow("gone") << "gone.lst" << false << "No such file or directory";
+        QTest::newRow("a folder") << "." << false << "directory";
     }
 
     void usesATitleListWhereThereIsOne()
     {
-        QFETCH(bool, exists);
-        const QString titles = m_folder->filePath("titles.lst");
-        if (exists)
-            write(titles, "pong\tPON\n");
+        QFETCH(QString, titles);
+        QFETCH(bool, isUsed);
+        QFETCH(QString, reason);
+        write(m_folder->filePath("titles.lst"), "pong\tPON\n");
         Heard heard;
-        heard.build.start(fakeEmulator, m_store, titles);
+        heard.build.start(fakeEmulator, m_store, titles.isEmpty() ? QString() : m_folder->filePath(titles));
         QVERIFY(heard.waitForOutcome());
         QCOMPARE(heard.finished, {2});
-        QCOMPARE(read(m_store).contains(">PON<"), exists);
+        QCOMPARE(read(m_store).contains(">PON<"), isUsed);
+        const auto failure = heard.build.titlesFailure();
+        QCOMPARE(failure.has_value(), !reason.isEmpty());
+        if (failure) {
+            QCOMPARE(failure->key, "convert_not_read");
+            QCOMPARE(failure->arguments.first(), m_folder->filePath(titles));
+            QVERIFY2(failure->arguments.last().contains(reason), qPrintable(failure->arguments.last()));
+        }
+    }
+
+    void aTitleListThatIsReadAgainIsNoLongerAFailure()
+    {
+        Heard heard;
+        heard.build.start(fakeEmulator, m_store, m_folder->filePath("titles.lst"));
+        QVERIFY(heard.waitForOutcome());
+        QVERIFY(heard.build.titlesFailure());
+        write(m_folder->filePath("titles.lst"), "pong\tPON\n");
+        heard.build.start(fakeEmulator, m_store, m_folder->filePath("titles.lst"));
+        QVERIFY(QTest::qWaitFor([&] { return heard.outcomes() == 2; }, patience));
+        QVERIFY(!heard.build.titlesFailure());
     }
 
     void afterAFailureTheOldStoreStands_data()
