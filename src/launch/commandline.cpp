@@ -8,16 +8,20 @@ namespace tessera {
 
 namespace {
 
+constexpr QLatin1Char folderSeparator(';');
+
 // A program of today wants a short name; it finds the archive when its folder comes first among the ROM
-// folders.
-void putFolderFirst(const QString& folder, QStringList& arguments)
+// folders: the one that we send, or else the program's own, which are not looked in once we send any.
+void putFolderFirst(const QString& folder, const QString& romFolders, QStringList& arguments)
 {
     const QString option = QStringLiteral("-rompath");
     // The builder sends its own ROM folder last.
     if (const qsizetype at = arguments.size() - 2; at >= 0 && arguments[at] == option)
-        arguments[at + 1].prepend(folder + QLatin1Char(';'));
-    else
+        arguments[at + 1].prepend(folder + folderSeparator);
+    else if (romFolders.isEmpty())
         arguments << option << folder;
+    else
+        arguments << option << folder + folderSeparator + romFolders;
 }
 
 } // namespace
@@ -35,8 +39,11 @@ CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QSt
     if (!profile)
         return {QStringList{game} + built + own, {}};
     auto [arguments, leftOut] = profile->fit(built);
-    if (QDir::isAbsolutePath(game))
-        putFolderFirst(QFileInfo(game).path(), arguments);
+    const QString folder = QFileInfo(game).path();
+    // A folder with a separator in its name would read as two.
+    if (!QDir::isAbsolutePath(game) || folder.contains(folderSeparator))
+        return {QStringList{game} + arguments + own, leftOut};
+    putFolderFirst(folder, profile->romFolders(), arguments);
     return {QStringList{gameName(game)} + arguments + own, leftOut};
 }
 

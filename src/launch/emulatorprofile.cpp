@@ -36,22 +36,36 @@ std::optional<EmulatorProfile> EmulatorProfile::fromUsage(QByteArrayView usage)
     EmulatorProfile profile;
     const QString text = QString::fromUtf8(usage);
     for (QStringView line : QStringTokenizer(text, QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        if (!line.startsWith(QLatin1Char('-')))
-            continue;
-        const qsizetype blank = line.indexOf(QLatin1Char(' '));
-        const QStringView name = line.first(blank < 0 ? line.size() : blank).mid(1).trimmed();
-        if (name.size() >= nameColumn)
-            profile.m_overlong << name.toString();
-        else if (!name.isEmpty())
-            profile.m_names.insert(name.toString());
-        // Until 0.153 sound was a switch ("enable sound output"); since then it names an output.
-        if (name == QLatin1String("sound"))
-            profile.m_soundTakesValue
-                = !line.mid(1 + name.size()).trimmed().startsWith(QLatin1String("enable"));
+        if (line.startsWith(QLatin1Char('-')))
+            profile.readOption(line);
+        else
+            profile.readSetting(line);
     }
     if (!profile.listsName(u"rompath"))
         return std::nullopt;
     return profile;
+}
+
+// "-rompath             path to ROM sets"
+void EmulatorProfile::readOption(QStringView line)
+{
+    const qsizetype blank = line.indexOf(QLatin1Char(' '));
+    const QStringView name = line.first(blank < 0 ? line.size() : blank).mid(1).trimmed();
+    if (name.size() >= nameColumn)
+        m_overlong << name.toString();
+    else if (!name.isEmpty())
+        m_names.insert(name.toString());
+    // Until 0.153 sound was a switch ("enable sound output"); since then it names an output.
+    if (name == QLatin1String("sound"))
+        m_soundTakesValue = !line.mid(1 + name.size()).trimmed().startsWith(QLatin1String("enable"));
+}
+
+// "rompath                   /roms;/more", in quotes where there is a blank in it
+void EmulatorProfile::readSetting(QStringView line)
+{
+    const QLatin1StringView name("rompath ");
+    if (line.startsWith(name))
+        m_romFolders = withoutQuotes(line.mid(name.size()).trimmed().toString());
 }
 
 bool EmulatorProfile::listsName(QStringView name) const

@@ -9,15 +9,19 @@
 
 namespace tessera {
 
-/// What one emulator program says of itself in its -showusage text: the options that it understands.
+/// What one emulator program says of itself: the options that it understands, and where it looks for ROMs.
 class EmulatorProfile
 {
 public:
-    /// Nothing where the text is not an emulator's.
+    /// From its -showusage text, with its -showconfig text behind it or not. Nothing where the text is not an
+    /// emulator's.
     static std::optional<EmulatorProfile> fromUsage(QByteArrayView usage);
 
     /// True where the program takes `option` ("-rotate"), or its opposite ("-norotate").
     bool lists(QStringView option) const;
+
+    /// Its own ROM folders joined by ";", as it writes them; empty where it does not say.
+    QString romFolders() const { return m_romFolders; }
 
     struct Fitted {
         QStringList arguments;
@@ -29,11 +33,14 @@ public:
     Fitted fit(const QStringList& built) const;
 
 private:
+    void readOption(QStringView line);
+    void readSetting(QStringView line);
     bool listsName(QStringView name) const;
     void fitValue(QString option, const QString& value, Fitted& fitted) const;
 
     QSet<QString> m_names;
     QStringList m_overlong; ///< names with the first word of their description behind them
+    QString m_romFolders;
     bool m_soundTakesValue = true;
 };
 

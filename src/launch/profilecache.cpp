@@ -14,7 +14,7 @@ namespace tessera {
 
 namespace {
 
-constexpr qint64 fileLimit = 2 << 20;
+constexpr qint64 fileLimit = 3 << 20; // both texts at their limits
 
 QByteArray checksum(QByteArrayView bytes)
 {
@@ -24,7 +24,7 @@ QByteArray checksum(QByteArrayView bytes)
 // One line with the program's identity, one with the text's checksum, then the text as it was printed.
 QByteArray head(const EmulatorIdentity& identity, QByteArrayView usage)
 {
-    return "tessera-profile 1 " + identity.text().toUtf8().toPercentEncoding(" /") + '\n' + checksum(usage)
+    return "tessera-profile 2 " + identity.text().toUtf8().toPercentEncoding(" /") + '\n' + checksum(usage)
         + '\n';
 }
 

@@ -1,6 +1,7 @@
 #include "launch/usagequestion.h"
 
 #include "launch/emulatoridentity.h"
+#include "launch/emulatorprofile.h"
 
 #include <QFileInfo>
 #include <QTimer>
@@ -11,7 +12,9 @@ namespace tessera {
 
 namespace {
 constexpr std::chrono::seconds timeLimit(30);
-constexpr qsizetype outputLimit = 1 << 20; // an emulator prints some 20 KB
+constexpr qsizetype outputLimit = 1 << 20; // of one run; an emulator prints some 20 KB
+constexpr QLatin1StringView usageOption("-showusage");
+constexpr QLatin1StringView configOption("-showconfig");
 } // namespace
 
 UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
@@ -19,7 +22,6 @@ UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
     , m_executable(executable)
 {
     m_process.setProgram(executable);
-    m_process.setArguments({QStringLiteral("-showusage")});
     m_process.setWorkingDirectory(QFileInfo(executable).path());
     m_process.setProcessEnvironment(emulatorEnvironment());
     m_process.setStandardInputFile(QProcess::nullDevice());
@@ -27,15 +29,10 @@ UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &UsageQuestion::read);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            settle(std::nullopt);
+            settle(m_usage.isEmpty() ? std::nullopt : std::optional(m_usage));
     });
     // The status is of no interest: some programs end with an error after a good text.
-    connect(&m_process, &QProcess::finished, this, [this](int, QProcess::ExitStatus how) {
-        read();
-        if (!m_settled)
-            m_isAnsweredForGood = how == QProcess::NormalExit;
-        settle(m_text);
-    });
+    connect(&m_process, &QProcess::finished, this, [this](int, QProcess::ExitStatus how) { runEnded(how); });
 }
 
 UsageQuestion::~UsageQuestion()
@@ -49,16 +46,39 @@ UsageQuestion::~UsageQuestion()
 void UsageQuestion::ask()
 {
     QTimer::singleShot(timeLimit, this, &UsageQuestion::giveUp);
-    m_process.start(QIODevice::ReadOnly);
+    start(usageOption);
 }
 
 void UsageQuestion::askAndWait()
 {
     const QDeadlineTimer deadline(timeLimit);
-    m_process.start(QIODevice::ReadOnly);
+    start(usageOption);
     while (!m_settled && m_process.state() != QProcess::NotRunning && !deadline.hasExpired())
         m_process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
     giveUp();
+}
+
+void UsageQuestion::start(const QString& option)
+{
+    m_process.setArguments({option});
+    m_process.start(QIODevice::ReadOnly);
+}
+
+void UsageQuestion::runEnded(QProcess::ExitStatus how)
+{
+    read();
+    if (m_settled)
+        return;
+    const bool isWhole = how == QProcess::NormalExit;
+    const bool isUsage = m_usage.isEmpty();
+    if (isUsage && isWhole && EmulatorProfile::fromUsage(m_text)) {
+        m_usage = std::exchange(m_text, {}) + '\n';
+        start(configOption);
+        return;
+    }
+    m_isAnsweredForGood = isWhole;
+    // A configuration that broke off may hold half a line.
+    settle(isWhole || isUsage ? m_usage + m_text : m_usage);
 }
 
 void UsageQuestion::read()
@@ -74,7 +94,7 @@ void UsageQuestion::read()
 
 void UsageQuestion::giveUp()
 {
-    settle(QByteArray());
+    settle(m_usage);
     m_process.kill();
 }
 

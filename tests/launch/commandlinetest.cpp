@@ -50,6 +50,27 @@ private Q_SLOTS:
                  QStringList({"pong", "-rompath", "/"}));
     }
 
+    void theEmulatorsOwnRomFoldersStayBehindTheArchives()
+    {
+        const auto own
+            = EmulatorProfile::fromUsage(test::newUsage().append("rompath  $HOME/roms;/usr/roms\n"));
+        QCOMPARE(commandLine(own, "/my archives/pong.zip", built.mid(0, 2), {}).arguments,
+                 QStringList({"pong", "-video", "opengl", "-rompath", "/my archives;$HOME/roms;/usr/roms"}));
+        // The folder that we send takes their place in any launch.
+        QCOMPARE(commandLine(own, "/my archives/pong.zip", built, {}).arguments.last(),
+                 QStringLiteral("/my archives;/roms"));
+        QCOMPARE(commandLine(own, "pong", {}, {}).arguments, QStringList({"pong"}));
+    }
+
+    void aFolderThatNoListCanHoldGoesWithTheArchive()
+    {
+        const QString archive = QStringLiteral("/a;b/pong.zip");
+        QCOMPARE(commandLine(profile(), archive, built, {"-x"}).arguments,
+                 QStringList({archive, "-video", "opengl", "-rompath", "/roms", "-x"}));
+        QCOMPARE(commandLine(profile(), "/ab/po;ng.zip", {}, {}).arguments,
+                 QStringList({"po;ng", "-rompath", "/ab"}));
+    }
+
     void aRomPathThatIsAValueIsNotTakenForTheOption()
     {
         QCOMPARE(commandLine(profile(), "/r/pong.zip", {"-wavwrite", "-rompath"}, {}).arguments,

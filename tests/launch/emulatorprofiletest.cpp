@@ -62,6 +62,31 @@ private Q_SLOTS:
         QVERIFY(profile->lists(u"-bare"));
     }
 
+    void readsTheProgramsOwnRomFolders_data()
+    {
+        QTest::addColumn<QByteArray>("config");
+        QTest::addColumn<QString>("folders");
+        QTest::newRow("none") << QByteArray() << "";
+        QTest::newRow("another setting") << QByteArray("rompathology  /x\nmyrompath  /x\n") << "";
+        QTest::newRow("a remark") << QByteArray("#rompath  /x\n# rompath <NULL> (not set)\n") << "";
+        QTest::newRow("without a value") << QByteArray("rompath                   \n") << "";
+        QTest::newRow("one") << QByteArray("rompath                   roms\n") << "roms";
+        QTest::newRow("several") << QByteArray(
+            "#\n# PATHS\n#\nhomepath  .\nrompath  $HOME/mame/roms;/usr/x\n")
+                                 << "$HOME/mame/roms;/usr/x";
+        QTest::newRow("with a blank")
+            << QByteArray("rompath                   \"/my roms;/x\"\n") << "/my roms;/x";
+        QTest::newRow("line ends of Windows") << QByteArray("rompath  C:\\roms\r\n") << "C:\\roms";
+        QTest::newRow("no ASCII") << QByteArray("rompath  /ゲーム\n") << QString::fromUtf8("/ゲーム");
+    }
+
+    void readsTheProgramsOwnRomFolders()
+    {
+        QFETCH(QByteArray, config);
+        QFETCH(QString, folders);
+        QCOMPARE(EmulatorProfile::fromUsage(test::newUsage().append(config))->romFolders(), folders);
+    }
+
     void leavesOutWhatIsNotListed()
     {
         const auto fitted

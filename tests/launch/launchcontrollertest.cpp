@@ -105,7 +105,11 @@ class LaunchControllerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { qunsetenv("FAKE_USAGE"); }
+    void cleanup()
+    {
+        qunsetenv("FAKE_USAGE");
+        qunsetenv("FAKE_CONFIG");
+    }
 
     void startsTheGameWithTheBuildersList()
     {
@@ -195,6 +199,24 @@ private Q_SLOTS:
         QCOMPARE(sent.last(), QStringLiteral("-nomultithreading"));
         QCOMPARE(room.text().count("launch_leftout"), 1);
         QVERIFY(room.text().startsWith(header.arg("print") + "launch_leftout"));
+    }
+
+    void anArchiveIsFoundBeforeTheEmulatorsOwnRoms()
+    {
+        Room room;
+        QFile usage(room.folder.filePath("usage"));
+        QVERIFY(usage.open(QIODevice::WriteOnly));
+        usage.write(test::newUsage());
+        usage.close();
+        QFile config(room.folder.filePath("config"));
+        QVERIFY(config.open(QIODevice::WriteOnly));
+        config.write("rompath                   $HOME/own;/more\n");
+        config.close();
+        qputenv("FAKE_USAGE", QFile::encodeName(usage.fileName()));
+        qputenv("FAKE_CONFIG", QFile::encodeName(config.fileName()));
+        QVERIFY(room.launch("/archives/print.zip"));
+        QVERIFY(room.text().contains("\n[print]\n"));
+        QCOMPARE(room.printed().last(), QStringLiteral("/archives;$HOME/own;/more"));
     }
 
     void aLaunchBeforeTheAnswerWaitsWithoutBlocking()

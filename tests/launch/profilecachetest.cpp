@@ -32,10 +32,20 @@ private:
     QString m_emulator;
     QString m_cache;
 
-    qsizetype timesAsked() const
+    qsizetype timesAsked(const QByteArray& option = "-showusage") const
     {
         QFile file(m_folder->filePath("runs"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().count('\n') : 0;
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count(QByteArray(option + '\n')) : 0;
+    }
+
+    // A program of our own making.
+    QString script(const QByteArray& text) const
+    {
+        const QString path = m_folder->filePath("script");
+        write(path, "#!/bin/sh\n" + text);
+        if (!QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner))
+            qFatal("no program");
+        return path;
     }
 
     QString cacheFile() const
@@ -53,12 +63,15 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(TESSERA_FAKEEMULATOR, m_emulator));
         write(m_folder->filePath("usage"), test::newUsage());
         qputenv("FAKE_USAGE", QFile::encodeName(m_folder->filePath("usage")));
+        write(m_folder->filePath("config"), "rompath                   /own;/more\n");
+        qputenv("FAKE_CONFIG", QFile::encodeName(m_folder->filePath("config")));
         qputenv("FAKE_RUNS", QFile::encodeName(m_folder->filePath("runs")));
     }
 
     void cleanupTestCase()
     {
         qunsetenv("FAKE_USAGE");
+        qunsetenv("FAKE_CONFIG");
         qunsetenv("FAKE_RUNS");
     }
 
@@ -74,8 +87,40 @@ private Q_SLOTS:
         const auto known = later.remembered(m_emulator);
         QVERIFY(known && known->profile);
         QVERIFY(known->profile->lists(u"-beam_width_min"));
+        QCOMPARE(known->profile->romFolders(), QStringLiteral("/own;/more"));
         QVERIFY(later.ask(m_emulator).profile);
         QCOMPARE(timesAsked(), 1);
+        QCOMPARE(timesAsked("-showconfig"), 1);
+    }
+
+    void aProgramWithoutAConfigurationHasAProfile()
+    {
+        QVERIFY(QFile::remove(m_folder->filePath("config")));
+        QVERIFY(ProfileCache(m_cache).ask(m_emulator).profile);
+        ProfileCache later(m_cache);
+        const auto known = later.remembered(m_emulator);
+        QVERIFY(known && known->profile);
+        QCOMPARE(known->profile->romFolders(), QString());
+    }
+
+    void aConfigurationThatBreaksOffIsNotTaken()
+    {
+        const QString program
+            = script("[ $1 = -showconfig ] || exec cat '" + QFile::encodeName(m_folder->filePath("usage"))
+                     + "'\necho 'rompath /half'\nkill -SEGV $$\n");
+        ProfileCache cache(m_cache);
+        const ProfileAnswer answer = cache.ask(program);
+        QVERIFY(answer.profile);
+        QCOMPARE(answer.profile->romFolders(), QString());
+        // It may answer better in the next run.
+        QVERIFY(!ProfileCache(m_cache).remembered(program));
+    }
+
+    void anotherProgramIsNotAskedForAConfiguration()
+    {
+        write(m_folder->filePath("usage"), "Usage: nothing that we know\n");
+        QVERIFY(!ProfileCache(m_cache).ask(m_emulator).profile);
+        QCOMPARE(timesAsked("-showconfig"), 0);
     }
 
     void asksAChangedProgramAgain()
@@ -123,15 +168,11 @@ private Q_SLOTS:
 
     void aCrashIsNoAnswerForGood()
     {
-        QFile script(m_folder->filePath("crashing"));
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\nkill -SEGV $$\n");
-        script.close();
-        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner));
+        const QString program = script("kill -SEGV $$\n");
         ProfileCache cache(m_cache);
-        QVERIFY(!cache.ask(script.fileName()).profile);
-        QVERIFY(cache.remembered(script.fileName()));
-        QVERIFY(!ProfileCache(m_cache).remembered(script.fileName()));
+        QVERIFY(!cache.ask(program).profile);
+        QVERIFY(cache.remembered(program));
+        QVERIFY(!ProfileCache(m_cache).remembered(program));
     }
 
     void aDamagedFileIsAskedAgain_data()
@@ -202,8 +243,11 @@ private Q_SLOTS:
         QVERIFY(spy.wait());
         QCOMPARE(spy.size(), 1);
         QCOMPARE(spy.first().at(0).toString(), m_emulator);
-        QVERIFY(spy.first().at(1).value<ProfileAnswer>().profile);
+        const auto profile = spy.first().at(1).value<ProfileAnswer>().profile;
+        QVERIFY(profile);
+        QCOMPARE(profile->romFolders(), QStringLiteral("/own;/more"));
         QCOMPARE(timesAsked(), 1);
+        QCOMPARE(timesAsked("-showconfig"), 1);
     }
 
     void aRequestIsAnsweredInAnyCase_data()

@@ -1,8 +1,8 @@
 // A program that plays the emulator. The first argument says how it behaves, as a game's name would; see
-// `plays`. With -showusage it prints the file that FAKE_USAGE names, and adds a line to the file that
-// FAKE_RUNS names. With -listxml it says FAKE_WORDS on standard error, prints the file that FAKE_LISTXML
-// names, and then behaves as FAKE_THEN says. A grandchild that it leaves behind locks the file that
-// FAKE_GRANDCHILD names, with its number in it.
+// `plays`. With -showusage and -showconfig it prints the file that FAKE_USAGE and FAKE_CONFIG name, and adds
+// the option to the file that FAKE_RUNS names. With -listxml it says FAKE_WORDS on standard error, prints the
+// file that FAKE_LISTXML names, and then behaves as FAKE_THEN says. A grandchild that it leaves behind locks
+// the file that FAKE_GRANDCHILD names, with its number in it.
 
 #include <csignal>
 #include <cstdio>
@@ -28,15 +28,15 @@ bool printFile(const char* path)
     return std::fclose(file) == 0;
 }
 
-int showUsage()
+int answer(const char* option, const char* path)
 {
     if (const char* runs = std::getenv("FAKE_RUNS")) {
         if (std::FILE* file = std::fopen(runs, "a")) {
-            std::fputs("asked\n", file);
+            std::fprintf(file, "%s\n", option);
             std::fclose(file);
         }
     }
-    return printFile(std::getenv("FAKE_USAGE")) ? 0 : 1;
+    return printFile(path) ? 0 : 1;
 }
 
 [[noreturn]] void waitToBeEnded()
@@ -149,7 +149,9 @@ int listMachines(int argc, char* argv[])
 int main(int argc, char* argv[])
 {
     if (argc > 1 && std::strcmp(argv[1], "-showusage") == 0)
-        return showUsage();
+        return answer(argv[1], std::getenv("FAKE_USAGE"));
+    if (argc > 1 && std::strcmp(argv[1], "-showconfig") == 0)
+        return answer(argv[1], std::getenv("FAKE_CONFIG"));
     if (argc > 1 && std::strcmp(argv[1], "-listxml") == 0)
         return listMachines(argc, argv);
     return plays(argc > 1 ? argv[1] : "", argc, argv);
