@@ -88,7 +88,7 @@ void Tessera_AppDelegate::loadInterface()
     m_mainWindow = std::make_unique<MainWindow>(m_defaults);
     m_logWindow = std::make_unique<LogWindow>();
     m_preferencesWindow = std::make_unique<PreferencesWindow>();
-    m_pages = std::make_unique<LaunchPages>(m_defaults, emulatorToUse(QString()));
+    m_pages = std::make_unique<LaunchPages>(m_defaults, [] { return findEmulator(); });
     m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
     m_pages->general().setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
@@ -106,8 +106,7 @@ void Tessera_AppDelegate::loadInterface()
                     [](const QString&) { return QString(); }});
     m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
     m_rebuild = std::make_unique<CatalogueRebuild>(
-        m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip,
-        [this] { return emulatorToUse(m_defaults.text(keys::ExecutionPath)); },
+        m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
         [this] { m_chooser->exeSelect(); });
     joinRooms();
     fillMainMenu(*m_mainWindow->menuBar(), *this);
@@ -130,6 +129,9 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_chooser.get(), &PathChooser::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(&m_defaults, &DefaultsController::changed, this, &Tessera_AppDelegate::settingChanged);
     connect(m_chooser.get(), &PathChooser::chosen, m_launch.get(), &LaunchController::prepareProfile);
+    connect(&m_pages->general(), &GeneralPage::emulatorFound, m_launch.get(),
+            &LaunchController::prepareProfile);
+    connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
     connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
@@ -219,8 +221,14 @@ void Tessera_AppDelegate::settingChanged(const QString& name)
 
 void Tessera_AppDelegate::showEmulator()
 {
-    const QString emulator = emulatorToUse(m_defaults.text(keys::ExecutionPath));
+    const QString emulator = m_pages->general().emulator();
     m_mainWindow->showEmulator(emulator.isEmpty() ? qtTrId("main_no_emulator") : emulator);
+}
+
+QString Tessera_AppDelegate::emulator()
+{
+    m_pages->general().lookForEmulator();
+    return m_pages->general().emulator();
 }
 
 // The commands

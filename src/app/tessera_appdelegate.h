@@ -93,6 +93,7 @@ private:
     void showSelection();
     void showCount();
     void showEmulator();
+    QString emulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
 

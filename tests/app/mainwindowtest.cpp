@@ -61,6 +61,28 @@ private Q_SLOTS:
         QVERIFY(log(staged).contains(QStringLiteral("qix  Launch...")));
     }
 
+    void anEmulatorThatWasMovedIsFoundWithoutARestart()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(QString());
+        const auto restored = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
+        const QString first = staged.path(QStringLiteral("first"));
+        const QString second = staged.path(QStringLiteral("second"));
+        qputenv("PATH", QFile::encodeName(first + QLatin1Char(':') + second));
+        QVERIFY(QDir().mkpath(first) && QDir().mkpath(second));
+        const QString name = QStringLiteral("/mame");
+        QVERIFY(QFile::copy(QStringLiteral(TESSERA_FAKEEMULATOR), first + name));
+        staged.start();
+        const auto* label = staged.app->mainWindow().findChild<QLabel*>(QStringLiteral("emulatorLabel"));
+        QCOMPARE(label->text(), first + name);
+
+        QVERIFY(QFile::rename(first + name, second + name));
+        staged.app->launcher().Launchusing(QStringLiteral("exit0"));
+        QTRY_VERIFY(log(staged).contains(QStringLiteral("leaving")));
+        QCOMPARE(label->text(), second + name);
+    }
+
     void playWithNothingSelectedBeeps()
     {
         StagedApp staged;

@@ -42,6 +42,7 @@ struct Room {
     EmulatorTask task;
     ProfileCache profiles{folder.filePath(QStringLiteral("profiles"))};
     QHash<QString, QString> favourites;
+    QString installed; ///< what is found where no emulator was chosen
     std::unique_ptr<LaunchController> controller;
     std::unique_ptr<QSignalSpy> running;
 
@@ -51,7 +52,7 @@ struct Room {
         if (!QFile::link(TESSERA_FAKEEMULATOR, emulator()))
             qFatal("no emulator");
         defaults.setText(keys::ExecutionPath, emulator());
-        pages = std::make_unique<LaunchPages>(defaults, QString());
+        pages = std::make_unique<LaunchPages>(defaults, [this] { return installed; });
         chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
         const SelectionReaders selection{[] { return QStringLiteral("sel"); },
                                          [] { return QStringLiteral("Title"); },
@@ -322,6 +323,21 @@ private Q_SLOTS:
         room.desktop.answerOpen(room.emulator());
         QVERIFY(room.launch("exit0"));
         QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
+    }
+
+    void anEmulatorThatIsInstalledLaterIsFoundByTheNextLaunch()
+    {
+        Room room;
+        room.defaults.setText(keys::ExecutionPath, "");
+        room.desktop.answerAlert("alert_Message1", 1);
+        QVERIFY(room.launch("exit0"));
+        QVERIFY(room.text().contains("launch_notstarted"));
+
+        room.installed = room.emulator();
+        room.running->clear();
+        QVERIFY(room.launch("exit0"));
+        QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
+        QCOMPARE(room.settings.string(keys::ExecutionPath.name), QString());
     }
 
     void whatCannotBeStartedIsToldInTheLog_data()

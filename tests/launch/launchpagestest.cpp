@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
@@ -72,7 +73,7 @@ private:
 
     std::unique_ptr<LaunchPages> pages(const QString& found = QString())
     {
-        return std::make_unique<LaunchPages>(*m_defaults, found);
+        return std::make_unique<LaunchPages>(*m_defaults, [found] { return found; });
     }
 
 private Q_SLOTS:
@@ -232,6 +233,49 @@ private Q_SLOTS:
         QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
         m_defaults->revertToInitialValues();
         QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
+    }
+
+    void looksAnewForAnEmulatorWhereItNeedsOne()
+    {
+        QString installed;
+        int searches = 0;
+        LaunchPages shown(*m_defaults, [&] {
+            ++searches;
+            return installed;
+        });
+        GeneralPage& page = shown.general();
+        QSignalSpy found(&page, &GeneralPage::emulatorFound);
+        page.lookForEmulator();
+        QCOMPARE(page.emulator(), QString());
+        QVERIFY(found.isEmpty());
+
+        QFile program(m_folder->filePath("mame"));
+        QVERIFY(program.open(QIODevice::WriteOnly));
+        installed = program.fileName();
+        page.show();
+        QCOMPARE(page.exeTextField->text(), installed);
+        QCOMPARE(page.emulator(), installed);
+        QCOMPARE(found.size(), 1);
+
+        // As long as it is there, another one does not take its place, and nothing is searched.
+        searches = 0;
+        installed = "/other/mame";
+        page.lookForEmulator();
+        QCOMPARE(searches, 0);
+        QCOMPARE(page.emulator(), program.fileName());
+        QVERIFY(program.remove());
+        page.lookForEmulator();
+        QCOMPARE(page.exeTextField->text(), installed);
+        QCOMPARE(found.size(), 2);
+    }
+
+    void aChosenEmulatorThatHasGoneIsNotReplaced()
+    {
+        m_defaults->setText(keys::ExecutionPath, "/gone/mame");
+        const auto shown = pages("/usr/games/mame");
+        shown->general().show();
+        QCOMPARE(shown->general().emulator(), QStringLiteral("/gone/mame"));
+        QCOMPARE(shown->general().exeTextField->text(), QStringLiteral("/gone/mame"));
     }
 
     void anEmulatorCanBeTypedInPlaceOfTheFoundOne()

@@ -29,7 +29,7 @@ struct Room {
     Room()
     {
         defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
-        pages = std::make_unique<LaunchPages>(defaults, QStringLiteral("/usr/games/mame"));
+        pages = std::make_unique<LaunchPages>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
         chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
         pages->general().setChooser(*chooser);
     }
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(blocked.open(QIODevice::WriteOnly));
         UserDefaults settings(folder.filePath("file/Tessera.ini"));
         DefaultsController defaults(settings);
-        LaunchPages pages(defaults, QString());
+        LaunchPages pages(defaults, [] { return QString(); });
         test::ScriptedDesktop desktop;
         PathChooser chooser(desktop, defaults, pages);
         QSignalSpy spy(&chooser, &PathChooser::statusMessage);

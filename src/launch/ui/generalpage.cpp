@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -25,7 +26,7 @@ PathField* makePath(const char* nameKey, const char* fieldName, QWidget* parent)
 
 } // namespace
 
-GeneralPage::GeneralPage(DefaultsController& defaults, const QString& foundEmulator, QWidget* parent)
+GeneralPage::GeneralPage(DefaultsController& defaults, std::function<QString()> findEmulator, QWidget* parent)
     : OptionPage(textKey("page_general"), QStringLiteral("general"), parent)
     , launchusingPop(makePopup("launchusingPop", launchModes))
     , exePath(makePath(textKey("option_emulator"), "exeTextField", this))
@@ -34,7 +35,7 @@ GeneralPage::GeneralPage(DefaultsController& defaults, const QString& foundEmula
     , romsTextField(romsPath->field())
     , checkboxRompath(makeBox("checkboxRompath", textKey("option_useromfolder")))
     , m_defaults(defaults)
-    , m_foundEmulator(foundEmulator)
+    , m_findEmulator(std::move(findEmulator))
 {
     addRow(qtTrId("option_launchusing"), launchusingPop);
     addRow(qtTrId("option_emulator"), exePath);
@@ -52,11 +53,12 @@ GeneralPage::GeneralPage(DefaultsController& defaults, const QString& foundEmula
     // else takes.
     bind(*checkboxRompath, defaults, keys::Outputserror);
 
+    connect(&defaults, &DefaultsController::changed, this, &GeneralPage::lookForEmulator);
     connect(&defaults, &DefaultsController::changed, this, &GeneralPage::showFoundEmulator);
     connect(exeTextField, &QLineEdit::editingFinished, this, &GeneralPage::showFoundEmulator);
     connect(romsTextField, &QLineEdit::textChanged, this, &GeneralPage::showNote);
     connect(checkboxRompath, &QCheckBox::toggled, this, &GeneralPage::showNote);
-    showFoundEmulator();
+    lookForEmulator();
     showNote();
 }
 
@@ -66,12 +68,36 @@ void GeneralPage::setChooser(PathChooser& chooser)
     connect(romsPath->chooseButton(), &QPushButton::clicked, &chooser, &PathChooser::selectROMfolder);
 }
 
+QString GeneralPage::emulator() const
+{
+    const QString chosen = m_defaults.text(keys::ExecutionPath);
+    return chosen.isEmpty() ? m_foundEmulator : chosen;
+}
+
+void GeneralPage::lookForEmulator()
+{
+    if (QFileInfo::exists(m_foundEmulator) || !m_defaults.text(keys::ExecutionPath).isEmpty())
+        return;
+    const QString found = m_findEmulator();
+    if (found == m_foundEmulator)
+        return;
+    m_foundEmulator = found;
+    showFoundEmulator();
+    Q_EMIT emulatorFound();
+}
+
 // Shown, but not stored: it stays unchosen, and follows what is installed.
 void GeneralPage::showFoundEmulator()
 {
     const bool isTyping = exeTextField->hasFocus() && exeTextField->isModified();
     if (m_defaults.text(keys::ExecutionPath).isEmpty() && !isTyping)
         exeTextField->setText(m_foundEmulator);
+}
+
+void GeneralPage::showEvent(QShowEvent* event)
+{
+    lookForEmulator();
+    OptionPage::showEvent(event);
 }
 
 void GeneralPage::showNote()

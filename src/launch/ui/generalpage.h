@@ -2,6 +2,8 @@
 
 #include "launch/ui/optionpage.h"
 
+#include <functional>
+
 class QLabel;
 
 namespace tessera {
@@ -15,8 +17,14 @@ class GeneralPage : public OptionPage
     Q_OBJECT
 
 public:
-    /// `foundEmulator` is shown as long as no emulator was chosen; empty where none was found.
-    GeneralPage(DefaultsController& defaults, const QString& foundEmulator, QWidget* parent = nullptr);
+    /// What `findEmulator` finds is shown as long as no emulator was chosen; it gives an empty text for none.
+    GeneralPage(DefaultsController& defaults, std::function<QString()> findEmulator,
+                QWidget* parent = nullptr);
+
+    /// The emulator that launches use: the chosen one, or the found one.
+    QString emulator() const;
+    /// Where none was chosen, and none was found or its file has gone: one may have been installed since.
+    void lookForEmulator();
 
     /// The buttons beside the paths run the chooser's commands.
     void setChooser(PathChooser& chooser);
@@ -29,11 +37,19 @@ public:
     QCheckBox* checkboxRompath;
     QLabel* rompathNote;
 
+Q_SIGNALS:
+    /// Another one than before, or none any more.
+    void emulatorFound();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void showFoundEmulator();
     void showNote();
 
     DefaultsController& m_defaults;
+    std::function<QString()> m_findEmulator;
     QString m_foundEmulator;
 };
 

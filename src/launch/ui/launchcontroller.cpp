@@ -127,7 +127,11 @@ void LaunchController::begin(const Launch& launch, const ProfileAnswer& answer)
 
 void LaunchController::LaunchemuCheck()
 {
-    if (m_parts.pages.general().launchusingPop->currentIndex() == 0 && !QFileInfo::exists(executable()))
+    GeneralPage& general = m_parts.pages.general();
+    if (general.launchusingPop->currentIndex() != 0)
+        return;
+    general.lookForEmulator();
+    if (!QFileInfo::exists(executable()))
         m_parts.paths.displayAlert1();
 }
 

@@ -107,8 +107,8 @@ void readGeneral(LaunchOptions& options, const GeneralPage& page)
 
 } // namespace
 
-LaunchPages::LaunchPages(DefaultsController& defaults, const QString& foundEmulator)
-    : m_general(new GeneralPage(defaults, foundEmulator))
+LaunchPages::LaunchPages(DefaultsController& defaults, std::function<QString()> findEmulator)
+    : m_general(new GeneralPage(defaults, std::move(findEmulator)))
     , m_video(new VideoPage(defaults))
     , m_effects(new EffectsPage(defaults))
     , m_sound(new SoundPage(defaults))

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QPointer>
 
+#include <functional>
+
 namespace tessera {
 
 class DefaultsController;
@@ -20,8 +22,8 @@ class VideoPage;
 class LaunchPages
 {
 public:
-    /// `foundEmulator` is the emulator that launches use as long as none was chosen.
-    LaunchPages(DefaultsController& defaults, const QString& foundEmulator);
+    /// `findEmulator` finds the emulator that launches use as long as none was chosen.
+    LaunchPages(DefaultsController& defaults, std::function<QString()> findEmulator);
     ~LaunchPages();
     LaunchPages(const LaunchPages&) = delete;
     LaunchPages& operator=(const LaunchPages&) = delete;
