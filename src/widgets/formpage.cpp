@@ -1,5 +1,6 @@
 #include "widgets/formpage.h"
 
+#include <QAbstractButton>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -46,7 +47,10 @@ QLabel* FormPage::addRow(const QString& label, QWidget* control)
     name->setProperty("role", QStringLiteral("dim"));
     name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     name->setBuddy(control);
-    if (control->accessibleName().isEmpty() && !label.isEmpty())
+    // A box is heard as it reads: the label may stand for the row's other boxes too.
+    const auto* button = qobject_cast<const QAbstractButton*>(control);
+    const bool readsItself = button != nullptr && !button->text().isEmpty();
+    if (control->accessibleName().isEmpty() && !label.isEmpty() && !readsItself)
         control->setAccessibleName(label);
     m_grid->addWidget(name, m_row, labelColumn, Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(control, m_row, controlColumn);

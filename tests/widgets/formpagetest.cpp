@@ -2,6 +2,7 @@
 
 #include "support/testmain.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -28,6 +29,18 @@ private Q_SLOTS:
         field->setAccessibleName(QStringLiteral("Width of the beam"));
         page.addRow(QStringLiteral("Beam"), field);
         QCOMPARE(field->accessibleName(), QStringLiteral("Width of the beam"));
+    }
+
+    void aBoxIsHeardAsItReads()
+    {
+        FormPage page;
+        auto* cheats = new QCheckBox(QStringLiteral("Use cheats"));
+        QLabel* label = page.addRow(QStringLiteral("Start"), cheats);
+        QCOMPARE(label->buddy(), cheats);
+        QCOMPARE(cheats->accessibleName(), QString());
+        auto* bare = new QCheckBox;
+        page.addRow(QStringLiteral("Effect"), bare);
+        QCOMPARE(bare->accessibleName(), QStringLiteral("Effect"));
     }
 };
 
