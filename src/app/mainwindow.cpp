@@ -172,8 +172,6 @@ void MainWindow::setRunning(bool running)
 
 void MainWindow::setRebuilding(bool rebuilding)
 {
-    gameTable->setEditTriggers(rebuilding ? QAbstractItemView::NoEditTriggers
-                                          : QAbstractItemView::EditKeyPressed);
     if (rebuilding)
         offerRebuild(false);
     sayWhatToDo(rebuilding);

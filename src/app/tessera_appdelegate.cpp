@@ -8,6 +8,7 @@
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
@@ -136,6 +137,8 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
             &MainWindow::setRebuilding);
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_gameList->model(),
+            &GameTableModel::setLocked);
 
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),

@@ -8,9 +8,15 @@
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 
+#include <QAction>
 #include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSignalSpy>
+
+#include <algorithm>
 
 using namespace tessera;
 using test::StagedApp;
@@ -55,6 +61,34 @@ QString message(const StagedApp& staged)
 QStringList keptCopies(const StagedApp& staged)
 {
     return QDir(staged.path(QStringLiteral("data"))).entryList({QStringLiteral("Tessera *.xml")});
+}
+
+QLineEdit* editorOf(const StagedApp& staged)
+{
+    return staged.app->mainWindow().gameTable->viewport()->findChild<QLineEdit*>();
+}
+
+// In every way that there is.
+void tryToEdit(StagedApp& staged)
+{
+    GameTableView* table = staged.app->mainWindow().gameTable;
+    const QModelIndex title = table->model()->index(0, 1);
+    QVERIFY(QTest::qWaitForWindowExposed(&staged.app->mainWindow()));
+    table->setFocus();
+    table->setCurrentIndex(title);
+    QTest::keyClick(table, Qt::Key_F2);
+    QVERIFY(editorOf(staged) == nullptr);
+    for (const char* command : {"menu_editcell", "menu_undo", "menu_redo"}) {
+        auto* action = staged.app->mainWindow().menuBar()->findChild<QAction*>(QLatin1String(command));
+        QVERIFY2(action != nullptr, command);
+        action->trigger();
+    }
+    QVERIFY(editorOf(staged) == nullptr);
+    QTest::ignoreMessage(QtWarningMsg, "edit: editing failed");
+    table->edit(title);
+    QVERIFY(editorOf(staged) == nullptr);
+    QVERIFY(!table->model()->flags(title).testFlag(Qt::ItemIsEditable));
+    QVERIFY(!table->model()->setData(title, QStringLiteral("Edited"), Qt::EditRole));
 }
 
 } // namespace
@@ -164,6 +198,42 @@ private Q_SLOTS:
         QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
     }
 
+    void theStripCountsTheMachines_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QString>("count");
+        QTest::newRow("English") << QStringLiteral("en") << QStringLiteral("Building the catalogue from mame")
+                                 << QStringLiteral("%1 machines");
+        QTest::newRow("Japanese") << QStringLiteral("ja")
+                                  << QStringLiteral("mame からカタログを作成しています")
+                                  << QStringLiteral("%1 台");
+    }
+
+    void theStripCountsTheMachines()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, program);
+        QFETCH(QString, count);
+        const test::InstalledTexts texts(language);
+        StagedApp staged;
+        staged.writeCatalogue();
+        // What follows the last machine lets it be noticed.
+        staged.useEmulator(makeEmulator(staged, "printf '%400s' .; sleep 20"));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        RebuildStrip* strip = staged.app->mainWindow().rebuildStrip;
+        const auto* shown = strip->findChild<QLabel*>(QStringLiteral("rebuildCount"));
+        QCOMPARE(shown->text(), count.arg(0));
+        QTRY_COMPARE(shown->text(), count.arg(2));
+        strip->showCount(45'294);
+        QCOMPARE(shown->text(), count.arg(QLocale().toString(45'294)));
+        const auto labels = strip->findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [&](const QLabel* label) { return label->text() == program; }));
+        staged.app->rebuild().cancel();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+    }
+
     void cancellingLeavesTheOldCatalogue()
     {
         StagedApp staged;
@@ -174,7 +244,6 @@ private Q_SLOTS:
         staged.app->rebuildCatalogue();
         RebuildStrip* strip = staged.app->mainWindow().rebuildStrip;
         QTRY_VERIFY(strip->isVisible());
-        QVERIFY(!strip->findChild<QLabel*>(QStringLiteral("rebuildCount"))->text().isEmpty());
         strip->findChild<QPushButton*>(QStringLiteral("rebuildCancel"))->click();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
         QVERIFY(!strip->isVisible());
@@ -205,11 +274,26 @@ private Q_SLOTS:
         staged.writeCatalogue();
         staged.useEmulator(makeEmulator(staged, "sleep 20"));
         staged.start();
+        Catalogue& catalogue = staged.app->catalogue();
+        catalogue.setValue(0, Field::Title, QStringLiteral("Kept"));
+        catalogue.setValue(0, Field::Title, QStringLiteral("Undone"));
+        staged.app->undo();
+        staged.desktop.answerAlert(QStringLiteral("rebuild_unsaved_message"), 0);
         staged.app->rebuildCatalogue();
-        QCOMPARE(staged.app->mainWindow().gameTable->editTriggers(), QAbstractItemView::NoEditTriggers);
+        QVERIFY(staged.app->rebuild().isRunning());
+        tryToEdit(staged);
+        QCOMPARE(catalogue.records()[0][Field::Title], std::string_view("Kept"));
+        QCOMPARE(catalogue.undoStack().index(), 1);
+        QCOMPARE(catalogue.undoStack().count(), 2);
+
         staged.app->rebuild().cancel();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
-        QCOMPARE(staged.app->mainWindow().gameTable->editTriggers(), QAbstractItemView::EditKeyPressed);
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
+        staged.app->redo();
+        QCOMPARE(catalogue.records()[0][Field::Title], std::string_view("Undone"));
+        QTest::keyClick(staged.app->mainWindow().gameTable, Qt::Key_F2);
+        QVERIFY(editorOf(staged) != nullptr);
+        QTest::keyClick(editorOf(staged), Qt::Key_Escape);
     }
 
     void anEarlierChosenTitleListIsUsed()

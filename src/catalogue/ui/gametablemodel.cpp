@@ -132,13 +132,14 @@ Qt::ItemFlags GameTableModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::NoItemFlags;
-    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable | Qt::ItemNeverHasChildren;
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    return m_locked ? flags : flags | Qt::ItemIsEditable;
 }
 
 bool GameTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
     const auto row = static_cast<std::size_t>(index.row());
-    if (role != Qt::EditRole || !index.isValid() || data(index, Qt::EditRole) == value)
+    if (m_locked || role != Qt::EditRole || !index.isValid() || data(index, Qt::EditRole) == value)
         return false;
     m_catalogue.setValue(m_list.rows()[row], columns[static_cast<std::size_t>(index.column())],
                          value.toString());

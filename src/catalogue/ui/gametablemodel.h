@@ -29,9 +29,13 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// An undoable edit of the record.
+    /// An undoable edit of the record; refused while the list is locked.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     void sort(int column, Qt::SortOrder order) override;
+
+public Q_SLOTS:
+    /// While it is locked, as its records are about to be replaced, nothing is edited.
+    void setLocked(bool locked) { m_locked = locked; }
 
 private:
     void readFont();
@@ -44,6 +48,7 @@ private:
     DefaultsController& m_defaults;
     QFont m_font;
     bool m_sorting = false;
+    bool m_locked = false;
 };
 
 } // namespace tessera
