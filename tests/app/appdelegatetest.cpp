@@ -7,17 +7,94 @@
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
+#include "tools/ui/utilityobject.h"
+#include "tools/ui/utilitywindow.h"
 
-#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollArea>
 #include <QSignalSpy>
 
 using namespace tessera;
 using test::StagedApp;
+
+namespace {
+
+void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << QStringLiteral("en");
+    QTest::newRow("Japanese") << QStringLiteral("ja");
+}
+
+// Words, and no key that nobody translated.
+bool isText(const QString& text)
+{
+    static const QRegularExpression key(QStringLiteral("[a-z]_[A-Za-z]"));
+    return !text.trimmed().isEmpty() && !text.contains(key);
+}
+
+// Of a menu's command, and of everything below it; counts the commands.
+void checkNames(const QAction& action, int& commands)
+{
+    QVERIFY2(action.isSeparator() || isText(action.text()), qPrintable(action.objectName()));
+    if (QMenu* menu = action.menu()) {
+        Q_EMIT menu->aboutToShow();
+        for (const QAction* command : menu->actions())
+            checkNames(*command, commands);
+    } else if (!action.isSeparator()) {
+        ++commands;
+    }
+}
+
+// What the keyboard reaches or what shows a state. The parts of a table, of a pop-up and of a scrolled page
+// are no controls of ours.
+bool isControl(const QWidget& widget)
+{
+    if (qobject_cast<const QProgressBar*>(&widget))
+        return true;
+    const bool isPart = widget.objectName().startsWith(QStringLiteral("qt_"))
+        || qobject_cast<const QComboBox*>(widget.parentWidget()) || qobject_cast<const QScrollArea*>(&widget)
+        || widget.focusProxy() != nullptr;
+    return !isPart && (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+// What a screen reader says. Qt itself would take the value of a pop-up for its name.
+QString accessibleName(const QWidget& control)
+{
+    if (!control.accessibleName().isEmpty())
+        return control.accessibleName();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
+        return button->text();
+    for (const QLabel* label : control.window()->findChildren<QLabel*>()) {
+        if (label->buddy() == &control)
+            return label->text();
+    }
+    return QString();
+}
+
+// A name may say more than what is written on the button, but not something else.
+bool isNamedAsItReads(const QWidget& control)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+    return button == nullptr || accessibleName(control).contains(button->text());
+}
+
+QString described(const QWidget& control)
+{
+    return QLatin1String(control.metaObject()->className()) + QLatin1Char(' ') + control.objectName()
+        + QLatin1Char(' ') + accessibleName(control);
+}
+
+} // namespace
 
 class AppDelegateTest : public QObject
 {
@@ -172,15 +249,19 @@ private Q_SLOTS:
         QVERIFY(staged.app->mainWindow().isVisible());
     }
 
+    void everyMenuCommandHasAName_data() { addLanguages(); }
+
     void everyMenuCommandHasAName()
     {
+        QFETCH(QString, language);
+        const test::InstalledTexts texts(language);
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
-        const auto actions = staged.app->mainWindow().menuBar()->findChildren<QAction*>();
-        QVERIFY(actions.size() > 20);
-        for (const QAction* action : actions)
-            QVERIFY(action->isSeparator() || !action->text().isEmpty() || action->menu() != nullptr);
+        int commands = 0;
+        for (const QAction* menu : staged.app->mainWindow().menuBar()->actions())
+            checkNames(*menu, commands);
+        QVERIFY(commands > 15);
     }
 
     void shortcutsAreNotGivenTwice()
@@ -197,29 +278,32 @@ private Q_SLOTS:
         }
     }
 
+    void everyControlHasAnAccessibleName_data() { addLanguages(); }
+
     void everyControlHasAnAccessibleName()
     {
+        QFETCH(QString, language);
+        const test::InstalledTexts texts(language);
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
         staged.app->showPrefsWindow();
+        staged.app->showLogWindow();
+        staged.app->utilityOrderFront();
         for (QWidget* window : {static_cast<QWidget*>(&staged.app->mainWindow()),
                                 static_cast<QWidget*>(&staged.app->preferencesWindow()),
-                                static_cast<QWidget*>(&staged.app->logWindow())}) {
+                                static_cast<QWidget*>(&staged.app->logWindow()),
+                                static_cast<QWidget*>(&staged.app->utility().utilityWindow())}) {
+            QVERIFY2(isText(window->windowTitle()), qPrintable(window->objectName()));
+            int controls = 0;
             for (const QWidget* control : window->findChildren<QWidget*>()) {
-                const bool named = control->inherits("QAbstractButton") || control->inherits("QLineEdit")
-                    || control->inherits("QComboBox") || control->inherits("QTableView")
-                    || control->inherits("QPlainTextEdit");
-                // Parts of a table and the text field inside a pop-up are not controls of ours.
-                if (!named || control->objectName().startsWith(QStringLiteral("qt_"))
-                    || control->inherits("QTableCornerButton"))
+                if (control->window() != window || !isControl(*control))
                     continue;
-                const QAccessibleInterface* heard
-                    = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
-                QVERIFY2(heard != nullptr && !heard->text(QAccessible::Name).isEmpty(),
-                         qPrintable(QLatin1String(control->metaObject()->className()) + QLatin1Char(' ')
-                                    + control->objectName()));
+                ++controls;
+                QVERIFY2(isText(accessibleName(*control)), qPrintable(described(*control)));
+                QVERIFY2(isNamedAsItReads(*control), qPrintable(described(*control)));
             }
+            QVERIFY2(controls > 1, qPrintable(window->objectName()));
         }
     }
 };
