@@ -1,10 +1,16 @@
 #include "app/verbs/verbs.h"
 
 #include "catalogue/cataloguepath.h"
+#include "catalogue/arrangedlist.h"
+#include "catalogue/romfolders.h"
+#include "catalogue/search/gamesearch.h"
 #include "catalogue/storereader.h"
+#include "platform/userdefaults.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <limits>
 
 namespace tessera {
 
@@ -76,22 +82,44 @@ void appendJsonRecord(std::string& out, const GameRecord& record)
     out += '}';
 }
 
-std::string formatted(std::span<const GameRecord> records, bool json)
+std::string formatted(const ArrangedList& list, bool json)
 {
     std::string out;
-    bool first = true;
-    for (const GameRecord& record : records) {
+    for (std::size_t row = 0; row < list.size(); ++row) {
         if (!json) {
-            appendTsvRecord(out, record);
+            appendTsvRecord(out, list[row]);
             continue;
         }
-        out += first ? "[\n" : ",\n";
-        appendJsonRecord(out, record);
-        first = false;
+        out += row == 0 ? "[\n" : ",\n";
+        appendJsonRecord(out, list[row]);
     }
     if (json)
-        out += first ? "[]\n" : "\n]\n";
+        out += list.size() == 0 ? "[]\n" : "\n]\n";
     return out;
+}
+
+// One sentence for each term that is wrong or, since nobody goes on typing here, unfinished.
+QStringList wrongTerms(const Query& query)
+{
+    QStringList sentences;
+    for (const Term& term : query.terms()) {
+        if (term.why)
+            sentences << term.why->text();
+    }
+    return sentences;
+}
+
+Found found(std::span<const GameRecord> records, const Query& query)
+{
+    GameSearch search(records);
+    search.take(SearchTexts::fold(search.unfolded()));
+    if (std::ranges::any_of(query.terms(), [](const Term& term) { return term.kind == TermKind::Have; })) {
+        const UserDefaults defaults(UserDefaults::standardPath());
+        const auto folder = defaults.value(keys::RomsPath.name);
+        search.setHaves(
+            RomFolders(folder ? std::optional(folder->toString()) : std::nullopt, {}).haves(records));
+    }
+    return search.find(query);
 }
 
 } // namespace
@@ -103,17 +131,26 @@ int runList(const Verb& verb, const QStringList& arguments)
     const QCommandLineOption format(QStringLiteral("format"), QString(), QStringLiteral("tsv|json"),
                                     QStringLiteral("tsv"));
     parser.addOptions({catalogue, format});
-    if (const auto status = parseVerb(verb, parser, arguments, 0, 0))
+    if (const auto status = parseVerb(verb, parser, arguments, 0, std::numeric_limits<int>::max()))
         return *status;
     const bool json = parser.value(format) == QStringLiteral("json");
     if (!json && parser.value(format) != QStringLiteral("tsv"))
         return badCommandLine(verb, QStringLiteral("The format is tsv or json."));
 
+    const Query query(parser.positionalArguments().join(u' '));
+    if (const QStringList wrong = wrongTerms(query); !wrong.isEmpty())
+        return badCommandLine(verb, wrong.join(u'\n'));
+
     const auto stored
         = readStore(parser.isSet(catalogue) ? parser.value(catalogue) : standardCataloguePath());
     if (!stored)
         return failed(stored.error());
-    if (!printBytes(formatted(stored->records, json)))
+    // As the window has it: by set name, or the best fit first.
+    ArrangedList list;
+    list.setContent(stored->records);
+    if (!query.isEmpty())
+        list.setFound(found(stored->records, query));
+    if (!printBytes(formatted(list, json)))
         return failed(Failure{"failure_write",
                               {QStringLiteral("stdout"), QString::fromLocal8Bit(std::strerror(errno))}});
     return Done;

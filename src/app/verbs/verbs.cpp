@@ -19,7 +19,10 @@ constexpr std::array table{
          "Make a catalogue file from a saved -listxml text and a list of Japanese titles.", &runConvert},
     Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
          &runLaunch},
-    Verb{"list", "[--catalogue FILE] [--format tsv|json]", "Print the catalogue's records.", &runList},
+    Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",
+         "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
+         "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
+         &runList},
 };
 
 static_assert(std::ranges::equal(table, verbNames, {},
