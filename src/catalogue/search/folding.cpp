@@ -116,11 +116,6 @@ void appendFoldedByIcu(std::string& out, std::string_view text)
 
 void squeezeBlanks(std::string& text, std::size_t begin)
 {
-    bool twice = false;
-    for (std::size_t i = begin + 1; i < text.size(); ++i)
-        twice |= (text[i] == ' ') & (text[i - 1] == ' ');
-    if (!twice)
-        return;
     const auto from = text.begin() + static_cast<std::ptrdiff_t>(begin);
     const auto bothBlank = [](char a, char b) { return a == ' ' && b == ' '; };
     text.erase(std::unique(from, text.end(), bothBlank), text.end());
