@@ -1,16 +1,13 @@
-// bench_store TESSERA.XML: loading and sorting a catalogue, each against the least that it could take.
+// bench_store TESSERA.XML: loading and writing a catalogue, each against the least that it could take.
 
 #include "rounds.h"
 
-#include "catalogue/arrangedlist.h"
 #include "catalogue/storeparser.h"
 #include "catalogue/storereader.h"
 #include "catalogue/storewriter.h"
 
 #include <QFile>
 
-#include <cstdint>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -47,38 +44,6 @@ void readIntoBuffer(const char* path)
     ::close(descriptor);
 }
 
-using KeyedRow = std::pair<std::uint64_t, std::uint32_t>;
-
-std::vector<KeyedRow> keyedRows(const std::vector<GameRecord>& records, Field field)
-{
-    std::vector<KeyedRow> rows;
-    rows.reserve(records.size());
-    for (const GameRecord& record : records) {
-        char prefix[8] = {};
-        record[field].copy(prefix, sizeof prefix);
-        std::uint64_t key = 0;
-        std::memcpy(&key, prefix, sizeof key);
-        rows.emplace_back(__builtin_bswap64(key), static_cast<std::uint32_t>(rows.size()));
-    }
-    return rows;
-}
-
-void compareSorting(const StoredCatalogue& store, Field field)
-{
-    const std::vector<KeyedRow> rows = keyedRows(store.records, field);
-    ArrangedList list;
-    list.setContent(store.records);
-    // Back and forth, since a list that is sorted already costs nothing.
-    bool ascending = true;
-    const auto sort = [&] { list.setSort(field, ascending = !ascending); };
-    const auto floor = [&] {
-        auto copy = rows;
-        std::sort(copy.begin(), copy.end());
-    };
-    const std::string name = "sort by " + std::string(fieldName(field)) + " / std::sort of 8-byte keys";
-    bench::compare(name, sort, floor);
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
@@ -103,7 +68,5 @@ int main(int argc, char* argv[])
     std::printf("%zu records\n", store->records.size());
     const auto write = [&] { std::ignore = storeText(store->records); };
     bench::compare("text of the store / read into a buffer", write, readBuffer, bench::timedAfresh);
-    for (const Field field : {Field::Name, Field::Title, Field::Maker, Field::Status})
-        compareSorting(*store, field);
     return 0;
 }

@@ -27,7 +27,13 @@ constexpr std::uint64_t stoppingBytes(std::uint64_t word)
         | zeroBytes(word ^ eachByte('>'));
 }
 
-inline std::uint64_t loadWord(const char* at)
+/// The lowest bit of each byte, brought together in eight bits. The others are zero.
+constexpr std::uint64_t bitOfEachByte(std::uint64_t word)
+{
+    return (word * 0x0102'0408'1020'4080U) >> 56;
+}
+
+inline std::uint64_t loadWord(const void* at)
 {
     std::uint64_t word = 0;
     std::memcpy(&word, at, sizeof word);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "catalogue/eightbytes.h"
+
 #include <bit>
 #include <cstdint>
 #include <span>
@@ -29,12 +31,15 @@ public:
         return set;
     }
 
-    /// The records whose byte is not zero.
+    /// The records whose byte is 1; that of the others is 0.
     static RecordSet of(std::span<const std::uint8_t> kept)
     {
         RecordSet set(kept.size());
-        for (std::size_t i = 0; i < kept.size(); ++i)
-            set.m_words[i / 64] |= std::uint64_t{kept[i] != 0} << (i % 64);
+        std::size_t i = 0;
+        for (; i + 8 <= kept.size(); i += 8)
+            set.m_words[i / 64] |= bitOfEachByte(loadWord(&kept[i])) << (i % 64);
+        for (; i < kept.size(); ++i)
+            set.m_words[i / 64] |= std::uint64_t{kept[i]} << (i % 64);
         return set;
     }
 

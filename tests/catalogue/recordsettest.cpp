@@ -24,7 +24,7 @@ private Q_SLOTS:
         std::vector<std::uint32_t> expected;
         for (std::uint32_t record = 0; record < size; record += 1 + record % 7) {
             set.insert(record);
-            bytes[record] = 0x80;
+            bytes[record] = 1;
             expected.push_back(record);
         }
         QCOMPARE(set.size(), size);

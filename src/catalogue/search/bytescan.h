@@ -47,6 +47,7 @@ void forEachPlace(std::string_view text, std::string_view word, const ByteCounts
     const RareBytes rare(word, counts);
     const char first = word[rare.first];
     const char second = word[rare.second];
+    const bool isShort = word.size() <= 2;
     const std::size_t end = text.size() - word.size() + 1;
     const auto standsAt
         = [&](std::size_t place) { return std::memcmp(text.data() + place, word.data(), word.size()) == 0; };
@@ -63,13 +64,12 @@ void forEachPlace(std::string_view text, std::string_view word, const ByteCounts
             any |= loadWord(&found[i]);
         if (any == 0)
             continue;
-        // One bit for each byte that is 1: the multiplication brings eight of them together.
         std::uint64_t places = 0;
         for (std::size_t i = 0; i < block; i += 8)
-            places |= ((loadWord(&found[i]) * 0x0102'0408'1020'4080U) >> 56) << i;
+            places |= bitOfEachByte(loadWord(&found[i])) << i;
         for (; places != 0; places &= places - 1) {
             const std::size_t place = begin + static_cast<std::size_t>(std::countr_zero(places));
-            if (word.size() <= 2 || standsAt(place))
+            if (isShort || standsAt(place))
                 hit(place);
         }
     }

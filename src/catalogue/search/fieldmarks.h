@@ -8,7 +8,7 @@ enum FieldMark : char { NameMark = 1, TitleMark, MakerMark, YearMark, EndMark };
 
 constexpr bool isFieldMark(char c)
 {
-    return c >= NameMark && c <= EndMark;
+    return static_cast<unsigned char>(c - NameMark) <= EndMark - NameMark;
 }
 
 } // namespace tessera

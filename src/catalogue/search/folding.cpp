@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace tessera {
 
@@ -112,8 +113,7 @@ void appendFoldedByIcu(std::string& out, std::string_view text)
     normalizers.composing->normalize(signs, status).toUTF8String(out);
 }
 
-} // namespace
-
+// Several blanks become one.
 void squeezeBlanks(std::string& text, std::size_t begin)
 {
     const auto from = text.begin() + static_cast<std::ptrdiff_t>(begin);
@@ -121,16 +121,38 @@ void squeezeBlanks(std::string& text, std::size_t begin)
     text.erase(std::unique(from, text.end(), bothBlank), text.end());
 }
 
+} // namespace
+
 void appendFolded(std::string& out, std::string_view text)
 {
-    const std::size_t begin = out.size();
     if (isAscii(text)) {
-        for (const char c : text)
-            out += foldedAscii(c);
-    } else {
-        appendFoldedByIcu(out, text);
+        appendFoldedAscii(out, text);
+        return;
     }
+    const std::size_t begin = out.size();
+    appendFoldedByIcu(out, text);
     squeezeBlanks(out, begin);
+}
+
+void appendFoldedAscii(std::string& out, std::string_view text)
+{
+    const std::size_t begin = out.size();
+    out += text;
+    for (char& c : std::span(out).subspan(begin)) {
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
+            c = ' ';
+    }
+    lowerAsciiLetters(std::span(out).subspan(begin));
+    squeezeBlanks(out, begin);
+}
+
+// In single bytes, so that the compiler makes vector instructions of it.
+void lowerAsciiLetters(std::span<char> text)
+{
+    for (char& c : text) {
+        const bool upper = static_cast<std::uint8_t>(c - 'A') < 26;
+        c = static_cast<char>(c | (upper ? 0x20 : 0));
+    }
 }
 
 std::string folded(std::string_view text)

@@ -38,26 +38,38 @@ public:
     void keepWithin(const RecordSet& records);
     void keepChip(Chip chip);
     void keepTerm(const Term& term);
-    Found found(const Query& query);
+    Found found(const Query& query) const;
 
 private:
     Have have(std::size_t record) const { return m_haves.empty() ? Have::Missing : m_haves[record]; }
     void keepWords(const Term& term);
     void keepDevices(const Term& term);
-
+    // A test holds what it needs by value: behind a reference it would be looked up again for each record.
     template <class Test>
     void keepWhere(bool negated, Test test)
     {
-        for (std::size_t i = 0; i < m_kept.size(); ++i)
-            m_kept[i] &= static_cast<std::uint8_t>(test(i) != negated);
+        const std::span kept(m_kept);
+        for (std::size_t i = 0; i < kept.size(); ++i)
+            kept[i] &= static_cast<std::uint8_t>(test(i) != negated);
     }
+
+    template <class Test>
+    void keepFacts(bool negated, Test test)
+    {
+        keepWhere(negated, [facts = m_facts.all(), test](std::size_t i) { return test(facts[i]); });
+    }
+
+    void keepFound(bool negated, std::span<const Rank> ranks)
+    {
+        keepWhere(negated, [ranks](std::size_t i) { return ranks[i] != Rank::None; });
+    }
+    std::vector<std::uint8_t> ranks(const Query& query) const;
 
     const SearchTexts& m_texts;
     const ContentFacts& m_facts;
     std::span<const Have> m_haves;
     std::vector<std::uint8_t> m_kept;
-    std::optional<JointRanks> m_ranks;
-    int m_words = 0;
+    std::vector<std::vector<Rank>> m_words; // of each word that is not turned round
 };
 
 void Finding::keepWithin(const RecordSet& records)
@@ -77,21 +89,24 @@ void Finding::keepTerm(const Term& term)
     switch (term.kind) {
     case TermKind::Words:
         return keepWords(term);
-    case TermKind::Maker: {
-        const std::vector<Rank> ranks = wordRanks(m_texts, m_facts.size(), term.words, MakerMark);
-        return keepWhere(no, [&](std::size_t i) { return ranks[i] != Rank::None; });
-    }
+    case TermKind::Maker:
+        return keepFound(no, wordRanks(m_texts, m_facts.size(), term.words, MakerMark));
     case TermKind::Device:
         return keepDevices(term);
     case TermKind::Year:
-        return keepWhere(no, [&](std::size_t i) { return term.years.holds(m_facts[i].years); });
+        return keepFacts(no,
+                         [years = term.years](const RecordFacts& facts) { return years.holds(facts.years); });
     case TermKind::Status:
-        return keepWhere(no, [&](std::size_t i) { return m_facts[i].status == GameStatus{term.value}; });
+        return keepFacts(no, [status = GameStatus{term.value}](const RecordFacts& facts) {
+            return facts.status == status;
+        });
     case TermKind::Type:
-        return keepWhere(no, [&](std::size_t i) { return m_facts[i].type == GameType{term.value}; });
+        return keepFacts(
+            no, [type = GameType{term.value}](const RecordFacts& facts) { return facts.type == type; });
     case TermKind::Clone:
-        return keepWhere(
-            no, [&](std::size_t i) { return m_facts[i].parent == (YesNo{term.value} == YesNo::No); });
+        return keepFacts(no, [parent = YesNo{term.value} == YesNo::No](const RecordFacts& facts) {
+            return facts.parent == parent;
+        });
     case TermKind::Have:
         return keepWhere(no, [&](std::size_t i) { return hasAsked(have(i), HaveValue{term.value}); });
     }
@@ -99,14 +114,10 @@ void Finding::keepTerm(const Term& term)
 
 void Finding::keepWords(const Term& term)
 {
-    const std::vector<Rank> ranks = wordRanks(m_texts, m_facts.size(), term.words);
-    keepWhere(term.negated, [&](std::size_t i) { return ranks[i] != Rank::None; });
-    if (term.negated)
-        return;
-    if (!m_ranks)
-        m_ranks.emplace(m_facts.size());
-    m_ranks->add(ranks);
-    ++m_words;
+    std::vector<Rank> ranks = wordRanks(m_texts, m_facts.size(), term.words);
+    keepFound(term.negated, ranks);
+    if (!term.negated)
+        m_words.push_back(std::move(ranks));
 }
 
 // Few values differ: each is looked at once.
@@ -118,11 +129,26 @@ void Finding::keepDevices(const Term& term)
     keepWhere(term.negated, [&](std::size_t i) { return fits[m_facts[i].device] != 0; });
 }
 
-Found Finding::found(const Query& query)
+Found Finding::found(const Query& query) const
 {
-    if (m_words > 1)
-        m_ranks->addPhrase(wordRanks(m_texts, m_facts.size(), {query.phrase()}));
-    return {RecordSet::of(m_kept), m_ranks ? m_ranks->bytes() : std::vector<std::uint8_t>()};
+    return {RecordSet::of(m_kept), ranks(query)};
+}
+
+std::vector<std::uint8_t> Finding::ranks(const Query& query) const
+{
+    if (m_words.empty())
+        return {};
+    if (m_words.size() == 1) {
+        std::vector<std::uint8_t> bytes(m_facts.size());
+        std::ranges::transform(m_words.front(), bytes.begin(),
+                               [](Rank rank) { return static_cast<std::uint8_t>(rank); });
+        return bytes;
+    }
+    JointRanks joint(m_facts.size());
+    for (const std::vector<Rank>& word : m_words)
+        joint.add(word);
+    joint.addPhrase(wordRanks(m_texts, m_facts.size(), {query.phrase()}));
+    return joint.bytes();
 }
 
 } // namespace

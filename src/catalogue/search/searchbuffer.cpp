@@ -37,11 +37,7 @@ void SearchBuffer::add(FieldMark mark, std::string_view folded)
 void SearchBuffer::addFoldingAscii(FieldMark mark, std::string_view text)
 {
     m_bytes += mark;
-    const std::size_t begin = m_bytes.size();
-    m_bytes += text;
-    for (std::size_t i = begin; i < m_bytes.size(); ++i)
-        m_bytes[i] = foldedAscii(m_bytes[i]);
-    squeezeBlanks(m_bytes, begin);
+    appendFoldedAscii(m_bytes, text);
 }
 
 void SearchBuffer::end()
@@ -54,6 +50,21 @@ void SearchBuffer::end()
     m_ends.push_back(static_cast<std::uint32_t>(m_bytes.size()));
     if (m_ends.size() % sampled == 1)
         sample(m_ends.size() - 1);
+}
+
+void SearchBuffer::removeLast()
+{
+    m_ends.pop_back();
+    m_records.pop_back();
+    m_bytes.resize(begins(m_ends.size()));
+}
+
+void SearchBuffer::lowerAsciiLetters()
+{
+    tessera::lowerAsciiLetters(m_bytes);
+    m_counts = {};
+    for (std::size_t place = 0; place < records(); place += sampled)
+        sample(place);
 }
 
 void SearchBuffer::sample(std::size_t place)

@@ -23,6 +23,9 @@ public:
     void addFoldingAscii(FieldMark mark, std::string_view text);
     /// A record to which nothing was added has no place.
     void end();
+    void removeLast();
+    /// In all texts at once, which is much quicker than in each.
+    void lowerAsciiLetters();
 
     std::size_t records() const { return m_records.size(); }
     std::uint32_t record(std::size_t place) const { return m_records[place]; }
@@ -60,12 +63,14 @@ private:
 template <class Hit>
 void SearchBuffer::forEachHit(std::string_view word, Hit&& hit) const
 {
+    const std::uint32_t* const ends = m_ends.data();
+    const std::uint32_t* const records = m_records.data();
     std::size_t place = 0;
-    forEachPlace(m_bytes, word, m_counts, [&](std::size_t offset) {
+    forEachPlace(m_bytes, word, m_counts, [&, ends, records](std::size_t offset) {
         // Most often it is the same record, or the next one.
-        if (m_ends[place] <= offset && m_ends[++place] <= offset)
+        if (ends[place] <= offset && ends[++place] <= offset)
             place = placeOf(offset, place);
-        hit(m_records[place], offset);
+        hit(records[place], offset);
     });
 }
 

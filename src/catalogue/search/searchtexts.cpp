@@ -2,7 +2,6 @@
 
 #include "catalogue/search/folding.h"
 #include "catalogue/search/romaji.h"
-#include "core/encodings.h"
 
 #include <algorithm>
 #include <array>
@@ -29,10 +28,33 @@ bool isOnceMore(const GameRecord& record, Field field)
     return field == Field::Titlejp && record[Field::Titlejp] == record[Field::Title];
 }
 
-bool isAllAscii(const GameRecord& record)
+// How many marks the record's texts have got.
+unsigned addUnfolded(SearchBuffer& buffer, std::uint32_t index, const GameRecord& record)
 {
-    return std::ranges::all_of(searchedFields,
-                               [&](const SearchedField& each) { return isAscii(record[each.field]); });
+    unsigned marks = 1; // the one at the end
+    buffer.begin(index);
+    for (const SearchedField& each : searchedFields) {
+        if (!isOnceMore(record, each.field)) {
+            buffer.add(each.mark, record[each.field]);
+            ++marks;
+        }
+    }
+    buffer.end();
+    return marks;
+}
+
+// Whether only upper case may part a record's texts from their folded form: ASCII without control characters
+// and without double blanks.
+bool isPlain(std::string_view texts, unsigned marks)
+{
+    std::uint8_t odd = 0;
+    unsigned controls = 1; // the first mark
+    for (std::size_t i = 1; i < texts.size(); ++i) {
+        const auto byte = static_cast<std::uint8_t>(texts[i]);
+        odd |= static_cast<std::uint8_t>((byte >= 0x7F) | ((byte == ' ') & (texts[i - 1] == ' ')));
+        controls += byte < 0x20 ? 1 : 0;
+    }
+    return odd == 0 && controls == marks;
 }
 
 void addFoldingAscii(SearchBuffer& buffer, std::uint32_t index, const GameRecord& record)
@@ -91,12 +113,14 @@ SearchTexts::SearchTexts(std::span<const GameRecord> content)
     m_texts.reserve(searchedBytes(content), content.size());
     std::vector<std::uint32_t> others;
     for (std::uint32_t i = 0; i < content.size(); ++i) {
-        if (isAllAscii(content[i]))
-            addFoldingAscii(m_texts, i, content[i]);
-        else
+        const unsigned marks = addUnfolded(m_texts, i, content[i]);
+        if (!isPlain(m_texts.texts(m_texts.records() - 1), marks)) {
+            m_texts.removeLast();
             others.push_back(i);
+        }
     }
-    m_asciiRecords = m_texts.records();
+    m_texts.lowerAsciiLetters();
+    m_plainRecords = m_texts.records();
     for (const std::uint32_t i : others)
         addFoldingAscii(m_texts, i, content[i]);
     m_foldedEnd = m_texts.records();
@@ -125,7 +149,7 @@ FoldedTexts SearchTexts::fold(const SearchBuffer& unfolded)
 SearchBuffer SearchTexts::unfolded()
 {
     m_edits.clear();
-    return m_texts.part(m_asciiRecords, m_foldedEnd);
+    return m_texts.part(m_plainRecords, m_foldedEnd);
 }
 
 void SearchTexts::take(FoldedTexts folded)
@@ -135,7 +159,7 @@ void SearchTexts::take(FoldedTexts folded)
         apply(kind, record, folded.readings);
     }
     const SearchBuffer edited = m_texts.part(m_foldedEnd, m_texts.records());
-    m_texts.cut(m_asciiRecords, m_texts.records());
+    m_texts.cut(m_plainRecords, m_texts.records());
     m_texts.append(folded.texts);
     m_foldedEnd = m_texts.records();
     m_texts.append(edited);

@@ -53,7 +53,7 @@ private:
 
     SearchBuffer m_texts; // what is ASCII, what is unfolded or was folded, what was added by edits
     SearchBuffer m_readings;
-    std::size_t m_asciiRecords = 0;
+    std::size_t m_plainRecords = 0;
     std::size_t m_foldedEnd = 0;
     std::vector<std::pair<Edit, std::uint32_t>> m_edits; // since unfolded()
 };

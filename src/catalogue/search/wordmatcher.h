@@ -43,12 +43,13 @@ public:
 
 private:
     enum class Before : std::uint8_t { NameBegins, TitleBegins, WordBegins, WordGoesOn, Unknown };
-    enum class Behind : std::uint8_t { FieldEnds, BracketOpens, Else };
+    enum class Behind : std::uint8_t { Else, FieldEnds, BracketOpens };
 
     // clang-format off
     static constexpr Rank ranks[4][3] = {
-        /* NameBegins  */ {Rank::SetName,       Rank::WordBeginning, Rank::WordBeginning},
-        /* TitleBegins */ {Rank::WholeTitle,    Rank::TitleProper,   Rank::WordBeginning},
+        //               Else                 FieldEnds            BracketOpens
+        /* NameBegins  */ {Rank::WordBeginning, Rank::SetName,       Rank::WordBeginning},
+        /* TitleBegins */ {Rank::WordBeginning, Rank::WholeTitle,    Rank::TitleProper},
         /* WordBegins  */ {Rank::WordBeginning, Rank::WordBeginning, Rank::WordBeginning},
         /* WordGoesOn  */ {Rank::Inside,        Rank::Inside,        Rank::Inside},
     };
@@ -60,11 +61,11 @@ private:
         return before == Before::Unknown ? beforeByCharacter(bytes, offset) : before;
     }
 
+    // Without a branch: there would be no guessing it.
     static Behind behindPlace(std::string_view bytes, std::size_t end)
     {
-        if (isFieldMark(bytes[end]))
-            return Behind::FieldEnds;
-        return bytes[end] == ' ' && bytes[end + 1] == '(' ? Behind::BracketOpens : Behind::Else;
+        const bool bracket = (bytes[end] == ' ') & (bytes[end + 1] == '(');
+        return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * int{bracket});
     }
 
     Before beforeByCharacter(std::string_view bytes, std::size_t offset) const;

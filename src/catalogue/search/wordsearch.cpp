@@ -10,7 +10,7 @@ namespace {
 
 // A joint rank: the worst word's in the upper bits, the sum in the lower ones.
 constexpr unsigned sumBits = 5;
-constexpr unsigned largestSum = (1U << sumBits) - 1;
+constexpr std::uint8_t largestSum = (1U << sumBits) - 1;
 
 void findIn(const SearchBuffer& buffer, const SearchedWords& words, std::optional<FieldMark> field,
             std::vector<Rank>& best)
@@ -54,31 +54,38 @@ bool holdsWords(std::string_view folded, const SearchedWords& words)
     return best.front() != Rank::None;
 }
 
-void JointRanks::add(const std::vector<Rank>& ranks)
+// All in single bytes, through spans of their own: so the compiler makes vector instructions of it.
+void JointRanks::add(std::span<const Rank> ranks)
 {
+    constexpr std::uint8_t most = 1 << 3; // of one word, also where it is nowhere
+    const std::span worst(m_worst);
+    const std::span sums(m_sum);
     for (std::size_t i = 0; i < ranks.size(); ++i) {
         const auto rank = static_cast<std::uint8_t>(ranks[i]);
-        m_worst[i] = std::max(m_worst[i], rank);
-        m_sum[i] = static_cast<std::uint8_t>(std::min<unsigned>(m_sum[i] + rank, largestSum));
+        const auto sum = static_cast<std::uint8_t>(sums[i] + std::min(rank, most));
+        worst[i] = std::max(worst[i], rank);
+        sums[i] = std::min(sum, largestSum);
     }
 }
 
-void JointRanks::addPhrase(const std::vector<Rank>& ranks)
+void JointRanks::addPhrase(std::span<const Rank> ranks)
 {
+    const std::span worst(m_worst);
+    const std::span sums(m_sum);
     for (std::size_t i = 0; i < ranks.size(); ++i) {
         const auto rank = static_cast<std::uint8_t>(ranks[i]);
-        if (ranks[i] <= Rank::TitleProper && rank <= m_worst[i]) {
-            m_worst[i] = rank;
-            m_sum[i] = 0;
-        }
+        const bool better = (ranks[i] <= Rank::TitleProper) & (rank <= worst[i]);
+        worst[i] = better ? rank : worst[i];
+        sums[i] = better ? std::uint8_t{0} : sums[i];
     }
 }
 
 std::vector<std::uint8_t> JointRanks::bytes() const
 {
     std::vector<std::uint8_t> bytes(m_worst.size());
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<std::uint8_t>((m_worst[i] << sumBits) | m_sum[i]);
+    std::ranges::transform(m_worst, m_sum, bytes.begin(), [](std::uint8_t worst, std::uint8_t sum) {
+        return static_cast<std::uint8_t>((worst << sumBits) | sum);
+    });
     return bytes;
 }
 

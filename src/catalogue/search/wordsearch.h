@@ -5,6 +5,7 @@
 #include "catalogue/search/wordmatcher.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace tessera {
@@ -28,9 +29,9 @@ public:
     {
     }
 
-    void add(const std::vector<Rank>& ranks);
+    void add(std::span<const Rank> ranks);
     /// Of the words in sequence.
-    void addPhrase(const std::vector<Rank>& ranks);
+    void addPhrase(std::span<const Rank> ranks);
 
     std::vector<std::uint8_t> bytes() const;
 
