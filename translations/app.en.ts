@@ -71,5 +71,12 @@
     <message id="menu_home"><source></source><translation>To the &amp;Top</translation></message>
     <message id="menu_end"><source></source><translation>To the &amp;End</translation></message>
     <message id="menu_columns"><source></source><translation>&amp;Columns</translation></message>
+    <message id="menu_find"><source></source><translation>&amp;Find</translation></message>
+    <message id="menu_filter"><source></source><translation>&amp;Filter Panel…</translation></message>
+    <message id="menu_showall"><source></source><translation>Show &amp;All</translation></message>
+    <message id="main_random"><source></source><translation>Random game</translation></message>
+    <message id="main_filter"><source></source><translation>Filter panel</translation></message>
+    <message id="main_showall"><source></source><translation>Show all</translation></message>
+    <message id="empty_filtered"><source></source><translation>No machine matches what you are looking for.</translation></message>
 </context>
 </TS>

@@ -71,5 +71,12 @@
     <message id="menu_home"><source></source><translation>先頭へ(&amp;T)</translation></message>
     <message id="menu_end"><source></source><translation>末尾へ(&amp;E)</translation></message>
     <message id="menu_columns"><source></source><translation>表示する列(&amp;C)</translation></message>
+    <message id="menu_find"><source></source><translation>検索(&amp;F)</translation></message>
+    <message id="menu_filter"><source></source><translation>フィルタパネル(&amp;F)…</translation></message>
+    <message id="menu_showall"><source></source><translation>すべて表示(&amp;A)</translation></message>
+    <message id="main_random"><source></source><translation>ランダムに選ぶ</translation></message>
+    <message id="main_filter"><source></source><translation>フィルタパネル</translation></message>
+    <message id="main_showall"><source></source><translation>すべて表示</translation></message>
+    <message id="empty_filtered"><source></source><translation>条件に合うマシンがありません。</translation></message>
 </context>
 </TS>

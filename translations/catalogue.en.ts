@@ -37,5 +37,11 @@
     <message id="search_wrong_year"><source></source><translation>“%1” is not a year or a span of years such as 1985, 1985-1989, 1985- or -1989.</translation></message>
     <message id="undo_edit_record"><source></source><translation>Edit Record</translation></message>
     <message id="undo_remove_records"><source></source><translation>Remove Machines</translation></message>
+    <message id="compare_is"><source></source><translation>is</translation></message>
+    <message id="compare_isnot"><source></source><translation>is not</translation></message>
+    <message id="compare_contains"><source></source><translation>contains</translation></message>
+    <message id="compare_containsnot"><source></source><translation>does not contain</translation></message>
+    <message id="compare_begins"><source></source><translation>begins with</translation></message>
+    <message id="compare_ends"><source></source><translation>ends with</translation></message>
 </context>
 </TS>

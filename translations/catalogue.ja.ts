@@ -37,5 +37,11 @@
     <message id="search_wrong_year"><source></source><translation>“%1”は年でも年の範囲でもありません。例: 1985、1985-1989、1985-、-1989。</translation></message>
     <message id="undo_edit_record"><source></source><translation>レコードの編集</translation></message>
     <message id="undo_remove_records"><source></source><translation>マシンの削除</translation></message>
+    <message id="compare_is"><source></source><translation>が次と等しい</translation></message>
+    <message id="compare_isnot"><source></source><translation>が次と等しくない</translation></message>
+    <message id="compare_contains"><source></source><translation>が次を含む</translation></message>
+    <message id="compare_containsnot"><source></source><translation>が次を含まない</translation></message>
+    <message id="compare_begins"><source></source><translation>が次で始まる</translation></message>
+    <message id="compare_ends"><source></source><translation>が次で終わる</translation></message>
 </context>
 </TS>

@@ -29,5 +29,32 @@
     <message id="editor_close"><source></source><translation>&amp;Close</translation></message>
     <message id="editor_previous"><source></source><translation>&amp;Previous</translation></message>
     <message id="editor_next"><source></source><translation>&amp;Next</translation></message>
+    <message id="search_placeholder"><source></source><translation>Search title, set, maker, year</translation></message>
+    <message id="search_field"><source></source><translation>Search</translation></message>
+    <message id="search_terms"><source></source><translation>Search terms</translation></message>
+    <message id="chips_families"><source></source><translation>Families</translation></message>
+    <message id="chips_families_help"><source></source><translation>Fold clones beneath their parents</translation></message>
+    <message id="hides_search"><source></source><translation>search</translation></message>
+    <message id="hides_maker"><source></source><translation>maker is “%1”</translation></message>
+    <message id="hides_families"><source></source><translation>families folded</translation></message>
+    <message id="filter_window"><source></source><translation>Filter</translation></message>
+    <message id="filter_heading"><source></source><translation>Show machines for which</translation></message>
+    <message id="filter_join"><source></source><translation>How the rows are joined</translation></message>
+    <message id="filter_all"><source></source><translation>all rows hold</translation></message>
+    <message id="filter_any"><source></source><translation>any row holds</translation></message>
+    <message id="filter_add"><source></source><translation>Add row</translation></message>
+    <message id="filter_clear"><source></source><translation>Clear</translation></message>
+    <message id="filter_hint"><source></source><translation>Without rows every machine is shown.</translation></message>
+    <message id="filter_field"><source></source><translation>Field</translation></message>
+    <message id="filter_comparison"><source></source><translation>Comparison</translation></message>
+    <message id="filter_value"><source></source><translation>Value</translation></message>
+    <message id="filter_remove"><source></source><translation>Remove this row</translation></message>
+    <message id="filter_maker"><source></source><translation>One maker only</translation></message>
+    <message id="filter_maker_placeholder"><source></source><translation>The maker exactly as it stands in the list</translation></message>
+    <message id="filter_maker_apply"><source></source><translation>Filter</translation></message>
+    <message id="filter_maker_clear"><source></source><translation>Show every maker</translation></message>
+    <message id="filter_maker_none"><source></source><translation>Every maker is shown.</translation></message>
+    <message id="filter_maker_empty"><source></source><translation>Only machines with an empty maker are shown.</translation></message>
+    <message id="hides_rules" numerus="yes"><source></source><translation><numerusform>%n filter row</numerusform><numerusform>%n filter rows</numerusform></translation></message>
 </context>
 </TS>

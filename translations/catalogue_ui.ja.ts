@@ -29,5 +29,32 @@
     <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
     <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
     <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
+    <message id="search_placeholder"><source></source><translation>タイトル・セット・メーカー・年を検索</translation></message>
+    <message id="search_field"><source></source><translation>検索</translation></message>
+    <message id="search_terms"><source></source><translation>検索条件</translation></message>
+    <message id="chips_families"><source></source><translation>ファミリー</translation></message>
+    <message id="chips_families_help"><source></source><translation>クローンを親セットの下にまとめる</translation></message>
+    <message id="hides_search"><source></source><translation>検索</translation></message>
+    <message id="hides_maker"><source></source><translation>メーカーが「%1」</translation></message>
+    <message id="hides_families"><source></source><translation>ファミリー表示</translation></message>
+    <message id="filter_window"><source></source><translation>フィルタ</translation></message>
+    <message id="filter_heading"><source></source><translation>次の条件のマシンを表示</translation></message>
+    <message id="filter_join"><source></source><translation>条件の組み合わせ</translation></message>
+    <message id="filter_all"><source></source><translation>すべての条件に合う</translation></message>
+    <message id="filter_any"><source></source><translation>いずれかの条件に合う</translation></message>
+    <message id="filter_add"><source></source><translation>条件を追加</translation></message>
+    <message id="filter_clear"><source></source><translation>クリア</translation></message>
+    <message id="filter_hint"><source></source><translation>条件がなければすべて表示されます。</translation></message>
+    <message id="filter_field"><source></source><translation>項目</translation></message>
+    <message id="filter_comparison"><source></source><translation>比較</translation></message>
+    <message id="filter_value"><source></source><translation>値</translation></message>
+    <message id="filter_remove"><source></source><translation>この条件を削除</translation></message>
+    <message id="filter_maker"><source></source><translation>メーカーで絞り込む</translation></message>
+    <message id="filter_maker_placeholder"><source></source><translation>リストにあるとおりのメーカー名</translation></message>
+    <message id="filter_maker_apply"><source></source><translation>絞り込む</translation></message>
+    <message id="filter_maker_clear"><source></source><translation>すべてのメーカー</translation></message>
+    <message id="filter_maker_none"><source></source><translation>すべてのメーカーを表示しています。</translation></message>
+    <message id="filter_maker_empty"><source></source><translation>メーカーが空のマシンだけを表示しています。</translation></message>
+    <message id="hides_rules" numerus="yes"><source></source><translation><numerusform>フィルタ条件 %n 件</numerusform></translation></message>
 </context>
 </TS>

@@ -2,9 +2,11 @@
 
 #include "app/emptystate.h"
 #include "app/rebuildstrip.h"
+#include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/theme.h"
 
@@ -35,6 +37,8 @@ MainWindow::MainWindow(DefaultsController& defaults)
     : gameTable(new GameTableView)
     , factsPanel(new FactsPanel)
     , rebuildStrip(new RebuildStrip)
+    , chipBar(new ChipBar)
+    , searchField(new SearchField)
     , emptyState(new EmptyState)
     , m_defaults(defaults)
     , m_split(new QSplitter)
@@ -54,6 +58,7 @@ MainWindow::MainWindow(DefaultsController& defaults)
     listLayout->setContentsMargins(0, 0, 0, 0);
     listLayout->setSpacing(0);
     listLayout->addWidget(rebuildStrip);
+    listLayout->addWidget(chipBar);
     listLayout->addWidget(m_pages, 1);
 
     m_split->addWidget(factsPanel);
@@ -98,6 +103,8 @@ QWidget* MainWindow::makeToolRow()
     playButton->setProperty("role", QStringLiteral("accent"));
     stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
     stopButton->setEnabled(false);
+    randomButton = toolButton(QStringLiteral("random"), qtTrId("main_random"));
+    filterButton = toolButton(QStringLiteral("filter"), qtTrId("main_filter"));
     logButton = toolButton(QStringLiteral("log"), qtTrId("main_log"));
     toolsButton = toolButton(QStringLiteral("tools"), qtTrId("main_tools"));
     preferencesButton = toolButton(QStringLiteral("preferences"), qtTrId("main_preferences"));
@@ -106,9 +113,12 @@ QWidget* MainWindow::makeToolRow()
     layout->setContentsMargins(12, 10, 12, 10);
     layout->setSpacing(8);
     layout->addWidget(playButton);
-    for (QToolButton* button : {stopButton, logButton, toolsButton, preferencesButton})
+    for (QToolButton* button :
+         {stopButton, randomButton, filterButton, logButton, toolsButton, preferencesButton})
         layout->addWidget(button);
-    layout->addStretch();
+    layout->addStretch(1);
+    searchField->setMaximumWidth(420);
+    layout->addWidget(searchField, 2);
     return row;
 }
 
@@ -125,6 +135,10 @@ void MainWindow::makeStatusLine()
     rebuildButton->setToolTip(qtTrId("rebuild_outdated"));
     rebuildButton->setProperty("role", QStringLiteral("link"));
     rebuildButton->hide();
+    showAllButton = new QPushButton(qtTrId("main_showall"));
+    showAllButton->setObjectName(QStringLiteral("showAllButton"));
+    showAllButton->setProperty("role", QStringLiteral("link"));
+    showAllButton->hide();
     progressIndicator = new QProgressBar;
     progressIndicator->setFixedWidth(96);
     progressIndicator->setTextVisible(false);
@@ -132,6 +146,7 @@ void MainWindow::makeStatusLine()
     progressIndicator->hide();
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(m_count);
+    statusBar()->addWidget(showAllButton);
     statusBar()->addWidget(m_message, 1);
     statusBar()->addPermanentWidget(progressIndicator);
     statusBar()->addPermanentWidget(rebuildButton);
@@ -145,14 +160,18 @@ void MainWindow::applyRowHeight()
         gameTable->verticalHeader()->setDefaultSectionSize(height);
 }
 
-void MainWindow::showCount(std::size_t shown, std::size_t all)
+void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList& reasons)
 {
     const QLocale locale;
     const QString total = locale.toString(static_cast<qulonglong>(all));
-    m_count->setText(
+    QStringList parts{
         shown == all ? qtTrId("main_count").arg(total)
-                     : qtTrId("main_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total));
-    m_pages->setCurrentWidget(all == 0 ? static_cast<QWidget*>(emptyState) : gameTable);
+                     : qtTrId("main_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total)};
+    m_count->setText((parts + reasons).join(QStringLiteral("  ·  ")));
+    showAllButton->setVisible(!reasons.isEmpty());
+    m_isFiltered = shown == 0 && all > 0;
+    sayWhatToDo(m_isRebuilding);
+    m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : gameTable);
 }
 
 void MainWindow::say(const QString& sentence)
@@ -173,6 +192,7 @@ void MainWindow::setRunning(bool running)
 
 void MainWindow::setRebuilding(bool rebuilding)
 {
+    m_isRebuilding = rebuilding;
     if (rebuilding)
         offerRebuild(false);
     sayWhatToDo(rebuilding);
@@ -180,7 +200,9 @@ void MainWindow::setRebuilding(bool rebuilding)
 
 void MainWindow::sayWhatToDo(bool rebuilding)
 {
-    if (rebuilding)
+    if (m_isFiltered)
+        emptyState->say(qtTrId("empty_filtered"), qtTrId("main_showall"));
+    else if (rebuilding)
         emptyState->say(qtTrId("empty_rebuilding"), QString());
     else
         emptyState->say(qtTrId("empty_catalogue"), qtTrId("rebuild_from_mame"));

@@ -12,10 +12,12 @@ class QToolButton;
 namespace tessera {
 
 class DefaultsController;
+class ChipBar;
 class EmptyState;
 class FactsPanel;
 class GameTableView;
 class RebuildStrip;
+class SearchField;
 
 /// The game list with its side panel, tool row and status line. Closing it asks for the end of the program.
 class MainWindow : public QMainWindow
@@ -28,16 +30,22 @@ public:
     GameTableView* gameTable;
     FactsPanel* factsPanel;
     RebuildStrip* rebuildStrip;
+    ChipBar* chipBar;
+    SearchField* searchField;
     EmptyState* emptyState;
     QPushButton* playButton;
     QToolButton* stopButton;
+    QToolButton* randomButton;
+    QToolButton* filterButton;
     QToolButton* logButton;
     QToolButton* toolsButton;
     QToolButton* preferencesButton;
     QPushButton* rebuildButton;
+    QPushButton* showAllButton;
     QProgressBar* progressIndicator;
 
-    void showCount(std::size_t shown, std::size_t all);
+    /// With what hides the others, each in a few words.
+    void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
     /// Says a thing once in the status line; it stays until the next one.
     void say(const QString& sentence);
     void showEmulator(const QString& text);
@@ -66,6 +74,8 @@ private:
     QToolButton* toolButton(const QString& icon, const QString& name);
 
     DefaultsController& m_defaults;
+    bool m_isFiltered = false;
+    bool m_isRebuilding = false;
     QSplitter* m_split;
     QStackedWidget* m_pages;
     QLabel* m_count;

@@ -2,6 +2,7 @@
 
 #include "app/cataloguerebuild.h"
 #include "app/emptystate.h"
+#include "app/finding.h"
 #include "app/keycommands.h"
 #include "app/mainmenu.h"
 #include "app/mainwindow.h"
@@ -75,6 +76,7 @@ void Tessera_AppDelegate::run(const QString& file)
     m_mainWindow->show();
     applicationDidFinishLaunching();
     // After the first paint: the emulator's options, asked of it once, so that no launch waits for them.
+    QTimer::singleShot(0, m_finding.get(), &Finding::prepare);
     QTimer::singleShot(0, m_launch.get(), &LaunchController::prepareProfile);
     if (m_buildWanted)
         QTimer::singleShot(0, m_rebuild.get(), &CatalogueRebuild::build);
@@ -109,6 +111,8 @@ void Tessera_AppDelegate::loadInterface()
                                                   *m_logWindow->infomationTextView, *m_gameList, *m_editing);
     m_task = std::make_unique<EmulatorTask>();
     m_profiles = std::make_unique<ProfileCache>();
+    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
+                                          [this] { return m_pages->general().emulator(); });
     m_launch = std::make_unique<LaunchController>(
         LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
                     SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
@@ -155,7 +159,11 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
             &GameListController::tableViewDoubleAction);
-    connect(m_mainWindow->emptyState, &EmptyState::acted, this, &Tessera_AppDelegate::rebuildCatalogue);
+    connect(m_finding.get(), &Finding::changed, this, &Tessera_AppDelegate::showCount);
+    connect(m_finding.get(), &Finding::changed, this, &Tessera_AppDelegate::showSelection);
+    connect(m_mainWindow->randomButton, &QToolButton::clicked, m_gameList.get(),
+            &GameListController::gameShuffle);
+    connect(m_mainWindow->emptyState, &EmptyState::acted, this, &Tessera_AppDelegate::actOnEmptyList);
     connect(m_mainWindow->playButton, &QPushButton::clicked, this, &Tessera_AppDelegate::playSelected);
     connect(m_mainWindow->stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_mainWindow->logButton, &QToolButton::clicked, this, &Tessera_AppDelegate::showLogWindow);
@@ -225,7 +233,17 @@ void Tessera_AppDelegate::showSelection()
 
 void Tessera_AppDelegate::showCount()
 {
-    m_mainWindow->showCount(m_gameList->list().size(), m_catalogue.records().size());
+    m_mainWindow->showCount(m_gameList->list().size(), m_catalogue.records().size(),
+                            m_finding->finder().reasons());
+}
+
+// An empty catalogue is built, an empty list shows everything again.
+void Tessera_AppDelegate::actOnEmptyList()
+{
+    if (m_catalogue.records().empty())
+        rebuildCatalogue();
+    else
+        showAllGames();
 }
 
 void Tessera_AppDelegate::settingChanged(const QString& name)
@@ -278,6 +296,21 @@ void Tessera_AppDelegate::copySelection()
         log->copy();
     else
         m_mainWindow->gameTable->copySelection();
+}
+
+void Tessera_AppDelegate::showPredicatePanel()
+{
+    m_finding->showPredicatePanel();
+}
+
+void Tessera_AppDelegate::focusSearch()
+{
+    m_finding->focusSearch();
+}
+
+void Tessera_AppDelegate::showAllGames()
+{
+    m_finding->showAll();
 }
 
 void Tessera_AppDelegate::editRecord()

@@ -13,6 +13,7 @@ class CatalogueRebuild;
 class Desktop;
 class EmulatorTask;
 class GameListController;
+class Finding;
 class KeyCommands;
 class LaunchController;
 class LaunchPages;
@@ -52,6 +53,7 @@ public:
     LogWindow& logWindow() { return *m_logWindow; }
     PreferencesWindow& preferencesWindow() { return *m_preferencesWindow; }
     GameListController& gameList() { return *m_gameList; }
+    Finding& finding() { return *m_finding; }
     RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
@@ -65,6 +67,9 @@ public Q_SLOTS:
     void redo();
     void editCell();
     void copySelection();
+    void showPredicatePanel();
+    void focusSearch();
+    void showAllGames();
     void editRecord();
     void removeRecord();
     void mameslotAction();
@@ -101,6 +106,7 @@ private:
     void applicationDidFinishLaunching();
     void showSelection();
     void showCount();
+    void actOnEmptyList();
     void showEmulator();
     QString emulator();
     void settingChanged(const QString& name);
@@ -115,6 +121,7 @@ private:
     std::unique_ptr<PreferencesWindow> m_preferencesWindow;
     std::unique_ptr<GameListController> m_gameList;
     std::unique_ptr<RecordEditing> m_editing;
+    std::unique_ptr<Finding> m_finding;
     std::unique_ptr<KeyCommands> m_keyCommands;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;

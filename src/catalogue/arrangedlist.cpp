@@ -53,6 +53,8 @@ void ArrangedList::setPredicate(Predicate predicate)
 
 void ArrangedList::setFound(std::optional<Found> found)
 {
+    if (!found && !m_found)
+        return;
     Q_EMIT aboutToArrange();
     m_found = std::move(found);
     arrange();
@@ -72,6 +74,8 @@ void ArrangedList::setSort(Field field, bool ascending)
 
 void ArrangedList::setFamilies(std::optional<Families> families)
 {
+    if (!families && !m_families)
+        return;
     Q_EMIT aboutToArrange();
     m_families = std::move(families);
     arrange();
@@ -116,6 +120,14 @@ void ArrangedList::arrange()
     for (std::uint32_t row = 0; row < m_rows.size(); ++row)
         m_rowOf[m_rows[row]] = row;
     Q_EMIT arranged();
+}
+
+bool ArrangedList::isBeneath(std::size_t row) const
+{
+    if (m_clones.empty())
+        return false;
+    const std::uint32_t head = m_families->heads[m_rows[row]];
+    return head != m_rows[row] && rowOf(head);
 }
 
 std::optional<std::size_t> ArrangedList::rowOf(std::uint32_t record) const

@@ -65,6 +65,13 @@ public:
     /// How many clones belong to a row, shown or folded.
     std::uint32_t clones(std::size_t row) const { return m_clones.empty() ? 0 : m_clones[row]; }
 
+    /// A clone that stands beneath its parent.
+    bool isBeneath(std::size_t row) const;
+    bool isOpen(std::size_t row) const
+    {
+        return m_families && m_families->open.contains(m_families->heads[m_rows[row]]);
+    }
+
     /// The row that shows a record of the content, or nothing when it is hidden or folded.
     std::optional<std::size_t> rowOf(std::uint32_t record) const;
     /// The first row whose field is exactly `value`.

@@ -177,6 +177,8 @@ TESSERA_CHOSEN(BuiltFrom);
 TESSERA_CHOSEN(MainWindowGeometry);
 TESSERA_CHOSEN(MainWindowColumns);
 TESSERA_CHOSEN(MainWindowSplit);
+TESSERA_CHOSEN(GameListChip);
+TESSERA_CHOSEN(GameListFamilies);
 
 #undef TESSERA_FLAG
 #undef TESSERA_INDEX

@@ -2,6 +2,9 @@
 
 #include "launch/argumentsarray.h"
 
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
 #include <QStringTokenizer>
 
 #include <algorithm>
@@ -81,6 +84,25 @@ bool EmulatorProfile::lists(QStringView option) const
         return false;
     const QStringView name = option.mid(1);
     return listsName(name) || (name.startsWith(QLatin1String("no")) && listsName(name.mid(2)));
+}
+
+QStringList EmulatorProfile::romFolderList() const
+{
+    static const QRegularExpression variable(QStringLiteral("\\$(?:\\{(\\w+)\\}|(\\w+))"));
+    QStringList folders;
+    for (const QString& written : m_romFolders.split(u';', Qt::SkipEmptyParts)) {
+        QString folder;
+        qsizetype end = 0;
+        for (const auto& match : variable.globalMatch(written)) {
+            const QString name = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
+            folder += QStringView(written).mid(end, match.capturedStart() - end);
+            folder += QFile::decodeName(qgetenv(name.toLatin1().constData()));
+            end = match.capturedEnd();
+        }
+        folder += QStringView(written).mid(end);
+        folders << QDir::cleanPath(QDir().absoluteFilePath(folder));
+    }
+    return folders;
 }
 
 EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built) const

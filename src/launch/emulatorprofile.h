@@ -23,6 +23,9 @@ public:
     /// Its own ROM folders joined by ";", as it writes them; empty where it does not say.
     QString romFolders() const { return m_romFolders; }
 
+    /// The same as a list of absolute paths, with the variables of the environment put in.
+    QStringList romFolderList() const;
+
     struct Fitted {
         QStringList arguments;
         QStringList leftOut; ///< what the program would not understand, with values: "-beam 1"

@@ -171,6 +171,7 @@ void GameListController::selectRecords(const std::vector<std::uint32_t>& records
 void GameListController::setContent()
 {
     m_list.setContent(m_catalogue.records());
+    Q_EMIT contentChanged();
 }
 
 void GameListController::main_tableViewSort()

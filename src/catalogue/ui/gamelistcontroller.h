@@ -73,6 +73,8 @@ Q_SIGNALS:
     void selectionChanged();
     /// The status mark to show; a status without one leaves the mark that was shown before.
     void markChanged(const QString& imageName);
+    /// The list has other records now.
+    void contentChanged();
     /// "41 of 45,294", or an edit.
     void countChanged();
 

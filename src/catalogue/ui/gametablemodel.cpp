@@ -4,8 +4,11 @@
 #include "catalogue/gametypetransformer.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/statusmark.h"
+#include "catalogue/ui/familydelegate.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/theme.h"
+
+#include <algorithm>
 
 namespace tessera {
 
@@ -79,6 +82,11 @@ void GameTableModel::showRecord(std::uint32_t record)
     }
 }
 
+int GameTableModel::columnOf(Field field)
+{
+    return static_cast<int>(std::ranges::find(columns, field) - columns.begin());
+}
+
 int GameTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_list.size());
@@ -116,6 +124,12 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
         if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
             return *color;
         return QVariant();
+    case FamilyDelegate::ClonesRole:
+        return m_list.clones(static_cast<std::size_t>(index.row()));
+    case FamilyDelegate::IsOpenRole:
+        return m_list.isOpen(static_cast<std::size_t>(index.row()));
+    case FamilyDelegate::IsCloneRole:
+        return m_list.isBeneath(static_cast<std::size_t>(index.row()));
     default:
         return QVariant();
     }

@@ -27,6 +27,8 @@ public:
     GameTableModel(Catalogue& catalogue, ArrangedList& list, const ColorTransformer& colors,
                    DefaultsController& defaults, QObject* parent = nullptr);
 
+    static int columnOf(Field field);
+
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;

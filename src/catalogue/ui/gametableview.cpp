@@ -1,5 +1,7 @@
 #include "catalogue/ui/gametableview.h"
 
+#include "catalogue/ui/familydelegate.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -10,6 +12,17 @@
 #include <algorithm>
 
 namespace tessera {
+
+namespace {
+
+// A blank alone selects, as in any list.
+bool isTyped(const QKeyEvent* event)
+{
+    return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        && !event->text().isEmpty() && event->text().at(0).isPrint() && event->text() != QStringLiteral(" ");
+}
+
+} // namespace
 
 GameTableView::GameTableView(QWidget* parent)
     : QTableView(parent)
@@ -34,6 +47,9 @@ GameTableView::GameTableView(QWidget* parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &GameTableView::showColumnsMenu);
+    auto* families = new FamilyDelegate(this);
+    setItemDelegateForColumn(0, families);
+    connect(families, &FamilyDelegate::toggled, this, &GameTableView::familyToggled);
     connect(this, &QTableView::doubleClicked, this, &GameTableView::doubleAction);
 }
 
@@ -100,6 +116,15 @@ void GameTableView::showColumnsMenu(QPoint place)
     menu.exec(horizontalHeader()->mapToGlobal(place));
 }
 
+// To the right opens, to the left folds.
+bool GameTableView::isFamilyKey(const QKeyEvent* event) const
+{
+    const QModelIndex current = currentIndex();
+    if (event->modifiers() != Qt::NoModifier || current.data(FamilyDelegate::ClonesRole).toInt() == 0)
+        return false;
+    return event->key() == (current.data(FamilyDelegate::IsOpenRole).toBool() ? Qt::Key_Left : Qt::Key_Right);
+}
+
 void GameTableView::setModel(QAbstractItemModel* model)
 {
     QTableView::setModel(model);
@@ -110,8 +135,13 @@ void GameTableView::setModel(QAbstractItemModel* model)
 void GameTableView::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && state() != EditingState && event->modifiers() == Qt::NoModifier)
+    const bool isEditing = state() == EditingState;
+    if (enter && !isEditing && event->modifiers() == Qt::NoModifier)
         Q_EMIT doubleAction();
+    else if (!isEditing && isFamilyKey(event))
+        Q_EMIT familyToggled(currentIndex().row());
+    else if (!isEditing && isTyped(event))
+        Q_EMIT typed(event->text());
     else
         QTableView::keyPressEvent(event);
 }

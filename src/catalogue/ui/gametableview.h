@@ -29,12 +29,17 @@ Q_SIGNALS:
     /// A double click on a row, or Return.
     void doubleAction();
     void selectionDidChange();
+    /// Letters that belong into the search field.
+    void typed(const QString& text);
+    /// Show or fold the clones of this row.
+    void familyToggled(int row);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
+    bool isFamilyKey(const QKeyEvent* event) const;
     QList<int> shownColumns() const;
     void showColumnsMenu(QPoint place);
 };

@@ -1,0 +1,150 @@
+#include "app/finding.h"
+
+#include "app/mainwindow.h"
+#include "catalogue/ui/chipbar.h"
+#include "catalogue/ui/filterpanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
+#include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
+#include "launch/profilecache.h"
+#include "platform/defaultscontroller.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+namespace tessera {
+
+Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& list,
+                 DefaultsController& defaults, ProfileCache& profiles, std::function<QString()> emulator,
+                 QObject* parent)
+    : QObject(parent)
+    , m_window(window)
+    , m_list(list)
+    , m_defaults(defaults)
+    , m_emulator(std::move(emulator))
+    , m_finder(catalogue, list, defaults)
+    , m_panel(std::make_unique<FilterPanel>())
+{
+    joinField();
+    joinPanel();
+    connect(&m_finder, &GameFinder::changed, this, &Finding::changed);
+    connect(&m_finder, &GameFinder::countsChanged, window.chipBar, &ChipBar::setCounts);
+    connect(window.chipBar, &ChipBar::chosen, &m_finder, &GameFinder::setChip);
+    connect(window.chipBar->familiesBox, &QCheckBox::clicked, &m_finder, &GameFinder::setFamilies);
+    connect(window.gameTable, &GameTableView::familyToggled, &m_finder, &GameFinder::toggleFamily);
+    connect(window.showAllButton, &QPushButton::clicked, this, &Finding::showAll);
+    connect(window.filterButton, &QToolButton::clicked, this, &Finding::showPredicatePanel);
+    connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(*m_roms.folders()); });
+    connect(&profiles, &ProfileCache::answered, this, &Finding::takeProfile);
+    connect(&defaults, &DefaultsController::changed, this, [this](const QString& name) {
+        if (name.isEmpty() || name == keys::RomsPath.name)
+            readRomFolders();
+    });
+
+    m_finder.restore();
+    window.chipBar->setChip(m_finder.chip());
+    window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());
+}
+
+Finding::~Finding() = default;
+
+void Finding::joinField()
+{
+    SearchField* field = m_window.searchField;
+    connect(field, &QLineEdit::textChanged, &m_finder, &GameFinder::setQuery);
+    connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
+    connect(field, &QLineEdit::returnPressed, m_window.gameTable, &GameTableView::doubleAction);
+    connect(field, &SearchField::leftDownwards, this, [this] {
+        m_window.gameTable->setFocus();
+        if (m_list.firstSelectedRow() < 0)
+            m_list.selectRow(0);
+    });
+    connect(m_window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
+}
+
+void Finding::joinPanel()
+{
+    connect(m_panel.get(), &FilterPanel::rulesChanged, &m_finder, &GameFinder::setRules);
+    connect(m_panel.get(), &FilterPanel::makerWanted, &m_finder, &GameFinder::setPredicate);
+    connect(m_panel.get(), &FilterPanel::makerCleared, &m_finder, &GameFinder::clearPredicate);
+    connect(&m_finder, &GameFinder::changed, this, [this] { m_panel->showMaker(m_finder.maker()); });
+}
+
+// What is wrong stands beside the chips; a term that is half typed is no complaint.
+void Finding::showQuery()
+{
+    m_window.searchField->markWrongTerms(m_finder.query());
+    QStringList wrong;
+    for (const Term& term : m_finder.query().terms()) {
+        if (term.state == Term::State::Wrong && term.why)
+            wrong << term.why->text();
+    }
+    m_window.chipBar->complain(wrong.join(u' '));
+    // Ranked rows have no sorted column; the first click on a header sorts them upwards.
+    QHeaderView* header = m_window.gameTable->horizontalHeader();
+    const QSignalBlocker quiet(header);
+    const ArrangedList& list = m_list.list();
+    if (list.isRanked())
+        header->setSortIndicator(-1, Qt::AscendingOrder);
+    else
+        header->setSortIndicator(GameTableModel::columnOf(list.sortField()),
+                                 list.ascending() ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void Finding::prepare()
+{
+    m_isPrepared = true;
+    m_finder.prepare();
+    readRomFolders();
+}
+
+void Finding::takeProfile(const QString& executable, const ProfileAnswer& answer)
+{
+    if (executable != m_emulator())
+        return;
+    m_emulatorFolders = answer.profile ? answer.profile->romFolderList() : QStringList();
+    readRomFolders();
+}
+
+void Finding::readRomFolders()
+{
+    if (!m_isPrepared)
+        return;
+    const auto folder = m_defaults.defaults().value(keys::RomsPath.name);
+    m_roms.setFolders(folder ? std::optional(folder->toString()) : std::nullopt, m_emulatorFolders);
+}
+
+void Finding::showPredicatePanel()
+{
+    if (m_panel->isVisible()) {
+        m_panel->close();
+        return;
+    }
+    if (m_panel->rowCount() == 0)
+        m_panel->addRow();
+    m_panel->show();
+    m_panel->raise();
+    m_panel->activateWindow();
+}
+
+void Finding::focusSearch()
+{
+    m_window.activateWindow();
+    m_window.searchField->setFocus(Qt::ShortcutFocusReason);
+    m_window.searchField->selectAll();
+}
+
+void Finding::showAll()
+{
+    m_window.searchField->clear();
+    m_panel->clear();
+    m_finder.showAll();
+    m_window.chipBar->setChip(m_finder.chip());
+    m_window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());
+}
+
+} // namespace tessera

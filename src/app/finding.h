@@ -1,0 +1,62 @@
+#pragma once
+
+#include "catalogue/ui/gamefinder.h"
+#include "catalogue/ui/romwatcher.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace tessera {
+
+class FilterPanel;
+class MainWindow;
+class ProfileCache;
+struct ProfileAnswer;
+
+/// Joins what the user searches with (field, chips, filter panel) and what is known of the ROM folders to the
+/// finder, and the finder to the main window.
+class Finding : public QObject
+{
+    Q_OBJECT
+
+public:
+    Finding(MainWindow& window, Catalogue& catalogue, GameListController& list, DefaultsController& defaults,
+            ProfileCache& profiles, std::function<QString()> emulator, QObject* parent = nullptr);
+    ~Finding() override;
+
+    GameFinder& finder() { return m_finder; }
+    FilterPanel& panel() { return *m_panel; }
+    RomWatcher& roms() { return m_roms; }
+    /// After the first paint: what a search needs, and the ROM folders.
+    void prepare();
+
+public Q_SLOTS:
+    void showPredicatePanel();
+    void focusSearch();
+    void showAll();
+
+Q_SIGNALS:
+    /// Which rows are shown, or why, or what is known of them.
+    void changed();
+
+private:
+    void joinField();
+    void joinPanel();
+    void showQuery();
+    void takeProfile(const QString& executable, const ProfileAnswer& answer);
+    void readRomFolders();
+
+    MainWindow& m_window;
+    GameListController& m_list;
+    DefaultsController& m_defaults;
+    std::function<QString()> m_emulator;
+    QStringList m_emulatorFolders;
+    bool m_isPrepared = false;
+    GameFinder m_finder;
+    std::unique_ptr<FilterPanel> m_panel;
+    RomWatcher m_roms;
+};
+
+} // namespace tessera

@@ -1,0 +1,114 @@
+#include "catalogue/ui/chipbar.h"
+
+#include "widgets/theme.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+
+namespace tessera {
+
+namespace {
+
+constexpr int pillHeight = 26;
+constexpr int margin = 12;
+constexpr int gap = 8;
+
+} // namespace
+
+ChipButton::ChipButton(const QString& label, QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setText(label);
+    setCheckable(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void ChipButton::setCount(std::size_t count)
+{
+    m_count = QLocale().toString(static_cast<qulonglong>(count));
+    setAccessibleName(text() + u' ' + m_count);
+    updateGeometry();
+    update();
+}
+
+QSize ChipButton::sizeHint() const
+{
+    const int count = m_count.isEmpty() ? 0 : gap + fontMetrics().horizontalAdvance(m_count);
+    return {2 * margin + fontMetrics().horizontalAdvance(text()) + count, pillHeight};
+}
+
+void ChipButton::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const char* border = hasFocus() ? "accent"
+        : underMouse()              ? "faint"
+        : isChecked()               ? "selection"
+                                    : "border";
+    painter.setPen(theme::color(border));
+    painter.setBrush(isChecked() ? QBrush(theme::color("selection")) : QBrush(Qt::NoBrush));
+    const QRectF pill = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    const QRect inner = rect().adjusted(margin, 0, -margin, 0);
+    painter.setPen(theme::color(isChecked() ? "text" : "dim"));
+    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.setPen(theme::color(isChecked() ? "dim" : "faint"));
+    painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, m_count);
+}
+
+ChipBar::ChipBar(QWidget* parent)
+    : QWidget(parent)
+    , familiesBox(new QCheckBox(qtTrId("chips_families")))
+    , m_group(new QButtonGroup(this))
+    , m_complaint(new QLabel)
+{
+    setProperty("role", QStringLiteral("chips"));
+    setAttribute(Qt::WA_StyledBackground);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 7, 12, 7);
+    layout->setSpacing(6);
+    for (const ChipRow& row : chips) {
+        auto* button = new ChipButton(qtTrId(row.label));
+        button->setObjectName(QStringLiteral("chip_")
+                              + QString::fromUtf8(row.name.data(), static_cast<qsizetype>(row.name.size())));
+        m_group->addButton(button, static_cast<int>(row.chip));
+        layout->addWidget(button);
+    }
+    m_complaint->setObjectName(QStringLiteral("complaintLabel"));
+    m_complaint->setProperty("role", QStringLiteral("notice"));
+    m_complaint->setTextFormat(Qt::PlainText);
+    m_complaint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addSpacing(6);
+    layout->addWidget(m_complaint, 1);
+    familiesBox->setObjectName(QStringLiteral("familiesBox"));
+    familiesBox->setToolTip(qtTrId("chips_families_help"));
+    layout->addWidget(familiesBox);
+    connect(m_group, &QButtonGroup::idClicked, this,
+            [this](int id) { Q_EMIT chosen(static_cast<Chip>(id)); });
+    setChip(Chip::All);
+}
+
+void ChipBar::setChip(Chip chip)
+{
+    m_group->button(static_cast<int>(chip))->setChecked(true);
+}
+
+void ChipBar::setCounts(const ChipCounts& counts)
+{
+    for (std::size_t i = 0; i < chips.size(); ++i)
+        static_cast<ChipButton*>(m_group->button(static_cast<int>(chips[i].chip)))->setCount(counts[i]);
+}
+
+void ChipBar::complain(const QString& sentence)
+{
+    m_complaint->setText(sentence);
+    m_complaint->setToolTip(sentence);
+}
+
+} // namespace tessera

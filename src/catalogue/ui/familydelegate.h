@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace tessera {
+
+/// Draws the first column of a list with families: a parent with the number of its clones, a clone further
+/// in.
+class FamilyDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// What a model says of a row besides its texts.
+    enum Role { ClonesRole = Qt::UserRole, IsOpenRole, IsCloneRole };
+
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
+
+Q_SIGNALS:
+    /// The number was clicked.
+    void toggled(int row);
+};
+
+} // namespace tessera

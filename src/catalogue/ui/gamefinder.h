@@ -1,0 +1,87 @@
+#pragma once
+
+#include "catalogue/filterrules.h"
+#include "catalogue/search/gamesearch.h"
+#include "catalogue/ui/romwatcher.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+namespace tessera {
+
+class Catalogue;
+class DefaultsController;
+class GameListController;
+
+/// Decides what the game list shows: the search, the chips, the maker filter, the filter panel's rules, and
+/// whether clones are folded beneath their parents.
+class GameFinder : public QObject
+{
+    Q_OBJECT
+
+public:
+    GameFinder(Catalogue& catalogue, GameListController& list, DefaultsController& defaults,
+               QObject* parent = nullptr);
+
+    /// Prepares what a search needs; afterwards the first letter is found at once.
+    void prepare();
+    /// The chip and the switch for families as they were left.
+    void restore();
+
+    const Query& query() const { return m_query; }
+    Chip chip() const { return m_chip; }
+    bool showsFamilies() const { return m_foldsFamilies; }
+    const std::optional<QString>& maker() const { return m_maker; }
+
+    /// Some records may be hidden; what hides them, each in a few words.
+    QStringList reasons() const;
+    /// What the ROM folders hold of a record; nothing while they are not known.
+    std::optional<Have> haveOf(std::uint32_t record) const;
+
+public Q_SLOTS:
+    void setQuery(const QString& text);
+    void setChip(tessera::Chip chip);
+    /// Only the records with exactly this maker; the empty text is a maker, too.
+    void setPredicate(const QString& maker);
+    void clearPredicate();
+    void setRules(const tessera::FilterRules& rules);
+    void setFamilies(bool folded);
+    /// Shows the clones beneath a row's record, or folds them again.
+    void toggleFamily(int row);
+    /// Nothing hides records any more.
+    void showAll();
+    void setRomFolders(const tessera::RomFolders& folders);
+
+Q_SIGNALS:
+    /// What the list shows, or why.
+    void changed();
+    void countsChanged(const tessera::ChipCounts& counts);
+
+private:
+    GameSearch& search();
+    void forget();
+    void follow(std::uint32_t record);
+    void fold();
+    void find();
+    void filter();
+    void applyFamilies();
+    void setHaves();
+    void select(const std::vector<std::uint32_t>& before);
+
+    Catalogue& m_catalogue;
+    GameListController& m_list;
+    DefaultsController& m_defaults;
+    std::optional<GameSearch> m_search;
+    Query m_query;
+    Chip m_chip = Chip::All;
+    std::optional<QString> m_maker;
+    FilterRules m_rules;
+    std::optional<RomFolders> m_roms;
+    std::vector<Have> m_haves;
+    bool m_foldsFamilies = false;
+    RecordSet m_open;
+    int m_generation = 0; ///< of the content that is searched
+    QThreadPool m_pool; ///< ends first, while everything else still stands
+};
+
+} // namespace tessera
