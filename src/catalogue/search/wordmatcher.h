@@ -47,11 +47,11 @@ private:
 
     // clang-format off
     static constexpr Rank ranks[4][3] = {
-        //               Else                 FieldEnds            BracketOpens
-        /* NameBegins  */ {Rank::WordBeginning, Rank::SetName,       Rank::WordBeginning},
-        /* TitleBegins */ {Rank::WordBeginning, Rank::WholeTitle,    Rank::TitleProper},
-        /* WordBegins  */ {Rank::WordBeginning, Rank::WordBeginning, Rank::WordBeginning},
-        /* WordGoesOn  */ {Rank::Inside,        Rank::Inside,        Rank::Inside},
+        //               Else                  FieldEnds            BracketOpens
+        /* NameBegins  */ {Rank::NameBeginning,  Rank::SetName,       Rank::NameBeginning},
+        /* TitleBegins */ {Rank::TitleBeginning, Rank::WholeTitle,    Rank::TitleProper},
+        /* WordBegins  */ {Rank::WordBeginning,  Rank::WordBeginning, Rank::WordBeginning},
+        /* WordGoesOn  */ {Rank::Inside,         Rank::Inside,        Rank::Inside},
     };
     // clang-format on
 
