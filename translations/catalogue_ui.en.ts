@@ -19,6 +19,10 @@
     <message id="facts_picture"><source></source><translation>Picture of the game</translation></message>
     <message id="facts_several"><source></source><translation>%1 machines selected</translation></message>
     <message id="facts_none"><source></source><translation>No machine selected</translation></message>
+    <message id="fact_rom"><source></source><translation>ROM</translation></message>
+    <message id="have_here"><source></source><translation>found</translation></message>
+    <message id="have_in_parent"><source></source><translation>with its parent, %1</translation></message>
+    <message id="have_missing"><source></source><translation>not found</translation></message>
     <message id="column_status"><source></source><translation>Driver</translation></message>
     <message id="column_type"><source></source><translation>Kind</translation></message>
     <message id="record_remove_Message"><source></source><translation>Remove the selected machines from the catalogue?</translation></message>

@@ -19,6 +19,10 @@
     <message id="facts_picture"><source></source><translation>ゲームの画像</translation></message>
     <message id="facts_several"><source></source><translation>%1 台を選択中</translation></message>
     <message id="facts_none"><source></source><translation>何も選択されていません</translation></message>
+    <message id="fact_rom"><source></source><translation>ROM</translation></message>
+    <message id="have_here"><source></source><translation>あり</translation></message>
+    <message id="have_in_parent"><source></source><translation>親セット %1 に含まれる可能性</translation></message>
+    <message id="have_missing"><source></source><translation>なし</translation></message>
     <message id="column_status"><source></source><translation>ドライバ</translation></message>
     <message id="column_type"><source></source><translation>種類</translation></message>
     <message id="record_remove_Message"><source></source><translation>選択したマシンをカタログから削除しますか?</translation></message>

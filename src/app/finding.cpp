@@ -38,7 +38,7 @@ Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& l
     connect(window.gameTable, &GameTableView::familyToggled, &m_finder, &GameFinder::toggleFamily);
     connect(window.showAllButton, &QPushButton::clicked, this, &Finding::showAll);
     connect(window.filterButton, &QToolButton::clicked, this, &Finding::showPredicatePanel);
-    connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(*m_roms.folders()); });
+    connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(m_roms.folders()); });
     connect(&profiles, &ProfileCache::answered, this, &Finding::takeProfile);
     connect(&defaults, &DefaultsController::changed, this, [this](const QString& name) {
         if (name.isEmpty() || name == keys::RomsPath.name)

@@ -228,7 +228,11 @@ void Tessera_AppDelegate::comeForward(const QString& file)
 
 void Tessera_AppDelegate::showSelection()
 {
-    m_mainWindow->factsPanel->showRecord(m_gameList->selectedRecord(), m_gameList->selectedCount());
+    FactsPanel& facts = *m_mainWindow->factsPanel;
+    const GameRecord* record = m_gameList->selectedRecord();
+    facts.showRecord(record, m_gameList->selectedCount());
+    facts.showHave(
+        record != nullptr ? m_finding->finder().haveOf(*m_gameList->firstSelected()) : std::nullopt, record);
 }
 
 void Tessera_AppDelegate::showCount()

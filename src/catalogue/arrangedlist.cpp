@@ -110,7 +110,7 @@ void ArrangedList::arrange()
     m_clones.clear();
     if (isRanked()) {
         m_rows = byRank(m_rows, m_found->ranks);
-    } else if (m_families) {
+    } else if (m_families && !(m_found && m_found->opensFamilies)) {
         FamilyRows folded = foldFamilies(m_rows, m_families->heads, m_families->open);
         m_rows = std::move(folded.rows);
         m_clones = std::move(folded.clones);

@@ -1,5 +1,6 @@
 #include "catalogue/colortransformer.h"
 
+#include "catalogue/romfolders.h"
 #include "platform/userdefaults.h"
 
 #include <QFileInfo>
@@ -37,7 +38,11 @@ std::optional<QColor> ColorTransformer::transformedValue(const QString& setName)
 bool ColorTransformer::hasArchive(const QString& setName) const
 {
     const auto folder = m_defaults.value(keys::RomsPath.name);
-    return folder && QFileInfo::exists(folder->toString() + u'/' + setName + QStringLiteral(".zip"));
+    if (!folder)
+        return false;
+    if (m_folders && m_folders->romFolder() == folder->toString())
+        return m_folders->hasArchive(setName.toStdString());
+    return QFileInfo::exists(folder->toString() + u'/' + setName + QStringLiteral(".zip"));
 }
 
 } // namespace tessera

@@ -200,7 +200,7 @@ private Q_SLOTS:
             QTest::newRow(query) << QString::fromUtf8(query).split(u'|') << QByteArray(names);
         };
         row("", "alien begins clone pong whole");
-        row("pong", "pong whole begins clone");
+        row("pong", "pong whole clone begins");
         row("pong|-clone:yes", "");
         row("pong|--|-clone:yes", "pong whole begins");
         row("--|-pong", "alien");

@@ -122,7 +122,9 @@ void GameFinder::find()
     } else {
         const Found all = search().find(m_query);
         Q_EMIT countsChanged(search().chipCounts(&all.records));
-        m_list.list().setFound(m_chip == Chip::All ? all : search().find(m_query, m_chip));
+        Found found = m_chip == Chip::All ? all : search().find(m_query, m_chip);
+        found.opensFamilies = !m_query.isEmpty();
+        m_list.list().setFound(std::move(found));
     }
     select(before);
     Q_EMIT changed();
@@ -212,9 +214,10 @@ void GameFinder::showAll()
     filter();
 }
 
-void GameFinder::setRomFolders(const RomFolders& folders)
+void GameFinder::setRomFolders(const std::shared_ptr<const RomFolders>& folders)
 {
     m_roms = folders;
+    m_list.setRomFolders(folders);
     setHaves();
     const bool asked = m_chip == Chip::HaveRom
         || std::ranges::any_of(m_query.terms(), [](const Term& term) { return term.kind == TermKind::Have; });
@@ -250,7 +253,7 @@ QStringList GameFinder::reasons() const
         why << qtTrId("hides_maker").arg(*m_maker);
     if (!m_rules.isEmpty())
         why << qtTrId("hides_rules", static_cast<int>(m_rules.rules.size()));
-    if (m_foldsFamilies && !m_list.list().isRanked())
+    if (m_foldsFamilies && m_query.isEmpty())
         why << qtTrId("hides_families");
     return why;
 }

@@ -2,10 +2,12 @@
 
 #include "catalogue/filterrules.h"
 #include "catalogue/search/gamesearch.h"
-#include "catalogue/ui/romwatcher.h"
+#include "catalogue/romfolders.h"
 
 #include <QObject>
 #include <QThreadPool>
+
+#include <memory>
 
 namespace tessera {
 
@@ -50,7 +52,7 @@ public Q_SLOTS:
     void toggleFamily(int row);
     /// Nothing hides records any more.
     void showAll();
-    void setRomFolders(const tessera::RomFolders& folders);
+    void setRomFolders(const std::shared_ptr<const tessera::RomFolders>& folders);
 
 Q_SIGNALS:
     /// What the list shows, or why.
@@ -76,7 +78,7 @@ private:
     Chip m_chip = Chip::All;
     std::optional<QString> m_maker;
     FilterRules m_rules;
-    std::optional<RomFolders> m_roms;
+    std::shared_ptr<const RomFolders> m_roms;
     std::vector<Have> m_haves;
     bool m_foldsFamilies = false;
     RecordSet m_open;

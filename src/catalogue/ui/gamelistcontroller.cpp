@@ -38,6 +38,13 @@ void GameListController::setTable(GameTableView* table)
             &GameListController::tableViewSelectionDidChange);
 }
 
+void GameListController::setRomFolders(std::shared_ptr<const RomFolders> folders)
+{
+    m_colors.setRomFolders(std::move(folders));
+    if (m_table != nullptr)
+        m_table->viewport()->update();
+}
+
 int GameListController::selectedCount() const
 {
     return m_table == nullptr ? 0 : static_cast<int>(m_table->selectionModel()->selectedRows().size());

@@ -56,6 +56,8 @@ public:
     void selectNeighbour(int step);
     /// Those that the list shows.
     void selectRecords(const std::vector<std::uint32_t>& records);
+    /// Whose archives are there, for the colours of the rows.
+    void setRomFolders(std::shared_ptr<const RomFolders> folders);
     /// After the catalogue's records became others.
     void setContent();
 

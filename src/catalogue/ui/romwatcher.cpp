@@ -1,10 +1,18 @@
 #include "catalogue/ui/romwatcher.h"
 
+#include <QFileInfo>
+
 namespace tessera {
 
 namespace {
 
 constexpr std::chrono::milliseconds restTime(400);
+
+// Where a folder is not there yet, the one in which it would be tells when it comes.
+QString watchedFor(const QString& folder)
+{
+    return folder.isEmpty() || QFileInfo::exists(folder) ? folder : QFileInfo(folder).absolutePath();
+}
 
 } // namespace
 
@@ -42,12 +50,14 @@ void RomWatcher::take(int question, std::shared_ptr<const RomFolders> folders)
     if (question != m_question)
         return;
     m_folders = std::move(folders);
-    // A folder that was not there is watched from now on, one that went away no longer is.
+    // A folder that has come is watched from now on, one that went away no longer is.
     if (!m_watcher.directories().isEmpty())
         m_watcher.removePaths(m_watcher.directories());
-    QStringList watched = m_emulatorFolders;
+    QStringList watched;
+    for (const QString& folder : m_emulatorFolders)
+        watched << watchedFor(folder);
     if (m_romFolder)
-        watched << *m_romFolder;
+        watched << watchedFor(*m_romFolder);
     watched.removeDuplicates();
     watched.removeAll(QString());
     if (!watched.isEmpty())
