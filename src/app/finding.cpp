@@ -9,8 +9,10 @@
 #include "catalogue/ui/searchfield.h"
 #include "launch/profilecache.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bringforward.h"
 
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -106,7 +108,8 @@ void Finding::takeProfile(const QString& executable, const ProfileAnswer& answer
 {
     if (executable != m_emulator())
         return;
-    m_emulatorFolders = answer.profile ? answer.profile->romFolderList() : QStringList();
+    m_emulatorFolders = answer.profile ? answer.profile->romFolderList(QFileInfo(executable).absolutePath())
+                                       : QStringList();
     readRomFolders();
 }
 
@@ -126,9 +129,7 @@ void Finding::showPredicatePanel()
     }
     if (m_panel->rowCount() == 0)
         m_panel->addRow();
-    m_panel->show();
-    m_panel->raise();
-    m_panel->activateWindow();
+    bringForward(*m_panel);
 }
 
 void Finding::focusSearch()

@@ -193,8 +193,6 @@ void MainWindow::setRunning(bool running)
 void MainWindow::setRebuilding(bool rebuilding)
 {
     m_isRebuilding = rebuilding;
-    if (rebuilding)
-        offerRebuild(false);
     sayWhatToDo(rebuilding);
 }
 

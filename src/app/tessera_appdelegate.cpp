@@ -28,13 +28,16 @@
 #include "platform/recentdocuments.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/bringforward.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -42,19 +45,6 @@
 #include <QToolButton>
 
 namespace tessera {
-
-namespace {
-
-// As the key window; a minimised one comes back.
-void bringForward(QWidget& window)
-{
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
-
-} // namespace
 
 Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
                                          const QString& cataloguePath)
@@ -155,6 +145,8 @@ void Tessera_AppDelegate::joinRooms()
             [this](bool running) { m_editing->setEnabled(!running); });
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_gameList->model(),
             &GameTableModel::setLocked);
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
+            [this](bool running) { m_mainWindow->offerRebuild(!running && m_rebuild->isOutdated()); });
 
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
@@ -254,6 +246,8 @@ void Tessera_AppDelegate::settingChanged(const QString& name)
 {
     if (name.isEmpty() || name == keys::ExecutionPath.name)
         showEmulator();
+    if (name == keys::BuiltFrom.name)
+        m_mainWindow->offerRebuild(m_rebuild->isOutdated());
 }
 
 void Tessera_AppDelegate::showEmulator()
@@ -296,9 +290,12 @@ void Tessera_AppDelegate::editCell()
 
 void Tessera_AppDelegate::copySelection()
 {
-    if (auto* log = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget()))
-        log->copy();
-    else
+    QWidget* focused = QApplication::focusWidget();
+    if (auto* text = qobject_cast<QPlainTextEdit*>(focused))
+        text->copy();
+    else if (auto* label = qobject_cast<QLabel*>(focused); label != nullptr && label->hasSelectedText())
+        QGuiApplication::clipboard()->setText(label->selectedText());
+    else if (m_mainWindow->isActiveWindow())
         m_mainWindow->gameTable->copySelection();
 }
 

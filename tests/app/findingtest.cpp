@@ -351,6 +351,34 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
     }
 
+    void anOpenFamilyStaysOpenOverARemoval()
+    {
+        window().chipBar->familiesBox->click();
+        QVERIFY(list().selectGame(QStringLiteral("puckman")));
+        QTest::keyClick(window().gameTable, Qt::Key_Right);
+        QVERIFY(list().selectGame(QStringLiteral("jp")));
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 0);
+        m_staged->app->removeRecord();
+        QCOMPARE(shown(), QStringLiteral("cdr gradius3 nemesis neogeo puckman pacman"));
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("nemesis"));
+        QVERIFY(list().selectGame(QStringLiteral("pacman")));
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 0);
+        m_staged->app->removeRecord();
+        m_staged->app->undo();
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("pacman"));
+    }
+
+    void everythingSelectedStaysSoWithinAChip()
+    {
+        window().gameTable->selectAll();
+        QCOMPARE(list().selectedCount(), 8);
+        click(Chip::Games);
+        QCOMPARE(list().selectedCount(), 5);
+        click(Chip::All);
+        QCOMPARE(list().selectedCount(), 5);
+        QCOMPARE(list().selectedRecords(), (std::vector<std::uint32_t>{1, 2, 0, 4, 3}));
+    }
+
 private:
     void start()
     {

@@ -64,8 +64,8 @@ private:
     // Without a branch: there would be no guessing it.
     static Behind behindPlace(std::string_view bytes, std::size_t end)
     {
-        const bool bracket = (bytes[end] == ' ') & (bytes[end + 1] == '(');
-        return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * int{bracket});
+        const int bracket = int{bytes[end] == ' '} & int{bytes[end + 1] == '('};
+        return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * bracket);
     }
 
     Before beforeByCharacter(std::string_view bytes, std::size_t offset) const;

@@ -84,7 +84,6 @@ void GameFinder::forget()
     const bool wasPrepared = m_search.has_value();
     ++m_generation;
     m_search.reset();
-    m_open = RecordSet(m_catalogue.records().size());
     m_haves.clear();
     setHaves();
     applyFamilies();
@@ -182,10 +181,16 @@ void GameFinder::setFamilies(bool folded)
 
 void GameFinder::applyFamilies()
 {
-    if (m_foldsFamilies)
-        m_list.list().setFamilies(ArrangedList::Families{familyHeads(m_catalogue.records()), m_open});
-    else
-        m_list.list().setFamilies(std::nullopt);
+    if (!m_foldsFamilies)
+        return m_list.list().setFamilies(std::nullopt);
+    const std::span<const GameRecord> records = m_catalogue.records();
+    std::vector<std::uint32_t> heads = familyHeads(records);
+    RecordSet open(records.size());
+    for (std::uint32_t record = 0; record < heads.size() && !m_open.empty(); ++record) {
+        if (heads[record] == record && m_open.contains(records[record][Field::Name]))
+            open.insert(record);
+    }
+    m_list.list().setFamilies(ArrangedList::Families{std::move(heads), std::move(open)});
 }
 
 void GameFinder::toggleFamily(int row)
@@ -195,10 +200,9 @@ void GameFinder::toggleFamily(int row)
         return;
     const std::uint32_t record = list.rows()[static_cast<std::size_t>(row)];
     const std::uint32_t head = familyHeads(m_catalogue.records())[record];
-    if (m_open.contains(head))
-        m_open.remove(head);
-    else
-        m_open.insert(head);
+    const std::string name(m_catalogue.records()[head][Field::Name]);
+    if (m_open.erase(name) == 0)
+        m_open.insert(name);
     applyFamilies();
     m_list.selectRecords({record});
     Q_EMIT changed();

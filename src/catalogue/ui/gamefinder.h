@@ -8,6 +8,8 @@
 #include <QThreadPool>
 
 #include <memory>
+#include <set>
+#include <string>
 
 namespace tessera {
 
@@ -81,7 +83,7 @@ private:
     std::shared_ptr<const RomFolders> m_roms;
     std::vector<Have> m_haves;
     bool m_foldsFamilies = false;
-    RecordSet m_open;
+    std::set<std::string, std::less<>> m_open; ///< set names of the heads of open families
     int m_generation = 0; ///< of the content that is searched
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };

@@ -47,20 +47,31 @@ void GameListController::setRomFolders(std::shared_ptr<const RomFolders> folders
 
 int GameListController::selectedCount() const
 {
-    return m_table == nullptr ? 0 : static_cast<int>(m_table->selectionModel()->selectedRows().size());
+    int count = 0;
+    for (const RowRange& range : selectedRanges())
+        count += range.last - range.first + 1;
+    return count;
+}
+
+// In the order of the rows. The model's own list of rows takes a time that grows with the square of its
+// ranges.
+std::vector<GameListController::RowRange> GameListController::selectedRanges() const
+{
+    std::vector<RowRange> ranges;
+    if (m_table == nullptr)
+        return ranges;
+    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
+        if (range.isValid())
+            ranges.push_back({range.top(), range.bottom()});
+    }
+    std::ranges::sort(ranges, {}, &RowRange::first);
+    return ranges;
 }
 
 int GameListController::firstSelectedRow() const
 {
-    if (m_table == nullptr)
-        return -1;
-    // Ranges, not rows: with everything selected there are 45,000 rows but one range.
-    int first = -1;
-    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
-        if (range.isValid() && (first < 0 || range.top() < first))
-            first = range.top();
-    }
-    return first;
+    const std::vector<RowRange> ranges = selectedRanges();
+    return ranges.empty() ? -1 : ranges.front().first;
 }
 
 std::optional<std::uint32_t> GameListController::firstSelected() const
@@ -78,10 +89,10 @@ const GameRecord* GameListController::selectedRecord() const
 std::vector<std::uint32_t> GameListController::selectedRecords() const
 {
     std::vector<std::uint32_t> records;
-    if (m_table == nullptr)
-        return records;
-    for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
-        records.push_back(m_list.rows()[static_cast<std::size_t>(row.row())]);
+    for (const RowRange& range : selectedRanges()) {
+        const auto rows = m_list.rows().begin();
+        records.insert(records.end(), rows + range.first, rows + range.last + 1);
+    }
     return records;
 }
 
@@ -159,20 +170,23 @@ void GameListController::selectNeighbour(int step)
 
 void GameListController::selectRecords(const std::vector<std::uint32_t>& records)
 {
-    QItemSelection selection;
-    int first = -1;
+    std::vector<int> rows;
     for (const std::uint32_t record : records) {
-        const auto row = m_list.rowOf(record);
-        if (!row)
-            continue;
-        const QModelIndex place = m_model->index(static_cast<int>(*row), 0);
-        selection.select(place, place);
-        first = first < 0 ? place.row() : std::min(first, place.row());
+        if (const auto row = m_list.rowOf(record))
+            rows.push_back(static_cast<int>(*row));
     }
-    if (first < 0 || m_table == nullptr)
+    if (rows.empty() || m_table == nullptr)
         return;
-    selectRow(first);
-    m_table->selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    std::ranges::sort(rows);
+    selectRow(rows.front());
+    QItemSelection selection;
+    for (auto from = rows.begin(); from != rows.end();) {
+        const auto end = std::adjacent_find(from, rows.end(), [](int a, int b) { return b > a + 1; });
+        const auto last = end == rows.end() ? end - 1 : end;
+        selection.append({m_model->index(*from, 0), m_model->index(*last, m_model->columnCount() - 1)});
+        from = last + 1;
+    }
+    m_table->selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
 void GameListController::setContent()

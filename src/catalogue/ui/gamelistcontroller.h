@@ -81,6 +81,12 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    struct RowRange {
+        int first;
+        int last;
+    };
+
+    std::vector<RowRange> selectedRanges() const;
     QString selectedValue(Field field) const;
 
     Catalogue& m_catalogue;

@@ -77,8 +77,10 @@ QList<int> GameTableView::shownColumns() const
 void GameTableView::copySelection() const
 {
     QList<int> rows;
-    for (const QModelIndex& row : selectionModel()->selectedRows())
-        rows << row.row();
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows << row;
+    }
     if (rows.isEmpty())
         return;
     std::ranges::sort(rows);
