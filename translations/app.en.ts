@@ -78,5 +78,9 @@
     <message id="main_filter"><source></source><translation>Filter panel</translation></message>
     <message id="main_showall"><source></source><translation>Show all</translation></message>
     <message id="empty_filtered"><source></source><translation>No machine matches what you are looking for.</translation></message>
+    <message id="mini_above"><source></source><translation>Above other windows</translation></message>
+    <message id="mini_main"><source></source><translation>Game list</translation></message>
+    <message id="mini_picture"><source></source><translation>Picture of the game</translation></message>
+    <message id="mini_set"><source></source><translation>Set name or title</translation></message>
 </context>
 </TS>

@@ -78,5 +78,9 @@
     <message id="main_filter"><source></source><translation>フィルタパネル</translation></message>
     <message id="main_showall"><source></source><translation>すべて表示</translation></message>
     <message id="empty_filtered"><source></source><translation>条件に合うマシンがありません。</translation></message>
+    <message id="mini_above"><source></source><translation>常に手前に表示</translation></message>
+    <message id="mini_main"><source></source><translation>ゲームリスト</translation></message>
+    <message id="mini_picture"><source></source><translation>ゲームの画像</translation></message>
+    <message id="mini_set"><source></source><translation>セット名またはタイトル</translation></message>
 </context>
 </TS>

@@ -23,6 +23,9 @@
     <message id="have_here"><source></source><translation>found</translation></message>
     <message id="have_in_parent"><source></source><translation>with its parent, %1</translation></message>
     <message id="have_missing"><source></source><translation>not found</translation></message>
+    <message id="row_clone"><source></source><translation>clone</translation></message>
+    <message id="row_clones_shown" numerus="yes"><source></source><translation><numerusform>%n clone shown</numerusform><numerusform>%n clones shown</numerusform></translation></message>
+    <message id="row_clones_folded" numerus="yes"><source></source><translation><numerusform>%n clone folded</numerusform><numerusform>%n clones folded</numerusform></translation></message>
     <message id="column_status"><source></source><translation>Driver</translation></message>
     <message id="column_type"><source></source><translation>Kind</translation></message>
     <message id="record_remove_Message"><source></source><translation>Remove the selected machines from the catalogue?</translation></message>

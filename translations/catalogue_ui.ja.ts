@@ -23,6 +23,9 @@
     <message id="have_here"><source></source><translation>あり</translation></message>
     <message id="have_in_parent"><source></source><translation>親セット %1 に含まれる可能性</translation></message>
     <message id="have_missing"><source></source><translation>なし</translation></message>
+    <message id="row_clone"><source></source><translation>クローン</translation></message>
+    <message id="row_clones_shown" numerus="yes"><source></source><translation><numerusform>クローン %n 台を表示中</numerusform></translation></message>
+    <message id="row_clones_folded" numerus="yes"><source></source><translation><numerusform>クローン %n 台を折りたたみ中</numerusform></translation></message>
     <message id="column_status"><source></source><translation>ドライバ</translation></message>
     <message id="column_type"><source></source><translation>種類</translation></message>
     <message id="record_remove_Message"><source></source><translation>選択したマシンをカタログから削除しますか?</translation></message>

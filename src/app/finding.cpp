@@ -59,6 +59,7 @@ void Finding::joinField()
     SearchField* field = m_window.searchField;
     connect(field, &QLineEdit::textChanged, &m_finder, &GameFinder::setQuery);
     connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
+    connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
     connect(field, &QLineEdit::returnPressed, m_window.gameTable, &GameTableView::doubleAction);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_window.gameTable->setFocus();
@@ -66,6 +67,7 @@ void Finding::joinField()
             m_list.selectRow(0);
     });
     connect(m_window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
+    connect(m_window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
 
 void Finding::joinPanel()
@@ -79,13 +81,17 @@ void Finding::joinPanel()
 // What is wrong stands beside the chips; a term that is half typed is no complaint.
 void Finding::showQuery()
 {
-    m_window.searchField->markWrongTerms(m_finder.query());
+    m_window.searchField->markTerms(m_finder.query());
     QStringList wrong;
     for (const Term& term : m_finder.query().terms()) {
         if (term.state == Term::State::Wrong && term.why)
             wrong << term.why->text();
     }
     m_window.chipBar->complain(wrong.join(u' '));
+}
+
+void Finding::showSort()
+{
     // Ranked rows have no sorted column; the first click on a header sorts them upwards.
     QHeaderView* header = m_window.gameTable->horizontalHeader();
     const QSignalBlocker quiet(header);

@@ -50,7 +50,7 @@ constexpr std::array rows{
     MenuRow{edit,     textKey("menu_copy"),        "Ctrl+C",       &Hub::copySelection},
     MenuRow{edit,     textKey("menu_editcell"),    nullptr,        &Hub::editCell},
     MenuRow{edit,     textKey("menu_editrecord"),  "Ctrl+E",       &Hub::editRecord},
-    MenuRow{edit,     textKey("menu_removerecord"), "Ctrl+Backspace", &Hub::removeRecord},
+    MenuRow{edit,     textKey("menu_removerecord"), "Delete", &Hub::removeRecord},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
     MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
     MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},

@@ -29,7 +29,7 @@ namespace {
 
 constexpr QSize firstSize(1200, 760);
 constexpr int sidePanelWidth = 300;
-constexpr std::array columnWidths{118, 236, 172, 56, 118, 84}; // the last column takes what is left
+constexpr std::array columnWidths{128, 240, 172, 56, 112, 76}; // the last column takes what is left
 
 } // namespace
 
@@ -125,6 +125,7 @@ QWidget* MainWindow::makeToolRow()
 void MainWindow::makeStatusLine()
 {
     m_count->setObjectName(QStringLiteral("countLabel"));
+    m_count->setTextFormat(Qt::PlainText);
     m_message->setObjectName(QStringLiteral("messageLabel"));
     m_message->setTextFormat(Qt::PlainText);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -96,13 +96,14 @@ void Tessera_AppDelegate::loadInterface()
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
     m_gameList->setTable(m_mainWindow->gameTable);
+    m_task = std::make_unique<EmulatorTask>();
+    m_profiles = std::make_unique<ProfileCache>();
+    // Before the editing: what a search keeps of the records follows a removal first.
+    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
+                                          [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
     m_keyCommands = std::make_unique<KeyCommands>(*m_mainWindow, *m_logWindow,
                                                   *m_logWindow->infomationTextView, *m_gameList, *m_editing);
-    m_task = std::make_unique<EmulatorTask>();
-    m_profiles = std::make_unique<ProfileCache>();
-    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
-                                          [this] { return m_pages->general().emulator(); });
     m_launch = std::make_unique<LaunchController>(
         LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
                     SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },

@@ -120,8 +120,8 @@ private:
     std::unique_ptr<LogWindow> m_logWindow;
     std::unique_ptr<PreferencesWindow> m_preferencesWindow;
     std::unique_ptr<GameListController> m_gameList;
-    std::unique_ptr<RecordEditing> m_editing;
     std::unique_ptr<Finding> m_finding;
+    std::unique_ptr<RecordEditing> m_editing;
     std::unique_ptr<KeyCommands> m_keyCommands;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;

@@ -88,6 +88,7 @@ ChipBar::ChipBar(QWidget* parent)
     m_complaint->setProperty("role", QStringLiteral("notice"));
     m_complaint->setTextFormat(Qt::PlainText);
     m_complaint->setWordWrap(true);
+    m_complaint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     m_complaint->hide();
     layout->addWidget(m_complaint);
     familiesBox->setObjectName(QStringLiteral("familiesBox"));

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QRandomGenerator>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -27,6 +28,10 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
     connect(&catalogue, &Catalogue::replaced, this, &GameListController::setContent);
     connect(&catalogue, &Catalogue::recordChanged, &m_list,
             [this](std::uint32_t, Field field) { m_list.forgetOrder(field); });
+    connect(&catalogue, &Catalogue::recordChanged, this, [this](std::uint32_t record, Field field) {
+        if (field == Field::Status && firstSelected() == record)
+            romStatus();
+    });
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
 }
 
@@ -34,8 +39,10 @@ void GameListController::setTable(GameTableView* table)
 {
     m_table = table;
     m_table->setModel(m_model);
-    connect(table, &GameTableView::selectionDidChange, this,
-            &GameListController::tableViewSelectionDidChange);
+    connect(table, &GameTableView::selectionDidChange, this, [this] {
+        if (!m_isRearranging)
+            tableViewSelectionDidChange();
+    });
 }
 
 void GameListController::setRomFolders(std::shared_ptr<const RomFolders> folders)
@@ -168,17 +175,15 @@ void GameListController::selectNeighbour(int step)
         selectRow(std::max(0, row + step));
 }
 
-void GameListController::selectRecords(const std::vector<std::uint32_t>& records)
+// Those that the list shows, each run of rows as one range.
+QItemSelection GameListController::selectionOf(const std::vector<std::uint32_t>& records) const
 {
     std::vector<int> rows;
     for (const std::uint32_t record : records) {
         if (const auto row = m_list.rowOf(record))
             rows.push_back(static_cast<int>(*row));
     }
-    if (rows.empty() || m_table == nullptr)
-        return;
     std::ranges::sort(rows);
-    selectRow(rows.front());
     QItemSelection selection;
     for (auto from = rows.begin(); from != rows.end();) {
         const auto end = std::adjacent_find(from, rows.end(), [](int a, int b) { return b > a + 1; });
@@ -186,7 +191,57 @@ void GameListController::selectRecords(const std::vector<std::uint32_t>& records
         selection.append({m_model->index(*from, 0), m_model->index(*last, m_model->columnCount() - 1)});
         from = last + 1;
     }
-    m_table->selectionModel()->select(selection, QItemSelectionModel::Select);
+    return selection;
+}
+
+void GameListController::selectRecords(const std::vector<std::uint32_t>& records)
+{
+    const QItemSelection selection = selectionOf(records);
+    if (selection.isEmpty() || m_table == nullptr)
+        return;
+    const QModelIndex first = m_model->index(selection.front().top(), 0);
+    m_table->setCurrentIndex(first);
+    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_table->scrollTo(first);
+}
+
+// The selection is dropped with the rows and taken up again: nobody hears of it unless it became another one.
+void GameListController::rearrange(const std::function<void()>& change)
+{
+    if (m_table == nullptr || m_isRearranging)
+        return change();
+    commitEditing();
+    const std::vector<std::uint32_t> before = selectedRecords();
+    const QModelIndex at = m_table->currentIndex();
+    const auto current
+        = at.isValid() ? std::optional(m_list.rows()[static_cast<std::size_t>(at.row())]) : std::nullopt;
+    QScrollBar* bar = m_table->verticalScrollBar();
+    const int scrolled = bar->value();
+    bool arranged = false;
+    const auto watch = connect(&m_list, &ArrangedList::arranged, this, [&arranged] { arranged = true; });
+    m_isRearranging = true;
+    change();
+    disconnect(watch);
+    if (arranged) {
+        restore(before, current);
+        m_table->layOut();
+        bar->setValue(scrolled);
+        if (const int first = firstSelectedRow(); first >= 0)
+            m_table->scrollTo(m_model->index(first, 0));
+    }
+    m_isRearranging = false;
+    if (selectedRecords() != before)
+        tableViewSelectionDidChange();
+}
+
+void GameListController::restore(const std::vector<std::uint32_t>& records,
+                                 std::optional<std::uint32_t> current)
+{
+    const auto row = current ? m_list.rowOf(*current) : std::nullopt;
+    if (row)
+        m_table->selectionModel()->setCurrentIndex(m_model->index(static_cast<int>(*row), 0),
+                                                   QItemSelectionModel::NoUpdate);
+    m_table->selectionModel()->select(selectionOf(records), QItemSelectionModel::ClearAndSelect);
 }
 
 void GameListController::setContent()
@@ -197,6 +252,8 @@ void GameListController::setContent()
 
 void GameListController::main_tableViewSort()
 {
+    // Registered for the model's drag type.
+    m_table->setDragDropMode(QAbstractItemView::DropOnly);
     // Also arranges the list, by the first column, ascending.
     m_table->sortByColumn(0, Qt::AscendingOrder);
 }

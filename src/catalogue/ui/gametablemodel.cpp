@@ -124,6 +124,8 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
         if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
             return *color;
         return QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return field == Field::Name ? description(static_cast<std::size_t>(index.row())) : QVariant();
     case FamilyDelegate::ClonesRole:
         return m_list.clones(static_cast<std::size_t>(index.row()));
     case FamilyDelegate::IsOpenRole:
@@ -133,6 +135,24 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
     default:
         return QVariant();
     }
+}
+
+// What the first column draws besides its text.
+QString GameTableModel::description(std::size_t row) const
+{
+    QStringList parts{fieldText(m_list[row][Field::Status])};
+    if (m_list.clones(row) > 0)
+        parts << qtTrId(m_list.isOpen(row) ? textKey("row_clones_shown") : textKey("row_clones_folded"),
+                        static_cast<int>(m_list.clones(row)));
+    if (m_list.isBeneath(row))
+        parts << qtTrId("row_clone");
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+QStringList GameTableModel::mimeTypes() const
+{
+    return {QStringLiteral("CoreDataDragType")};
 }
 
 QVariant GameTableModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -146,6 +147,15 @@ void GameTableView::keyPressEvent(QKeyEvent* event)
         Q_EMIT typed(event->text());
     else
         QTableView::keyPressEvent(event);
+}
+
+// What an input method composes or commits is typed, too.
+void GameTableView::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (state() == EditingState)
+        QTableView::inputMethodEvent(event);
+    else if (!event->preeditString().isEmpty() || !event->commitString().isEmpty())
+        Q_EMIT composed(event);
 }
 
 void GameTableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -77,6 +77,13 @@ private Q_SLOTS:
         QVERIFY(!complaint->isVisible());
     }
 
+    void aLongComplaintDoesNotWidenTheWindow()
+    {
+        const int width = m_bar->minimumSizeHint().width();
+        m_bar->complain(QString(2000, u'x'));
+        QVERIFY(m_bar->minimumSizeHint().width() <= width);
+    }
+
 private:
     QAbstractButton* button(Chip chip) const
     {

@@ -85,6 +85,19 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_watcher->folders()->hasArchive("pong"));
     }
 
+    void aFolderComesBackWithTheOneAroundIt()
+    {
+        QVERIFY(QDir().mkpath(path("disk/roms")));
+        touch(path("disk/roms/pong.zip"));
+        tell(path("disk/roms"), {});
+        QVERIFY(m_watcher->folders()->hasArchive("pong"));
+        QVERIFY(QDir(path("disk")).removeRecursively());
+        QTRY_VERIFY(!m_watcher->folders()->hasArchive("pong"));
+        QVERIFY(QDir().mkpath(path("disk/roms")));
+        touch(path("disk/roms/pong.zip"));
+        QTRY_VERIFY(m_watcher->folders()->hasArchive("pong"));
+    }
+
     void anEmulatorsFolderIsWatchedToo()
     {
         tell(std::nullopt, {m_folder->path()});

@@ -74,13 +74,42 @@ private Q_SLOTS:
         m_field->setText(QStringLiteral("foo:bar pac"));
         m_field->setCursorPosition(0);
         const QImage plain = m_field->grab().toImage();
-        m_field->markWrongTerms(Query(m_field->text()));
+        m_field->markTerms(Query(m_field->text()));
         QVERIFY(m_field->grab().toImage() != plain);
         QCOMPARE(m_field->text(), QStringLiteral("foo:bar pac"));
         QCOMPARE(m_field->cursorPosition(), 0);
         // Once it is right the marks are gone.
-        m_field->markWrongTerms(Query(u"maker:x pac"));
+        m_field->markTerms(Query(u"maker:x pac"));
         QCOMPARE(m_field->grab().toImage(), plain);
+    }
+
+    void marksLeaveACompositionAlone()
+    {
+        SearchField plain;
+        for (SearchField* field : {m_field.get(), &plain}) {
+            field->resize(300, 40);
+            field->show();
+            field->clearFocus();
+        }
+        connect(m_field.get(), &QLineEdit::textChanged, this,
+                [this](const QString& text) { m_field->markTerms(Query(text)); });
+        for (SearchField* field : {m_field.get(), &plain}) {
+            QInputMethodEvent event(QStringLiteral("k"), {});
+            event.setCommitString(QStringLiteral("か"));
+            QCoreApplication::sendEvent(field, &event);
+            QCOMPARE(field->text(), QStringLiteral("か"));
+        }
+        QCOMPARE(m_field->grab().toImage(), plain.grab().toImage());
+    }
+
+    void whatIsComposedInTheListGoesOnHere()
+    {
+        m_field->setText(QStringLiteral("ab"));
+        m_field->setCursorPosition(0);
+        QInputMethodEvent event;
+        event.setCommitString(QStringLiteral("か"));
+        m_field->composeOn(&event);
+        QCOMPARE(m_field->text(), QStringLiteral("abか"));
     }
 
 private:
