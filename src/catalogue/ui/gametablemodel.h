@@ -44,6 +44,7 @@ public Q_SLOTS:
 
 private:
     void readFont();
+    void settingChanged(const QString& name);
     void showRecord(std::uint32_t record);
     void resort(Field field, bool ascending);
 
