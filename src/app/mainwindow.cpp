@@ -8,6 +8,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 
 #include <QCloseEvent>
@@ -42,6 +43,7 @@ MainWindow::MainWindow(DefaultsController& defaults)
     , emptyState(new EmptyState)
     , m_defaults(defaults)
     , m_split(new QSplitter)
+    , m_splitLimits(new SplitView_custom(this))
     , m_pages(new QStackedWidget)
     , m_count(new QLabel)
     , m_message(new QLabel)
@@ -63,9 +65,9 @@ MainWindow::MainWindow(DefaultsController& defaults)
 
     m_split->addWidget(factsPanel);
     m_split->addWidget(listSide);
+    m_split->setObjectName(QStringLiteral("MainSplitView"));
     m_split->setHandleWidth(1);
-    m_split->setStretchFactor(1, 1);
-    m_split->setCollapsible(1, false);
+    m_splitLimits->setSplitView(m_split);
 
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -156,7 +158,8 @@ void MainWindow::makeStatusLine()
 
 void MainWindow::applyRowHeight()
 {
-    const int height = qBound(8, m_defaults.index(keys::rowHeight), 400);
+    // The setting may have half a pixel (13.5), rows have whole ones.
+    const int height = qBound(8, qRound(m_defaults.number(keys::rowHeight)), 400);
     if (gameTable->verticalHeader()->defaultSectionSize() != height)
         gameTable->verticalHeader()->setDefaultSectionSize(height);
 }

@@ -8,11 +8,14 @@
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/rowcolors.h"
+#include "catalogue/ui/tablefont.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -29,6 +32,7 @@
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 #include "widgets/bringforward.h"
+#include "widgets/menusearch.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
@@ -93,6 +97,7 @@ void Tessera_AppDelegate::loadInterface()
     m_pages->general().setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
         m_preferencesWindow->addPage(page, page->title(), page->icon());
+    addAppearancePage();
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
     m_gameList->setTable(m_mainWindow->gameTable);
@@ -120,6 +125,14 @@ void Tessera_AppDelegate::loadInterface()
     openCatalogue();
 }
 
+void Tessera_AppDelegate::addAppearancePage()
+{
+    auto* page = new AppearancePage(m_defaults);
+    m_preferencesWindow->addPage(page, qtTrId("page_appearance"), QStringLiteral("appearance"));
+    m_tableFont = std::make_unique<TableFont>(m_desktop, m_defaults, *page);
+    m_rowColors = std::make_unique<RowColors>(m_desktop, m_defaults, *page);
+}
+
 void Tessera_AppDelegate::joinRooms()
 {
     connect(m_gameList.get(), &GameListController::launchRequested, m_launch.get(),
@@ -138,6 +151,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(&m_pages->general(), &GeneralPage::emulatorFound, m_launch.get(),
             &LaunchController::prepareProfile);
     connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
+    connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
@@ -211,6 +225,11 @@ bool Tessera_AppDelegate::application_openFile(const QString& path)
         return false;
     m_launch->Launchusing(path);
     return true;
+}
+
+QAction* Tessera_AppDelegate::findMenuItemNamed(const QString& title) const
+{
+    return tessera::findMenuItemNamed(title, m_mainWindow->menuBar());
 }
 
 void Tessera_AppDelegate::comeForward(const QString& file)
@@ -407,6 +426,21 @@ void Tessera_AppDelegate::showPrefsWindow()
 void Tessera_AppDelegate::utilityOrderFront()
 {
     m_utility->utilityOrderFront();
+}
+
+void Tessera_AppDelegate::makeTextBigger()
+{
+    m_tableFont->makeTextBigger();
+}
+
+void Tessera_AppDelegate::makeTextSmaller()
+{
+    m_tableFont->makeTextSmaller();
+}
+
+void Tessera_AppDelegate::showFontPanel1()
+{
+    m_tableFont->showFontPanel1();
 }
 
 void Tessera_AppDelegate::DefaultAction()

@@ -32,7 +32,17 @@ std::optional<QColor> ColorTransformer::transformedValue(const QString& setName)
     if (setName.isNull())
         return std::nullopt;
     const bool coloring = m_defaults.flag(keys::GamelistColoring.name);
-    return stored(m_defaults, !coloring || hasArchive(setName) ? usual : withoutArchive);
+    return !coloring || hasArchive(setName) ? usualColor() : colorWithoutArchive();
+}
+
+QColor ColorTransformer::usualColor() const
+{
+    return stored(m_defaults, usual);
+}
+
+QColor ColorTransformer::colorWithoutArchive() const
+{
+    return stored(m_defaults, withoutArchive);
 }
 
 bool ColorTransformer::hasArchive(const QString& setName) const

@@ -25,6 +25,10 @@ public:
     /// No colour for no name, which a null string stands for.
     std::optional<QColor> transformedValue(const QString& setName) const;
 
+    /// The stored colours, or the first ones where none or a broken one is stored.
+    QColor usualColor() const;
+    QColor colorWithoutArchive() const;
+
 private:
     bool hasArchive(const QString& setName) const;
 

@@ -48,6 +48,7 @@ public Q_SLOTS:
 private:
     QString description(std::size_t row) const;
     void readFont();
+    void settingChanged(const QString& name);
     void showRecord(std::uint32_t record);
     void resort(Field field, bool ascending);
 

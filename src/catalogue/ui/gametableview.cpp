@@ -1,6 +1,7 @@
 #include "catalogue/ui/gametableview.h"
 
 #include "catalogue/ui/familydelegate.h"
+#include "widgets/myscrollers.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -37,6 +38,8 @@ GameTableView::GameTableView(QWidget* parent)
     setSortingEnabled(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollBar(new MyScrollers(Qt::Vertical));
+    setHorizontalScrollBar(new MyScrollers(Qt::Horizontal));
     setTabKeyNavigation(false);
     setIconSize(QSize(14, 14));
     // Rows of one fixed height: nothing is asked of 45,000 records before the first paint.

@@ -91,7 +91,8 @@ QString ranked(const SampleRecords& sample, const GameSearch& search, const QStr
     const Found found = search.find(Query(query));
     std::vector<std::uint32_t> records = found.records.records();
     if (!found.ranks.empty())
-        std::ranges::stable_sort(records, {}, [&](std::uint32_t record) { return found.ranks[record]; });
+        std::ranges::sort(records, {},
+                          [&](std::uint32_t record) { return std::pair(found.ranks[record], record); });
     return names(sample, records);
 }
 
