@@ -86,5 +86,22 @@
     <message id="mini_main"><source></source><translation>Game list</translation></message>
     <message id="mini_picture"><source></source><translation>Picture of the game</translation></message>
     <message id="mini_set"><source></source><translation>Set name or title</translation></message>
+    <message id="favorites_window"><source></source><translation>Tessera  |  Favourites</translation></message>
+    <message id="favorites_list"><source></source><translation>Favourites</translation></message>
+    <message id="favorites_empty"><source></source><translation>No favourites yet. Ctrl+D adds the selected game of the list.</translation></message>
+    <message id="favorites_none_recent"><source></source><translation>None of the favourites was played lately.</translation></message>
+    <message id="favorites_edit"><source></source><translation>Edit the selected favourite</translation></message>
+    <message id="favorites_remove"><source></source><translation>Remove the selected favourites</translation></message>
+    <message id="favorites_recent"><source></source><translation>Recently played</translation></message>
+    <message id="favorites_mini"><source></source><translation>Mini window</translation></message>
+    <message id="favorites_unsaved"><source></source><translation>Not saved yet</translation></message>
+    <message id="favorites_save"><source></source><translation>Save favourites</translation></message>
+    <message id="favorites_count"><source></source><translation>%1 favourites</translation></message>
+    <message id="favorites_count_some"><source></source><translation>%1 of %2 favourites</translation></message>
+    <message id="menu_savefavorites"><source></source><translation>Save Fa&amp;vourites</translation></message>
+    <message id="menu_addfavorite"><source></source><translation>Add to &amp;Favourites</translation></message>
+    <message id="menu_clearplayed"><source></source><translation>&amp;Clear What Was Played…</translation></message>
+    <message id="menu_favorites"><source></source><translation>&amp;Favourites</translation></message>
+    <message id="menu_mini"><source></source><translation>M&amp;ini Window</translation></message>
 </context>
 </TS>

@@ -86,5 +86,22 @@
     <message id="mini_main"><source></source><translation>ゲームリスト</translation></message>
     <message id="mini_picture"><source></source><translation>ゲームの画像</translation></message>
     <message id="mini_set"><source></source><translation>セット名またはタイトル</translation></message>
+    <message id="favorites_window"><source></source><translation>Tessera  |  お気に入り</translation></message>
+    <message id="favorites_list"><source></source><translation>お気に入り</translation></message>
+    <message id="favorites_empty"><source></source><translation>お気に入りはまだありません。リストで選択したゲームを Ctrl+D で追加します。</translation></message>
+    <message id="favorites_none_recent"><source></source><translation>最近プレイしたお気に入りはありません。</translation></message>
+    <message id="favorites_edit"><source></source><translation>選択したお気に入りを編集</translation></message>
+    <message id="favorites_remove"><source></source><translation>選択したお気に入りを削除</translation></message>
+    <message id="favorites_recent"><source></source><translation>最近プレイ</translation></message>
+    <message id="favorites_mini"><source></source><translation>ミニウインドウ</translation></message>
+    <message id="favorites_unsaved"><source></source><translation>未保存</translation></message>
+    <message id="favorites_save"><source></source><translation>お気に入りを保存</translation></message>
+    <message id="favorites_count"><source></source><translation>お気に入り %1 件</translation></message>
+    <message id="favorites_count_some"><source></source><translation>お気に入り %2 件中 %1 件</translation></message>
+    <message id="menu_savefavorites"><source></source><translation>お気に入りを保存(&amp;V)</translation></message>
+    <message id="menu_addfavorite"><source></source><translation>お気に入りに追加(&amp;F)</translation></message>
+    <message id="menu_clearplayed"><source></source><translation>プレイ記録を消去(&amp;C)…</translation></message>
+    <message id="menu_favorites"><source></source><translation>お気に入り(&amp;F)</translation></message>
+    <message id="menu_mini"><source></source><translation>ミニウインドウ(&amp;I)</translation></message>
 </context>
 </TS>

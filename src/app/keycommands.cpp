@@ -1,43 +1,39 @@
 #include "app/keycommands.h"
 
-#include "app/mainwindow.h"
-#include "catalogue/ui/gamelistcontroller.h"
-#include "catalogue/ui/gametableview.h"
-#include "catalogue/ui/recordediting.h"
-
-#include <QScrollBar>
+#include <QWidget>
 
 #include <algorithm>
 
 namespace tessera {
 
-KeyCommands::KeyCommands(MainWindow& mainWindow, QWidget& logWindow, QAbstractScrollArea& log,
-                         GameListController& list, RecordEditing& editing, QObject* parent)
+KeyCommands::KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run, QObject* parent)
     : QObject(parent)
-    , m_editing(editing)
+    , m_rows(std::move(rows))
+    , m_run(std::move(run))
 {
-    using Kind = KeyWindow::Kind;
-    m_keyWindow.watch(mainWindow, Kind::Main);
-    m_keyWindow.watch(logWindow, Kind::Log);
+    for (const Row& row : m_rows)
+        m_keyWindow.watch(*row.widget, row.window);
+    connect(&m_keyWindow, &KeyWindow::changed, this, &KeyCommands::keyWindowChanged);
+}
 
-    const auto page = [bar = log.verticalScrollBar()](QAbstractSlider::SliderAction action) {
-        return [bar, action] { bar->triggerAction(action); };
-    };
-    // Deliberate: in a window with text the commands move by one page only, not to its top or end.
-    // clang-format off
-    m_rows = {
-        {Kind::Main, [&list] { list.gameShuffle(); }, [t = mainWindow.gameTable] { t->scrollToTop(); },  [t = mainWindow.gameTable] { t->scrollToBottom(); }},
-        {Kind::Log,  nullptr,                         page(QAbstractSlider::SliderPageStepSub),          page(QAbstractSlider::SliderPageStepAdd)},
-    };
-    // clang-format on
+const KeyCommands::Row* KeyCommands::row() const
+{
+    const auto row = std::ranges::find(m_rows, m_keyWindow.kind(), &Row::window);
+    return row == m_rows.end() ? nullptr : &*row;
+}
+
+QUndoStack* KeyCommands::undoStack() const
+{
+    const Row* key = row();
+    return key != nullptr && key->undo != nullptr ? key->undo : m_rows.front().undo;
 }
 
 // Any other window: nothing.
 void KeyCommands::run(Command Row::* command)
 {
-    const auto row = std::ranges::find(m_rows, m_keyWindow.kind(), &Row::window);
-    if (row != m_rows.end() && (*row).*command)
-        ((*row).*command)();
+    const Row* key = row();
+    if (key != nullptr && key->*command)
+        (key->*command)();
 }
 
 void KeyCommands::mameslotAction()
@@ -55,9 +51,21 @@ void KeyCommands::scrollsEndAction()
     run(&Row::end);
 }
 
-void KeyCommands::editRecord()
+// Any other window has no game, which is for the launch to say.
+void KeyCommands::menuRun()
 {
-    m_editing.editRecord();
+    const Row* key = row();
+    m_run(key != nullptr && key->game ? key->game() : QString());
+}
+
+void KeyCommands::remove()
+{
+    run(&Row::remove);
+}
+
+void KeyCommands::save()
+{
+    run(&Row::save);
 }
 
 } // namespace tessera

@@ -5,44 +5,58 @@
 #include <functional>
 #include <vector>
 
-class QAbstractScrollArea;
+class QUndoStack;
 
 namespace tessera {
 
-class GameListController;
-class MainWindow;
-class RecordEditing;
-
-/// The commands that act on the window that is key: one table of windows by commands.
+/// The commands that act on the window that is key: one table of windows by commands. Its columns differ from
+/// each other on purpose.
 class KeyCommands : public QObject
 {
     Q_OBJECT
 
 public:
-    KeyCommands(MainWindow& mainWindow, QWidget& logWindow, QAbstractScrollArea& log,
-                GameListController& list, RecordEditing& editing, QObject* parent = nullptr);
+    using Command = std::function<void()>;
+
+    struct Row {
+        KeyWindow::Kind window;
+        QWidget* widget;
+        Command random;
+        Command home;
+        Command end;
+        std::function<QString()> game; ///< that is run
+        Command remove;
+        Command save;
+        QUndoStack* undo;
+    };
+
+    /// `run` starts a game by its reference, the empty one included.
+    KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run,
+                QObject* parent = nullptr);
+
+    KeyWindow::Kind keyWindow() const { return m_keyWindow.kind(); }
+    /// Nothing to undo in a window without edits of its own: the catalogue's, which is the first row's.
+    QUndoStack* undoStack() const;
 
 public Q_SLOTS:
     /// A random game.
     void mameslotAction();
     void scrollsHomeAction();
     void scrollsEndAction();
-    void editRecord();
+    void menuRun();
+    void remove();
+    void save();
+
+Q_SIGNALS:
+    void keyWindowChanged();
 
 private:
-    using Command = std::function<void()>;
-    struct Row {
-        KeyWindow::Kind window;
-        Command random;
-        Command home;
-        Command end;
-    };
-
+    const Row* row() const;
     void run(Command Row::* command);
 
-    RecordEditing& m_editing;
-    KeyWindow m_keyWindow;
     std::vector<Row> m_rows;
+    std::function<void(const QString& game)> m_run;
+    KeyWindow m_keyWindow;
 };
 
 } // namespace tessera

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <utility>
+
 namespace tessera {
 
 namespace {
@@ -39,8 +41,11 @@ void KeyWindow::watch(QWidget& window, Kind kind)
 void KeyWindow::focusChanged(QWindow* focused)
 {
     const QWidget* window = focused == nullptr ? nullptr : widgetOf(focused);
-    if (window != nullptr && !isPassing(*window))
-        m_kind = m_kinds.value(window, Kind::Other);
+    if (window == nullptr || isPassing(*window))
+        return;
+    const Kind kind = m_kinds.value(window, Kind::Other);
+    if (std::exchange(m_kind, kind) != kind)
+        Q_EMIT changed();
 }
 
 } // namespace tessera

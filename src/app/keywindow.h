@@ -15,12 +15,15 @@ class KeyWindow : public QObject
     Q_OBJECT
 
 public:
-    enum class Kind { Main, Log, Other };
+    enum class Kind { Main, Mini, Favorites, Log, Editor, FavoritesEditor, Other };
 
     explicit KeyWindow(QObject* parent = nullptr);
 
     void watch(QWidget& window, Kind kind);
     Kind kind() const { return m_kind; }
+
+Q_SIGNALS:
+    void changed();
 
 private:
     void focusChanged(QWindow* focused);

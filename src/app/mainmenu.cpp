@@ -36,7 +36,8 @@ constexpr const char* window = textKey("menu_window");
 // clang-format off
 constexpr std::array rows{
     MenuRow{file,     textKey("menu_openrom"),     "Ctrl+O",       &Hub::openROMfile},
-    MenuRow{file,     textKey("menu_save"),        "Ctrl+S",       &Hub::saveAction},
+    MenuRow{file,     textKey("menu_save"),        "Ctrl+S",       &Hub::saveOfKeyWindow},
+    MenuRow{file,     textKey("menu_savefavorites"), nullptr,      &Hub::saveFavoritesNow},
     MenuRow{file,     nullptr,                     nullptr,        nullptr},
     MenuRow{file,     textKey("menu_rebuild"),     nullptr,        &Hub::rebuildCatalogue},
     MenuRow{file,     textKey("menu_tools"),       "Ctrl+T",       &Hub::utilityOrderFront},
@@ -50,7 +51,7 @@ constexpr std::array rows{
     MenuRow{edit,     textKey("menu_copy"),        "Ctrl+C",       &Hub::copySelection},
     MenuRow{edit,     textKey("menu_editcell"),    nullptr,        &Hub::editCell},
     MenuRow{edit,     textKey("menu_editrecord"),  "Ctrl+E",       &Hub::editRecord},
-    MenuRow{edit,     textKey("menu_removerecord"), "Delete", &Hub::removeRecord},
+    MenuRow{edit,     textKey("menu_removerecord"), "Delete", &Hub::removeOfKeyWindow},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
     MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
     MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},
@@ -62,12 +63,18 @@ constexpr std::array rows{
     MenuRow{view,     textKey("menu_bigger"),      "Ctrl++; Ctrl+=", &Hub::makeTextBigger},
     MenuRow{view,     textKey("menu_smaller"),     "Ctrl+-",       &Hub::makeTextSmaller},
     MenuRow{view,     textKey("menu_font"),        nullptr,        &Hub::showFontPanel1},
-    MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::playSelected},
+    MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::menuRun},
     MenuRow{game,     textKey("menu_stop"),        "Ctrl+.",       &Hub::stopGame},
     MenuRow{game,     textKey("menu_random"),      "Ctrl+G",       &Hub::mameslotAction},
+    MenuRow{game,     nullptr,                     nullptr,        nullptr},
+    MenuRow{game,     textKey("menu_addfavorite"), "Ctrl+D",       &Hub::addFavorite},
+    MenuRow{game,     textKey("menu_clearplayed"), nullptr,        &Hub::clearPlayed},
     MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
+    MenuRow{window,   textKey("menu_favorites"),   "Ctrl+2",       &Hub::windowFavorites},
+    MenuRow{window,   textKey("menu_mini"),        "Ctrl+3",       &Hub::windowMini},
+    MenuRow{window,   nullptr,                     nullptr,        nullptr},
     MenuRow{window,   textKey("menu_log"),         "Ctrl+L",       &Hub::showLogWindow},
     MenuRow{window,   textKey("menu_logfront"),    nullptr,        &Hub::windowLog},
 };
@@ -115,17 +122,6 @@ void addColumnsMenu(QMenu& viewMenu, Tessera_AppDelegate& delegate)
                      [columns, &delegate] { delegate.mainWindow().gameTable->fillColumnsMenu(*columns); });
 }
 
-// Undo and Redo are dim while there is nothing to undo or redo.
-void followUndo(QMenuBar& bar, QUndoStack& stack)
-{
-    auto* undo = bar.findChild<QAction*>(QStringLiteral("menu_undo"));
-    auto* redo = bar.findChild<QAction*>(QStringLiteral("menu_redo"));
-    undo->setEnabled(stack.canUndo());
-    redo->setEnabled(stack.canRedo());
-    QObject::connect(&stack, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
-    QObject::connect(&stack, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
-}
-
 } // namespace
 
 void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
@@ -150,7 +146,14 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
     }
     addRecentMenu(*menuOf(bar, file), delegate);
     addColumnsMenu(*menuOf(bar, view), delegate);
-    followUndo(bar, *delegate.windowWillReturnUndoManager());
+}
+
+void carryMenuKeys(const QMenuBar& bar, QWidget& window)
+{
+    for (QAction* action : bar.findChildren<QAction*>()) {
+        if (!action->shortcut().isEmpty())
+            window.addAction(action);
+    }
 }
 
 } // namespace tessera

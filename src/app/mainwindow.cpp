@@ -10,6 +10,7 @@
 #include "platform/defaultscontroller.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
+#include "widgets/toolbutton.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -83,17 +84,6 @@ MainWindow::MainWindow(DefaultsController& defaults)
     sayWhatToDo(false);
 }
 
-QToolButton* MainWindow::toolButton(const QString& icon, const QString& name)
-{
-    auto* button = new QToolButton;
-    button->setIcon(theme::icon(icon));
-    button->setToolTip(name);
-    button->setAccessibleName(name);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setObjectName(icon + QStringLiteral("Button"));
-    return button;
-}
-
 QWidget* MainWindow::makeToolRow()
 {
     auto* row = new QWidget;
@@ -107,6 +97,7 @@ QWidget* MainWindow::makeToolRow()
     stopButton->setEnabled(false);
     randomButton = toolButton(QStringLiteral("random"), qtTrId("main_random"));
     filterButton = toolButton(QStringLiteral("filter"), qtTrId("main_filter"));
+    favoritesButton = toolButton(QStringLiteral("star"), qtTrId("favorites_list"));
     logButton = toolButton(QStringLiteral("log"), qtTrId("main_log"));
     toolsButton = toolButton(QStringLiteral("tools"), qtTrId("main_tools"));
     preferencesButton = toolButton(QStringLiteral("preferences"), qtTrId("main_preferences"));
@@ -116,7 +107,7 @@ QWidget* MainWindow::makeToolRow()
     layout->setSpacing(8);
     layout->addWidget(playButton);
     for (QToolButton* button :
-         {stopButton, randomButton, filterButton, logButton, toolsButton, preferencesButton})
+         {stopButton, randomButton, filterButton, favoritesButton, logButton, toolsButton, preferencesButton})
         layout->addWidget(button);
     layout->addStretch(1);
     searchField->setMaximumWidth(420);

@@ -38,6 +38,7 @@ public:
     QToolButton* stopButton;
     QToolButton* randomButton;
     QToolButton* filterButton;
+    QToolButton* favoritesButton;
     QToolButton* logButton;
     QToolButton* toolsButton;
     QToolButton* preferencesButton;
@@ -72,7 +73,6 @@ private:
     void makeStatusLine();
     void applyRowHeight();
     void sayWhatToDo(bool rebuilding);
-    QToolButton* toolButton(const QString& icon, const QString& name);
 
     DefaultsController& m_defaults;
     bool m_isFiltered = false;

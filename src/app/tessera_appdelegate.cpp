@@ -2,20 +2,28 @@
 
 #include "app/cataloguerebuild.h"
 #include "app/emptystate.h"
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
 #include "app/finding.h"
 #include "app/keycommands.h"
+#include "app/keytable.h"
 #include "app/mainmenu.h"
 #include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/recordeditor.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
+#include "favourites/ui/favouriteeditor.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -56,6 +64,7 @@ Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& default
     , m_defaults(defaults)
     , m_recent(recent)
     , m_catalogue(cataloguePath)
+    , m_places(defaults)
 {
     initialize();
     m_catalogue.readAhead();
@@ -107,21 +116,29 @@ void Tessera_AppDelegate::loadInterface()
     m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
                                           [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
-    m_keyCommands = std::make_unique<KeyCommands>(*m_mainWindow, *m_logWindow,
-                                                  *m_logWindow->infomationTextView, *m_gameList, *m_editing);
     m_launch = std::make_unique<LaunchController>(
         LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
                     SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
                                      [this] { return m_gameList->tableViewSelectionTitleE(); },
                                      [this] { return m_gameList->tableViewSelectionTitleJ(); }},
-                    [](const QString&) { return QString(); }});
+                    [this](const QString& name) {
+                        return m_favorites->controller().search_priorityOption(name);
+                    }});
+    m_favorites = std::make_unique<FavoritesDesk>(
+        m_desktop, m_defaults, m_catalogue, *m_gameList,
+        [this](const QString& name) { return m_launch->shownCommandLine(name); });
+    m_mini = std::make_unique<MiniDesk>(m_catalogue, m_finding->finder(), m_defaults);
+    m_switching = std::make_unique<WindowSwitching>(*m_mainWindow, m_mini->window(), m_favorites->window(),
+                                                    [this] { m_gameList->tableViewSelectionDidChange(); });
     m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
     m_rebuild = std::make_unique<CatalogueRebuild>(
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
         [this] { m_chooser->exeSelect(); });
-    for (const char* name : {"menu_home", "menu_end"})
-        m_logWindow->addAction(m_mainWindow->menuBar()->findChild<QAction*>(QLatin1String(name)));
+    m_keyCommands = std::make_unique<KeyCommands>(keyTable(*this),
+                                                  [this](const QString& game) { runGame(game); });
+    keepWindowPlaces();
     joinRooms();
+    joinViews();
     openCatalogue();
 }
 
@@ -183,6 +200,64 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
 }
 
+void Tessera_AppDelegate::joinViews()
+{
+    connect(m_launch.get(), &LaunchController::started, &m_favorites->played(),
+            &PlayedController::notePlayed);
+    connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
+            &LaunchController::Launchusing);
+    connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);
+    connect(m_favorites.get(), &FavoritesDesk::miniWanted, this, &Tessera_AppDelegate::windowMini);
+    connect(m_mainWindow->favoritesButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowFavorites);
+    FavoritesWindow& favorites = m_favorites->window();
+    favorites.takeMenus(*m_mainWindow->menuBar());
+    connect(favorites.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
+    connect(m_launch.get(), &LaunchController::runningChanged, &favorites, &FavoritesWindow::setRunning);
+    connect(m_launch.get(), &LaunchController::statusMessage, &favorites, &FavoritesWindow::say);
+
+    MiniWindow& mini = m_mini->window();
+    connect(&mini, &MiniWindow::playRequested, this, [this] { runGame(m_mini->game()); });
+    connect(mini.randomButton, &QToolButton::clicked, this, &Tessera_AppDelegate::randomForMini);
+    connect(mini.mainButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowMain);
+    connect(&mini, &TransparentWindow::orderedOut, this, &Tessera_AppDelegate::windowMain);
+    // Without a menu bar of its own a window still takes the menus' keys.
+    for (QWidget* window : std::initializer_list<QWidget*>{&mini, m_logWindow.get()})
+        carryMenuKeys(*m_mainWindow->menuBar(), *window);
+
+    connect(m_keyCommands.get(), &KeyCommands::keyWindowChanged, this, &Tessera_AppDelegate::followUndo);
+    for (QUndoStack* stack : {&m_catalogue.undoStack(), &m_favorites->favourites().undoStack()}) {
+        connect(stack, &QUndoStack::canUndoChanged, this, &Tessera_AppDelegate::followUndo);
+        connect(stack, &QUndoStack::canRedoChanged, this, &Tessera_AppDelegate::followUndo);
+    }
+    followUndo();
+}
+
+// Undo and Redo are dim while there is nothing to undo or redo in the key window.
+void Tessera_AppDelegate::followUndo()
+{
+    const QUndoStack& stack = *m_keyCommands->undoStack();
+    const QMenuBar& bar = *m_mainWindow->menuBar();
+    bar.findChild<QAction*>(QStringLiteral("menu_undo"))->setEnabled(stack.canUndo());
+    bar.findChild<QAction*>(QStringLiteral("menu_redo"))->setEnabled(stack.canRedo());
+}
+
+void Tessera_AppDelegate::randomForMini()
+{
+    m_gameList->gameShuffle();
+    m_mini->setGame(m_gameList->tableViewSelectionROM());
+}
+
+void Tessera_AppDelegate::keepWindowPlaces()
+{
+    m_places.keep(m_favorites->window(), keys::FavoritesWindowGeometry.name.data());
+    m_places.keep(m_mini->window(), keys::MiniWindowGeometry.name.data());
+    m_places.keep(*m_logWindow, keys::LogWindowGeometry.name.data());
+    m_places.keep(m_utility->window(), keys::UtilityWindowGeometry.name.data());
+    m_places.keep(m_editing->editor(), keys::RecordEditorGeometry.name.data());
+    m_places.keep(m_favorites->editing().editor(), keys::FavoritesEditorGeometry.name.data());
+    m_places.keep(m_finding->panel(), keys::FilterPanelGeometry.name.data());
+}
+
 void Tessera_AppDelegate::openCatalogue()
 {
     QDir().mkpath(applicationSupportFolder());
@@ -200,6 +275,8 @@ void Tessera_AppDelegate::awakeFromNib()
     m_launch->LaunchemuPopAction();
     m_mainWindow->restore();
     m_gameList->main_tableViewSort();
+    m_favorites->awakeFromNib();
+    m_mini->awakeFromNib();
 }
 
 void Tessera_AppDelegate::applicationDidFinishLaunching()
@@ -293,13 +370,13 @@ void Tessera_AppDelegate::saveAction()
 void Tessera_AppDelegate::undo()
 {
     if (!m_rebuild->isRunning())
-        m_catalogue.undoStack().undo();
+        m_keyCommands->undoStack()->undo();
 }
 
 void Tessera_AppDelegate::redo()
 {
     if (!m_rebuild->isRunning())
-        m_catalogue.undoStack().redo();
+        m_keyCommands->undoStack()->redo();
 }
 
 void Tessera_AppDelegate::editCell()
@@ -336,7 +413,10 @@ void Tessera_AppDelegate::showAllGames()
 
 void Tessera_AppDelegate::editRecord()
 {
-    m_keyCommands->editRecord();
+    if (m_keyCommands->keyWindow() == KeyWindow::Kind::Favorites)
+        m_favorites->editing().editRecord();
+    else
+        m_editing->editRecord();
 }
 
 void Tessera_AppDelegate::removeRecord()
@@ -373,6 +453,44 @@ void Tessera_AppDelegate::rebuildCatalogue()
     m_rebuild->rebuild();
 }
 
+void Tessera_AppDelegate::menuRun()
+{
+    m_keyCommands->menuRun();
+}
+
+void Tessera_AppDelegate::runGame(const QString& game)
+{
+    if (game.isEmpty())
+        m_desktop.beep();
+    else
+        m_launch->Launchusing(game);
+}
+
+void Tessera_AppDelegate::removeOfKeyWindow()
+{
+    m_keyCommands->remove();
+}
+
+void Tessera_AppDelegate::saveOfKeyWindow()
+{
+    m_keyCommands->save();
+}
+
+void Tessera_AppDelegate::saveFavoritesNow()
+{
+    m_favorites->controller().saveFavoritesNow();
+}
+
+void Tessera_AppDelegate::addFavorite()
+{
+    m_favorites->controller().addFavorite();
+}
+
+void Tessera_AppDelegate::clearPlayed()
+{
+    m_favorites->played().clearPlayed();
+}
+
 void Tessera_AppDelegate::playSelected()
 {
     m_gameList->tableViewDoubleAction();
@@ -400,8 +518,17 @@ void Tessera_AppDelegate::saveLogAction()
 
 void Tessera_AppDelegate::windowMain()
 {
-    m_gameList->tableViewSelectionDidChange();
-    bringForward(*m_mainWindow);
+    m_switching->windowMain();
+}
+
+void Tessera_AppDelegate::windowFavorites()
+{
+    m_switching->windowFavorites();
+}
+
+void Tessera_AppDelegate::windowMini()
+{
+    m_switching->windowMini();
 }
 
 void Tessera_AppDelegate::showLogWindow()
@@ -458,6 +585,7 @@ void Tessera_AppDelegate::Setwindowtitle()
 {
     m_mainWindow->setWindowTitle(QStringLiteral("Tessera  |  ")
                                  + m_pages->general().launchusingPop->currentText());
+    m_mini->window().setEmulator(m_pages->general().launchusingPop->currentText());
 }
 
 void Tessera_AppDelegate::terminate()
@@ -500,7 +628,10 @@ void Tessera_AppDelegate::applicationWillTerminate()
 {
     m_rebuild->cancel();
     m_launch->stopProcess();
+    m_favorites->controller().saveFavorites();
     m_mainWindow->remember();
+    m_favorites->window().remember();
+    m_places.remember();
     m_defaults.defaults().synchronize();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/windowplaces.h"
 #include "catalogue/catalogue.h"
 #include "platform/defaultscontroller.h"
 
@@ -14,6 +15,7 @@ namespace tessera {
 class CatalogueRebuild;
 class Desktop;
 class EmulatorTask;
+class FavoritesDesk;
 class GameListController;
 class Finding;
 class KeyCommands;
@@ -21,6 +23,7 @@ class LaunchController;
 class LaunchPages;
 class LogWindow;
 class MainWindow;
+class MiniDesk;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
@@ -29,6 +32,7 @@ class RecordEditing;
 class RowColors;
 class TableFont;
 class UtilityObject;
+class WindowSwitching;
 
 /// The hub: builds the rooms, hands each what it needs, and joins them. Its slots are the program's commands,
 /// one line each.
@@ -62,12 +66,22 @@ public:
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     UtilityObject& utility() { return *m_utility; }
+    FavoritesDesk& favorites() { return *m_favorites; }
+    MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     RecentDocuments& recentDocuments() { return m_recent; }
 
 public Q_SLOTS:
     void saveAction();
+    void saveOfKeyWindow();
+    void saveFavoritesNow();
+    void addFavorite();
+    void clearPlayed();
+    void removeOfKeyWindow();
+    void menuRun();
+    /// A random game's set name into the mini window's field.
+    void randomForMini();
     void undo();
     void redo();
     void editCell();
@@ -89,6 +103,8 @@ public Q_SLOTS:
     void selectROMfolder();
     void saveLogAction();
     void windowMain();
+    void windowFavorites();
+    void windowMini();
     void showLogWindow();
     void windowLog();
     void showPrefsWindow();
@@ -112,6 +128,10 @@ private:
     void loadInterface();
     void addAppearancePage();
     void joinRooms();
+    void joinViews();
+    void keepWindowPlaces();
+    void followUndo();
+    void runGame(const QString& game);
     void openCatalogue();
     void awakeFromNib();
     void applicationDidFinishLaunching();
@@ -133,7 +153,11 @@ private:
     std::unique_ptr<GameListController> m_gameList;
     std::unique_ptr<Finding> m_finding;
     std::unique_ptr<RecordEditing> m_editing;
+    std::unique_ptr<FavoritesDesk> m_favorites;
+    std::unique_ptr<MiniDesk> m_mini;
+    std::unique_ptr<WindowSwitching> m_switching;
     std::unique_ptr<KeyCommands> m_keyCommands;
+    WindowPlaces m_places;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;
     std::unique_ptr<EmulatorTask> m_task;

@@ -179,6 +179,16 @@ TESSERA_CHOSEN(MainWindowColumns);
 TESSERA_CHOSEN(MainWindowSplit);
 TESSERA_CHOSEN(GameListChip);
 TESSERA_CHOSEN(GameListFamilies);
+TESSERA_CHOSEN(FavoritesWindowColumns);
+TESSERA_CHOSEN(FavoritesWindowSplit);
+TESSERA_CHOSEN(FavoritesWindowGeometry);
+TESSERA_CHOSEN(MiniWindowGeometry);
+TESSERA_CHOSEN(MiniWindowAbove);
+TESSERA_CHOSEN(LogWindowGeometry);
+TESSERA_CHOSEN(UtilityWindowGeometry);
+TESSERA_CHOSEN(RecordEditorGeometry);
+TESSERA_CHOSEN(FavoritesEditorGeometry);
+TESSERA_CHOSEN(FilterPanelGeometry);
 
 #undef TESSERA_FLAG
 #undef TESSERA_INDEX

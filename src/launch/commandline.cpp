@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace tessera {
 
@@ -50,6 +51,18 @@ CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QSt
 QStringList ownOptions(const QString& text)
 {
     return text.isEmpty() ? QStringList() : text.split(QLatin1Char(' '));
+}
+
+QString shellWords(const QStringList& words)
+{
+    static const QRegularExpression odd(QStringLiteral("[^A-Za-z0-9_@%+=:,./-]"));
+    QStringList quoted;
+    for (QString word : words) {
+        if (word.isEmpty() || word.contains(odd))
+            word = u'\'' + word.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+        quoted << word;
+    }
+    return quoted.join(u' ');
 }
 
 QString gameName(const QString& game)

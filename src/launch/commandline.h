@@ -21,6 +21,9 @@ CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QSt
 /// An option text parted at every single blank, so that two of them make an empty element.
 QStringList ownOptions(const QString& text);
 
+/// In one line as a shell reads it: what holds more than plain characters stands in quotes.
+QString shellWords(const QStringList& words);
+
 /// The last component of an archive's path without its extension; a short name as it is.
 QString gameName(const QString& game);
 

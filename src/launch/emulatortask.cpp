@@ -80,6 +80,7 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
     process->setWorkingDirectory(workingFolder);
     process->setProgram(executable);
     process->setArguments(arguments);
+    connect(process, &QProcess::started, this, &EmulatorTask::started);
     connect(process, &QProcess::readyReadStandardOutput, this, &EmulatorTask::pump);
     connect(process, &QProcess::finished, this, [this] {
         m_exited = true;

@@ -29,6 +29,8 @@ public:
     void stop();
 
 Q_SIGNALS:
+    /// The program runs.
+    void started();
     /// Text as it comes, in pieces that never part a character; what is not UTF-8 reads U+FFFD.
     void output(const QString& text);
     /// After the last output: the exit status, or the number of the signal that ended the run.

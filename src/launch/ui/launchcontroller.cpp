@@ -31,6 +31,7 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
 {
+    connect(&m_parts.task, &EmulatorTask::started, this, [this] { Q_EMIT started(m_game); });
     connect(&m_parts.task, &EmulatorTask::output, this, &LaunchController::getData);
     connect(&m_parts.task, &EmulatorTask::ended, this, &LaunchController::taskEnded);
     connect(&m_parts.task, &EmulatorTask::failedToStart, this, &LaunchController::taskFailedToStart);
@@ -82,16 +83,29 @@ void LaunchController::Launchusing(const QString& game)
         LaunchTask_SDLMAME(game);
 }
 
-void LaunchController::LaunchTask_SDLMAME(const QString& game)
+LaunchController::Launch LaunchController::launchOf(const QString& game) const
 {
     const SelectionReaders& selection = m_parts.selection;
     const LaunchOptions options
         = liveOptions(m_parts.pages,
                       {selection.tableViewSelectionROM(), selection.tableViewSelectionTitleE(),
                        selection.tableViewSelectionTitleJ()});
+    return {executable(), game, argumentsArray(options), ownOptions(m_parts.search_priorityOption(game))};
+}
+
+QString LaunchController::shownCommandLine(const QString& game)
+{
+    const Launch launch = launchOf(game);
+    const auto answer = m_parts.profiles.remembered(launch.executable);
+    const CommandLine line
+        = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
+    return shellWords(QStringList{launch.executable} + line.arguments);
+}
+
+void LaunchController::LaunchTask_SDLMAME(const QString& game)
+{
     noteRecent(game);
-    m_waiting = Launch{executable(), game, argumentsArray(options),
-                       ownOptions(m_parts.search_priorityOption(game))};
+    m_waiting = launchOf(game);
     if (const auto answer = m_parts.profiles.remembered(m_waiting->executable))
         profileAnswered(m_waiting->executable, *answer);
     else
@@ -127,6 +141,7 @@ void LaunchController::begin(const Launch& launch, const ProfileAnswer& answer)
     if (!line.leftOut.isEmpty())
         appendOutput(line.leftOutLine() + QLatin1Char('\n'));
     Q_EMIT statusMessage(aboutGame(textKey("launch_running")));
+    m_game = launch.game;
     m_parts.task.start(launch.executable, QFileInfo(launch.executable).path(), line.arguments);
 }
 

@@ -51,6 +51,9 @@ public:
     /// False when the user wants to go on playing. The game goes on in any case, until the program ends.
     bool confirmQuit();
     bool romsfolder_FoundCheck() const;
+    /// What would be started for a short name, as a shell would take it; the emulator's own wishes are respected
+    /// where it was asked already.
+    QString shownCommandLine(const QString& game);
     /// Asks the emulator for its options now, so that no launch has to wait for it.
     void prepareProfile();
 
@@ -72,6 +75,8 @@ Q_SIGNALS:
     /// Another launch mode is selected: window titles name it.
     void launchModeChanged();
     void runningChanged(bool running);
+    /// The game runs, by the reference that it was started with.
+    void started(const QString& game);
     void statusMessage(const QString& text);
 
 private:
@@ -82,6 +87,7 @@ private:
         QStringList built;
         QStringList own;
     };
+    Launch launchOf(const QString& game) const;
     void begin(const Launch& launch, const ProfileAnswer& answer);
     void profileAnswered(const QString& executable, const ProfileAnswer& answer);
     void noteRecent(const QString& game);
@@ -93,6 +99,7 @@ private:
     LaunchParts m_parts;
     std::optional<Launch> m_waiting;
     QString m_name; ///< of the game that was started last
+    QString m_game; ///< its reference
 };
 
 } // namespace tessera

@@ -1,0 +1,108 @@
+#include "app/favoritesdesk.h"
+
+#include "app/emptystate.h"
+#include "app/favoriteswindow.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/ui/chipbar.h"
+#include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "favourites/favouritespath.h"
+#include "favourites/ui/favouritestable.h"
+#include "platform/defaultscontroller.h"
+
+#include <QFileInfo>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+
+// Beside our own folder in the user's application support.
+QString pathBeside(const Catalogue& catalogue)
+{
+    return favouritesPath(QFileInfo(QFileInfo(catalogue.path()).absolutePath()).absolutePath());
+}
+
+} // namespace
+
+FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Catalogue& catalogue,
+                             GameListController& list,
+                             std::function<QString(const QString& name)> commandLine, QObject* parent)
+    : QObject(parent)
+    , m_defaults(defaults)
+    , m_window(std::make_unique<FavoritesWindow>(defaults))
+    , m_favourites(pathBeside(catalogue))
+    , m_played(playedPath(m_favourites.path()))
+    , m_controller({desktop, defaults, m_favourites, m_played, catalogue,
+                    [&list] { return list.selectedRecord(); }})
+    , m_editing(m_favourites, m_controller, std::move(commandLine))
+    , m_playing(m_played, desktop, defaults)
+{
+    m_controller.setTable(m_window->favoritesTable);
+    connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
+    connect(&m_controller, &UCAppController::selectionChanged, this, &FavoritesDesk::showSelection);
+    connect(&m_controller, &UCAppController::markChanged, m_window->factsPanel, &FactsPanel::showMark);
+    connect(&m_controller, &UCAppController::unsavedChanged, m_window.get(), &FavoritesWindow::showUnsaved);
+    connect(&m_controller, &UCAppController::countChanged, this, &FavoritesDesk::showCount);
+    connect(&m_controller, &UCAppController::statusMessage, m_window.get(), &FavoritesWindow::say);
+    joinWindow();
+}
+
+FavoritesDesk::~FavoritesDesk() = default;
+
+void FavoritesDesk::joinWindow()
+{
+    FavoritesWindow& window = *m_window;
+    connect(window.playButton, &QPushButton::clicked, &m_controller,
+            &UCAppController::tableViewDoubleAction2);
+    connect(window.randomButton, &QToolButton::clicked, &m_controller, &UCAppController::gameShuffle2);
+    connect(window.editButton, &QToolButton::clicked, &m_editing, &FavouriteEditing::editRecord);
+    connect(window.removeButton, &QToolButton::clicked, &m_controller,
+            &UCAppController::removeFavoritesTable);
+    connect(window.saveButton, &QPushButton::clicked, &m_controller, &UCAppController::saveFavoritesNow);
+    connect(window.recentChip, &QAbstractButton::clicked, this, &FavoritesDesk::showRecentlyPlayed);
+    connect(window.emptyState, &EmptyState::acted, this, &FavoritesDesk::actOnEmptyList);
+    connect(window.mainButton, &QToolButton::clicked, this, &FavoritesDesk::mainWanted);
+    connect(window.miniButton, &QToolButton::clicked, this, &FavoritesDesk::miniWanted);
+    connect(&window, &FavoritesWindow::closeRequested, this, &FavoritesDesk::mainWanted);
+}
+
+void FavoritesDesk::awakeFromNib()
+{
+    m_playing.open();
+    m_controller.awakeFromNib();
+    m_window->restore();
+    showCount();
+    showSelection();
+}
+
+void FavoritesDesk::showSelection()
+{
+    const auto first = m_controller.selection().first();
+    const auto count = static_cast<int>(m_controller.selection().favourites().size());
+    m_window->factsPanel->showRecord(first ? &m_favourites.records()[*first] : nullptr, count);
+}
+
+void FavoritesDesk::showCount()
+{
+    m_window->showCount(m_controller.list().size(), m_favourites.records().size());
+}
+
+// Without favourites some are found in the game list; without recently played ones all are shown.
+void FavoritesDesk::actOnEmptyList()
+{
+    if (m_favourites.records().empty())
+        Q_EMIT mainWanted();
+    else
+        showRecentlyPlayed(false);
+}
+
+void FavoritesDesk::showRecentlyPlayed(bool only)
+{
+    m_window->recentChip->setChecked(only);
+    m_controller.showRecentlyPlayed(only);
+    showCount();
+}
+
+} // namespace tessera

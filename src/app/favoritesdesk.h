@@ -1,0 +1,66 @@
+#pragma once
+
+#include "favourites/favourites.h"
+#include "favourites/playedgames.h"
+#include "favourites/ui/favouriteediting.h"
+#include "favourites/ui/playedcontroller.h"
+#include "favourites/ui/ucappcontroller.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QMenuBar;
+
+namespace tessera {
+
+class Catalogue;
+class DefaultsController;
+class Desktop;
+class FavoritesWindow;
+class GameListController;
+
+/// Joins the favourites and what was played to their window and to the game list.
+class FavoritesDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `commandLine` gives a set's whole command line with its options.
+    FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Catalogue& catalogue,
+                  GameListController& list, std::function<QString(const QString& name)> commandLine,
+                  QObject* parent = nullptr);
+    ~FavoritesDesk() override;
+
+    FavoritesWindow& window() { return *m_window; }
+    UCAppController& controller() { return m_controller; }
+    FavouriteEditing& editing() { return m_editing; }
+    PlayedController& played() { return m_playing; }
+    Favourites& favourites() { return m_favourites; }
+
+    /// Reads both files, and takes the columns up as they were left.
+    void awakeFromNib();
+
+Q_SIGNALS:
+    void launchRequested(const QString& game);
+    /// The empty window's button, or its own one: back to the game list.
+    void mainWanted();
+    void miniWanted();
+
+private:
+    void joinWindow();
+    void showSelection();
+    void showCount();
+    void actOnEmptyList();
+    void showRecentlyPlayed(bool only);
+
+    DefaultsController& m_defaults;
+    std::unique_ptr<FavoritesWindow> m_window;
+    Favourites m_favourites;
+    PlayedGames m_played;
+    UCAppController m_controller;
+    FavouriteEditing m_editing;
+    PlayedController m_playing;
+};
+
+} // namespace tessera

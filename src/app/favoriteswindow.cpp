@@ -1,0 +1,184 @@
+#include "app/favoriteswindow.h"
+
+#include "app/emptystate.h"
+#include "catalogue/ui/chipbar.h"
+#include "catalogue/ui/factspanel.h"
+#include "favourites/ui/favouritestable.h"
+#include "platform/defaultscontroller.h"
+#include "widgets/splitview_custom.h"
+#include "widgets/theme.h"
+#include "widgets/toolbutton.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+
+constexpr int sidePanelWidth = 300;
+constexpr QSize firstSize(1200, 760);
+
+} // namespace
+
+FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
+    : favoritesTable(new FavouritesTable(defaults))
+    , factsPanel(new FactsPanel)
+    , emptyState(new EmptyState)
+    , m_defaults(defaults)
+    , m_split(new SplitView_custom(this))
+    , m_pages(new QStackedWidget)
+    , m_count(new QLabel)
+    , m_unsaved(new QLabel)
+    , m_message(new QLabel)
+{
+    setObjectName(QStringLiteral("favoritesWindow"));
+    setWindowTitle(qtTrId("favorites_window"));
+    favoritesTable->setObjectName(QStringLiteral("favoritesTable"));
+    favoritesTable->setAccessibleName(qtTrId("favorites_list"));
+    emptyState->say(qtTrId("favorites_empty"), qtTrId("mini_main"));
+
+    m_pages->addWidget(favoritesTable);
+    m_pages->addWidget(emptyState);
+    auto* split = new QSplitter;
+    split->setObjectName(QStringLiteral("MainSplitView2"));
+    split->setHandleWidth(1);
+    split->addWidget(factsPanel);
+    split->addWidget(m_pages);
+    m_split->setSplitView(split);
+
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeToolRow());
+    layout->addWidget(split, 1);
+    setCentralWidget(content);
+    makeStatusLine();
+    resize(firstSize);
+}
+
+QWidget* FavoritesWindow::makeToolRow()
+{
+    auto* row = new QWidget;
+    row->setProperty("role", QStringLiteral("toolbar"));
+    row->setAttribute(Qt::WA_StyledBackground);
+    playButton = new QPushButton(qtTrId("main_play"));
+    playButton->setIcon(theme::icon(QStringLiteral("play"), "onaccent"));
+    playButton->setObjectName(QStringLiteral("playButton"));
+    playButton->setProperty("role", QStringLiteral("accent"));
+    stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
+    stopButton->setEnabled(false);
+    randomButton = toolButton(QStringLiteral("random"), qtTrId("main_random"));
+    editButton = toolButton(QStringLiteral("edit"), qtTrId("favorites_edit"));
+    removeButton = toolButton(QStringLiteral("remove"), qtTrId("favorites_remove"));
+    recentChip = new ChipButton(qtTrId("favorites_recent"));
+    recentChip->setObjectName(QStringLiteral("recentChip"));
+    recentChip->setAccessibleName(recentChip->text());
+    miniButton = toolButton(QStringLiteral("mini"), qtTrId("favorites_mini"));
+    mainButton = toolButton(QStringLiteral("list"), qtTrId("mini_main"));
+
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(12, 10, 12, 10);
+    layout->setSpacing(8);
+    layout->addWidget(playButton);
+    for (QToolButton* button : {stopButton, randomButton, editButton, removeButton})
+        layout->addWidget(button);
+    layout->addSpacing(8);
+    layout->addWidget(recentChip);
+    layout->addStretch(1);
+    layout->addWidget(miniButton);
+    layout->addWidget(mainButton);
+    return row;
+}
+
+void FavoritesWindow::makeStatusLine()
+{
+    for (QLabel* label : {m_count, m_unsaved, m_message})
+        label->setTextFormat(Qt::PlainText);
+    m_count->setObjectName(QStringLiteral("favoritesCount"));
+    m_unsaved->setObjectName(QStringLiteral("unsavedLabel"));
+    m_unsaved->setText(qtTrId("favorites_unsaved"));
+    m_unsaved->setProperty("role", QStringLiteral("notice"));
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    saveButton = new QPushButton(qtTrId("favorites_save"));
+    saveButton->setObjectName(QStringLiteral("favoritesSaveButton"));
+    saveButton->setProperty("role", QStringLiteral("link"));
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(m_count);
+    statusBar()->addWidget(m_unsaved);
+    statusBar()->addWidget(saveButton);
+    statusBar()->addWidget(m_message, 1);
+    showUnsaved(false);
+}
+
+void FavoritesWindow::takeMenus(const QMenuBar& from)
+{
+    for (QAction* action : from.actions())
+        menuBar()->addAction(action);
+}
+
+void FavoritesWindow::showCount(std::size_t shown, std::size_t all)
+{
+    const QLocale locale;
+    const QString total = locale.toString(static_cast<qulonglong>(all));
+    m_count->setText(
+        shown == all
+            ? qtTrId("favorites_count").arg(total)
+            : qtTrId("favorites_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total));
+    emptyState->say(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
+                    all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
+    m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : favoritesTable);
+}
+
+void FavoritesWindow::showUnsaved(bool unsaved)
+{
+    m_unsaved->setVisible(unsaved);
+    saveButton->setVisible(unsaved);
+}
+
+void FavoritesWindow::say(const QString& sentence)
+{
+    m_message->setText(sentence);
+    m_message->setToolTip(sentence);
+}
+
+void FavoritesWindow::setRunning(bool running)
+{
+    stopButton->setEnabled(running);
+}
+
+void FavoritesWindow::restore()
+{
+    const UserDefaults& stored = m_defaults.defaults();
+    m_split->splitView()->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
+    if (const auto split = stored.value(keys::FavoritesWindowSplit.name))
+        m_split->splitView()->restoreState(split->toByteArray());
+    if (const auto columns = stored.value(keys::FavoritesWindowColumns.name))
+        favoritesTable->horizontalHeader()->restoreState(columns->toByteArray());
+}
+
+void FavoritesWindow::remember()
+{
+    UserDefaults& stored = m_defaults.defaults();
+    stored.setValue(keys::FavoritesWindowSplit.name, m_split->splitView()->saveState());
+    stored.setValue(keys::FavoritesWindowColumns.name, favoritesTable->horizontalHeader()->saveState());
+}
+
+void FavoritesWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    Q_EMIT closeRequested();
+}
+
+} // namespace tessera

@@ -1,0 +1,78 @@
+#include "app/minidesk.h"
+
+#include "app/miniwindow.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/ui/gamefinder.h"
+#include "platform/defaultscontroller.h"
+
+#include <QLineEdit>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::size_t mostSuggested = 12;
+
+} // namespace
+
+MiniDesk::MiniDesk(Catalogue& catalogue, GameFinder& finder, DefaultsController& defaults, QObject* parent)
+    : QObject(parent)
+    , m_catalogue(catalogue)
+    , m_finder(finder)
+    , m_defaults(defaults)
+    , m_window(std::make_unique<MiniWindow>())
+{
+    connect(m_window->setnameTextField2, &QLineEdit::textEdited, this, &MiniDesk::suggest);
+    connect(m_window->setnameTextField2, &QLineEdit::textChanged, this, &MiniDesk::showTitle);
+    connect(m_window->aboveButton, &QToolButton::clicked, this, &MiniDesk::setAbove);
+}
+
+MiniDesk::~MiniDesk() = default;
+
+void MiniDesk::awakeFromNib()
+{
+    const bool above = m_defaults.defaults().flag(keys::MiniWindowAbove.name);
+    m_window->aboveButton->setChecked(above);
+    m_window->setAbove(above);
+}
+
+QString MiniDesk::game() const
+{
+    return m_window->setnameTextField2->text();
+}
+
+void MiniDesk::setGame(const QString& set)
+{
+    m_window->setnameTextField2->setText(set);
+}
+
+void MiniDesk::suggest(const QString& text)
+{
+    QList<MiniWindow::Suggestion> suggestions;
+    for (const std::uint32_t record : m_finder.suggestions(text, mostSuggested)) {
+        const GameRecord& game = m_catalogue.records()[record];
+        suggestions << MiniWindow::Suggestion{fieldText(game[Field::Name]), fieldText(game[Field::Title])};
+    }
+    m_window->suggest(suggestions);
+}
+
+void MiniDesk::showTitle(const QString& set)
+{
+    const std::string name = set.toStdString();
+    const auto records = m_catalogue.records();
+    const auto game = std::ranges::find_if(
+        records, [&](const GameRecord& each) { return !name.empty() && each[Field::Name] == name; });
+    m_window->showTitle(game == records.end() ? QString() : fieldText((*game)[Field::Title]));
+}
+
+void MiniDesk::setAbove(bool above)
+{
+    m_defaults.defaults().setValue(keys::MiniWindowAbove.name, above);
+    m_window->setAbove(above);
+}
+
+} // namespace tessera

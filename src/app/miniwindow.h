@@ -1,0 +1,52 @@
+#pragma once
+
+#include "widgets/transparentwindow.h"
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QStandardItemModel;
+class QToolButton;
+
+namespace tessera {
+
+/// A small launcher: a set name with suggestions, random, play. It may stay above all other windows.
+class MiniWindow : public TransparentWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MiniWindow(QWidget* parent = nullptr);
+
+    QLabel* emulatorLabel;
+    QLineEdit* setnameTextField2;
+    QToolButton* randomButton;
+    QPushButton* playButton;
+    QToolButton* aboveButton; ///< above all other windows
+    QToolButton* mainButton;
+
+    /// A set and its title, as they are suggested while a name is typed.
+    struct Suggestion {
+        QString set;
+        QString title;
+    };
+
+    void suggest(const QList<Suggestion>& suggestions);
+    /// What the catalogue knows of the set in the field.
+    void showTitle(const QString& title);
+    /// Names the kind of emulator.
+    void setEmulator(const QString& title);
+
+Q_SIGNALS:
+    void playRequested();
+
+private:
+    QLayout* makeHead();
+    QLayout* makeLauncher();
+
+    QLabel* m_picture;
+    QLabel* m_title;
+    QStandardItemModel* m_suggestions;
+};
+
+} // namespace tessera

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+#include <vector>
+
+class QWidget;
+
+namespace tessera {
+
+class UserDefaults;
+
+/// Shows windows where they were left, also over runs of the program.
+class WindowPlaces : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WindowPlaces(UserDefaults& defaults);
+
+    /// The window outlives this. Its place is taken up when it is first shown.
+    void keep(QWidget& window, const char* key);
+    /// Stores the places of those that were shown.
+    void remember();
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    struct Place {
+        QWidget* window;
+        const char* key;
+        bool wasShown = false;
+    };
+
+    UserDefaults& m_defaults;
+    std::vector<Place> m_places;
+};
+
+} // namespace tessera
