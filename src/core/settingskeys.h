@@ -179,6 +179,7 @@ TESSERA_CHOSEN(MainWindowColumns);
 TESSERA_CHOSEN(MainWindowSplit);
 TESSERA_CHOSEN(GameListChip);
 TESSERA_CHOSEN(GameListFamilies);
+TESSERA_CHOSEN(PlayedIsOff);
 
 #undef TESSERA_FLAG
 #undef TESSERA_INDEX
