@@ -147,7 +147,8 @@ SortedRecords::SortedRecords(std::span<const std::uint64_t> keys)
     , m_begins(keys.size())
 {
     std::iota(m_records.begin(), m_records.end(), 0U);
-    std::ranges::stable_sort(m_records, {}, [keys](std::uint32_t record) { return keys[record]; });
+    std::ranges::sort(m_records, {},
+                      [keys](std::uint32_t record) { return std::pair(keys[record], record); });
     for (std::size_t i = 0; i < keys.size(); ++i)
         m_begins[i] = i == 0 || keys[m_records[i]] != keys[m_records[i - 1]] ? 1 : 0;
 }
