@@ -71,6 +71,10 @@
     <message id="menu_home"><source></source><translation>To the &amp;Top</translation></message>
     <message id="menu_end"><source></source><translation>To the &amp;End</translation></message>
     <message id="menu_columns"><source></source><translation>&amp;Columns</translation></message>
+    <message id="menu_bigger"><source></source><translation>&amp;Bigger Text</translation></message>
+    <message id="menu_smaller"><source></source><translation>S&amp;maller Text</translation></message>
+    <message id="menu_font"><source></source><translation>F&amp;ont…</translation></message>
+    <message id="page_appearance"><source></source><translation>Look</translation></message>
     <message id="menu_find"><source></source><translation>&amp;Find</translation></message>
     <message id="menu_filter"><source></source><translation>&amp;Filter Panel…</translation></message>
     <message id="menu_showall"><source></source><translation>Show &amp;All</translation></message>
@@ -78,5 +82,9 @@
     <message id="main_filter"><source></source><translation>Filter panel</translation></message>
     <message id="main_showall"><source></source><translation>Show all</translation></message>
     <message id="empty_filtered"><source></source><translation>No machine matches what you are looking for.</translation></message>
+    <message id="mini_above"><source></source><translation>Above other windows</translation></message>
+    <message id="mini_main"><source></source><translation>Game list</translation></message>
+    <message id="mini_picture"><source></source><translation>Picture of the game</translation></message>
+    <message id="mini_set"><source></source><translation>Set name or title</translation></message>
 </context>
 </TS>

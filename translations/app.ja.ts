@@ -71,6 +71,10 @@
     <message id="menu_home"><source></source><translation>先頭へ(&amp;T)</translation></message>
     <message id="menu_end"><source></source><translation>末尾へ(&amp;E)</translation></message>
     <message id="menu_columns"><source></source><translation>表示する列(&amp;C)</translation></message>
+    <message id="menu_bigger"><source></source><translation>文字を大きく(&amp;B)</translation></message>
+    <message id="menu_smaller"><source></source><translation>文字を小さく(&amp;M)</translation></message>
+    <message id="menu_font"><source></source><translation>フォント(&amp;O)…</translation></message>
+    <message id="page_appearance"><source></source><translation>外観</translation></message>
     <message id="menu_find"><source></source><translation>検索(&amp;F)</translation></message>
     <message id="menu_filter"><source></source><translation>フィルタパネル(&amp;F)…</translation></message>
     <message id="menu_showall"><source></source><translation>すべて表示(&amp;A)</translation></message>
@@ -78,5 +82,9 @@
     <message id="main_filter"><source></source><translation>フィルタパネル</translation></message>
     <message id="main_showall"><source></source><translation>すべて表示</translation></message>
     <message id="empty_filtered"><source></source><translation>条件に合うマシンがありません。</translation></message>
+    <message id="mini_above"><source></source><translation>常に手前に表示</translation></message>
+    <message id="mini_main"><source></source><translation>ゲームリスト</translation></message>
+    <message id="mini_picture"><source></source><translation>ゲームの画像</translation></message>
+    <message id="mini_set"><source></source><translation>セット名またはタイトル</translation></message>
 </context>
 </TS>

@@ -19,6 +19,13 @@
     <message id="facts_picture"><source></source><translation>Picture of the game</translation></message>
     <message id="facts_several"><source></source><translation>%1 machines selected</translation></message>
     <message id="facts_none"><source></source><translation>No machine selected</translation></message>
+    <message id="fact_rom"><source></source><translation>ROM</translation></message>
+    <message id="have_here"><source></source><translation>found</translation></message>
+    <message id="have_in_parent"><source></source><translation>with its parent, %1</translation></message>
+    <message id="have_missing"><source></source><translation>not found</translation></message>
+    <message id="row_clone"><source></source><translation>clone</translation></message>
+    <message id="row_clones_shown" numerus="yes"><source></source><translation><numerusform>%n clone shown</numerusform><numerusform>%n clones shown</numerusform></translation></message>
+    <message id="row_clones_folded" numerus="yes"><source></source><translation><numerusform>%n clone folded</numerusform><numerusform>%n clones folded</numerusform></translation></message>
     <message id="column_status"><source></source><translation>Driver</translation></message>
     <message id="column_type"><source></source><translation>Kind</translation></message>
     <message id="record_remove_Message"><source></source><translation>Remove the selected machines from the catalogue?</translation></message>
@@ -29,6 +36,18 @@
     <message id="editor_close"><source></source><translation>&amp;Close</translation></message>
     <message id="editor_previous"><source></source><translation>&amp;Previous</translation></message>
     <message id="editor_next"><source></source><translation>&amp;Next</translation></message>
+    <message id="appearance_font"><source></source><translation>List font</translation></message>
+    <message id="appearance_choosefont"><source></source><translation>Choose…</translation></message>
+    <message id="appearance_size"><source></source><translation>Size</translation></message>
+    <message id="appearance_smaller"><source></source><translation>Smaller</translation></message>
+    <message id="appearance_bigger"><source></source><translation>Bigger</translation></message>
+    <message id="appearance_rows"><source></source><translation>Rows</translation></message>
+    <message id="appearance_coloring"><source></source><translation>Show which machines have a ROM archive</translation></message>
+    <message id="appearance_color"><source></source><translation>Text</translation></message>
+    <message id="appearance_color2"><source></source><translation>Without an archive</translation></message>
+    <message id="appearance_initialcolor"><source></source><translation>Initial colour of the text</translation></message>
+    <message id="appearance_initialcolor2"><source></source><translation>Initial colour without an archive</translation></message>
+    <message id="appearance_note"><source></source><translation>An archive is looked for under the set name in the ROM folder: pong.zip.</translation></message>
     <message id="search_placeholder"><source></source><translation>Search title, set, maker, year</translation></message>
     <message id="search_field"><source></source><translation>Search</translation></message>
     <message id="search_terms"><source></source><translation>Search terms</translation></message>

@@ -19,6 +19,13 @@
     <message id="facts_picture"><source></source><translation>ゲームの画像</translation></message>
     <message id="facts_several"><source></source><translation>%1 台を選択中</translation></message>
     <message id="facts_none"><source></source><translation>何も選択されていません</translation></message>
+    <message id="fact_rom"><source></source><translation>ROM</translation></message>
+    <message id="have_here"><source></source><translation>あり</translation></message>
+    <message id="have_in_parent"><source></source><translation>親セット %1 に含まれる可能性</translation></message>
+    <message id="have_missing"><source></source><translation>なし</translation></message>
+    <message id="row_clone"><source></source><translation>クローン</translation></message>
+    <message id="row_clones_shown" numerus="yes"><source></source><translation><numerusform>クローン %n 台を表示中</numerusform></translation></message>
+    <message id="row_clones_folded" numerus="yes"><source></source><translation><numerusform>クローン %n 台を折りたたみ中</numerusform></translation></message>
     <message id="column_status"><source></source><translation>ドライバ</translation></message>
     <message id="column_type"><source></source><translation>種類</translation></message>
     <message id="record_remove_Message"><source></source><translation>選択したマシンをカタログから削除しますか?</translation></message>
@@ -29,6 +36,18 @@
     <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
     <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
     <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
+    <message id="appearance_font"><source></source><translation>リストのフォント</translation></message>
+    <message id="appearance_choosefont"><source></source><translation>選択…</translation></message>
+    <message id="appearance_size"><source></source><translation>サイズ</translation></message>
+    <message id="appearance_smaller"><source></source><translation>小さく</translation></message>
+    <message id="appearance_bigger"><source></source><translation>大きく</translation></message>
+    <message id="appearance_rows"><source></source><translation>行</translation></message>
+    <message id="appearance_coloring"><source></source><translation>ROM アーカイブの有無を色で示す</translation></message>
+    <message id="appearance_color"><source></source><translation>文字色</translation></message>
+    <message id="appearance_color2"><source></source><translation>アーカイブがない場合</translation></message>
+    <message id="appearance_initialcolor"><source></source><translation>文字色を初期値に戻す</translation></message>
+    <message id="appearance_initialcolor2"><source></source><translation>アーカイブがない場合の色を初期値に戻す</translation></message>
+    <message id="appearance_note"><source></source><translation>アーカイブは ROM フォルダの中をセット名で探します（例: pong.zip）。</translation></message>
     <message id="search_placeholder"><source></source><translation>タイトル・セット・メーカー・年を検索</translation></message>
     <message id="search_field"><source></source><translation>検索</translation></message>
     <message id="search_terms"><source></source><translation>検索条件</translation></message>

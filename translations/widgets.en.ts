@@ -3,6 +3,12 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="fontpanel_title"><source></source><translation>Font</translation></message>
+    <message id="fontpanel_filter"><source></source><translation>Find a font</translation></message>
+    <message id="fontpanel_families"><source></source><translation>Families</translation></message>
+    <message id="fontpanel_styles"><source></source><translation>Styles</translation></message>
+    <message id="fontpanel_size"><source></source><translation>Size</translation></message>
+    <message id="fontpanel_sample"><source></source><translation>Aa Gg 0123 あア亜</translation></message>
     <message id="panel_close"><source></source><translation>Close</translation></message>
     <message id="panel_minimise"><source></source><translation>Minimise</translation></message>
 </context>

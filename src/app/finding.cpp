@@ -9,8 +9,10 @@
 #include "catalogue/ui/searchfield.h"
 #include "launch/profilecache.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bringforward.h"
 
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -38,7 +40,7 @@ Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& l
     connect(window.gameTable, &GameTableView::familyToggled, &m_finder, &GameFinder::toggleFamily);
     connect(window.showAllButton, &QPushButton::clicked, this, &Finding::showAll);
     connect(window.filterButton, &QToolButton::clicked, this, &Finding::showPredicatePanel);
-    connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(*m_roms.folders()); });
+    connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(m_roms.folders()); });
     connect(&profiles, &ProfileCache::answered, this, &Finding::takeProfile);
     connect(&defaults, &DefaultsController::changed, this, [this](const QString& name) {
         if (name.isEmpty() || name == keys::RomsPath.name)
@@ -57,6 +59,7 @@ void Finding::joinField()
     SearchField* field = m_window.searchField;
     connect(field, &QLineEdit::textChanged, &m_finder, &GameFinder::setQuery);
     connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
+    connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
     connect(field, &QLineEdit::returnPressed, m_window.gameTable, &GameTableView::doubleAction);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_window.gameTable->setFocus();
@@ -64,6 +67,7 @@ void Finding::joinField()
             m_list.selectRow(0);
     });
     connect(m_window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
+    connect(m_window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
 
 void Finding::joinPanel()
@@ -77,13 +81,17 @@ void Finding::joinPanel()
 // What is wrong stands beside the chips; a term that is half typed is no complaint.
 void Finding::showQuery()
 {
-    m_window.searchField->markWrongTerms(m_finder.query());
+    m_window.searchField->markTerms(m_finder.query());
     QStringList wrong;
     for (const Term& term : m_finder.query().terms()) {
         if (term.state == Term::State::Wrong && term.why)
             wrong << term.why->text();
     }
     m_window.chipBar->complain(wrong.join(u' '));
+}
+
+void Finding::showSort()
+{
     // Ranked rows have no sorted column; the first click on a header sorts them upwards.
     QHeaderView* header = m_window.gameTable->horizontalHeader();
     const QSignalBlocker quiet(header);
@@ -106,7 +114,8 @@ void Finding::takeProfile(const QString& executable, const ProfileAnswer& answer
 {
     if (executable != m_emulator())
         return;
-    m_emulatorFolders = answer.profile ? answer.profile->romFolderList() : QStringList();
+    m_emulatorFolders = answer.profile ? answer.profile->romFolderList(QFileInfo(executable).absolutePath())
+                                       : QStringList();
     readRomFolders();
 }
 
@@ -126,9 +135,7 @@ void Finding::showPredicatePanel()
     }
     if (m_panel->rowCount() == 0)
         m_panel->addRow();
-    m_panel->show();
-    m_panel->raise();
-    m_panel->activateWindow();
+    bringForward(*m_panel);
 }
 
 void Finding::focusSearch()

@@ -45,6 +45,7 @@ private:
     void joinField();
     void joinPanel();
     void showQuery();
+    void showSort();
     void takeProfile(const QString& executable, const ProfileAnswer& answer);
     void readRomFolders();
 

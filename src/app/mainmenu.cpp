@@ -22,7 +22,7 @@ using Hub = Tessera_AppDelegate;
 struct MenuRow {
     const char* menu;
     const char* text; ///< nullptr is a separator
-    const char* shortcut;
+    const char* shortcuts; ///< apart by "; ", the one that is shown first
     Command command;
 };
 
@@ -50,17 +50,21 @@ constexpr std::array rows{
     MenuRow{edit,     textKey("menu_copy"),        "Ctrl+C",       &Hub::copySelection},
     MenuRow{edit,     textKey("menu_editcell"),    nullptr,        &Hub::editCell},
     MenuRow{edit,     textKey("menu_editrecord"),  "Ctrl+E",       &Hub::editRecord},
-    MenuRow{edit,     textKey("menu_removerecord"), "Ctrl+Backspace", &Hub::removeRecord},
+    MenuRow{edit,     textKey("menu_removerecord"), "Delete", &Hub::removeRecord},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
     MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
     MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},
-    MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::playSelected},
-    MenuRow{game,     textKey("menu_stop"),        "Ctrl+.",       &Hub::stopGame},
-    MenuRow{game,     textKey("menu_random"),      "Ctrl+G",       &Hub::mameslotAction},
     MenuRow{view,     textKey("menu_filter"),      "Ctrl+Shift+F", &Hub::showPredicatePanel},
     MenuRow{view,     textKey("menu_showall"),     "Ctrl+Shift+A", &Hub::showAllGames},
     MenuRow{view,     textKey("menu_home"),        "Home",         &Hub::scrollsHomeAction},
     MenuRow{view,     textKey("menu_end"),         "End",          &Hub::scrollsEndAction},
+    MenuRow{view,     nullptr,                     nullptr,        nullptr},
+    MenuRow{view,     textKey("menu_bigger"),      "Ctrl++; Ctrl+=", &Hub::makeTextBigger},
+    MenuRow{view,     textKey("menu_smaller"),     "Ctrl+-",       &Hub::makeTextSmaller},
+    MenuRow{view,     textKey("menu_font"),        nullptr,        &Hub::showFontPanel1},
+    MenuRow{game,     textKey("menu_play"),        "Ctrl+R",       &Hub::playSelected},
+    MenuRow{game,     textKey("menu_stop"),        "Ctrl+.",       &Hub::stopGame},
+    MenuRow{game,     textKey("menu_random"),      "Ctrl+G",       &Hub::mameslotAction},
     MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
@@ -134,8 +138,8 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
         }
         auto* action = new QAction(qtTrId(row.text), &bar);
         action->setObjectName(QLatin1String(row.text));
-        if (row.shortcut != nullptr)
-            action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
+        if (row.shortcuts != nullptr)
+            action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.shortcuts)));
         // A key of its own is left to the controls of the other windows.
         const bool isPlainKey
             = action->shortcut().count() == 1 && action->shortcut()[0].keyboardModifiers() == Qt::NoModifier;

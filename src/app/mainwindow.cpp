@@ -8,6 +8,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 
 #include <QCloseEvent>
@@ -29,7 +30,7 @@ namespace {
 
 constexpr QSize firstSize(1200, 760);
 constexpr int sidePanelWidth = 300;
-constexpr std::array columnWidths{118, 236, 172, 56, 118, 84}; // the last column takes what is left
+constexpr std::array columnWidths{128, 240, 172, 56, 112, 76}; // the last column takes what is left
 
 } // namespace
 
@@ -42,6 +43,7 @@ MainWindow::MainWindow(DefaultsController& defaults)
     , emptyState(new EmptyState)
     , m_defaults(defaults)
     , m_split(new QSplitter)
+    , m_splitLimits(new SplitView_custom(this))
     , m_pages(new QStackedWidget)
     , m_count(new QLabel)
     , m_message(new QLabel)
@@ -63,9 +65,9 @@ MainWindow::MainWindow(DefaultsController& defaults)
 
     m_split->addWidget(factsPanel);
     m_split->addWidget(listSide);
+    m_split->setObjectName(QStringLiteral("MainSplitView"));
     m_split->setHandleWidth(1);
-    m_split->setStretchFactor(1, 1);
-    m_split->setCollapsible(1, false);
+    m_splitLimits->setSplitView(m_split);
 
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -125,6 +127,7 @@ QWidget* MainWindow::makeToolRow()
 void MainWindow::makeStatusLine()
 {
     m_count->setObjectName(QStringLiteral("countLabel"));
+    m_count->setTextFormat(Qt::PlainText);
     m_message->setObjectName(QStringLiteral("messageLabel"));
     m_message->setTextFormat(Qt::PlainText);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -155,7 +158,8 @@ void MainWindow::makeStatusLine()
 
 void MainWindow::applyRowHeight()
 {
-    const int height = qBound(8, m_defaults.index(keys::rowHeight), 400);
+    // The setting may have half a pixel (13.5), rows have whole ones.
+    const int height = qBound(8, qRound(m_defaults.number(keys::rowHeight)), 400);
     if (gameTable->verticalHeader()->defaultSectionSize() != height)
         gameTable->verticalHeader()->setDefaultSectionSize(height);
 }
@@ -193,8 +197,6 @@ void MainWindow::setRunning(bool running)
 void MainWindow::setRebuilding(bool rebuilding)
 {
     m_isRebuilding = rebuilding;
-    if (rebuilding)
-        offerRebuild(false);
     sayWhatToDo(rebuilding);
 }
 

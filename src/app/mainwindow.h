@@ -18,6 +18,7 @@ class FactsPanel;
 class GameTableView;
 class RebuildStrip;
 class SearchField;
+class SplitView_custom;
 
 /// The game list with its side panel, tool row and status line. Closing it asks for the end of the program.
 class MainWindow : public QMainWindow
@@ -77,6 +78,7 @@ private:
     bool m_isFiltered = false;
     bool m_isRebuilding = false;
     QSplitter* m_split;
+    SplitView_custom* m_splitLimits;
     QStackedWidget* m_pages;
     QLabel* m_count;
     QLabel* m_message;

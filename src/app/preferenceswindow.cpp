@@ -55,6 +55,12 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     resize(firstSize);
 }
 
+PreferencesWindow::~PreferencesWindow()
+{
+    for (const QPointer<QWidget>& page : m_waiting)
+        delete page.data();
+}
+
 void PreferencesWindow::addPage(QWidget* page, const QString& title, const QString& icon)
 {
     const int index = static_cast<int>(m_buttons->buttons().size());

@@ -17,8 +17,10 @@ class PreferencesWindow : public QWidget
 
 public:
     explicit PreferencesWindow(QWidget* parent = nullptr);
+    ~PreferencesWindow() override;
 
-    /// The window takes the page over when it is first shown: a start of the program lays nothing out here.
+    /// The page is the window's from now on, but is put into it when the window is first shown: a start of
+    /// the program lays nothing out here.
     void addPage(QWidget* page, const QString& title, const QString& icon);
     void showPage(int index);
     void centre();

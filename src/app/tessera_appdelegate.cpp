@@ -8,11 +8,14 @@
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/rowcolors.h"
+#include "catalogue/ui/tablefont.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -28,13 +31,17 @@
 #include "platform/recentdocuments.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/bringforward.h"
+#include "widgets/menusearch.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -42,19 +49,6 @@
 #include <QToolButton>
 
 namespace tessera {
-
-namespace {
-
-// As the key window; a minimised one comes back.
-void bringForward(QWidget& window)
-{
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    window.activateWindow();
-}
-
-} // namespace
 
 Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
                                          const QString& cataloguePath)
@@ -103,16 +97,18 @@ void Tessera_AppDelegate::loadInterface()
     m_pages->general().setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
         m_preferencesWindow->addPage(page, page->title(), page->icon());
+    addAppearancePage();
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
     m_gameList->setTable(m_mainWindow->gameTable);
+    m_task = std::make_unique<EmulatorTask>();
+    m_profiles = std::make_unique<ProfileCache>();
+    // Before the editing: what a search keeps of the records follows a removal first.
+    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
+                                          [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
     m_keyCommands = std::make_unique<KeyCommands>(*m_mainWindow, *m_logWindow,
                                                   *m_logWindow->infomationTextView, *m_gameList, *m_editing);
-    m_task = std::make_unique<EmulatorTask>();
-    m_profiles = std::make_unique<ProfileCache>();
-    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
-                                          [this] { return m_pages->general().emulator(); });
     m_launch = std::make_unique<LaunchController>(
         LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
                     SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
@@ -127,6 +123,14 @@ void Tessera_AppDelegate::loadInterface()
         m_logWindow->addAction(m_mainWindow->menuBar()->findChild<QAction*>(QLatin1String(name)));
     joinRooms();
     openCatalogue();
+}
+
+void Tessera_AppDelegate::addAppearancePage()
+{
+    auto* page = new AppearancePage(m_defaults);
+    m_preferencesWindow->addPage(page, qtTrId("page_appearance"), QStringLiteral("appearance"));
+    m_tableFont = std::make_unique<TableFont>(m_desktop, m_defaults, *page);
+    m_rowColors = std::make_unique<RowColors>(m_desktop, m_defaults, *page);
 }
 
 void Tessera_AppDelegate::joinRooms()
@@ -147,6 +151,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(&m_pages->general(), &GeneralPage::emulatorFound, m_launch.get(),
             &LaunchController::prepareProfile);
     connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
+    connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
@@ -155,6 +160,8 @@ void Tessera_AppDelegate::joinRooms()
             [this](bool running) { m_editing->setEnabled(!running); });
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_gameList->model(),
             &GameTableModel::setLocked);
+    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
+            [this](bool running) { m_mainWindow->offerRebuild(!running && m_rebuild->isOutdated()); });
 
     connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
     connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
@@ -220,6 +227,11 @@ bool Tessera_AppDelegate::application_openFile(const QString& path)
     return true;
 }
 
+QAction* Tessera_AppDelegate::findMenuItemNamed(const QString& title) const
+{
+    return tessera::findMenuItemNamed(title, m_mainWindow->menuBar());
+}
+
 void Tessera_AppDelegate::comeForward(const QString& file)
 {
     windowMain();
@@ -228,7 +240,11 @@ void Tessera_AppDelegate::comeForward(const QString& file)
 
 void Tessera_AppDelegate::showSelection()
 {
-    m_mainWindow->factsPanel->showRecord(m_gameList->selectedRecord(), m_gameList->selectedCount());
+    FactsPanel& facts = *m_mainWindow->factsPanel;
+    const GameRecord* record = m_gameList->selectedRecord();
+    facts.showRecord(record, m_gameList->selectedCount());
+    facts.showHave(
+        record != nullptr ? m_finding->finder().haveOf(*m_gameList->firstSelected()) : std::nullopt, record);
 }
 
 void Tessera_AppDelegate::showCount()
@@ -250,6 +266,8 @@ void Tessera_AppDelegate::settingChanged(const QString& name)
 {
     if (name.isEmpty() || name == keys::ExecutionPath.name)
         showEmulator();
+    if (name == keys::BuiltFrom.name)
+        m_mainWindow->offerRebuild(m_rebuild->isOutdated());
 }
 
 void Tessera_AppDelegate::showEmulator()
@@ -292,9 +310,12 @@ void Tessera_AppDelegate::editCell()
 
 void Tessera_AppDelegate::copySelection()
 {
-    if (auto* log = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget()))
-        log->copy();
-    else
+    QWidget* focused = QApplication::focusWidget();
+    if (auto* text = qobject_cast<QPlainTextEdit*>(focused))
+        text->copy();
+    else if (auto* label = qobject_cast<QLabel*>(focused); label != nullptr && label->hasSelectedText())
+        QGuiApplication::clipboard()->setText(label->selectedText());
+    else if (m_mainWindow->isActiveWindow())
         m_mainWindow->gameTable->copySelection();
 }
 
@@ -405,6 +426,21 @@ void Tessera_AppDelegate::showPrefsWindow()
 void Tessera_AppDelegate::utilityOrderFront()
 {
     m_utility->utilityOrderFront();
+}
+
+void Tessera_AppDelegate::makeTextBigger()
+{
+    m_tableFont->makeTextBigger();
+}
+
+void Tessera_AppDelegate::makeTextSmaller()
+{
+    m_tableFont->makeTextSmaller();
+}
+
+void Tessera_AppDelegate::showFontPanel1()
+{
+    m_tableFont->showFontPanel1();
 }
 
 void Tessera_AppDelegate::DefaultAction()

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class QAction;
+
 namespace tessera {
 
 class CatalogueRebuild;
@@ -24,6 +26,8 @@ class PreferencesWindow;
 class ProfileCache;
 class RecentDocuments;
 class RecordEditing;
+class RowColors;
+class TableFont;
 class UtilityObject;
 
 /// The hub: builds the rooms, hands each what it needs, and joins them. Its slots are the program's commands,
@@ -58,6 +62,7 @@ public:
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     UtilityObject& utility() { return *m_utility; }
+    TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     RecentDocuments& recentDocuments() { return m_recent; }
 
@@ -88,8 +93,13 @@ public Q_SLOTS:
     void windowLog();
     void showPrefsWindow();
     void utilityOrderFront();
+    void makeTextBigger();
+    void makeTextSmaller();
+    void showFontPanel1();
     void DefaultAction();
     void Setwindowtitle();
+    /// The main menu's item with this title, or nothing; see widgets/menusearch.h.
+    QAction* findMenuItemNamed(const QString& title) const;
     /// Another start of the program: come to the front and open its file.
     void comeForward(const QString& file);
 
@@ -100,6 +110,7 @@ Q_SIGNALS:
 private:
     void initialize();
     void loadInterface();
+    void addAppearancePage();
     void joinRooms();
     void openCatalogue();
     void awakeFromNib();
@@ -120,8 +131,8 @@ private:
     std::unique_ptr<LogWindow> m_logWindow;
     std::unique_ptr<PreferencesWindow> m_preferencesWindow;
     std::unique_ptr<GameListController> m_gameList;
-    std::unique_ptr<RecordEditing> m_editing;
     std::unique_ptr<Finding> m_finding;
+    std::unique_ptr<RecordEditing> m_editing;
     std::unique_ptr<KeyCommands> m_keyCommands;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;
@@ -129,6 +140,8 @@ private:
     std::unique_ptr<ProfileCache> m_profiles;
     std::unique_ptr<LaunchController> m_launch;
     std::unique_ptr<UtilityObject> m_utility;
+    std::unique_ptr<TableFont> m_tableFont;
+    std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;
     bool m_buildWanted = false;
 };

@@ -42,12 +42,11 @@ void ArrangedList::setContent(std::span<const GameRecord> content)
     m_families.reset();
     m_sorted = {};
     m_order.reset();
-    arrange();
+    arrange(Content::Other);
 }
 
 void ArrangedList::setPredicate(Predicate predicate)
 {
-    Q_EMIT aboutToArrange();
     m_predicate = std::move(predicate);
     arrange();
 }
@@ -56,7 +55,6 @@ void ArrangedList::setFound(std::optional<Found> found)
 {
     if (!found && !m_found)
         return;
-    Q_EMIT aboutToArrange();
     m_found = std::move(found);
     arrange();
 }
@@ -65,7 +63,6 @@ void ArrangedList::setSort(Field field, bool ascending)
 {
     if (field == m_field && ascending == m_ascending && !isRanked() && !m_order)
         return;
-    Q_EMIT aboutToArrange();
     m_field = field;
     m_order.reset();
     sortBy(ascending);
@@ -73,7 +70,6 @@ void ArrangedList::setSort(Field field, bool ascending)
 
 void ArrangedList::setSort(SortedRecords order, bool ascending)
 {
-    Q_EMIT aboutToArrange();
     m_order = std::move(order);
     sortBy(ascending);
 }
@@ -84,13 +80,13 @@ void ArrangedList::sortBy(bool ascending)
     if (m_found)
         m_found->ranks.clear();
     arrange();
+    Q_EMIT sortWanted();
 }
 
 void ArrangedList::setFamilies(std::optional<Families> families)
 {
     if (!families && !m_families)
         return;
-    Q_EMIT aboutToArrange();
     m_families = std::move(families);
     arrange();
 }
@@ -120,18 +116,25 @@ const SortedRecords& ArrangedList::sorted()
     return *sorted;
 }
 
-void ArrangedList::arrange()
+void ArrangedList::arrange(Content content)
 {
-    m_rows = m_ascending ? sorted().ascending(chosen()) : sorted().descending(chosen());
-    m_clones.clear();
+    std::vector<std::uint32_t> rows
+        = m_ascending ? sorted().ascending(chosen()) : sorted().descending(chosen());
+    std::vector<std::uint32_t> clones;
     if (isRanked()) {
-        m_rows = byRank(m_rows, m_found->ranks);
-    } else if (m_families) {
-        FamilyRows folded = foldFamilies(m_rows, m_families->heads, m_families->open);
-        m_rows = std::move(folded.rows);
-        m_clones = std::move(folded.clones);
+        rows = byRank(rows, m_found->ranks);
+    } else if (m_families && !(m_found && m_found->opensFamilies)) {
+        FamilyRows folded = foldFamilies(rows, m_families->heads, m_families->open);
+        rows = std::move(folded.rows);
+        clones = std::move(folded.clones);
     }
-
+    if (content == Content::Same) {
+        if (rows == m_rows && clones == m_clones)
+            return;
+        Q_EMIT aboutToArrange();
+    }
+    m_rows = std::move(rows);
+    m_clones = std::move(clones);
     m_rowOf.assign(m_content.size(), hidden);
     for (std::uint32_t row = 0; row < m_rows.size(); ++row)
         m_rowOf[m_rows[row]] = row;

@@ -44,7 +44,7 @@ public:
     /// Besides the predicate: only what was found, the best ranked first. Nothing lets every record through.
     void setFound(std::optional<Found> found);
     /// The order that the list has already changes nothing. A sort wins over ranks: they are forgotten until
-    /// something else is found.
+    /// something is found anew.
     void setSort(Field field, bool ascending);
     /// By what stands in no field of the records. The next content is sorted by the last field again.
     void setSort(SortedRecords order, bool ascending);
@@ -80,11 +80,15 @@ public:
     std::optional<std::size_t> find(Field field, std::string_view value) const;
 
 Q_SIGNALS:
+    // Rows are others now; where they would be the same nothing is told.
     void aboutToArrange();
     void arranged();
+    /// Somebody wants this order, also in place of ranks.
+    void sortWanted();
 
 private:
-    void arrange();
+    enum class Content : std::uint8_t { Same, Other };
+    void arrange(Content content = Content::Same);
     void sortBy(bool ascending);
     RecordSet chosen() const;
     const SortedRecords& sorted();

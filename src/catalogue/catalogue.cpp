@@ -102,7 +102,7 @@ void Catalogue::takeOut(std::span<const std::uint32_t> places)
     }
     kept.insert(kept.end(), m_records.begin() + from, m_records.end());
     m_records.swap(kept);
-    Q_EMIT removed();
+    Q_EMIT removed(std::vector(places.begin(), places.end()));
 }
 
 void Catalogue::putBack(std::span<const std::uint32_t> places, std::span<const GameRecord> records)

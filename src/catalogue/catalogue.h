@@ -49,8 +49,8 @@ Q_SIGNALS:
     /// Every record is another one now.
     void replaced();
     void recordChanged(std::uint32_t record, Field field);
-    /// Records are gone; the others stand together now.
-    void removed();
+    /// The records at these indexes, rising, are gone; the others stand together now.
+    void removed(const std::vector<std::uint32_t>& records);
     /// Removed ones are back, at these indexes, rising.
     void putBackAt(const std::vector<std::uint32_t>& records);
 

@@ -1,5 +1,6 @@
 #include "catalogue/colortransformer.h"
 
+#include "catalogue/romfolders.h"
 #include "platform/userdefaults.h"
 
 #include <QFileInfo>
@@ -31,13 +32,27 @@ std::optional<QColor> ColorTransformer::transformedValue(const QString& setName)
     if (setName.isNull())
         return std::nullopt;
     const bool coloring = m_defaults.flag(keys::GamelistColoring.name);
-    return stored(m_defaults, !coloring || hasArchive(setName) ? usual : withoutArchive);
+    return !coloring || hasArchive(setName) ? usualColor() : colorWithoutArchive();
+}
+
+QColor ColorTransformer::usualColor() const
+{
+    return stored(m_defaults, usual);
+}
+
+QColor ColorTransformer::colorWithoutArchive() const
+{
+    return stored(m_defaults, withoutArchive);
 }
 
 bool ColorTransformer::hasArchive(const QString& setName) const
 {
     const auto folder = m_defaults.value(keys::RomsPath.name);
-    return folder && QFileInfo::exists(folder->toString() + u'/' + setName + QStringLiteral(".zip"));
+    if (!folder)
+        return false;
+    if (m_folders && m_folders->romFolder() == folder->toString())
+        return m_folders->hasArchive(setName.toStdString());
+    return QFileInfo::exists(folder->toString() + u'/' + setName + QStringLiteral(".zip"));
 }
 
 } // namespace tessera

@@ -13,6 +13,8 @@ struct Found {
     /// For each record of the content how well it fits, the least first; it counts for the found ones only.
     /// Empty where nothing ranks them.
     std::vector<std::uint8_t> ranks;
+    /// Clones among them are shown, also where families are folded.
+    bool opensFamilies = false;
 };
 
 } // namespace tessera

@@ -62,6 +62,13 @@ public:
     void insert(std::uint32_t record) { m_words[record / 64] |= bit(record); }
     void remove(std::uint32_t record) { m_words[record / 64] &= ~bit(record); }
 
+    /// Only those that the other set of the same content holds, too.
+    void keep(const RecordSet& other)
+    {
+        for (std::size_t i = 0; i < m_words.size(); ++i)
+            m_words[i] &= other.m_words[i];
+    }
+
     /// In ascending order.
     std::vector<std::uint32_t> records() const
     {

@@ -37,14 +37,19 @@ bool RomFolders::holds(std::string_view setName) const
            });
 }
 
+Have RomFolders::have(std::optional<std::string_view> name, std::string_view parent) const
+{
+    if (!name)
+        return Have::Missing;
+    if (holds(*name))
+        return Have::Here;
+    return !parent.empty() && parent != *name && holds(parent) ? Have::InParent : Have::Missing;
+}
+
 Have RomFolders::have(const GameRecord& record) const
 {
-    if (!record.has(Field::Name))
-        return Have::Missing;
-    if (holds(record[Field::Name]))
-        return Have::Here;
-    const std::string_view parent = record[Field::Cloneof];
-    return !parent.empty() && parent != record[Field::Name] && holds(parent) ? Have::InParent : Have::Missing;
+    const std::string_view name = record[Field::Name];
+    return have(record.has(Field::Name) ? std::optional(name) : std::nullopt, record[Field::Cloneof]);
 }
 
 std::vector<Have> RomFolders::haves(std::span<const GameRecord> content) const
@@ -53,6 +58,28 @@ std::vector<Have> RomFolders::haves(std::span<const GameRecord> content) const
     haves.reserve(content.size());
     for (const GameRecord& record : content)
         haves.push_back(have(record));
+    return haves;
+}
+
+std::vector<RomFolders::SetNames> RomFolders::setNames(std::span<const GameRecord> content)
+{
+    std::vector<SetNames> names;
+    names.reserve(content.size());
+    for (const GameRecord& record : content) {
+        SetNames& set = names.emplace_back();
+        if (record.has(Field::Name))
+            set.name = record[Field::Name];
+        set.parent = record[Field::Cloneof];
+    }
+    return names;
+}
+
+std::vector<Have> RomFolders::haves(std::span<const SetNames> sets) const
+{
+    std::vector<Have> haves;
+    haves.reserve(sets.size());
+    for (const SetNames& set : sets)
+        haves.push_back(have(set.name, set.parent));
     return haves;
 }
 

@@ -33,7 +33,17 @@ public:
     Have have(const GameRecord& record) const;
     std::vector<Have> haves(std::span<const GameRecord> content) const;
 
+    /// A record's own set and its parent's, in a copy that any thread may keep.
+    struct SetNames {
+        std::optional<std::string> name;
+        std::string parent;
+    };
+    static std::vector<SetNames> setNames(std::span<const GameRecord> content);
+    std::vector<Have> haves(std::span<const SetNames> sets) const;
+
 private:
+    Have have(std::optional<std::string_view> name, std::string_view parent) const;
+
     std::optional<QString> m_romFolder;
     QStringList m_emulatorFolders;
     std::optional<FolderNames> m_romNames;

@@ -32,6 +32,26 @@ QString withoutQuotes(const QString& value)
     return value;
 }
 
+// Absolute paths of "$HOME/roms;more".
+QStringList folderList(const QString& written, const QString& home)
+{
+    static const QRegularExpression variable(QStringLiteral("\\$(?:\\{(\\w+)\\}|(\\w+))"));
+    QStringList folders;
+    for (const QString& each : written.split(u';', Qt::SkipEmptyParts)) {
+        QString folder;
+        qsizetype end = 0;
+        for (const auto& match : variable.globalMatch(each)) {
+            const QString name = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
+            folder += QStringView(each).mid(end, match.capturedStart() - end);
+            folder += QFile::decodeName(qgetenv(name.toLatin1().constData()));
+            end = match.capturedEnd();
+        }
+        folder += QStringView(each).mid(end);
+        folders << QDir::cleanPath(QDir(home).absoluteFilePath(folder));
+    }
+    return folders;
+}
+
 } // namespace
 
 std::optional<EmulatorProfile> EmulatorProfile::fromUsage(QByteArrayView usage)
@@ -66,9 +86,12 @@ void EmulatorProfile::readOption(QStringView line)
 // "rompath                   /roms;/more", in quotes where there is a blank in it
 void EmulatorProfile::readSetting(QStringView line)
 {
-    const QLatin1StringView name("rompath ");
-    if (line.startsWith(name))
-        m_romFolders = withoutQuotes(line.mid(name.size()).trimmed().toString());
+    const auto read = [line](QLatin1StringView name, QString& value) {
+        if (line.startsWith(name))
+            value = withoutQuotes(line.mid(name.size()).trimmed().toString());
+    };
+    read(QLatin1StringView("rompath "), m_romFolders);
+    read(QLatin1StringView("inipath "), m_iniFolders);
 }
 
 bool EmulatorProfile::listsName(QStringView name) const
@@ -86,23 +109,17 @@ bool EmulatorProfile::lists(QStringView option) const
     return listsName(name) || (name.startsWith(QLatin1String("no")) && listsName(name.mid(2)));
 }
 
-QStringList EmulatorProfile::romFolderList() const
+QStringList EmulatorProfile::romFolderList(const QString& home) const
 {
-    static const QRegularExpression variable(QStringLiteral("\\$(?:\\{(\\w+)\\}|(\\w+))"));
-    QStringList folders;
-    for (const QString& written : m_romFolders.split(u';', Qt::SkipEmptyParts)) {
-        QString folder;
-        qsizetype end = 0;
-        for (const auto& match : variable.globalMatch(written)) {
-            const QString name = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
-            folder += QStringView(written).mid(end, match.capturedStart() - end);
-            folder += QFile::decodeName(qgetenv(name.toLatin1().constData()));
-            end = match.capturedEnd();
-        }
-        folder += QStringView(written).mid(end);
-        folders << QDir::cleanPath(QDir().absoluteFilePath(folder));
-    }
-    return folders;
+    return folderList(m_romFolders, home);
+}
+
+QStringList EmulatorProfile::settingsFiles(const QString& home) const
+{
+    QStringList files;
+    for (const QString& folder : folderList(m_iniFolders, home))
+        files << folder + QStringLiteral("/mame.ini");
+    return files;
 }
 
 EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built) const

@@ -23,8 +23,11 @@ public:
     /// Its own ROM folders joined by ";", as it writes them; empty where it does not say.
     QString romFolders() const { return m_romFolders; }
 
-    /// The same as a list of absolute paths, with the variables of the environment put in.
-    QStringList romFolderList() const;
+    /// The same as a list of absolute paths, with the variables of the environment put in. `home` is where
+    /// the program runs.
+    QStringList romFolderList(const QString& home) const;
+    /// Where it keeps its own settings: the answer holds while none of these files changes.
+    QStringList settingsFiles(const QString& home) const;
 
     struct Fitted {
         QStringList arguments;
@@ -44,6 +47,7 @@ private:
     QSet<QString> m_names;
     QStringList m_overlong; ///< names with the first word of their description behind them
     QString m_romFolders;
+    QString m_iniFolders;
     bool m_soundTakesValue = true;
 };
 

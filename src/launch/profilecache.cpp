@@ -6,6 +6,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <array>
@@ -22,14 +23,28 @@ QByteArray checksum(QByteArrayView bytes)
     return QCryptographicHash::hash(bytes.toByteArray(), QCryptographicHash::Sha1).toHex();
 }
 
-// One line with the program's identity, one with the text's checksum, then the text as it was printed.
-QByteArray head(const EmulatorIdentity& identity, QByteArrayView usage)
+// Path, size and time of each settings file that is there.
+QByteArray settingsState(const ProfileAnswer& answer, const EmulatorIdentity& identity)
 {
-    return "tessera-profile 2 " + identity.text().toUtf8().toPercentEncoding(" /") + '\n' + checksum(usage)
-        + '\n';
+    QByteArray state;
+    if (!answer.profile)
+        return state;
+    for (const QString& file : answer.profile->settingsFiles(QFileInfo(identity.path).path())) {
+        if (const auto settings = EmulatorIdentity::of(file))
+            state += settings->text().toUtf8() + '\n';
+    }
+    return state;
 }
 
-std::optional<QByteArray> readUsage(const QString& path, const EmulatorIdentity& identity)
+// One line with the program's identity, one with the checksum of what the answer hangs on, then the text as
+// it was printed.
+QByteArray head(const EmulatorIdentity& identity, const QByteArray& settings, const QByteArray& usage)
+{
+    return "tessera-profile 3 " + identity.text().toUtf8().toPercentEncoding(" /") + '\n'
+        + checksum(QByteArray(settings + usage)) + '\n';
+}
+
+std::optional<ProfileAnswer> readAnswer(const QString& path, const EmulatorIdentity& identity)
 {
     QFile file(path);
     if (file.size() > fileLimit || !file.open(QIODevice::ReadOnly))
@@ -37,7 +52,9 @@ std::optional<QByteArray> readUsage(const QString& path, const EmulatorIdentity&
     const QByteArray bytes = file.readAll();
     const qsizetype start = bytes.indexOf('\n', bytes.indexOf('\n') + 1) + 1;
     const QByteArray usage = bytes.mid(start);
-    return bytes.startsWith(head(identity, usage)) ? std::optional(usage) : std::nullopt;
+    const ProfileAnswer answer{EmulatorProfile::fromUsage(usage)};
+    return bytes.startsWith(head(identity, settingsState(answer, identity), usage)) ? std::optional(answer)
+                                                                                    : std::nullopt;
 }
 
 } // namespace
@@ -66,12 +83,12 @@ std::optional<ProfileAnswer> ProfileCache::remembered(const QString& executable)
     if (!identity)
         return std::nullopt;
     const auto known = m_known.constFind(identity->text());
-    if (known != m_known.constEnd())
-        return *known;
-    const auto usage = readUsage(fileFor(*identity), *identity);
-    if (!usage)
-        return std::nullopt;
-    return m_known[identity->text()] = ProfileAnswer{EmulatorProfile::fromUsage(*usage)};
+    if (known != m_known.constEnd() && known->settings == settingsState(known->answer, *identity))
+        return known->answer;
+    const auto answer = readAnswer(fileFor(*identity), *identity);
+    if (answer)
+        m_known[identity->text()] = {*answer, settingsState(*answer, *identity)};
+    return answer;
 }
 
 ProfileAnswer ProfileCache::ask(const QString& executable)
@@ -125,12 +142,13 @@ ProfileAnswer ProfileCache::keep(const std::optional<EmulatorIdentity>& identity
     if (!usage || !identity)
         return {};
     const ProfileAnswer answer{EmulatorProfile::fromUsage(*usage)};
-    m_known[identity->text()] = answer;
+    const QByteArray settings = settingsState(answer, *identity);
+    m_known[identity->text()] = {answer, settings};
     // A program that crashed or was too slow is asked again in the next run.
     if (!question.isAnsweredForGood())
         return answer;
     QDir().mkpath(m_folder);
-    const QByteArray first = head(*identity, *usage);
+    const QByteArray first = head(*identity, settings, *usage);
     const std::array<std::string_view, 2> pieces{
         std::string_view(first.constData(), static_cast<std::size_t>(first.size())),
         std::string_view(usage->constData(), static_cast<std::size_t>(usage->size()))};

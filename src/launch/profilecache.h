@@ -16,7 +16,7 @@ struct ProfileAnswer {
 };
 
 /// The profiles of the emulators. A program is asked once and its answer, usable or not, remembered in a file
-/// by path, size and time.
+/// by path, size and time, and by those of its own settings files, which tell where its ROMs are.
 class ProfileCache : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,11 @@ private:
                 UsageQuestion* question);
 
     QString m_folder;
-    QHash<QString, ProfileAnswer> m_known; ///< by EmulatorIdentity::text()
+    struct Known {
+        ProfileAnswer answer;
+        QByteArray settings; ///< what its settings files were
+    };
+    QHash<QString, Known> m_known; ///< by EmulatorIdentity::text()
     QHash<QString, UsageQuestion*> m_underWay;
 };
 

@@ -70,15 +70,14 @@ void UsageQuestion::runEnded(QProcess::ExitStatus how)
     if (m_settled)
         return;
     const bool isWhole = how == QProcess::NormalExit;
-    const bool isUsage = m_usage.isEmpty();
-    if (isUsage && isWhole && EmulatorProfile::fromUsage(m_text)) {
+    if (m_usage.isEmpty() && isWhole && EmulatorProfile::fromUsage(m_text)) {
         m_usage = std::exchange(m_text, {}) + '\n';
         start(configOption);
         return;
     }
     m_isAnsweredForGood = isWhole;
-    // A configuration that broke off may hold half a line.
-    settle(isWhole || isUsage ? m_usage + m_text : m_usage);
+    // What broke off may hold half a line, or half of the options.
+    settle(isWhole ? m_usage + m_text : m_usage);
 }
 
 void UsageQuestion::read()

@@ -60,10 +60,15 @@ bool DefaultsController::flag(const Key<bool>& key) const
 
 int DefaultsController::index(const Key<float>& key) const
 {
+    return static_cast<int>(number(key));
+}
+
+double DefaultsController::number(const Key<float>& key) const
+{
     bool isNumber = false;
     const double number = shown(key.name).toDouble(&isNumber);
     const bool fits = isNumber && number > -1e9 && number < 1e9;
-    return static_cast<int>(fits ? number : double{key.initial});
+    return fits ? number : double{key.initial};
 }
 
 QString DefaultsController::text(const Key<float>& key) const

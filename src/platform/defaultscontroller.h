@@ -25,6 +25,8 @@ public:
     bool flag(const Key<bool>& key) const;
     /// The selected position of a pop-up; a stored value that is no number gives the initial one.
     int index(const Key<float>& key) const;
+    /// The number itself, where a part of one counts; one that is no number gives the initial one.
+    double number(const Key<float>& key) const;
     /// The text that a field shows; a number kept as a float reads "1", never "1.0".
     QString text(const Key<float>& key) const;
     QString text(const Key<QLatin1StringView>& key) const;

@@ -11,7 +11,8 @@
 
 namespace tessera {
 
-/// A modal question. The first button is the default one and acts; Escape presses the last one, or the one named.
+/// A modal question. The first button is the default one and acts; Escape presses the last one, or the one
+/// named.
 struct Alert {
     enum class Style { Informational, Warning };
 
@@ -37,6 +38,12 @@ struct SaveRequest {
     QStringList extensions; ///< without dots; the first is added to a name that has none of them
 };
 
+/// What a modal colour panel begins with. Colours are texts with their transparency: "#AARRGGBB".
+struct ColorRequest {
+    QString title;
+    QString color;
+};
+
 /// A way out that an error panel offers besides its dismissal.
 struct Recovery {
     QString title;
@@ -57,6 +64,7 @@ public:
     virtual int runAlert(const Alert& alert) = 0;
     virtual std::optional<QString> openPanel(const OpenRequest& request) = 0;
     virtual std::optional<QString> savePanel(const SaveRequest& request) = 0;
+    virtual std::optional<QString> colorPanel(const ColorRequest& request) = 0;
     /// Shows an error, what explains it, and its recoveries. True when a recovery was chosen and dealt with
     /// it.
     virtual bool presentError(const QString& message, const QString& informative,

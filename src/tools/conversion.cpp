@@ -81,6 +81,8 @@ std::optional<ConvertedList> convertParts(const QString& path, const ListxmlPart
         else
             whole->append(std::move(*part));
     }
+    if (whole && whole->text.size() > convertedSizeLimit)
+        whole.reset();
     return whole;
 }
 

@@ -13,8 +13,6 @@ namespace tessera {
 
 namespace {
 
-// Nothing that is converted may be larger than positions of 32 bits reach.
-constexpr std::size_t sizeLimit = (std::size_t{1} << 31) - 1;
 // The largest element of a real list has about 2 MB: one that does not end is none.
 constexpr std::size_t elementLimit = std::size_t{64} << 20;
 
@@ -60,7 +58,7 @@ std::expected<void, Failure> ListxmlConverter::extend(std::size_t count)
     m_lastBytes.erase(0, m_lastBytes.size() - std::min(m_lastBytes.size(), lastBytesKept));
     if (!m_restStarts.empty())
         m_rest += piece;
-    if (held.size() > elementLimit || m_rest.size() > sizeLimit)
+    if (held.size() > elementLimit || m_rest.size() > convertedSizeLimit)
         return std::unexpected(tooLarge());
     return convertElements();
 }
@@ -111,7 +109,7 @@ std::expected<void, Failure> ListxmlConverter::write(const MachineFields& fields
 
     for (const std::string_view value : values)
         m_written += value.size();
-    if (m_written > sizeLimit)
+    if (m_written > convertedSizeLimit)
         return std::unexpected(tooLarge());
     m_store.appendObject(values, cloneofLater);
     return {};
@@ -169,7 +167,7 @@ std::expected<ConvertedList, Failure> ListxmlConverter::finish()
     std::vector<std::size_t> starts;
     std::string rest = copiedRest(starts);
     m_store.complete(storelayout::newUuid(), std::move(rest), std::move(starts));
-    if (m_store.size() > sizeLimit)
+    if (m_store.size() > convertedSizeLimit)
         return std::unexpected(tooLarge());
     const std::size_t games = m_store.objects();
     return ConvertedList{std::move(m_store), games, !m_scanner.isInElement() && endsWithEndTag()};

@@ -19,6 +19,9 @@ struct ConversionOptions {
     bool withoutDevices = false;
 };
 
+/// Bytes of a list or a store: nothing that is converted may be larger than positions of 32 bits reach.
+inline constexpr std::size_t convertedSizeLimit = (std::size_t{1} << 31) - 1;
+
 /// A complete store.
 struct ConvertedList {
     StoreText text;

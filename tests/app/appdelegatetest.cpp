@@ -2,8 +2,10 @@
 
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
+#include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/tablefont.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
@@ -13,6 +15,7 @@
 #include "tools/ui/utilitywindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -22,6 +25,9 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSignalSpy>
+#include <QToolButton>
+
+#include <algorithm>
 
 using namespace tessera;
 using test::StagedApp;
@@ -271,11 +277,98 @@ private Q_SLOTS:
         staged.start();
         QSet<QKeySequence> seen;
         for (const QAction* action : staged.app->mainWindow().menuBar()->findChildren<QAction*>()) {
-            if (action->shortcut().isEmpty())
-                continue;
-            QVERIFY2(!seen.contains(action->shortcut()), qPrintable(action->text()));
-            seen.insert(action->shortcut());
+            for (const QKeySequence& shortcut : action->shortcuts()) {
+                QVERIFY2(!seen.contains(shortcut), qPrintable(action->text()));
+                seen.insert(shortcut);
+            }
         }
+    }
+
+    void theKeysOfTheViewMenuChangeTheText_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<double>("size");
+        QTest::newRow("plus") << Qt::Key_Plus << 14.0;
+        QTest::newRow("the same key without Shift") << Qt::Key_Equal << 14.0;
+        QTest::newRow("minus") << Qt::Key_Minus << 12.0;
+    }
+
+    void theKeysOfTheViewMenuChangeTheText()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(double, size);
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->mainWindow().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&staged.app->mainWindow()));
+        QTest::keyClick(staged.app->mainWindow().gameTable, key, Qt::ControlModifier);
+        QCOMPARE(staged.defaults.value(keys::fontSize.name), QVariant(size));
+        QCOMPARE(staged.defaults.value(keys::rowHeight.name), QVariant(size * 1.5));
+    }
+
+    void theViewMenuOpensTheFontPanel()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        QVERIFY(!staged.app->tableFont().fontPanel().isVisible());
+        staged.app->findMenuItemNamed(QStringLiteral("menu_font"))->trigger();
+        QVERIFY(staged.app->tableFont().fontPanel().isVisible());
+    }
+
+    void menuItemsAreFoundByTheirTitle()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        for (const char* title : {"menu_file", "menu_view", "menu_bigger", "menu_quit", "menu_logfront"}) {
+            const QAction* found = staged.app->findMenuItemNamed(QLatin1String(title));
+            QVERIFY2(found != nullptr, title);
+            QCOMPARE(found->text(), QLatin1String(title));
+        }
+        QCOMPARE(staged.app->findMenuItemNamed(QStringLiteral("menu_nowhere")), nullptr);
+        const test::InstalledTexts texts(QStringLiteral("en"));
+        StagedApp english;
+        english.writeCatalogue();
+        english.start();
+        QCOMPARE(english.app->findMenuItemNamed(QStringLiteral("Open Recent"))->text(),
+                 QStringLiteral("Open &Recent"));
+    }
+
+    void theAppearancePageIsTheLast()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->showPrefsWindow();
+        QStringList pages;
+        for (const QToolButton* button : staged.app->preferencesWindow().findChildren<QToolButton*>()) {
+            if (button->property("role") == QStringLiteral("page"))
+                pages << button->text();
+        }
+        QCOMPARE(pages,
+                 (QStringList{QStringLiteral("page_general"), QStringLiteral("page_video"),
+                              QStringLiteral("page_effects"), QStringLiteral("page_sound"),
+                              QStringLiteral("page_input"), QStringLiteral("page_misc"),
+                              QStringLiteral("page_appearance")}));
+        QVERIFY(staged.app->preferencesWindow().findChild<AppearancePage*>() != nullptr);
+    }
+
+    void pagesThatWereNeverSeenGoWithTheWindow()
+    {
+        const auto pages = [] {
+            return std::ranges::count_if(QApplication::allWidgets(), [](const QWidget* widget) {
+                return qobject_cast<const FormPage*>(widget) != nullptr;
+            });
+        };
+        const auto before = pages();
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        QCOMPARE(pages() - before, 7 + 1); // and the utility window's
+        staged.app.reset();
+        QCOMPARE(pages(), before);
     }
 
     void everyControlHasAnAccessibleName_data() { addLanguages(); }

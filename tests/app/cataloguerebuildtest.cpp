@@ -198,6 +198,24 @@ private Q_SLOTS:
         QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
     }
 
+    void theOfferStandsAgainAfterACancelledRebuild()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        staged.app.reset();
+        makeEmulator(staged, "sleep 20");
+        staged.start();
+        staged.app->mainWindow().rebuildButton->click();
+        QVERIFY(!staged.app->mainWindow().rebuildButton->isVisible());
+        staged.app->rebuild().cancel();
+        QTRY_VERIFY(!staged.app->rebuild().isRunning());
+        QVERIFY(staged.app->mainWindow().rebuildButton->isVisible());
+    }
+
     void theStripCountsTheMachines_data()
     {
         QTest::addColumn<QString>("language");

@@ -1,13 +1,17 @@
 #include "stagedapp.h"
 
 #include "app/mainwindow.h"
+#include "app/preferenceswindow.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/tablefont.h"
 #include "support/testmain.h"
 
 #include <QAbstractItemModelTester>
+#include <QCheckBox>
+#include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalSpy>
@@ -217,6 +221,43 @@ private Q_SLOTS:
     {
         QCOMPARE(m_table->verticalHeader()->defaultSectionSize(), 20);
         QCOMPARE(m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 13);
+        m_staged->app->makeTextBigger();
+        QCOMPARE(m_table->verticalHeader()->defaultSectionSize(), 21);
+        QCOMPARE(m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 14);
+    }
+
+    void halfAPixelOfARowIsAWholeOne()
+    {
+        for (int size = 12; size >= 9; --size)
+            m_staged->app->makeTextSmaller();
+        QCOMPARE(m_staged->defaults.value(keys::rowHeight.name), QVariant(13.5));
+        QCOMPARE(m_table->verticalHeader()->defaultSectionSize(), 14);
+        QCOMPARE(m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>().pixelSize(), 9);
+        m_staged->app->makeTextSmaller();
+        QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void rowsHaveTheChosenFont()
+    {
+        FontPanel& panel = m_staged->app->tableFont().fontPanel();
+        panel.setPanelFont(QFontDatabase::font(QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 12));
+        m_staged->app->tableFont().changeFont(panel);
+        const auto font = m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>();
+        QCOMPARE(font.family(), QStringLiteral("DejaVu Sans"));
+        QCOMPARE(font.styleName(), QStringLiteral("Bold"));
+        QCOMPARE(font.pixelSize(), 13);
+        QCOMPARE(font.families().sliced(1), QFont().families());
+    }
+
+    void onlySettingsOfTheLookPaintTheRowsAnew()
+    {
+        QSignalSpy painted(m_list->model(), &QAbstractItemModel::dataChanged);
+        auto* preferences = &m_staged->app->preferencesWindow();
+        m_staged->app->showPrefsWindow();
+        preferences->findChild<QCheckBox*>(QStringLiteral("checkboxMaximize"))->click();
+        QCOMPARE(painted.count(), 0);
+        preferences->findChild<QCheckBox*>(QStringLiteral("coloringBox"))->click();
+        QCOMPARE(painted.count(), 1);
     }
 
     void coloursComeOnlyWithTheColouringKey()

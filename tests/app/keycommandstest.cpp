@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
 
@@ -127,6 +128,31 @@ private Q_SLOTS:
         m_staged->app->copySelection();
         QCOMPARE(QGuiApplication::clipboard()->text(),
                  QStringLiteral("Title 2\tset1002\nTitle 4\tset1004\n"));
+    }
+
+    void selectedTextIsCopiedBeforeRows()
+    {
+        m_table->selectRow(4);
+        auto* title = new QLabel(QStringLiteral("A whole title"), &m_staged->app->mainWindow());
+        title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        title->show();
+        title->setFocus();
+        title->setSelection(2, 5);
+        m_staged->app->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("whole"));
+        m_table->setFocus();
+        m_staged->app->copySelection();
+        QVERIFY(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("set1004\t")));
+    }
+
+    void anotherWindowsCopyTakesNoRows()
+    {
+        m_table->selectRow(4);
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        m_staged->app->showPrefsWindow();
+        becomeKey(m_staged->app->preferencesWindow());
+        m_staged->app->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
     }
 
     void nothingSelectedLeavesTheClipboard()

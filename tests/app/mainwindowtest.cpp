@@ -2,17 +2,20 @@
 
 #include "app/emptystate.h"
 #include "app/mainwindow.h"
+#include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
+#include "widgets/myscrollers.h"
 
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QToolButton>
 
 using namespace tessera;
@@ -159,6 +162,44 @@ private Q_SLOTS:
         staged.start();
         QCOMPARE(staged.app->mainWindow().gameTable->columnWidth(1), 177);
         QCOMPARE(staged.app->mainWindow().size(), QSize(901, 607));
+    }
+
+    void theSidePanelKeepsItsWidth()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        MainWindow& window = staged.app->mainWindow();
+        auto* split = window.findChild<QSplitter*>(QStringLiteral("MainSplitView"));
+        QVERIFY(split != nullptr);
+        split->setSizes({260, 900});
+        for (const int width : {900, 1300}) {
+            window.resize(width, 700);
+            QCOMPARE(window.factsPanel->width(), 260);
+        }
+        split->setSizes({1, 900});
+        QCOMPARE(window.factsPanel->width(), 236);
+        split->setSizes({window.width() - 2, 1});
+        QCOMPARE(split->sizes().at(1), 18);
+    }
+
+    void theListAndTheLogHaveKnobsOnly()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        for (const QAbstractScrollArea* area :
+             {static_cast<QAbstractScrollArea*>(staged.app->mainWindow().gameTable),
+              static_cast<QAbstractScrollArea*>(staged.app->logWindow().infomationTextView)}) {
+            for (QScrollBar* bar : {area->verticalScrollBar(), area->horizontalScrollBar()}) {
+                auto* knobOnly = qobject_cast<MyScrollers*>(bar);
+                QVERIFY(knobOnly != nullptr);
+                // Under the style sheet, too, the knob leaves the bar's edges free.
+                knobOnly->setRange(0, 1000);
+                QVERIFY(!knobOnly->knob().isEmpty());
+                QVERIFY(QRectF(knobOnly->rect()).adjusted(1, 1, -1, -1).contains(knobOnly->knob()));
+            }
+        }
     }
 };
 

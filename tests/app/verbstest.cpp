@@ -1,5 +1,6 @@
 #include "app/verbs/names.h"
 #include "catalogue/storewriter.h"
+#include "platform/recentdocuments.h"
 #include "platform/userdefaults.h"
 #include "support/testmain.h"
 
@@ -64,9 +65,14 @@ private Q_SLOTS:
 
     void badWordsForTheWindowsEndWithTwo()
     {
-        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        for (const QStringList& words : {QStringList{QStringLiteral("--nonsense")},
-                                         {QStringLiteral("a.zip"), QStringLiteral("b.zip")}}) {
+        // Also where no window could open.
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            m_environment.remove(QString::fromLatin1(name));
+        for (const QStringList& words :
+             {QStringList{QStringLiteral("--nonsense")},
+              {QStringLiteral("a.zip"), QStringLiteral("b.zip")},
+              {QStringLiteral("lsit"), QStringLiteral("pong")},
+              {QStringLiteral("-style"), QStringLiteral("fusion"), QStringLiteral("--nonsense")}}) {
             const Outcome bad = tessera(words);
             QCOMPARE(bad.status, 2);
             QVERIFY2(bad.err.contains("tessera --help"), bad.err);
@@ -200,7 +206,7 @@ private Q_SLOTS:
             QTest::newRow(query) << QString::fromUtf8(query).split(u'|') << QByteArray(names);
         };
         row("", "alien begins clone pong whole");
-        row("pong", "pong whole begins clone");
+        row("pong", "pong whole clone begins");
         row("pong|-clone:yes", "");
         row("pong|--|-clone:yes", "pong whole begins");
         row("--|-pong", "alien");
@@ -319,6 +325,16 @@ private Q_SLOTS:
         QCOMPARE(outcome.out, QByteArray("out\nerr\n"));
         outcome = tessera({QStringLiteral("launch"), QStringLiteral("print")});
         QVERIFY(outcome.out.startsWith("[print]\n[-video]\n[opengl]\n"));
+    }
+
+    void launchNotesAnArchiveAmongTheRecentFiles()
+    {
+        useStandIn();
+        write(QStringLiteral("print.zip"), "");
+        tessera({QStringLiteral("launch"), path(QStringLiteral("print.zip"))});
+        tessera({QStringLiteral("launch"), QStringLiteral("print")});
+        UserDefaults settings(settingsPath());
+        QCOMPARE(RecentDocuments(settings).paths(), QStringList{path(QStringLiteral("print.zip"))});
     }
 
     void buildSaysWhatItIsBuiltWithout()

@@ -175,6 +175,34 @@ private Q_SLOTS:
         QVERIFY(!ProfileCache(m_cache).remembered(program));
     }
 
+    void halfOfTheOptionsIsNoAnswer()
+    {
+        const QString program
+            = script("cat '" + QFile::encodeName(m_folder->filePath("usage")) + "'\nkill -SEGV $$\n");
+        ProfileCache cache(m_cache);
+        QVERIFY(!cache.ask(program).profile);
+        QVERIFY(!ProfileCache(m_cache).remembered(program));
+    }
+
+    void changedSettingsOfTheProgramAreAskedForAgain()
+    {
+        QVERIFY(QDir(m_folder->path()).mkpath("ini"));
+        const QByteArray inis = "inipath                   $INIS/ini;more\n";
+        qputenv("INIS", QFile::encodeName(m_folder->path()));
+        write(m_folder->filePath("config"), "rompath                   /own\n" + inis);
+        ProfileCache cache(m_cache);
+        QCOMPARE(cache.ask(m_emulator).profile->romFolders(), QStringLiteral("/own"));
+        QVERIFY(cache.remembered(m_emulator));
+
+        write(m_folder->filePath("ini/mame.ini"), "rompath /other\n");
+        write(m_folder->filePath("config"), "rompath                   /other\n" + inis);
+        QVERIFY(!cache.remembered(m_emulator));
+        QVERIFY(!ProfileCache(m_cache).remembered(m_emulator));
+        QCOMPARE(cache.ask(m_emulator).profile->romFolders(), QStringLiteral("/other"));
+        QVERIFY(ProfileCache(m_cache).remembered(m_emulator));
+        qunsetenv("INIS");
+    }
+
     void aDamagedFileIsAskedAgain_data()
     {
         QTest::addColumn<int>("damage");

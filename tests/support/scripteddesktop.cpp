@@ -32,6 +32,11 @@ void ScriptedDesktop::answerSave(const QString& name, const std::optional<QStrin
     m_answers.push_back({QStringLiteral("save"), name, 0, path});
 }
 
+void ScriptedDesktop::answerColor(const QString& from, const std::optional<QString>& color)
+{
+    m_answers.push_back({QStringLiteral("color"), from, 0, color});
+}
+
 std::optional<ScriptedDesktop::Answer> ScriptedDesktop::take(const QString& kind, const QString& question)
 {
     m_transcript << QStringLiteral("%1 %2").arg(kind, question).trimmed();
@@ -73,6 +78,13 @@ std::optional<QString> ScriptedDesktop::savePanel(const SaveRequest& request)
 {
     saveRequests.push_back(request);
     const auto answer = take(QStringLiteral("save"), request.name);
+    return answer ? answer->path : std::nullopt;
+}
+
+std::optional<QString> ScriptedDesktop::colorPanel(const ColorRequest& request)
+{
+    colorRequests.push_back(request);
+    const auto answer = take(QStringLiteral("color"), request.color);
     return answer ? answer->path : std::nullopt;
 }
 

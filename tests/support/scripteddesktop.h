@@ -21,14 +21,18 @@ public:
     /// The next save panel must propose `name`.
     void answerSave(const QString& name, const std::optional<QString>& path);
 
-    /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "error MESSAGE", "reveal PATH", "recent
-    /// PATH", "log LINE", in order.
+    /// The next colour panel must begin with `from`.
+    void answerColor(const QString& from, const std::optional<QString>& color);
+
+    /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "color FROM", "error MESSAGE", "reveal
+    /// PATH", "recent PATH", "log LINE", in order.
     QStringList transcript() const { return m_transcript; }
     QStringList takeTranscript() { return std::exchange(m_transcript, {}); }
 
     std::vector<Alert> alerts;
     std::vector<OpenRequest> openRequests;
     std::vector<SaveRequest> saveRequests;
+    std::vector<ColorRequest> colorRequests;
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5));
 
     void beep() override;
@@ -36,6 +40,7 @@ public:
     int runAlert(const Alert& alert) override;
     std::optional<QString> openPanel(const OpenRequest& request) override;
     std::optional<QString> savePanel(const SaveRequest& request) override;
+    std::optional<QString> colorPanel(const ColorRequest& request) override;
     bool presentError(const QString& message, const QString& informative,
                       const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
@@ -48,7 +53,7 @@ private:
         QString kind;
         QString question;
         int choice = 0;
-        std::optional<QString> path;
+        std::optional<QString> path; ///< or colour
     };
     std::optional<Answer> take(const QString& kind, const QString& question);
 

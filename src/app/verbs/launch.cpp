@@ -9,6 +9,7 @@
 #include "launch/profilecache.h"
 #include "launch/storedoptions.h"
 #include "platform/defaultscontroller.h"
+#include "platform/recentdocuments.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -30,6 +31,7 @@ Failure become(const QString& executable, const QStringList& arguments)
 {
     const QByteArray program = QFile::encodeName(executable);
     std::vector<QByteArray> words{program};
+    words.reserve(static_cast<std::size_t>(arguments.size()) + 1);
     for (const QString& argument : arguments)
         words.push_back(argument.toLocal8Bit());
     std::vector<char*> pointers;
@@ -37,8 +39,10 @@ Failure become(const QString& executable, const QStringList& arguments)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
 
+    const QStringList ours = emulatorEnvironment().toStringList();
     std::vector<QByteArray> environment;
-    for (const QString& variable : emulatorEnvironment().toStringList())
+    environment.reserve(static_cast<std::size_t>(ours.size()));
+    for (const QString& variable : ours)
         environment.push_back(variable.toLocal8Bit());
     std::vector<char*> variables;
     for (QByteArray& variable : environment)
@@ -80,6 +84,10 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
         = storedOptions(defaults, known ? *known : SelectedGame{game, QString(), QString()});
     const CommandLine line
         = commandLine(ProfileCache().ask(executable).profile, game, argumentsArray(options), {});
+    if (QFileInfo(game).isAbsolute()) {
+        RecentDocuments(settings).note(game);
+        std::ignore = settings.synchronize();
+    }
     if (const QString note = line.leftOutLine(); !note.isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(note));
     return failed(become(QFileInfo(executable).absoluteFilePath(), line.arguments));

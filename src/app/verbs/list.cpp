@@ -5,7 +5,11 @@
 #include "catalogue/romfolders.h"
 #include "catalogue/search/gamesearch.h"
 #include "catalogue/storereader.h"
+#include "launch/emulatorfinder.h"
+#include "launch/profilecache.h"
 #include "platform/userdefaults.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -116,8 +120,12 @@ Found found(std::span<const GameRecord> records, const Query& query)
     if (std::ranges::any_of(query.terms(), [](const Term& term) { return term.kind == TermKind::Have; })) {
         const UserDefaults defaults(UserDefaults::standardPath());
         const auto folder = defaults.value(keys::RomsPath.name);
+        const QString emulator = emulatorToUse(defaults.string(keys::ExecutionPath.name));
+        const auto profile = emulator.isEmpty() ? std::nullopt : ProfileCache().ask(emulator).profile;
+        const QStringList folders
+            = profile ? profile->romFolderList(QFileInfo(emulator).absolutePath()) : QStringList();
         search.setHaves(
-            RomFolders(folder ? std::optional(folder->toString()) : std::nullopt, {}).haves(records));
+            RomFolders(folder ? std::optional(folder->toString()) : std::nullopt, folders).haves(records));
     }
     return search.find(query);
 }

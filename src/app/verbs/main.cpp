@@ -39,6 +39,6 @@ int main(int argc, char* argv[])
         print(overview());
         return flushed(Done);
     }
-    std::fputs(qUtf8Printable(overview() + QLatin1Char('\n')), stderr);
+    std::fputs("Usage: tessera [FILE], or tessera VERB ...\n\"tessera --help\" tells more.\n", stderr);
     return BadCommandLine;
 }

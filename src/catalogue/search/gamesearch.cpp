@@ -39,6 +39,7 @@ public:
     void keepChip(Chip chip);
     void keepTerm(const Term& term);
     Found found(const Query& query) const;
+    bool isEmpty() const { return std::ranges::find(m_kept, std::uint8_t{1}) == m_kept.end(); }
 
 private:
     Have have(std::size_t record) const { return m_haves.empty() ? Have::Missing : m_haves[record]; }
@@ -160,10 +161,24 @@ Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) c
     if (within != nullptr)
         finding.keepWithin(*within);
     for (const Term& term : query.terms()) {
-        if (term.applies)
-            finding.keepTerm(term);
+        if (!term.applies)
+            continue;
+        finding.keepTerm(term);
+        // A whole page may have been pasted.
+        if (finding.isEmpty())
+            return {RecordSet(m_facts.size()), {}};
     }
     return finding.found(query);
+}
+
+void GameSearch::keep(Chip chip, RecordSet& records) const
+{
+    if (chip == Chip::All)
+        return;
+    for (const std::uint32_t record : records.records()) {
+        if (!letsThrough(chip, m_facts[record], m_haves.empty() ? Have::Missing : m_haves[record]))
+            records.remove(record);
+    }
 }
 
 void GameSearch::replace(std::uint32_t record, const GameRecord& now)

@@ -37,6 +37,8 @@ public:
 
     /// What the chip and all terms let through, and `within` holds.
     Found find(const Query& query, Chip chip = Chip::All, const RecordSet* within = nullptr) const;
+    /// Takes out what a chip does not let through.
+    void keep(Chip chip, RecordSet& records) const;
     ChipCounts chipCounts(const RecordSet* within = nullptr) const
     {
         return countChips(m_facts, m_haves, within);

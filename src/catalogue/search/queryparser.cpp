@@ -66,6 +66,13 @@ bool mayBecomeYears(std::string_view value)
     return (first.empty() || yearRange(first)) && mayBecomeYear(value.substr(dash + 1));
 }
 
+// In a sentence for the user; whole pages can be pasted.
+QString shown(QStringView text)
+{
+    constexpr qsizetype most = 40;
+    return text.size() > most ? QString(text.first(most) + u'…') : text.toString();
+}
+
 // "1985", "1985-1989", "1985-" or "-1989".
 std::optional<YearRange> askedYears(std::string_view value)
 {
@@ -114,7 +121,7 @@ Term QueryParser::term()
     } else if (!name.isEmpty() && !blankFollows(m_at + name.size() + 1)) {
         m_at += name.size() + 1;
         value();
-        refuse(term, Failure{"search_wrong_key", {name.toString(), keyNames()}}, false);
+        refuse(term, Failure{"search_wrong_key", {shown(name), keyNames()}}, false);
     } else if (isMinus(m_text[m_at]) && m_at + 1 == m_text.size()) {
         ++m_at;
         refuse(term, Failure{"search_no_words", {QStringLiteral("-")}}, true);
@@ -158,7 +165,7 @@ void QueryParser::readWords(Term& term, const Value& value)
     if (value.quoted)
         term.words.ends = value.open ? WordEnds::Begun : WordEnds::Whole;
     if (term.words.text.empty())
-        refuse(term, Failure{"search_no_words", {value.text.toString()}}, true);
+        refuse(term, Failure{"search_no_words", {shown(value.text)}}, true);
     else if (value.open) {
         refuse(term, Failure{"search_open_quote", {}}, true);
         term.applies = true;
@@ -169,8 +176,7 @@ void QueryParser::readKeyed(Term& term, const SearchKey& key, const Value& value
 {
     term.kind = key.kind;
     if (value.text.isEmpty() && !value.quoted)
-        refuse(term, Failure{"search_no_value", {m_text.sliced(term.begin, m_at - term.begin).toString()}},
-               true);
+        refuse(term, Failure{"search_no_value", {shown(m_text.sliced(term.begin, m_at - term.begin))}}, true);
     else if (!key.values.empty())
         readFixed(term, key, value.text);
     else if (key.kind == TermKind::Year)
@@ -186,9 +192,9 @@ void QueryParser::readYears(Term& term, QStringView value)
     std::ranges::replace(years, '~', '-');
     const auto range = askedYears(years);
     if (!range)
-        refuse(term, Failure{"search_wrong_year", {value.toString()}}, mayBecomeYears(years));
+        refuse(term, Failure{"search_wrong_year", {shown(value)}}, mayBecomeYears(years));
     else if (range->first > range->last)
-        refuse(term, Failure{"search_reversed_years", {value.toString()}}, false);
+        refuse(term, Failure{"search_reversed_years", {shown(value)}}, false);
     else
         term.years = *range;
 }
@@ -202,7 +208,7 @@ void QueryParser::readFixed(Term& term, const SearchKey& key, QStringView value)
         return;
     const bool begun
         = std::ranges::any_of(key.values, [&](std::string_view each) { return each.starts_with(asked); });
-    refuse(term, Failure{"search_wrong_value", {value.toString(), fieldText(key.name), joined(key.values)}},
+    refuse(term, Failure{"search_wrong_value", {shown(value), fieldText(key.name), joined(key.values)}},
            begun);
 }
 

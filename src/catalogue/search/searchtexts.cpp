@@ -126,10 +126,11 @@ SearchTexts::SearchTexts(std::span<const GameRecord> content)
     m_foldedEnd = m_texts.records();
 }
 
-FoldedTexts SearchTexts::fold(const SearchBuffer& unfolded)
+// What was folded when it is stopped is of no use.
+FoldedTexts SearchTexts::fold(const SearchBuffer& unfolded, const std::stop_token& stop)
 {
     FoldedTexts folded;
-    for (std::size_t place = 0; place < unfolded.records(); ++place) {
+    for (std::size_t place = 0; place < unfolded.records() && !stop.stop_requested(); ++place) {
         folded.texts.begin(unfolded.record(place));
         folded.readings.begin(unfolded.record(place));
         std::string_view rest = unfolded.texts(place);

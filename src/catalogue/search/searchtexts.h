@@ -4,6 +4,7 @@
 #include "catalogue/search/searchbuffer.h"
 
 #include <span>
+#include <stop_token>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,7 @@ public:
 
     /// A copy of what the first step left, good on any thread and after the records are gone.
     SearchBuffer unfolded();
-    static FoldedTexts fold(const SearchBuffer& unfolded);
+    static FoldedTexts fold(const SearchBuffer& unfolded, const std::stop_token& stop = {});
     /// What was edited since unfolded() stays as it is.
     void take(FoldedTexts folded);
 

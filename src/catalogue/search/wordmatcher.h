@@ -47,11 +47,11 @@ private:
 
     // clang-format off
     static constexpr Rank ranks[4][3] = {
-        //               Else                 FieldEnds            BracketOpens
-        /* NameBegins  */ {Rank::WordBeginning, Rank::SetName,       Rank::WordBeginning},
-        /* TitleBegins */ {Rank::WordBeginning, Rank::WholeTitle,    Rank::TitleProper},
-        /* WordBegins  */ {Rank::WordBeginning, Rank::WordBeginning, Rank::WordBeginning},
-        /* WordGoesOn  */ {Rank::Inside,        Rank::Inside,        Rank::Inside},
+        //               Else                  FieldEnds            BracketOpens
+        /* NameBegins  */ {Rank::NameBeginning,  Rank::SetName,       Rank::NameBeginning},
+        /* TitleBegins */ {Rank::TitleBeginning, Rank::WholeTitle,    Rank::TitleProper},
+        /* WordBegins  */ {Rank::WordBeginning,  Rank::WordBeginning, Rank::WordBeginning},
+        /* WordGoesOn  */ {Rank::Inside,         Rank::Inside,        Rank::Inside},
     };
     // clang-format on
 
@@ -64,8 +64,8 @@ private:
     // Without a branch: there would be no guessing it.
     static Behind behindPlace(std::string_view bytes, std::size_t end)
     {
-        const bool bracket = (bytes[end] == ' ') & (bytes[end + 1] == '(');
-        return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * int{bracket});
+        const int bracket = int{bytes[end] == ' '} & int{bytes[end + 1] == '('};
+        return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * bracket);
     }
 
     Before beforeByCharacter(std::string_view bytes, std::size_t offset) const;

@@ -74,7 +74,7 @@ void JointRanks::addPhrase(std::span<const Rank> ranks)
     const std::span sums(m_sum);
     for (std::size_t i = 0; i < ranks.size(); ++i) {
         const auto rank = static_cast<std::uint8_t>(ranks[i]);
-        const bool better = (ranks[i] <= Rank::TitleProper) & (rank <= worst[i]);
+        const bool better = (int{ranks[i] <= Rank::TitleBeginning} & int{rank <= worst[i]}) != 0;
         worst[i] = better ? rank : worst[i];
         sums[i] = better ? std::uint8_t{0} : sums[i];
     }

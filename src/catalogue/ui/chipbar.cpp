@@ -70,25 +70,31 @@ ChipBar::ChipBar(QWidget* parent)
 {
     setProperty("role", QStringLiteral("chips"));
     setAttribute(Qt::WA_StyledBackground);
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 7, 12, 7);
     layout->setSpacing(6);
-    for (const ChipRow& row : chips) {
-        auto* button = new ChipButton(qtTrId(row.label));
-        button->setObjectName(QStringLiteral("chip_")
-                              + QString::fromUtf8(row.name.data(), static_cast<qsizetype>(row.name.size())));
-        m_group->addButton(button, static_cast<int>(row.chip));
-        layout->addWidget(button);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    layout->addLayout(row);
+    for (const ChipRow& chip : chips) {
+        auto* button = new ChipButton(qtTrId(chip.label));
+        button->setObjectName(
+            QStringLiteral("chip_")
+            + QString::fromUtf8(chip.name.data(), static_cast<qsizetype>(chip.name.size())));
+        m_group->addButton(button, static_cast<int>(chip.chip));
+        row->addWidget(button);
     }
     m_complaint->setObjectName(QStringLiteral("complaintLabel"));
     m_complaint->setProperty("role", QStringLiteral("notice"));
     m_complaint->setTextFormat(Qt::PlainText);
-    m_complaint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    layout->addSpacing(6);
-    layout->addWidget(m_complaint, 1);
+    m_complaint->setWordWrap(true);
+    m_complaint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    m_complaint->hide();
+    layout->addWidget(m_complaint);
     familiesBox->setObjectName(QStringLiteral("familiesBox"));
     familiesBox->setToolTip(qtTrId("chips_families_help"));
-    layout->addWidget(familiesBox);
+    row->addStretch();
+    row->addWidget(familiesBox);
     connect(m_group, &QButtonGroup::idClicked, this,
             [this](int id) { Q_EMIT chosen(static_cast<Chip>(id)); });
     setChip(Chip::All);
@@ -108,7 +114,7 @@ void ChipBar::setCounts(const ChipCounts& counts)
 void ChipBar::complain(const QString& sentence)
 {
     m_complaint->setText(sentence);
-    m_complaint->setToolTip(sentence);
+    m_complaint->setVisible(!sentence.isEmpty());
 }
 
 } // namespace tessera

@@ -84,6 +84,9 @@ FactsPanel::FactsPanel(QWidget* parent)
     titleRow->addWidget(m_title, 1);
     m_status = selectable(new QLabel(this));
     m_rows.push_back({Field::Status, addFact(textKey("fact_status"), m_status), m_status});
+    m_have = selectable(new QLabel(this));
+    m_have->setObjectName(QStringLiteral("haveLabel"));
+    m_haveName = addFact(textKey("fact_rom"), m_have);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
@@ -96,6 +99,7 @@ FactsPanel::FactsPanel(QWidget* parent)
     layout->addWidget(m_factsBox);
     layout->addStretch();
     showRecord(nullptr, 0);
+    showHave(std::nullopt, nullptr);
 }
 
 QLabel* FactsPanel::addFact(const char* textKey, QWidget* value)
@@ -131,6 +135,22 @@ void FactsPanel::showRecord(const GameRecord* record, int count)
         fact.value->setText(fieldText((*record)[fact.field]));
         fact.name->setVisible(known);
         fact.value->setVisible(known);
+    }
+}
+
+void FactsPanel::showHave(std::optional<Have> have, const GameRecord* record)
+{
+    m_have->setVisible(have && record != nullptr);
+    m_haveName->setVisible(have && record != nullptr);
+    if (!have || record == nullptr)
+        return;
+    switch (*have) {
+    case Have::Here:
+        return m_have->setText(qtTrId("have_here"));
+    case Have::InParent:
+        return m_have->setText(qtTrId("have_in_parent").arg(fieldText((*record)[Field::Cloneof])));
+    case Have::Missing:
+        return m_have->setText(qtTrId("have_missing"));
     }
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
+#include "catalogue/have.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class QGridLayout;
 class QLabel;
@@ -20,6 +23,8 @@ public:
 
     /// One record, or nothing; with several selected, `count` is told instead.
     void showRecord(const GameRecord* record, int count);
+    /// What the ROM folders hold of that record; nothing while they are not known.
+    void showHave(std::optional<Have> have, const GameRecord* record);
     void showMark(const QString& imageName);
 
     QLabel* romMark = nullptr;
@@ -39,6 +44,8 @@ private:
     std::vector<Fact> m_rows;
     QLabel* m_kind;
     QLabel* m_status = nullptr;
+    QLabel* m_have;
+    QLabel* m_haveName;
 };
 
 } // namespace tessera

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 
 #include <algorithm>
@@ -79,8 +80,7 @@ FilterPanel::FilterPanel(QWidget* parent)
     layout->addWidget(label("heading", qtTrId("filter_heading")));
     layout->addLayout(head);
     layout->addWidget(m_hint);
-    layout->addLayout(m_rowsLayout);
-    layout->addStretch();
+    layout->addWidget(makeRowsBox(), 1);
     layout->addWidget(makeMakerBox());
     resize(560, 380);
 
@@ -88,6 +88,22 @@ FilterPanel::FilterPanel(QWidget* parent)
     connect(clearButton, &QPushButton::clicked, this, &FilterPanel::clear);
     connect(joinPopup, &QComboBox::activated, this, &FilterPanel::tellRules);
     closeByKeyboard(*this);
+}
+
+QWidget* FilterPanel::makeRowsBox()
+{
+    auto* rows = new QWidget;
+    auto* layout = new QVBoxLayout(rows);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(m_rowsLayout);
+    layout->addStretch();
+    auto* box = new QScrollArea;
+    box->setFrameShape(QFrame::NoFrame);
+    box->setWidgetResizable(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setWidget(rows);
+    return box;
 }
 
 QWidget* FilterPanel::makeMakerBox()

@@ -51,6 +51,7 @@ private:
 
     void removeRow(QWidget* box);
     void tellRules();
+    QWidget* makeRowsBox();
     QWidget* makeMakerBox();
 
     std::vector<Row> m_rows;

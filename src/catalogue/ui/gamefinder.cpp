@@ -6,6 +6,7 @@
 #include "platform/defaultscontroller.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tessera {
 
@@ -15,6 +16,9 @@ const ChipRow& rowOf(Chip chip)
 {
     return *std::ranges::find(chips, chip, &ChipRow::chip);
 }
+
+// So many records are taken out of what was prepared one by one; more are prepared anew.
+constexpr std::size_t mostSingly = 64;
 
 QString textOf(std::string_view text)
 {
@@ -31,8 +35,11 @@ GameFinder::GameFinder(Catalogue& catalogue, GameListController& list, DefaultsC
     , m_defaults(defaults)
 {
     m_pool.setMaxThreadCount(1);
-    connect(&list, &GameListController::contentChanged, this, &GameFinder::forget);
+    connect(&list, &GameListController::contentChanged, this, &GameFinder::takeContent);
+    connect(&list.list(), &ArrangedList::sortWanted, this, [this] { m_ranks = false; });
     connect(&catalogue, &Catalogue::recordChanged, this, &GameFinder::follow);
+    connect(&catalogue, &Catalogue::removed, this, &GameFinder::takeOut);
+    connect(&catalogue, &Catalogue::putBackAt, this, &GameFinder::putBack);
 }
 
 void GameFinder::restore()
@@ -42,7 +49,7 @@ void GameFinder::restore()
         = std::ranges::find_if(chips, [&](const ChipRow& each) { return chip == textOf(each.name); });
     m_chip = row == chips.end() ? Chip::All : row->chip;
     m_foldsFamilies = m_defaults.defaults().flag(keys::GameListFamilies.name);
-    forget();
+    takeContent();
 }
 
 GameSearch& GameFinder::search()
@@ -58,24 +65,40 @@ GameSearch& GameFinder::search()
 // What is not ASCII is folded beside the windows; until then it is found by its ASCII only.
 void GameFinder::fold()
 {
-    m_pool.start([this, generation = m_generation, unfolded = m_search->unfolded()] {
-        auto folded = std::make_shared<FoldedTexts>(SearchTexts::fold(unfolded));
-        QMetaObject::invokeMethod(
-            this,
-            [this, generation, folded] {
-                if (generation != m_generation || !m_search)
-                    return;
-                m_search->take(std::move(*folded));
-                if (!m_query.isEmpty())
-                    find();
-            },
-            Qt::QueuedConnection);
-    });
+    m_folding.request_stop();
+    m_folding = std::stop_source();
+    m_pool.start(
+        [this, generation = m_generation, stop = m_folding.get_token(), unfolded = m_search->unfolded()] {
+            auto folded = std::make_shared<FoldedTexts>(SearchTexts::fold(unfolded, stop));
+            if (stop.stop_requested())
+                return;
+            QMetaObject::invokeMethod(
+                this,
+                [this, generation, folded] {
+                    if (generation != m_generation || !m_search)
+                        return;
+                    m_search->take(std::move(*folded));
+                    if (!m_query.isEmpty())
+                        refresh();
+                },
+                Qt::QueuedConnection);
+        });
 }
 
 void GameFinder::prepare()
 {
-    Q_EMIT countsChanged(search().chipCounts());
+    search();
+    tellCounts();
+}
+
+void GameFinder::takeContent()
+{
+    if (!std::exchange(m_isAdjusted, false))
+        forget();
+    m_heads.clear();
+    m_filtered.reset();
+    applyFamilies();
+    find();
 }
 
 // The records are others now: what was kept of them counts no more.
@@ -84,57 +107,152 @@ void GameFinder::forget()
     const bool wasPrepared = m_search.has_value();
     ++m_generation;
     m_search.reset();
-    m_open = RecordSet(m_catalogue.records().size());
     m_haves.clear();
-    setHaves();
-    applyFamilies();
-    find();
+    askHaves();
     if (wasPrepared)
-        prepare();
+        search();
 }
 
-void GameFinder::follow(std::uint32_t record)
+void GameFinder::follow(std::uint32_t record, Field field)
 {
+    const GameRecord& now = m_catalogue.records()[record];
     if (m_search)
-        m_search->replace(record, m_catalogue.records()[record]);
+        m_search->replace(record, now);
+    if (field == Field::Name || field == Field::Cloneof) {
+        m_heads.clear();
+        if (record < m_haves.size()) {
+            m_haves[record] = m_roms->have(now);
+            if (m_search)
+                m_search->setHaves(m_haves);
+        }
+    }
+    m_filtered.reset();
+    if (m_search)
+        tellCounts();
+    Q_EMIT changed();
 }
 
+void GameFinder::takeOut(const std::vector<std::uint32_t>& records)
+{
+    if (records.size() > mostSingly || !m_search)
+        return;
+    for (auto record = records.rbegin(); record != records.rend(); ++record) {
+        m_search->remove(*record);
+        if (!m_haves.empty())
+            m_haves.erase(m_haves.begin() + *record);
+    }
+    m_isAdjusted = true;
+    if (m_haves.empty())
+        askHaves();
+}
+
+void GameFinder::putBack(const std::vector<std::uint32_t>& records)
+{
+    if (records.size() > mostSingly || !m_search)
+        return;
+    for (const std::uint32_t record : records) {
+        const GameRecord& back = m_catalogue.records()[record];
+        const Have have = m_haves.empty() ? Have::Missing : m_roms->have(back);
+        m_search->insert(record, back, have);
+        if (!m_haves.empty())
+            m_haves.insert(m_haves.begin() + record, have);
+    }
+    m_isAdjusted = true;
+    if (m_haves.empty())
+        askHaves();
+}
+
+std::vector<std::uint32_t> GameFinder::suggestions(const QString& text, std::size_t most)
+{
+    const Query query(text);
+    if (query.isEmpty())
+        return {};
+    const Found found = search().find(query);
+    std::vector<std::uint32_t> records = found.records.records();
+    const auto end = records.begin() + static_cast<std::ptrdiff_t>(std::min(most, records.size()));
+    const auto fits = [&](std::uint32_t record) {
+        return std::pair(found.ranks.empty() ? 0 : int{found.ranks[record]}, record);
+    };
+    std::ranges::partial_sort(records, end, {}, fits);
+    records.erase(end, records.end());
+    return records;
+}
+
+// The best is selected while it is typed.
 void GameFinder::setQuery(const QString& text)
 {
     m_query = Query(text);
-    find();
+    m_ranks = true;
+    m_list.rearrange([this] { find(); });
+    if (m_list.list().isRanked())
+        m_list.selectRow(0);
 }
 
 void GameFinder::setChip(Chip chip)
 {
     m_chip = chip;
     m_defaults.defaults().setValue(keys::GameListChip.name, textOf(rowOf(chip).name));
-    find();
+    refresh();
+}
+
+// What the user has selected stays so, and where it stands.
+void GameFinder::refresh()
+{
+    m_list.rearrange([this] { find(); });
+}
+
+// Before the ROM folders are known nobody can be told to have nothing.
+Chip GameFinder::effectiveChip() const
+{
+    return m_chip == Chip::HaveRom && m_haves.empty() ? Chip::All : m_chip;
+}
+
+const std::optional<RecordSet>& GameFinder::filtered()
+{
+    if (m_filtered)
+        return m_filtered;
+    const Predicate rules = predicateOf(m_rules);
+    const Predicate maker = m_maker ? makerIs(*m_maker) : Predicate();
+    if (rules && maker)
+        m_filtered = recordsWhere(m_catalogue.records(),
+                                  [&](const GameRecord& record) { return maker(record) && rules(record); });
+    else if (rules || maker)
+        m_filtered = recordsWhere(m_catalogue.records(), rules ? rules : maker);
+    return m_filtered;
+}
+
+// What query and filter let through, whatever the chip.
+Found GameFinder::found()
+{
+    Found found = search().find(m_query);
+    if (const auto& filter = filtered())
+        found.records.keep(*filter);
+    if (!m_ranks)
+        found.ranks.clear();
+    found.opensFamilies = !m_query.isEmpty();
+    return found;
 }
 
 void GameFinder::find()
 {
-    const std::vector<std::uint32_t> before = m_list.selectedRecords();
-    if (m_query.isEmpty() && m_chip == Chip::All) {
+    const Chip chip = effectiveChip();
+    if (m_query.isEmpty() && chip == Chip::All && !filtered()) {
         m_list.list().setFound(std::nullopt);
         if (m_search)
             Q_EMIT countsChanged(m_search->chipCounts());
     } else {
-        const Found all = search().find(m_query);
-        Q_EMIT countsChanged(search().chipCounts(&all.records));
-        m_list.list().setFound(m_chip == Chip::All ? all : search().find(m_query, m_chip));
+        Found records = found();
+        Q_EMIT countsChanged(search().chipCounts(&records.records));
+        search().keep(chip, records.records);
+        m_list.list().setFound(std::move(records));
     }
-    select(before);
     Q_EMIT changed();
 }
 
-// The best is selected while it is typed; else what was selected stays so.
-void GameFinder::select(const std::vector<std::uint32_t>& before)
+void GameFinder::tellCounts()
 {
-    if (m_list.list().isRanked())
-        m_list.selectRow(0);
-    else if (!before.empty())
-        m_list.selectRecords(before);
+    const Found records = found();
+    Q_EMIT countsChanged(search().chipCounts(&records.records));
 }
 
 void GameFinder::setPredicate(const QString& maker)
@@ -157,33 +275,36 @@ void GameFinder::setRules(const FilterRules& rules)
 
 void GameFinder::filter()
 {
-    const std::vector<std::uint32_t> before = m_list.selectedRecords();
-    const Predicate rules = predicateOf(m_rules);
-    const Predicate maker = m_maker ? makerIs(*m_maker) : Predicate();
-    if (rules && maker)
-        m_list.list().setPredicate([rules, maker](const GameRecord& r) { return maker(r) && rules(r); });
-    else
-        m_list.list().setPredicate(maker ? maker : rules);
-    select(before);
-    Q_EMIT changed();
+    m_filtered.reset();
+    refresh();
 }
 
 void GameFinder::setFamilies(bool folded)
 {
     m_foldsFamilies = folded;
     m_defaults.defaults().setValue(keys::GameListFamilies.name, folded);
-    const std::vector<std::uint32_t> before = m_list.selectedRecords();
-    applyFamilies();
-    m_list.selectRecords(before);
+    m_list.rearrange([this] { applyFamilies(); });
     Q_EMIT changed();
+}
+
+const std::vector<std::uint32_t>& GameFinder::heads()
+{
+    if (m_heads.empty())
+        m_heads = familyHeads(m_catalogue.records());
+    return m_heads;
 }
 
 void GameFinder::applyFamilies()
 {
-    if (m_foldsFamilies)
-        m_list.list().setFamilies(ArrangedList::Families{familyHeads(m_catalogue.records()), m_open});
-    else
-        m_list.list().setFamilies(std::nullopt);
+    if (!m_foldsFamilies)
+        return m_list.list().setFamilies(std::nullopt);
+    const std::span<const GameRecord> records = m_catalogue.records();
+    RecordSet open(records.size());
+    for (std::uint32_t record = 0; record < heads().size() && !m_open.empty(); ++record) {
+        if (heads()[record] == record && m_open.contains(records[record][Field::Name]))
+            open.insert(record);
+    }
+    m_list.list().setFamilies(ArrangedList::Families{heads(), std::move(open)});
 }
 
 void GameFinder::toggleFamily(int row)
@@ -192,12 +313,10 @@ void GameFinder::toggleFamily(int row)
     if (row < 0 || list.clones(static_cast<std::size_t>(row)) == 0)
         return;
     const std::uint32_t record = list.rows()[static_cast<std::size_t>(row)];
-    const std::uint32_t head = familyHeads(m_catalogue.records())[record];
-    if (m_open.contains(head))
-        m_open.remove(head);
-    else
-        m_open.insert(head);
-    applyFamilies();
+    const std::string name(m_catalogue.records()[heads()[record]][Field::Name]);
+    if (m_open.erase(name) == 0)
+        m_open.insert(name);
+    m_list.rearrange([this] { applyFamilies(); });
     m_list.selectRecords({record});
     Q_EMIT changed();
 }
@@ -208,30 +327,44 @@ void GameFinder::showAll()
     m_rules = {};
     m_maker.reset();
     setFamilies(false);
+    m_filtered.reset();
     setChip(Chip::All);
-    filter();
 }
 
-void GameFinder::setRomFolders(const RomFolders& folders)
+void GameFinder::setRomFolders(const std::shared_ptr<const RomFolders>& folders)
 {
     m_roms = folders;
-    setHaves();
+    m_list.setRomFolders(folders);
+    askHaves();
+}
+
+// Beside the windows: a folder that cannot be listed is asked for each name.
+void GameFinder::askHaves()
+{
+    const int question = ++m_havesQuestion;
+    if (!m_roms)
+        return;
+    m_pool.start([this, question, folders = m_roms, sets = RomFolders::setNames(m_catalogue.records())] {
+        auto haves = std::make_shared<std::vector<Have>>(folders->haves(sets));
+        QMetaObject::invokeMethod(
+            this, [this, question, haves] { takeHaves(question, std::move(*haves)); }, Qt::QueuedConnection);
+    });
+}
+
+void GameFinder::takeHaves(int question, std::vector<Have> haves)
+{
+    if (question != m_havesQuestion || haves.size() != m_catalogue.records().size())
+        return;
+    m_haves = std::move(haves);
+    if (m_search)
+        m_search->setHaves(m_haves);
     const bool asked = m_chip == Chip::HaveRom
         || std::ranges::any_of(m_query.terms(), [](const Term& term) { return term.kind == TermKind::Have; });
     if (asked)
-        find();
+        refresh();
     else if (m_search)
-        Q_EMIT countsChanged(m_search->chipCounts());
+        tellCounts();
     Q_EMIT changed();
-}
-
-void GameFinder::setHaves()
-{
-    if (!m_roms)
-        return;
-    m_haves = m_roms->haves(m_catalogue.records());
-    if (m_search)
-        m_search->setHaves(m_haves);
 }
 
 std::optional<Have> GameFinder::haveOf(std::uint32_t record) const
@@ -241,16 +374,19 @@ std::optional<Have> GameFinder::haveOf(std::uint32_t record) const
 
 QStringList GameFinder::reasons() const
 {
+    constexpr qsizetype mostOfMaker = 40;
     QStringList why;
-    if (m_chip != Chip::All)
+    if (effectiveChip() != Chip::All)
         why << qtTrId(rowOf(m_chip).label);
     if (!m_query.isEmpty())
         why << qtTrId("hides_search");
-    if (m_maker)
-        why << qtTrId("hides_maker").arg(*m_maker);
+    if (m_maker) {
+        const bool isLong = m_maker->size() > mostOfMaker;
+        why << qtTrId("hides_maker").arg(isLong ? QString(m_maker->left(mostOfMaker) + u'…') : *m_maker);
+    }
     if (!m_rules.isEmpty())
         why << qtTrId("hides_rules", static_cast<int>(m_rules.rules.size()));
-    if (m_foldsFamilies && !m_list.list().isRanked())
+    if (m_foldsFamilies && m_query.isEmpty())
         why << qtTrId("hides_families");
     return why;
 }

@@ -2,10 +2,15 @@
 
 #include "catalogue/filterrules.h"
 #include "catalogue/search/gamesearch.h"
-#include "catalogue/ui/romwatcher.h"
+#include "catalogue/romfolders.h"
 
 #include <QObject>
 #include <QThreadPool>
+
+#include <memory>
+#include <set>
+#include <stop_token>
+#include <string>
 
 namespace tessera {
 
@@ -38,6 +43,9 @@ public:
     /// What the ROM folders hold of a record; nothing while they are not known.
     std::optional<Have> haveOf(std::uint32_t record) const;
 
+    /// The records that fit a text best, whatever the list shows; at most so many.
+    std::vector<std::uint32_t> suggestions(const QString& text, std::size_t most);
+
 public Q_SLOTS:
     void setQuery(const QString& text);
     void setChip(tessera::Chip chip);
@@ -50,7 +58,7 @@ public Q_SLOTS:
     void toggleFamily(int row);
     /// Nothing hides records any more.
     void showAll();
-    void setRomFolders(const tessera::RomFolders& folders);
+    void setRomFolders(const std::shared_ptr<const tessera::RomFolders>& folders);
 
 Q_SIGNALS:
     /// What the list shows, or why.
@@ -59,14 +67,23 @@ Q_SIGNALS:
 
 private:
     GameSearch& search();
+    void takeContent();
     void forget();
-    void follow(std::uint32_t record);
+    void follow(std::uint32_t record, Field field);
+    void takeOut(const std::vector<std::uint32_t>& records);
+    void putBack(const std::vector<std::uint32_t>& records);
     void fold();
+    void refresh();
     void find();
+    Found found();
+    Chip effectiveChip() const;
+    const std::optional<RecordSet>& filtered();
     void filter();
+    void tellCounts();
     void applyFamilies();
-    void setHaves();
-    void select(const std::vector<std::uint32_t>& before);
+    const std::vector<std::uint32_t>& heads();
+    void askHaves();
+    void takeHaves(int question, std::vector<Have> haves);
 
     Catalogue& m_catalogue;
     GameListController& m_list;
@@ -76,11 +93,17 @@ private:
     Chip m_chip = Chip::All;
     std::optional<QString> m_maker;
     FilterRules m_rules;
-    std::optional<RomFolders> m_roms;
-    std::vector<Have> m_haves;
+    std::shared_ptr<const RomFolders> m_roms;
+    std::vector<Have> m_haves; ///< none while the ROM folders are not known
+    std::optional<RecordSet> m_filtered; ///< what maker filter and rules let through, once it is known
+    std::vector<std::uint32_t> m_heads; ///< of the families, once they are known
     bool m_foldsFamilies = false;
-    RecordSet m_open;
+    bool m_ranks = true; ///< until the user sorts what was found
+    bool m_isAdjusted = false; ///< what is kept of the records already follows the coming content
+    int m_havesQuestion = 0; ///< only the newest one is answered
+    std::set<std::string, std::less<>> m_open; ///< set names of the heads of open families
     int m_generation = 0; ///< of the content that is searched
+    std::stop_source m_folding;
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };
 

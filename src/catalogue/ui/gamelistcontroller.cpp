@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QRandomGenerator>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -27,6 +28,10 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
     connect(&catalogue, &Catalogue::replaced, this, &GameListController::setContent);
     connect(&catalogue, &Catalogue::recordChanged, &m_list,
             [this](std::uint32_t, Field field) { m_list.forgetOrder(field); });
+    connect(&catalogue, &Catalogue::recordChanged, this, [this](std::uint32_t record, Field field) {
+        if (field == Field::Status && firstSelected() == record)
+            romStatus();
+    });
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
 }
 
@@ -34,26 +39,46 @@ void GameListController::setTable(GameTableView* table)
 {
     m_table = table;
     m_table->setModel(m_model);
-    connect(table, &GameTableView::selectionDidChange, this,
-            &GameListController::tableViewSelectionDidChange);
+    connect(table, &GameTableView::selectionDidChange, this, [this] {
+        if (!m_isRearranging)
+            tableViewSelectionDidChange();
+    });
+}
+
+void GameListController::setRomFolders(std::shared_ptr<const RomFolders> folders)
+{
+    m_colors.setRomFolders(std::move(folders));
+    if (m_table != nullptr)
+        m_table->viewport()->update();
 }
 
 int GameListController::selectedCount() const
 {
-    return m_table == nullptr ? 0 : static_cast<int>(m_table->selectionModel()->selectedRows().size());
+    int count = 0;
+    for (const RowRange& range : selectedRanges())
+        count += range.last - range.first + 1;
+    return count;
+}
+
+// In the order of the rows. The model's own list of rows takes a time that grows with the square of its
+// ranges.
+std::vector<GameListController::RowRange> GameListController::selectedRanges() const
+{
+    std::vector<RowRange> ranges;
+    if (m_table == nullptr)
+        return ranges;
+    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
+        if (range.isValid())
+            ranges.push_back({range.top(), range.bottom()});
+    }
+    std::ranges::sort(ranges, {}, &RowRange::first);
+    return ranges;
 }
 
 int GameListController::firstSelectedRow() const
 {
-    if (m_table == nullptr)
-        return -1;
-    // Ranges, not rows: with everything selected there are 45,000 rows but one range.
-    int first = -1;
-    for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
-        if (range.isValid() && (first < 0 || range.top() < first))
-            first = range.top();
-    }
-    return first;
+    const std::vector<RowRange> ranges = selectedRanges();
+    return ranges.empty() ? -1 : ranges.front().first;
 }
 
 std::optional<std::uint32_t> GameListController::firstSelected() const
@@ -71,10 +96,10 @@ const GameRecord* GameListController::selectedRecord() const
 std::vector<std::uint32_t> GameListController::selectedRecords() const
 {
     std::vector<std::uint32_t> records;
-    if (m_table == nullptr)
-        return records;
-    for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
-        records.push_back(m_list.rows()[static_cast<std::size_t>(row.row())]);
+    for (const RowRange& range : selectedRanges()) {
+        const auto rows = m_list.rows().begin();
+        records.insert(records.end(), rows + range.first, rows + range.last + 1);
+    }
     return records;
 }
 
@@ -150,22 +175,73 @@ void GameListController::selectNeighbour(int step)
         selectRow(std::max(0, row + step));
 }
 
+// Those that the list shows, each run of rows as one range.
+QItemSelection GameListController::selectionOf(const std::vector<std::uint32_t>& records) const
+{
+    std::vector<int> rows;
+    for (const std::uint32_t record : records) {
+        if (const auto row = m_list.rowOf(record))
+            rows.push_back(static_cast<int>(*row));
+    }
+    std::ranges::sort(rows);
+    QItemSelection selection;
+    for (auto from = rows.begin(); from != rows.end();) {
+        const auto end = std::adjacent_find(from, rows.end(), [](int a, int b) { return b > a + 1; });
+        const auto last = end == rows.end() ? end - 1 : end;
+        selection.append({m_model->index(*from, 0), m_model->index(*last, m_model->columnCount() - 1)});
+        from = last + 1;
+    }
+    return selection;
+}
+
 void GameListController::selectRecords(const std::vector<std::uint32_t>& records)
 {
-    QItemSelection selection;
-    int first = -1;
-    for (const std::uint32_t record : records) {
-        const auto row = m_list.rowOf(record);
-        if (!row)
-            continue;
-        const QModelIndex place = m_model->index(static_cast<int>(*row), 0);
-        selection.select(place, place);
-        first = first < 0 ? place.row() : std::min(first, place.row());
-    }
-    if (first < 0 || m_table == nullptr)
+    const QItemSelection selection = selectionOf(records);
+    if (selection.isEmpty() || m_table == nullptr)
         return;
-    selectRow(first);
-    m_table->selectionModel()->select(selection, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    const QModelIndex first = m_model->index(selection.front().top(), 0);
+    m_table->setCurrentIndex(first);
+    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_table->scrollTo(first);
+}
+
+// The selection is dropped with the rows and taken up again: nobody hears of it unless it became another one.
+void GameListController::rearrange(const std::function<void()>& change)
+{
+    if (m_table == nullptr || m_isRearranging)
+        return change();
+    commitEditing();
+    const std::vector<std::uint32_t> before = selectedRecords();
+    const QModelIndex at = m_table->currentIndex();
+    const auto current
+        = at.isValid() ? std::optional(m_list.rows()[static_cast<std::size_t>(at.row())]) : std::nullopt;
+    QScrollBar* bar = m_table->verticalScrollBar();
+    const int scrolled = bar->value();
+    bool arranged = false;
+    const auto watch = connect(&m_list, &ArrangedList::arranged, this, [&arranged] { arranged = true; });
+    m_isRearranging = true;
+    change();
+    disconnect(watch);
+    if (arranged) {
+        restore(before, current);
+        m_table->layOut();
+        bar->setValue(scrolled);
+        if (const int first = firstSelectedRow(); first >= 0)
+            m_table->scrollTo(m_model->index(first, 0));
+    }
+    m_isRearranging = false;
+    if (selectedRecords() != before)
+        tableViewSelectionDidChange();
+}
+
+void GameListController::restore(const std::vector<std::uint32_t>& records,
+                                 std::optional<std::uint32_t> current)
+{
+    const auto row = current ? m_list.rowOf(*current) : std::nullopt;
+    if (row)
+        m_table->selectionModel()->setCurrentIndex(m_model->index(static_cast<int>(*row), 0),
+                                                   QItemSelectionModel::NoUpdate);
+    m_table->selectionModel()->select(selectionOf(records), QItemSelectionModel::ClearAndSelect);
 }
 
 void GameListController::setContent()
@@ -176,6 +252,8 @@ void GameListController::setContent()
 
 void GameListController::main_tableViewSort()
 {
+    // Registered for the model's drag type.
+    m_table->setDragDropMode(QAbstractItemView::DropOnly);
     // Also arranges the list, by the first column, ascending.
     m_table->sortByColumn(0, Qt::AscendingOrder);
 }

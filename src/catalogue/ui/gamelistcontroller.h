@@ -5,7 +5,10 @@
 #include "catalogue/colortransformer.h"
 #include "catalogue/recorddictionary.h"
 
+#include <QItemSelection>
 #include <QObject>
+
+#include <functional>
 
 #include <optional>
 
@@ -56,6 +59,10 @@ public:
     void selectNeighbour(int step);
     /// Those that the list shows.
     void selectRecords(const std::vector<std::uint32_t>& records);
+    /// Runs what changes the rows; what is selected, edited and in view stays so where the rows allow it.
+    void rearrange(const std::function<void()>& change);
+    /// Whose archives are there, for the colours of the rows.
+    void setRomFolders(std::shared_ptr<const RomFolders> folders);
     /// After the catalogue's records became others.
     void setContent();
 
@@ -79,6 +86,14 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    void restore(const std::vector<std::uint32_t>& records, std::optional<std::uint32_t> current);
+    struct RowRange {
+        int first;
+        int last;
+    };
+
+    std::vector<RowRange> selectedRanges() const;
+    QItemSelection selectionOf(const std::vector<std::uint32_t>& records) const;
     QString selectedValue(Field field) const;
 
     Catalogue& m_catalogue;
@@ -87,6 +102,7 @@ private:
     ColorTransformer m_colors;
     GameTableModel* m_model;
     GameTableView* m_table = nullptr;
+    bool m_isRearranging = false;
 };
 
 } // namespace tessera

@@ -6,6 +6,7 @@
 #include "catalogue/statusmark.h"
 #include "catalogue/ui/familydelegate.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/fontname.h"
 #include "widgets/theme.h"
 
 #include <algorithm>
@@ -28,6 +29,13 @@ constexpr std::array headings{
 };
 
 static_assert(headings.size() == GameTableModel::columns.size());
+
+// The settings that a row's look depends on.
+constexpr std::array looks{
+    keys::TablefontName.name,       keys::fontSize.name,
+    keys::GamelistColoring.name,    keys::TableViewTextColor.name,
+    keys::TableViewTextColor2.name, keys::RomsPath.name,
+};
 
 QIcon markIcon(std::string_view status)
 {
@@ -61,14 +69,20 @@ GameTableModel::GameTableModel(Catalogue& catalogue, ArrangedList& list, const C
             endResetModel();
     });
     connect(&m_catalogue, &Catalogue::recordChanged, this, &GameTableModel::showRecord);
-    connect(&m_defaults, &DefaultsController::changed, this, &GameTableModel::readFont);
+    connect(&m_defaults, &DefaultsController::changed, this, &GameTableModel::settingChanged);
 }
 
 void GameTableModel::readFont()
 {
-    m_font = QFont();
-    m_font.setFamilies(QStringList{m_defaults.text(keys::TablefontName)} + m_font.families());
+    m_font = namedFont(m_defaults.text(keys::TablefontName));
     m_font.setPixelSize(qBound(4, m_defaults.index(keys::fontSize), 200));
+}
+
+void GameTableModel::settingChanged(const QString& name)
+{
+    if (!name.isEmpty() && std::ranges::find(looks, name) == looks.end())
+        return;
+    readFont();
     if (const int rows = static_cast<int>(m_list.size()))
         Q_EMIT dataChanged(index(0, 0), index(rows - 1, static_cast<int>(columns.size()) - 1),
                            {Qt::FontRole, Qt::ForegroundRole});
@@ -124,6 +138,8 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
         if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
             return *color;
         return QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return field == Field::Name ? description(static_cast<std::size_t>(index.row())) : QVariant();
     case FamilyDelegate::ClonesRole:
         return m_list.clones(static_cast<std::size_t>(index.row()));
     case FamilyDelegate::IsOpenRole:
@@ -133,6 +149,24 @@ QVariant GameTableModel::data(const QModelIndex& index, int role) const
     default:
         return QVariant();
     }
+}
+
+// What the first column draws besides its text.
+QString GameTableModel::description(std::size_t row) const
+{
+    QStringList parts{fieldText(m_list[row][Field::Status])};
+    if (m_list.clones(row) > 0)
+        parts << qtTrId(m_list.isOpen(row) ? textKey("row_clones_shown") : textKey("row_clones_folded"),
+                        static_cast<int>(m_list.clones(row)));
+    if (m_list.isBeneath(row))
+        parts << qtTrId("row_clone");
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+QStringList GameTableModel::mimeTypes() const
+{
+    return {QStringLiteral("CoreDataDragType")};
 }
 
 QVariant GameTableModel::headerData(int section, Qt::Orientation orientation, int role) const

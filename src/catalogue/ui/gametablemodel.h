@@ -42,8 +42,13 @@ public Q_SLOTS:
     /// While it is locked, as its records are about to be replaced, nothing is edited.
     void setLocked(bool locked) { m_locked = locked; }
 
+    /// The table is registered for it; nothing that is dragged here is taken yet.
+    QStringList mimeTypes() const override;
+
 private:
+    QString description(std::size_t row) const;
     void readFont();
+    void settingChanged(const QString& name);
     void showRecord(std::uint32_t record);
     void resort(Field field, bool ascending);
 

@@ -1,10 +1,12 @@
 #include "catalogue/ui/gametableview.h"
 
 #include "catalogue/ui/familydelegate.h"
+#include "widgets/myscrollers.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -36,6 +38,8 @@ GameTableView::GameTableView(QWidget* parent)
     setSortingEnabled(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollBar(new MyScrollers(Qt::Vertical));
+    setHorizontalScrollBar(new MyScrollers(Qt::Horizontal));
     setTabKeyNavigation(false);
     setIconSize(QSize(14, 14));
     // Rows of one fixed height: nothing is asked of 45,000 records before the first paint.
@@ -77,8 +81,10 @@ QList<int> GameTableView::shownColumns() const
 void GameTableView::copySelection() const
 {
     QList<int> rows;
-    for (const QModelIndex& row : selectionModel()->selectedRows())
-        rows << row.row();
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows << row;
+    }
     if (rows.isEmpty())
         return;
     std::ranges::sort(rows);
@@ -144,6 +150,15 @@ void GameTableView::keyPressEvent(QKeyEvent* event)
         Q_EMIT typed(event->text());
     else
         QTableView::keyPressEvent(event);
+}
+
+// What an input method composes or commits is typed, too.
+void GameTableView::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (state() == EditingState)
+        QTableView::inputMethodEvent(event);
+    else if (!event->preeditString().isEmpty() || !event->commitString().isEmpty())
+        Q_EMIT composed(event);
 }
 
 void GameTableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

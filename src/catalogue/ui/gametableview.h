@@ -20,6 +20,8 @@ public:
     /// The selected rows on the clipboard: a line each, tabs between the columns that are shown, in their
     /// order.
     void copySelection() const;
+    /// At once, so that the scroll bars fit the rows.
+    void layOut() { executeDelayedItemsLayout(); }
     /// A tick for each column; the last one that is shown stays.
     void fillColumnsMenu(QMenu& menu);
 
@@ -31,11 +33,14 @@ Q_SIGNALS:
     void selectionDidChange();
     /// Letters that belong into the search field.
     void typed(const QString& text);
+    /// What an input method sends of them; the event is good only during the call.
+    void composed(QInputMethodEvent* event);
     /// Show or fold the clones of this row.
     void familyToggled(int row);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:

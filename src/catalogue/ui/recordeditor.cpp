@@ -2,6 +2,7 @@
 
 #include "catalogue/recorddictionary.h"
 #include "core/failure.h"
+#include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
 
 #include <QCompleter>
@@ -136,10 +137,7 @@ void RecordEditor::show(std::optional<std::uint32_t> record, std::span<const Gam
 
 void RecordEditor::bringForward()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    setVisible(true);
-    raise();
-    activateWindow();
+    tessera::bringForward(*this);
     editSetname->setFocus();
 }
 

@@ -1,10 +1,21 @@
 #include "catalogue/ui/romwatcher.h"
 
+#include <QFileInfo>
+
 namespace tessera {
 
 namespace {
 
 constexpr std::chrono::milliseconds restTime(400);
+
+// Where a folder is not there, the nearest one around it tells when it comes.
+QString watchedFor(const QString& folder)
+{
+    QString place = QFileInfo(folder).absoluteFilePath();
+    while (!QFileInfo::exists(place) && place.size() > 1)
+        place = QFileInfo(place).absolutePath();
+    return place;
+}
 
 } // namespace
 
@@ -27,8 +38,10 @@ void RomWatcher::setFolders(const std::optional<QString>& romFolder, const QStri
     read();
 }
 
+// Watched before they are read: nothing that comes meanwhile is missed.
 void RomWatcher::read()
 {
+    watch();
     const int question = ++m_question;
     m_pool.start([this, question, rom = m_romFolder, emulator = m_emulatorFolders] {
         auto folders = std::make_shared<const RomFolders>(rom, emulator);
@@ -37,21 +50,26 @@ void RomWatcher::read()
     });
 }
 
+// A folder that has come is watched from now on, one that went away no longer is.
+void RomWatcher::watch()
+{
+    if (!m_watcher.directories().isEmpty())
+        m_watcher.removePaths(m_watcher.directories());
+    QStringList watched;
+    for (const QString& folder : m_emulatorFolders)
+        watched << watchedFor(folder);
+    if (m_romFolder)
+        watched << watchedFor(*m_romFolder);
+    watched.removeDuplicates();
+    if (!watched.isEmpty())
+        m_watcher.addPaths(watched);
+}
+
 void RomWatcher::take(int question, std::shared_ptr<const RomFolders> folders)
 {
     if (question != m_question)
         return;
     m_folders = std::move(folders);
-    // A folder that was not there is watched from now on, one that went away no longer is.
-    if (!m_watcher.directories().isEmpty())
-        m_watcher.removePaths(m_watcher.directories());
-    QStringList watched = m_emulatorFolders;
-    if (m_romFolder)
-        watched << *m_romFolder;
-    watched.removeDuplicates();
-    watched.removeAll(QString());
-    if (!watched.isEmpty())
-        m_watcher.addPaths(watched);
     Q_EMIT changed();
 }
 

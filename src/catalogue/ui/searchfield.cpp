@@ -46,22 +46,47 @@ void SearchField::fillTermsMenu()
     }
 }
 
-// A line edit takes formats for its text only as an input method sends them.
-void SearchField::markWrongTerms(const Query& query)
+void SearchField::markTerms(const Query& query)
 {
-    QTextCharFormat wrong;
-    wrong.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-    wrong.setUnderlineColor(theme::color("preliminary"));
-    wrong.setForeground(theme::color("preliminary"));
-    QList<QInputMethodEvent::Attribute> formats;
+    m_marks.clear();
     for (const Term& term : query.terms()) {
-        if (term.state == Term::State::Wrong)
-            formats.emplace_back(QInputMethodEvent::TextFormat,
-                                 static_cast<int>(term.begin) - cursorPosition(), static_cast<int>(term.size),
-                                 wrong);
+        if (term.state != Term::State::Good)
+            m_marks.push_back({static_cast<int>(term.begin), static_cast<int>(term.size),
+                               term.state == Term::State::Wrong});
     }
-    QInputMethodEvent event(QString(), formats);
-    QLineEdit::inputMethodEvent(&event);
+    // While something is composed its next event brings the marks along.
+    if (m_isComposing)
+        return;
+    QInputMethodEvent event;
+    inputMethodEvent(&event);
+}
+
+// A line edit takes formats for its text only as an input method sends them.
+void SearchField::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QString preedit = event->preeditString();
+    m_isComposing = !preedit.isEmpty();
+    QList<QInputMethodEvent::Attribute> attributes = event->attributes();
+    const auto behind = static_cast<int>(preedit.size());
+    for (const Mark& mark : m_marks) {
+        QTextCharFormat format;
+        format.setUnderlineStyle(mark.isWrong ? QTextCharFormat::WaveUnderline : QTextCharFormat::DotLine);
+        format.setUnderlineColor(theme::color(mark.isWrong ? "preliminary" : "dim"));
+        format.setForeground(theme::color(mark.isWrong ? "preliminary" : "dim"));
+        const int begin = mark.begin - cursorPosition();
+        attributes.emplace_back(QInputMethodEvent::TextFormat, begin < 0 ? begin : begin + behind, mark.size,
+                                format);
+    }
+    QInputMethodEvent marked(preedit, attributes);
+    marked.setCommitString(event->commitString(), event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&marked);
+    event->setAccepted(marked.isAccepted());
+}
+
+void SearchField::composeOn(QInputMethodEvent* event)
+{
+    beginWith(QString());
+    inputMethodEvent(event);
 }
 
 void SearchField::beginWith(const QString& typed)

@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <vector>
+
 namespace tessera {
 
 class Query;
@@ -14,9 +16,12 @@ class SearchField : public QLineEdit
 public:
     explicit SearchField(QWidget* parent = nullptr);
 
-    void markWrongTerms(const Query& query);
+    /// Wrong terms and those that are half typed are drawn otherwise.
+    void markTerms(const Query& query);
     /// Goes on from a key that was typed in the list.
     void beginWith(const QString& typed);
+    /// The same for what an input method sent to the list.
+    void composeOn(QInputMethodEvent* event);
 
 Q_SIGNALS:
     /// The down arrow: on to what was found.
@@ -24,11 +29,20 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
     void fillTermsMenu();
 
+    struct Mark {
+        int begin;
+        int size;
+        bool isWrong; ///< else it is not finished yet
+    };
+
     QMenu* m_terms;
+    std::vector<Mark> m_marks;
+    bool m_isComposing = false; ///< an input method shows a text that is not the field's yet
 };
 
 } // namespace tessera

@@ -2,6 +2,7 @@
 
 #include "core/failure.h"
 #include "favourites/optionwords.h"
+#include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
 
 #include <QClipboard>
@@ -217,10 +218,7 @@ void FavouriteEditor::showCommand(const QString& command)
 
 void FavouriteEditor::bringForward()
 {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    setVisible(true);
-    raise();
-    activateWindow();
+    tessera::bringForward(*this);
     optionField->setFocus();
 }
 

@@ -27,7 +27,8 @@ void FavouritesTable::setModel(QAbstractItemModel* model)
 
 void FavouritesTable::applyRowHeight()
 {
-    const int height = qBound(8, m_defaults.index(keys::rowHeight), 400);
+    // The setting may have half a pixel (13.5), rows have whole ones.
+    const int height = qBound(8, qRound(m_defaults.number(keys::rowHeight)), 400);
     if (verticalHeader()->defaultSectionSize() != height)
         verticalHeader()->setDefaultSectionSize(height);
 }

@@ -7,13 +7,23 @@
 #include "favourites/favouriteorder.h"
 #include "favourites/playedgames.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/fontname.h"
 #include "widgets/theme.h"
 
 #include <QLocale>
 
+#include <algorithm>
+
 namespace tessera {
 
 namespace {
+
+// The settings that a row's look depends on.
+constexpr std::array looks{
+    keys::FavoritefontName.name,    keys::fontSize.name,
+    keys::GamelistColoring.name,    keys::TableViewTextColor.name,
+    keys::TableViewTextColor2.name, keys::RomsPath.name,
+};
 
 struct Column {
     const char* heading;
@@ -80,7 +90,7 @@ FavouritesTableModel::FavouritesTableModel(Favourites& favourites, ArrangedList&
     });
     connect(&favourites, &Favourites::valueChanged, this, &FavouritesTableModel::showFavourite);
     connect(&played, &PlayedGames::changed, this, [this] { showEverything(); });
-    connect(&defaults, &DefaultsController::changed, this, &FavouritesTableModel::readFont);
+    connect(&defaults, &DefaultsController::changed, this, &FavouritesTableModel::settingChanged);
 }
 
 void FavouritesTableModel::reload()
@@ -104,9 +114,15 @@ void FavouritesTableModel::setGone(RecordSet gone)
 
 void FavouritesTableModel::readFont()
 {
-    m_font = QFont();
-    m_font.setFamilies(QStringList{m_defaults.text(keys::FavoritefontName)} + m_font.families());
+    m_font = namedFont(m_defaults.text(keys::FavoritefontName));
     m_font.setPixelSize(qBound(4, m_defaults.index(keys::fontSize), 200));
+}
+
+void FavouritesTableModel::settingChanged(const QString& name)
+{
+    if (!name.isEmpty() && std::ranges::find(looks, name) == looks.end())
+        return;
+    readFont();
     showEverything({Qt::FontRole, Qt::ForegroundRole});
 }
 

@@ -47,6 +47,8 @@ public:
     void reload();
     /// Favourites, by their indexes, whose set is not in the catalogue any more.
     void setGone(RecordSet gone);
+    /// The rows' colours are others now.
+    void recolour() { showEverything({Qt::ForegroundRole}); }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -59,6 +61,7 @@ public:
 
 private:
     void readFont();
+    void settingChanged(const QString& name);
     void showEverything(const QList<int>& roles = {});
     void showFavourite(std::uint32_t favourite, FavouriteKey key);
     void arrange();

@@ -109,12 +109,14 @@ void UCAppController::addFavorite()
 
 void UCAppController::addFavoritesTable(const GameRecord& game)
 {
+    commitEditing();
     m_parts.favourites.append(game);
     m_favoritesUpdate = true;
 }
 
 void UCAppController::removeFavoritesTable()
 {
+    commitEditing();
     // Deliberate: also when nothing is selected.
     m_parts.desktop.beep();
     std::vector<std::uint32_t> selected = m_selection.favourites();
@@ -184,8 +186,15 @@ void UCAppController::showRecentlyPlayed(bool only)
     applyRecent();
 }
 
+void UCAppController::setRomFolders(std::shared_ptr<const RomFolders> folders)
+{
+    m_colors.setRomFolders(std::move(folders));
+    m_model->recolour();
+}
+
 void UCAppController::applyRecent()
 {
+    commitEditing();
     const std::vector<std::uint32_t> selected = m_selection.favourites();
     m_quiet = true;
     if (m_onlyRecent) {

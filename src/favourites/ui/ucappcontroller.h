@@ -14,6 +14,7 @@ class Desktop;
 class FavouritesTable;
 class FavouritesTableModel;
 class PlayedGames;
+class RomFolders;
 
 /// What the favourites need; all of it outlives the controller.
 struct FavouritesParts {
@@ -61,6 +62,8 @@ public:
     /// Only what was played in the last days, or everything.
     void showRecentlyPlayed(bool only);
     bool showsRecentlyPlayed() const { return m_onlyRecent; }
+    /// Whose archives are there, for the colours of the rows.
+    void setRomFolders(std::shared_ptr<const RomFolders> folders);
 
 public Q_SLOTS:
     void awakeFromNib();

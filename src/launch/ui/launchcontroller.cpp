@@ -13,6 +13,7 @@
 #include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+#include "widgets/bringforward.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -43,7 +44,8 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
 
 QString LaunchController::executable() const
 {
-    return m_parts.pages.general().exeTextField->text();
+    const QString typed = m_parts.pages.general().exeTextField->text();
+    return typed.isEmpty() ? m_parts.pages.general().emulator() : typed;
 }
 
 QString LaunchController::aboutGame(const char* key) const
@@ -221,7 +223,7 @@ void LaunchController::saveLogAction()
         return;
     const std::string text = log.text().toStdString();
     const std::array<std::string_view, 1> pieces{text};
-    // Deliberate: no alert and no beep for a failure.
+    // Deliberate: no alert and no beep for a failure; the status line alone says it.
     if (const auto written = writeAtomically(*path, pieces); !written)
         Q_EMIT statusMessage(written.error().text());
 }
@@ -236,9 +238,7 @@ void LaunchController::showLogWindow()
 
 void LaunchController::windowLog()
 {
-    m_parts.logWindow.show();
-    m_parts.logWindow.raise();
-    m_parts.logWindow.activateWindow();
+    bringForward(m_parts.logWindow);
 }
 
 } // namespace tessera

@@ -1,5 +1,7 @@
 #include "launch/ui/logview.h"
 
+#include "widgets/myscrollers.h"
+
 #include <QMimeData>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -76,6 +78,8 @@ LogView::LogView(QWidget* parent)
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setProperty("role", QStringLiteral("log"));
+    setVerticalScrollBar(new MyScrollers(Qt::Vertical));
+    setHorizontalScrollBar(new MyScrollers(Qt::Horizontal));
 }
 
 void LogView::replace(const QString& text)

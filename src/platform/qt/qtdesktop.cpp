@@ -1,6 +1,7 @@
 #include "platform/qt/qtdesktop.h"
 
 #include "platform/qt/alertdialog.h"
+#include "platform/qt/colordialog.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -98,6 +99,11 @@ std::optional<QString> QtDesktop::savePanel(const SaveRequest& request)
     }
     dialog.selectFile(request.name);
     return run(dialog);
+}
+
+std::optional<QString> QtDesktop::colorPanel(const ColorRequest& request)
+{
+    return ColorDialog(request, QApplication::activeWindow()).run();
 }
 
 bool QtDesktop::presentError(const QString& message, const QString& informative,

@@ -23,6 +23,7 @@ public:
     int runAlert(const Alert& alert) override;
     std::optional<QString> openPanel(const OpenRequest& request) override;
     std::optional<QString> savePanel(const SaveRequest& request) override;
+    std::optional<QString> colorPanel(const ColorRequest& request) override;
     bool presentError(const QString& message, const QString& informative,
                       const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;

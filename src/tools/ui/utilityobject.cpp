@@ -7,6 +7,7 @@
 #include "tools/titletable.h"
 #include "tools/ui/conversionpage.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/bringforward.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
@@ -161,9 +162,7 @@ void UtilityObject::show_file_in_finder2(int tag)
 
 void UtilityObject::utilityOrderFront()
 {
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    bringForward(*m_window);
 }
 
 void UtilityObject::windowWillClose()

@@ -91,7 +91,8 @@ QString ranked(const SampleRecords& sample, const GameSearch& search, const QStr
     const Found found = search.find(Query(query));
     std::vector<std::uint32_t> records = found.records.records();
     if (!found.ranks.empty())
-        std::ranges::stable_sort(records, {}, [&](std::uint32_t record) { return found.ranks[record]; });
+        std::ranges::sort(records, {},
+                          [&](std::uint32_t record) { return std::pair(found.ranks[record], record); });
     return names(sample, records);
 }
 
@@ -208,7 +209,7 @@ private Q_SLOTS:
         row("ぽん", "whole proper begins inside");
         row("\"ポン\"", "whole proper begins");
         // The reading of a title is a title too.
-        row("pon", "whole proper maker begins pong inside");
+        row("pon", "whole proper pong maker begins inside");
         row("atari", "inside begins proper whole pong");
         // Only words rank.
         row("year:1972 -tennis", "inside begins proper whole pong");
@@ -229,12 +230,12 @@ private Q_SLOTS:
         const auto row = [](const char* query, const char* found) {
             QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(found);
         };
-        row("super pong", "whole proper super after longer spong");
+        row("super pong", "whole proper longer super after spong");
         row("pong super", "after super longer proper whole spong");
         row("\"super pong\"", "whole proper");
-        row("スーパー ポン", "whole proper after longer spong");
+        row("スーパー ポン", "whole proper longer after spong");
         row("ポン スーパー", "after longer proper whole spong");
-        row("suupaa pon", "whole proper after longer spong");
+        row("suupaa pon", "whole proper longer after spong");
         row("super ポン", "after longer proper whole spong");
     }
 

@@ -49,7 +49,7 @@ public:
             ++words;
         }
         const Rank phrase = best({query.phrase(), WordEnds::Anywhere}, false);
-        if (words > 1 && phrase <= Rank::TitleProper && int(phrase) <= worst)
+        if (words > 1 && phrase <= Rank::TitleBeginning && int(phrase) <= worst)
             return {int(phrase), 0};
         return {worst, sum};
     }
@@ -113,6 +113,8 @@ private:
             return Rank::WholeTitle;
         if (at == 0 && all.sliced(end).startsWith(u" (") && text.field == 't')
             return Rank::TitleProper;
+        if (at == 0 && text.field != 'm' && text.field != 'y')
+            return text.field == 'n' ? Rank::NameBeginning : Rank::TitleBeginning;
         return begins ? Rank::WordBeginning : Rank::Inside;
     }
 

@@ -1,0 +1,102 @@
+#include "catalogue/ui/tablefont.h"
+
+#include "catalogue/ui/appearancepage.h"
+#include "core/failure.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+#include "widgets/bringforward.h"
+#include "widgets/fontname.h"
+
+#include <QFontDatabase>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <cmath>
+
+namespace tessera {
+
+namespace {
+constexpr double rowHeightOfSize = 1.5;
+}
+
+TableFont::TableFont(Desktop& desktop, DefaultsController& defaults, AppearancePage& page, QObject* parent)
+    : QObject(parent)
+    , m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_page(page)
+{
+    connect(page.biggerButton, &QToolButton::clicked, this, &TableFont::makeTextBigger);
+    connect(page.smallerButton, &QToolButton::clicked, this, &TableFont::makeTextSmaller);
+    connect(page.fontButton, &QPushButton::clicked, this, &TableFont::showFontPanel1);
+    connect(&defaults, &DefaultsController::changed, this, &TableFont::settingChanged);
+}
+
+TableFont::~TableFont() = default;
+
+// The limits differ: each way is open from where the other one can lead.
+void TableFont::makeTextBigger()
+{
+    step(1, 9, 27);
+}
+
+void TableFont::makeTextSmaller()
+{
+    step(-1, 10, 28);
+}
+
+void TableFont::step(int by, int smallest, int largest)
+{
+    const double shown = std::trunc(m_page.fontSizeField->text().toDouble());
+    if (!(shown >= smallest && shown <= largest)) {
+        m_desktop.beep();
+        return;
+    }
+    m_defaults.setIndex(keys::rowHeight, (shown + by) * rowHeightOfSize);
+    m_defaults.setIndex(keys::fontSize, shown + by);
+}
+
+FontPanel::Modes TableFont::validModesForFontPanel() const
+{
+    return FontPanel::AllModes & ~FontPanel::Modes(FontPanel::SizeMode);
+}
+
+FontPanel& TableFont::fontPanel()
+{
+    if (!m_panel) {
+        m_panel = std::make_unique<FontPanel>();
+        m_panel->setModes(validModesForFontPanel());
+        m_panel->setPanelFont(namedFont(m_defaults.text(keys::TablefontName)));
+        connect(m_panel.get(), &FontPanel::fontChosen, this, [this] { changeFont(*m_panel); });
+    }
+    return *m_panel;
+}
+
+void TableFont::changeFont(const FontPanel& panel)
+{
+    const QFont font = panel.convertFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
+    m_defaults.setText(keys::TablefontName, fontName(font));
+    UserDefaults& stored = m_defaults.defaults();
+    if (!stored.synchronize())
+        Q_EMIT statusMessage(Failure{"failure_settings", {stored.path()}}.text());
+}
+
+void TableFont::showFontPanel1()
+{
+    FontPanel& panel = fontPanel();
+    if (panel.isVisible() && !panel.isMinimized())
+        return;
+    bringForward(panel);
+}
+
+// A reset, say, while the panel is open.
+void TableFont::settingChanged(const QString& setting)
+{
+    if (!m_panel || (!setting.isEmpty() && setting != keys::TablefontName.name))
+        return;
+    const QString name = m_defaults.text(keys::TablefontName);
+    if (fontName(m_panel->convertFont(QFont())) != name)
+        m_panel->setPanelFont(namedFont(name));
+}
+
+} // namespace tessera

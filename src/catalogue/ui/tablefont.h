@@ -1,0 +1,51 @@
+#pragma once
+
+#include "widgets/fontpanel.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tessera {
+
+class AppearancePage;
+class DefaultsController;
+class Desktop;
+
+/// The commands on the font of the game table: its size, and the font itself through a font panel.
+class TableFont : public QObject
+{
+    Q_OBJECT
+
+public:
+    TableFont(Desktop& desktop, DefaultsController& defaults, AppearancePage& page,
+              QObject* parent = nullptr);
+    ~TableFont() override;
+
+    /// The font panel's controls that a table's font takes: all but the size.
+    FontPanel::Modes validModesForFontPanel() const;
+    /// Made when it is first asked for: reading all families takes its time.
+    FontPanel& fontPanel();
+
+public Q_SLOTS:
+    void makeTextBigger();
+    void makeTextSmaller();
+    void changeFont(const FontPanel& panel);
+    /// Brings the font panel to the front unless it is open already.
+    void showFontPanel1();
+
+Q_SIGNALS:
+    void statusMessage(const QString& sentence);
+
+private:
+    /// Beeps and changes nothing unless the shown size lies within `smallest` and `largest`.
+    void step(int by, int smallest, int largest);
+    void settingChanged(const QString& setting);
+
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    AppearancePage& m_page;
+    std::unique_ptr<FontPanel> m_panel;
+};
+
+} // namespace tessera

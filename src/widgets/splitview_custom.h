@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class QSplitter;
+
+namespace tessera {
+
+/// How far a divider goes, in pixels: `proposed` is where the split view itself would let it go. Split views
+/// are told apart by their identifiers.
+int smallestDividerPosition(const QString& identifier, int proposed);
+int largestDividerPosition(const QString& identifier, int proposed);
+
+/// Keeps the dividers of split views within their limits, and the first pane at its size when the window is
+/// resized. A split view's identifier is its object name; its panes stand in it already.
+class SplitView_custom : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    QSplitter* splitView() const { return m_splitView; }
+    void setSplitView(QSplitter* splitView);
+    QSplitter* splitView2() const { return m_splitView2; }
+    void setSplitView2(QSplitter* splitView);
+
+private:
+    QPointer<QSplitter> m_splitView;
+    QPointer<QSplitter> m_splitView2;
+};
+
+} // namespace tessera
