@@ -9,5 +9,7 @@
     <message id="fontpanel_styles"><source></source><translation>Styles</translation></message>
     <message id="fontpanel_size"><source></source><translation>Size</translation></message>
     <message id="fontpanel_sample"><source></source><translation>Aa Gg 0123 あア亜</translation></message>
+    <message id="panel_close"><source></source><translation>Close</translation></message>
+    <message id="panel_minimise"><source></source><translation>Minimise</translation></message>
 </context>
 </TS>

@@ -9,5 +9,7 @@
     <message id="fontpanel_styles"><source></source><translation>スタイル</translation></message>
     <message id="fontpanel_size"><source></source><translation>サイズ</translation></message>
     <message id="fontpanel_sample"><source></source><translation>あア亜 Aa Gg 0123</translation></message>
+    <message id="panel_close"><source></source><translation>閉じる</translation></message>
+    <message id="panel_minimise"><source></source><translation>最小化</translation></message>
 </context>
 </TS>

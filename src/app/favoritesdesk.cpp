@@ -34,8 +34,8 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
     , m_window(std::make_unique<FavoritesWindow>(defaults))
     , m_favourites(pathBeside(catalogue))
     , m_played(playedPath(m_favourites.path()))
-    , m_controller({desktop, defaults, m_favourites, m_played, catalogue,
-                    [&list] { return list.selectedRecord(); }})
+    , m_controller(
+          {desktop, defaults, m_favourites, m_played, catalogue, [&list] { return list.selectedRecord(); }})
     , m_editing(m_favourites, m_controller, std::move(commandLine))
     , m_playing(m_played, desktop, defaults)
 {

@@ -29,10 +29,9 @@ std::vector<KeyCommands::Row> keyTable(Tessera_AppDelegate& hub)
     GameTableView& table2 = *hub.favorites().window().favoritesTable;
     QUndoStack* edits = &hub.catalogue().undoStack();
     QUndoStack* edits2 = &hub.favorites().favourites().undoStack();
-    const auto page = [bar = hub.logWindow().infomationTextView->verticalScrollBar()](
-                          QAbstractSlider::SliderAction action) {
-        return [bar, action] { bar->triggerAction(action); };
-    };
+    const auto page
+        = [bar = hub.logWindow().infomationTextView->verticalScrollBar()](
+              QAbstractSlider::SliderAction action) { return [bar, action] { bar->triggerAction(action); }; };
     const auto game = [&list] { return list.tableViewSelectionROM(); };
     const auto favorite = [&favorites] { return favorites.tableViewSelectionROM2(); };
     const auto save = [&hub] { hub.saveAction(); };

@@ -18,7 +18,7 @@ namespace {
 
 constexpr QSize pictureSize(132, 99);
 constexpr QSize firstSize(500, 150);
-constexpr SizeLimits limits{400, 150, 0, 0};
+constexpr SizeLimits ownLimits{400, 150, 0, 0};
 constexpr int setRole = Qt::UserRole;
 
 } // namespace
@@ -59,7 +59,7 @@ MiniWindow::MiniWindow(QWidget* parent)
     layout->setSpacing(12);
     layout->addWidget(m_picture, 0, Qt::AlignTop);
     layout->addLayout(side, 1);
-    setLimits(limits);
+    setLimits(ownLimits);
     resize(firstSize + 2 * QSize(shadowWidth, shadowWidth));
 }
 

@@ -16,6 +16,7 @@
 #include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
@@ -116,14 +117,12 @@ void Tessera_AppDelegate::loadInterface()
     m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
                                           [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
-    m_launch = std::make_unique<LaunchController>(
-        LaunchParts{m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
-                    SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
-                                     [this] { return m_gameList->tableViewSelectionTitleE(); },
-                                     [this] { return m_gameList->tableViewSelectionTitleJ(); }},
-                    [this](const QString& name) {
-                        return m_favorites->controller().search_priorityOption(name);
-                    }});
+    m_launch = std::make_unique<LaunchController>(LaunchParts{
+        m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
+        SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
+                         [this] { return m_gameList->tableViewSelectionTitleE(); },
+                         [this] { return m_gameList->tableViewSelectionTitleJ(); }},
+        [this](const QString& name) { return m_favorites->controller().search_priorityOption(name); }});
     m_favorites = std::make_unique<FavoritesDesk>(
         m_desktop, m_defaults, m_catalogue, *m_gameList,
         [this](const QString& name) { return m_launch->shownCommandLine(name); });
@@ -134,8 +133,8 @@ void Tessera_AppDelegate::loadInterface()
     m_rebuild = std::make_unique<CatalogueRebuild>(
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
         [this] { m_chooser->exeSelect(); });
-    m_keyCommands = std::make_unique<KeyCommands>(keyTable(*this),
-                                                  [this](const QString& game) { runGame(game); });
+    m_keyCommands
+        = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     keepWindowPlaces();
     joinRooms();
     joinViews();
@@ -208,7 +207,8 @@ void Tessera_AppDelegate::joinViews()
             &LaunchController::Launchusing);
     connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);
     connect(m_favorites.get(), &FavoritesDesk::miniWanted, this, &Tessera_AppDelegate::windowMini);
-    connect(m_mainWindow->favoritesButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowFavorites);
+    connect(m_mainWindow->favoritesButton, &QToolButton::clicked, this,
+            &Tessera_AppDelegate::windowFavorites);
     FavoritesWindow& favorites = m_favorites->window();
     favorites.takeMenus(*m_mainWindow->menuBar());
     connect(favorites.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
@@ -224,10 +224,13 @@ void Tessera_AppDelegate::joinViews()
     for (QWidget* window : std::initializer_list<QWidget*>{&mini, m_logWindow.get()})
         carryMenuKeys(*m_mainWindow->menuBar(), *window);
 
-    connect(m_keyCommands.get(), &KeyCommands::keyWindowChanged, this, &Tessera_AppDelegate::followUndo);
+    // For as long as there are menus: a stack's own end, too, tells that there is nothing left to undo.
+    QObject* keys = m_keyCommands.get();
+    const auto follow = [this] { followUndo(); };
+    connect(m_keyCommands.get(), &KeyCommands::keyWindowChanged, keys, follow);
     for (QUndoStack* stack : {&m_catalogue.undoStack(), &m_favorites->favourites().undoStack()}) {
-        connect(stack, &QUndoStack::canUndoChanged, this, &Tessera_AppDelegate::followUndo);
-        connect(stack, &QUndoStack::canRedoChanged, this, &Tessera_AppDelegate::followUndo);
+        connect(stack, &QUndoStack::canUndoChanged, keys, follow);
+        connect(stack, &QUndoStack::canRedoChanged, keys, follow);
     }
     followUndo();
 }
@@ -252,7 +255,7 @@ void Tessera_AppDelegate::keepWindowPlaces()
     m_places.keep(m_favorites->window(), keys::FavoritesWindowGeometry.name.data());
     m_places.keep(m_mini->window(), keys::MiniWindowGeometry.name.data());
     m_places.keep(*m_logWindow, keys::LogWindowGeometry.name.data());
-    m_places.keep(m_utility->window(), keys::UtilityWindowGeometry.name.data());
+    m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     m_places.keep(m_editing->editor(), keys::RecordEditorGeometry.name.data());
     m_places.keep(m_favorites->editing().editor(), keys::FavoritesEditorGeometry.name.data());
     m_places.keep(m_finding->panel(), keys::FilterPanelGeometry.name.data());

@@ -23,9 +23,8 @@ void WindowPlaces::keep(QWidget& window, const char* key)
 bool WindowPlaces::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::Show) {
-        const auto place = std::ranges::find(m_places, object, [](const Place& each) -> QObject* {
-            return each.window;
-        });
+        const auto place
+            = std::ranges::find(m_places, object, [](const Place& each) -> QObject* { return each.window; });
         if (place != m_places.end() && !std::exchange(place->wasShown, true)) {
             if (const auto geometry = m_defaults.value(QLatin1StringView(place->key)))
                 place->window->restoreGeometry(geometry->toByteArray());

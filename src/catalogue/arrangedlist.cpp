@@ -41,6 +41,7 @@ void ArrangedList::setContent(std::span<const GameRecord> content)
     m_found.reset();
     m_families.reset();
     m_sorted = {};
+    m_order.reset();
     arrange(Content::Other);
 }
 
@@ -60,9 +61,21 @@ void ArrangedList::setFound(std::optional<Found> found)
 
 void ArrangedList::setSort(Field field, bool ascending)
 {
-    if (field == m_field && ascending == m_ascending && !isRanked())
+    if (field == m_field && ascending == m_ascending && !isRanked() && !m_order)
         return;
     m_field = field;
+    m_order.reset();
+    sortBy(ascending);
+}
+
+void ArrangedList::setSort(SortedRecords order, bool ascending)
+{
+    m_order = std::move(order);
+    sortBy(ascending);
+}
+
+void ArrangedList::sortBy(bool ascending)
+{
     m_ascending = ascending;
     if (m_found)
         m_found->ranks.clear();
@@ -95,6 +108,8 @@ RecordSet ArrangedList::chosen() const
 
 const SortedRecords& ArrangedList::sorted()
 {
+    if (m_order)
+        return *m_order;
     auto& sorted = m_sorted[static_cast<std::size_t>(m_field)];
     if (!sorted)
         sorted.emplace(m_content, m_field);

@@ -46,6 +46,8 @@ public:
     /// The order that the list has already changes nothing. A sort wins over ranks: they are forgotten until
     /// something is found anew.
     void setSort(Field field, bool ascending);
+    /// By what stands in no field of the records. The next content is sorted by the last field again.
+    void setSort(SortedRecords order, bool ascending);
     /// Without families every record has a row of its own. So it has while ranks count.
     void setFamilies(std::optional<Families> families);
 
@@ -87,6 +89,7 @@ Q_SIGNALS:
 private:
     enum class Content : std::uint8_t { Same, Other };
     void arrange(Content content = Content::Same);
+    void sortBy(bool ascending);
     RecordSet chosen() const;
     const SortedRecords& sorted();
 
@@ -97,6 +100,7 @@ private:
     Field m_field = Field::Name;
     bool m_ascending = true;
     std::array<std::optional<SortedRecords>, fieldCount> m_sorted;
+    std::optional<SortedRecords> m_order; // goes before the field
     std::vector<std::uint32_t> m_rows;
     std::vector<std::uint32_t> m_clones; // one a row, or none at all
     std::vector<std::uint32_t> m_rowOf; // the other way round: a row for each record of the content

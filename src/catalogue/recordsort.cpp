@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <numeric>
 #include <tuple>
 #include <vector>
 
@@ -139,6 +140,17 @@ SortedRecords::SortedRecords(std::span<const GameRecord> content, Field field)
     order.sort();
     std::ranges::transform(order.entries(), m_records.begin(), &Entry::row);
     m_begins = order.takeBegins();
+}
+
+SortedRecords::SortedRecords(std::span<const std::uint64_t> keys)
+    : m_records(keys.size())
+    , m_begins(keys.size())
+{
+    std::iota(m_records.begin(), m_records.end(), 0U);
+    std::ranges::sort(m_records, {},
+                      [keys](std::uint32_t record) { return std::pair(keys[record], record); });
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        m_begins[i] = i == 0 || keys[m_records[i]] != keys[m_records[i - 1]] ? 1 : 0;
 }
 
 std::vector<std::uint32_t> SortedRecords::ascending(const RecordSet& chosen) const

@@ -16,6 +16,9 @@ class SortedRecords
 {
 public:
     SortedRecords(std::span<const GameRecord> content, Field field);
+    /// By a number for each record, of something that stands in none of its fields; equal numbers throughout
+    /// leave the content's order.
+    explicit SortedRecords(std::span<const std::uint64_t> keys);
 
     std::vector<std::uint32_t> ascending(const RecordSet& chosen) const;
     std::vector<std::uint32_t> descending(const RecordSet& chosen) const;

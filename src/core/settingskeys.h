@@ -189,6 +189,7 @@ TESSERA_CHOSEN(UtilityWindowGeometry);
 TESSERA_CHOSEN(RecordEditorGeometry);
 TESSERA_CHOSEN(FavoritesEditorGeometry);
 TESSERA_CHOSEN(FilterPanelGeometry);
+TESSERA_CHOSEN(PlayedIsOff);
 
 #undef TESSERA_FLAG
 #undef TESSERA_INDEX

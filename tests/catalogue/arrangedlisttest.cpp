@@ -300,6 +300,30 @@ private Q_SLOTS:
         QCOMPARE(rows(list), QStringLiteral("1 0 2"));
     }
 
+    void aListIsSortedByWhatStandsInNoField()
+    {
+        const SampleRecords sample = titled({"c", "a", "b", "d"});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, true);
+        list.setSort(SortedRecords(std::array<std::uint64_t, 4>{7, 5, 7, 0}), true);
+        QCOMPARE(rows(list), QStringLiteral("3 1 0 2"));
+        list.setSort(SortedRecords(std::array<std::uint64_t, 4>{7, 5, 7, 0}), false);
+        QCOMPARE(rows(list), QStringLiteral("0 2 1 3"));
+        // Equal numbers: as the content stands.
+        list.setSort(SortedRecords(std::array<std::uint64_t, 4>{}), true);
+        QCOMPARE(rows(list), QStringLiteral("0 1 2 3"));
+        list.setPredicate([](const GameRecord& record) { return record[Field::Title] > "a"; });
+        QCOMPARE(rows(list), QStringLiteral("0 2 3"));
+        list.setPredicate({});
+        // The field that was there before counts again, asked for or with another content.
+        list.setSort(Field::Title, true);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0 3"));
+        list.setSort(SortedRecords(std::array<std::uint64_t, 4>{}), true);
+        list.setContent(sample.store.records);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0 3"));
+    }
+
     void familiesAreFoldedAndOpened()
     {
         const SampleRecords sample = titled({"c", "x", "b", "x", "a"});

@@ -27,6 +27,8 @@ public:
     /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "color FROM", "error MESSAGE", "reveal
     /// PATH", "recent PATH", "log LINE", in order.
     QStringList transcript() const { return m_transcript; }
+    /// The first line of this text is taken out.
+    void forget(const QString& line) { m_transcript.removeOne(line); }
     QStringList takeTranscript() { return std::exchange(m_transcript, {}); }
 
     std::vector<Alert> alerts;

@@ -1,0 +1,58 @@
+#include "favourites/favouriteorder.h"
+
+#include "favourites/favourites.h"
+#include "favourites/playedgames.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+std::uint64_t timesNumber(const std::optional<Played>& played)
+{
+    return played ? played->times : 0;
+}
+
+// Before 1970 nothing was played in an emulator.
+std::uint64_t lastNumber(const std::optional<Played>& played)
+{
+    if (!played || !played->last.isValid())
+        return 0;
+    return static_cast<std::uint64_t>(std::max(qint64(1), played->last.toSecsSinceEpoch()));
+}
+
+// For each option its place among all of them.
+std::vector<std::uint64_t> optionNumbers(const Favourites& favourites)
+{
+    std::vector<QString> options;
+    for (std::uint32_t i = 0; i < favourites.records().size(); ++i)
+        options.push_back(favourites.value(i, FavouriteKey::Option));
+    std::vector<QString> sorted = options;
+    std::ranges::sort(sorted);
+    std::vector<std::uint64_t> numbers;
+    numbers.reserve(options.size());
+    for (const QString& option : options)
+        numbers.push_back(
+            static_cast<std::uint64_t>(std::ranges::lower_bound(sorted, option) - sorted.begin()));
+    return numbers;
+}
+
+} // namespace
+
+std::vector<std::uint64_t> orderNumbers(const Favourites& favourites, const PlayedGames& played,
+                                        FavouriteOrder order)
+{
+    if (order == FavouriteOrder::Option)
+        return optionNumbers(favourites);
+    std::vector<std::uint64_t> numbers(favourites.records().size(), 0);
+    if (order == FavouriteOrder::AsTheyStand)
+        return numbers;
+    for (std::uint32_t i = 0; i < numbers.size(); ++i) {
+        const auto game = played.played(favourites.value(i, FavouriteKey::Name));
+        numbers[i] = order == FavouriteOrder::Times ? timesNumber(game) : lastNumber(game);
+    }
+    return numbers;
+}
+
+} // namespace tessera

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+namespace tessera {
+
+class Favourites;
+class FavouriteEditor;
+class UCAppController;
+
+/// The editor of the selected favourite.
+class FavouriteEditing : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `commandLine` gives the whole command line of a set with its options; empty where it is not known.
+    FavouriteEditing(Favourites& favourites, UCAppController& controller,
+                     std::function<QString(const QString& name)> commandLine, QObject* parent = nullptr);
+    ~FavouriteEditing() override;
+
+    FavouriteEditor& editor() { return *m_editor; }
+    void commitEditing();
+
+public Q_SLOTS:
+    /// Brings the editor forward.
+    void editRecord();
+
+private:
+    void showSelection();
+    void selectNeighbour(int step);
+
+    Favourites& m_favourites;
+    UCAppController& m_controller;
+    std::function<QString(const QString& name)> m_commandLine;
+    std::unique_ptr<FavouriteEditor> m_editor;
+};
+
+} // namespace tessera

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "catalogue/arrangedlist.h"
+
+#include <QObject>
+
+class QTableView;
+
+namespace tessera {
+
+/// The selected rows of the favourites table, and the favourites in them.
+class FavouriteSelection
+{
+public:
+    explicit FavouriteSelection(const ArrangedList& list)
+        : m_list(list)
+    {
+    }
+
+    void setTable(QTableView* table) { m_table = table; }
+
+    /// -1 where nothing is selected.
+    int firstRow() const;
+    std::optional<std::uint32_t> first() const;
+    /// Indexes of favourites, rising.
+    std::vector<std::uint32_t> favourites() const;
+
+    /// Selects a row alone and scrolls to it; one that is not there leaves nothing selected.
+    void selectRow(qint64 row);
+    /// Those that the list shows, and nothing else.
+    void selectFavourites(const std::vector<std::uint32_t>& favourites);
+
+private:
+    const ArrangedList& m_list;
+    QTableView* m_table = nullptr;
+};
+
+} // namespace tessera

@@ -1,0 +1,96 @@
+// The favourites' commands that read and write their file.
+
+#include "favourites/ui/ucappcontroller.h"
+
+#include "favourites/ui/favouritestable.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+namespace tessera {
+
+namespace {
+
+constexpr int nothingSelected = -1;
+
+} // namespace
+
+QString UCAppController::pathOfDataFile() const
+{
+    return m_parts.favourites.path();
+}
+
+void UCAppController::set_favorites()
+{
+    const auto opened = m_parts.favourites.open();
+    if (!opened) {
+        m_parts.desktop.log(QStringLiteral("Data load error: ") + opened.error().text());
+    } else if (*opened == Favourites::Opened::NoFile) {
+        m_parts.desktop.log(QStringLiteral("Favorites.xml file not found."));
+    } else if (*opened == Favourites::Opened::EmptyList) {
+        // An empty list has no error to describe.
+        m_parts.desktop.log(QStringLiteral("Data load error: (null)"));
+    } else {
+        // The row is counted in the order of now: at start that of the file, although the stored one was
+        // counted in the order that was shown. Nothing stored is the first row.
+        const auto stored = m_parts.defaults.defaults().value(keys::FavoriteTable.name);
+        m_selection.selectRow(stored ? stored->toLongLong() : 0);
+    }
+}
+
+void UCAppController::saveFavorites()
+{
+    commitEditing();
+    UserDefaults& defaults = m_parts.defaults.defaults();
+    const int row = m_selection.firstRow();
+    defaults.setValue(keys::FavoriteTable.name, row < 0 ? nothingSelected : row);
+    defaults.synchronize();
+    // Deliberate: an edit alone is not written, a cancelled removal is, and a failure is nobody's.
+    if (m_favoritesUpdate)
+        (void)writeFile();
+}
+
+void UCAppController::saveFavoritesNow()
+{
+    commitEditing();
+    m_favoritesUpdate = true;
+    if (const auto written = writeFile(); !written)
+        m_parts.desktop.presentError(written.error().text(), QString(), {});
+    else
+        Q_EMIT statusMessage(qtTrId("favourites_saved"));
+}
+
+std::expected<void, Failure> UCAppController::writeFile()
+{
+    const auto text = m_parts.favourites.text();
+    if (!text) {
+        m_parts.desktop.log(QStringLiteral("save error: ") + text.error().text());
+        return std::unexpected(text.error());
+    }
+    dir_make(QFileInfo(pathOfDataFile()).path());
+    return m_parts.favourites.write(*text);
+}
+
+void UCAppController::dir_make(const QString& path)
+{
+    if (QFileInfo::exists(path))
+        return;
+    std::error_code error;
+    std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
+    if (error)
+        m_parts.desktop.log(QStringLiteral("ディレクトリ作成でエラー発生: ") + path + QStringLiteral(": ")
+                            + QString::fromStdString(error.message()));
+}
+
+void UCAppController::commitEditing()
+{
+    if (m_table != nullptr)
+        m_table->commitOpenEditor();
+    Q_EMIT commitRequested();
+}
+
+} // namespace tessera

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "catalogue/arrangedlist.h"
+#include "favourites/favourites.h"
+
+#include <QAbstractTableModel>
+#include <QFont>
+
+namespace tessera {
+
+class ColorTransformer;
+class DefaultsController;
+class PlayedGames;
+
+/// The columns in their first order; the set name is the first and sets the initial sort.
+enum class FavouriteColumn : std::uint8_t {
+    Name,
+    Title,
+    Titlejp,
+    Year,
+    Maker,
+    Option,
+    Cloneof,
+    Device,
+    Status,
+    Type,
+    Times,
+    Last
+};
+
+/// A thin model over the arranged favourites, and over what was played.
+class FavouritesTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    static constexpr int columns = 12;
+    static constexpr std::array hiddenColumns{FavouriteColumn::Cloneof, FavouriteColumn::Device,
+                                              FavouriteColumn::Status, FavouriteColumn::Type};
+
+    /// The list shows the favourites; `reload()` is called whenever they become others.
+    FavouritesTableModel(Favourites& favourites, ArrangedList& list, const PlayedGames& played,
+                         const ColorTransformer& colors, DefaultsController& defaults,
+                         QObject* parent = nullptr);
+
+    /// The favourites of now, in the order of before.
+    void reload();
+    /// Favourites, by their indexes, whose set is not in the catalogue any more.
+    void setGone(RecordSet gone);
+    /// The rows' colours are others now.
+    void recolour() { showEverything({Qt::ForegroundRole}); }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// An undoable edit of the favourite.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    void sort(int column, Qt::SortOrder order) override;
+
+private:
+    void readFont();
+    void settingChanged(const QString& name);
+    void showEverything(const QList<int>& roles = {});
+    void showFavourite(std::uint32_t favourite, FavouriteKey key);
+    void arrange();
+    std::uint32_t favourite(const QModelIndex& index) const
+    {
+        return m_list.rows()[static_cast<std::size_t>(index.row())];
+    }
+    QVariant shown(std::uint32_t favourite, FavouriteColumn column) const;
+    QString edited(std::uint32_t favourite, FavouriteColumn column) const;
+    QVariant icon(std::uint32_t favourite) const;
+    QVariant toolTip(std::uint32_t favourite) const;
+
+    Favourites& m_favourites;
+    ArrangedList& m_list;
+    const PlayedGames& m_played;
+    const ColorTransformer& m_colors;
+    DefaultsController& m_defaults;
+    RecordSet m_gone;
+    QFont m_font;
+    std::optional<FavouriteColumn> m_sorted; ///< nothing while the list stands as its file does
+    bool m_ascending = true;
+    bool m_arranging = false;
+};
+
+} // namespace tessera

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+
+class QCompleter;
+class QStandardItemModel;
+
+namespace tessera {
+
+/// An option of the user's emulator: "-cheat", and what the emulator says of it.
+struct KnownOption {
+    QString option;
+    QString description;
+};
+
+/// What the emulator understands. Without `lists` it was not asked, and nothing is said of any option.
+struct KnownOptions {
+    QList<KnownOption> options;
+    std::function<bool(QStringView option)> lists;
+};
+
+/// A field for a favourite's options; the word that is being typed is completed.
+class OptionField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit OptionField(QWidget* parent = nullptr);
+
+    void setKnownOptions(const QList<KnownOption>& options);
+    QCompleter* wordCompleter() { return m_completer; }
+
+private:
+    void propose();
+    void take(const QString& option);
+
+    QCompleter* m_completer;
+    QStandardItemModel* m_options;
+};
+
+} // namespace tessera

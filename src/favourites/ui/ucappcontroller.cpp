@@ -1,0 +1,251 @@
+#include "favourites/ui/ucappcontroller.h"
+
+#include "catalogue/catalogue.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/statusmark.h"
+#include "favourites/gonefavourites.h"
+#include "favourites/playedgames.h"
+#include "favourites/ui/favouritestable.h"
+#include "favourites/ui/favouritestablemodel.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+constexpr int recentDays = 30;
+
+} // namespace
+
+UCAppController::UCAppController(FavouritesParts parts, QObject* parent)
+    : QObject(parent)
+    , m_parts(std::move(parts))
+    , m_colors(m_parts.defaults.defaults())
+    , m_model(new FavouritesTableModel(m_parts.favourites, m_list, m_parts.played, m_colors, m_parts.defaults,
+                                       this))
+    , m_selection(m_list)
+{
+    joinFavourites();
+}
+
+void UCAppController::joinFavourites()
+{
+    const Favourites* favourites = &m_parts.favourites;
+    connect(favourites, &Favourites::replaced, this, [this] { showAgain({}); });
+    connect(favourites, &Favourites::appended, this, [this] { showAgain(m_selection.favourites()); });
+    connect(favourites, &Favourites::putBackAt, this,
+            [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
+    // The row that took the place of the first one is selected, so that several can be removed in a row.
+    connect(favourites, &Favourites::removed, this, [this] { showAgain({}, m_selection.firstRow()); });
+    connect(favourites, &Favourites::valueChanged, this, &UCAppController::tableViewSelectionDidChange);
+    connect(&m_parts.favourites.undoStack(), &QUndoStack::cleanChanged, this,
+            [this](bool clean) { Q_EMIT unsavedChanged(!clean); });
+
+    const Catalogue* catalogue = &m_parts.catalogue;
+    connect(catalogue, &Catalogue::replaced, this, &UCAppController::markGone);
+    connect(catalogue, &Catalogue::removed, this, &UCAppController::markGone);
+    connect(catalogue, &Catalogue::putBackAt, this, &UCAppController::markGone);
+    connect(catalogue, &Catalogue::recordChanged, this, [this](std::uint32_t, Field field) {
+        if (field == Field::Name)
+            markGone();
+    });
+    connect(&m_parts.played, &PlayedGames::changed, this, [this] {
+        if (m_onlyRecent)
+            applyRecent();
+    });
+}
+
+void UCAppController::setTable(FavouritesTable* table)
+{
+    m_table = table;
+    table->setModel(m_model);
+    m_selection.setTable(table);
+    connect(table, &GameTableView::selectionDidChange, this, &UCAppController::tableViewSelectionDidChange);
+    connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);
+}
+
+void UCAppController::awakeFromNib()
+{
+    m_favoritesUpdate = false;
+    set_favorites();
+    favorites_tableViewSort();
+}
+
+// The list as it is now, with these favourites selected, or else a row or the last one.
+void UCAppController::showAgain(const std::vector<std::uint32_t>& selected, int row)
+{
+    m_quiet = true;
+    m_model->reload();
+    if (row < 0)
+        m_selection.selectFavourites(selected);
+    else
+        m_selection.selectRow(std::min(row, m_model->rowCount() - 1));
+    m_quiet = false;
+    markGone();
+    tableViewSelectionDidChange();
+    Q_EMIT countChanged();
+}
+
+void UCAppController::markGone()
+{
+    m_model->setGone(goneFavourites(m_parts.favourites.records(), m_parts.catalogue.records()));
+}
+
+void UCAppController::addFavorite()
+{
+    const GameRecord* game = m_parts.selectedGame();
+    if (game == nullptr) {
+        m_parts.desktop.beep();
+        return;
+    }
+    addFavoritesTable(*game);
+    m_parts.desktop.playSound(QStringLiteral("shutter"));
+}
+
+void UCAppController::addFavoritesTable(const GameRecord& game)
+{
+    commitEditing();
+    m_parts.favourites.append(game);
+    m_favoritesUpdate = true;
+}
+
+void UCAppController::removeFavoritesTable()
+{
+    commitEditing();
+    // Deliberate: also when nothing is selected.
+    m_parts.desktop.beep();
+    std::vector<std::uint32_t> selected = m_selection.favourites();
+    if (selected.empty())
+        return;
+    Alert alert;
+    alert.style = Alert::Style::Warning;
+    alert.message = QStringLiteral("Remove selected data?");
+    alert.informative = QStringLiteral("If you stop processing, please choose Cancel.");
+    alert.buttons = {QStringLiteral("Remove"), QStringLiteral("Cancel")};
+    // Shows the selection anew as well.
+    if (m_parts.desktop.runAlert(alert) == 0)
+        m_parts.favourites.remove(std::move(selected));
+    // Deliberate: the file is rewritten at quit after a cancel too.
+    m_favoritesUpdate = true;
+}
+
+void UCAppController::tableViewSelectionDidChange()
+{
+    if (m_quiet)
+        return;
+    Q_EMIT selectionChanged();
+    romStatus2();
+}
+
+void UCAppController::romStatus2()
+{
+    const auto favourite = m_selection.first();
+    const auto mark = statusMark(
+        favourite ? std::optional(m_parts.favourites.records()[*favourite][Field::Status]) : std::nullopt);
+    if (mark)
+        Q_EMIT markChanged(fieldText(*mark));
+}
+
+// Deliberate: no beep with nothing selected, unlike the game list.
+void UCAppController::tableViewDoubleAction2()
+{
+    const QString name = tableViewSelectionROM2();
+    if (!name.isEmpty())
+        Q_EMIT launchRequested(name);
+}
+
+void UCAppController::favorites_tableViewSort()
+{
+    if (m_table != nullptr)
+        m_table->sortByColumn(0, Qt::AscendingOrder);
+}
+
+void UCAppController::gameShuffle2()
+{
+    // The number is drawn before the list is looked at; of none it is 0.
+    const int count = m_model->rowCount();
+    const int row = count == 0 ? 0 : QRandomGenerator::global()->bounded(count);
+    if (count == 0) {
+        m_parts.desktop.beep();
+        return;
+    }
+    m_selection.selectRow(row);
+    m_parts.desktop.playSound(QStringLiteral("slot_end"));
+}
+
+void UCAppController::showRecentlyPlayed(bool only)
+{
+    if (m_onlyRecent == only)
+        return;
+    m_onlyRecent = only;
+    applyRecent();
+}
+
+void UCAppController::setRomFolders(std::shared_ptr<const RomFolders> folders)
+{
+    m_colors.setRomFolders(std::move(folders));
+    m_model->recolour();
+}
+
+void UCAppController::applyRecent()
+{
+    commitEditing();
+    const std::vector<std::uint32_t> selected = m_selection.favourites();
+    m_quiet = true;
+    if (m_onlyRecent) {
+        const QStringList names = m_parts.played.recent(m_parts.desktop.now().addDays(-recentDays));
+        const QSet<QString> recent(names.begin(), names.end());
+        m_list.setPredicate(
+            [recent](const GameRecord& record) { return recent.contains(fieldText(record[Field::Name])); });
+    } else {
+        m_list.setPredicate({});
+    }
+    m_selection.selectFavourites(selected);
+    m_quiet = false;
+    tableViewSelectionDidChange();
+    Q_EMIT countChanged();
+}
+
+QString UCAppController::search_priorityOption(const QString& name) const
+{
+    const auto row = m_list.find(Field::Name, name.toStdString());
+    return row ? m_parts.favourites.value(m_list.rows()[*row], FavouriteKey::Option) : QString();
+}
+
+QString UCAppController::selectedValue(Field field) const
+{
+    const auto favourite = m_selection.first();
+    return favourite ? shownValue(m_parts.favourites.records()[*favourite], field) : QString();
+}
+
+QString UCAppController::tableViewSelectionROM2() const
+{
+    return selectedValue(Field::Name);
+}
+
+QString UCAppController::tableViewSelectionParentROM2() const
+{
+    return selectedValue(Field::Cloneof);
+}
+
+QString UCAppController::tableViewSelectionCloneof() const
+{
+    return selectedValue(Field::Cloneof);
+}
+
+QString UCAppController::tableViewSelectionYEAR() const
+{
+    return selectedValue(Field::Year);
+}
+
+QString UCAppController::tableViewSelectionMaker() const
+{
+    return selectedValue(Field::Maker);
+}
+
+} // namespace tessera

@@ -1,0 +1,169 @@
+#include "widgets/transparentwindow.h"
+
+#include "widgets/rounded_view2.h"
+#include "widgets/roundedpath.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace tessera {
+
+namespace {
+
+constexpr int shadowAlpha = 9; // of each of its rings
+
+// What grows downwards on the screen is turned over at its lower edge.
+double screenBottom()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    return screen.y() + screen.height();
+}
+
+Place onScreen(const QMouseEvent& event)
+{
+    return turnedOver(Place{event.globalPosition().x(), event.globalPosition().y()}, screenBottom());
+}
+
+// The main one; the desktop's own panel at its upper edge counts as the menu bar.
+Screen mainScreen()
+{
+    const QRect all = QGuiApplication::primaryScreen()->geometry();
+    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+    return {{static_cast<double>(all.x()), 0, static_cast<double>(all.width()),
+             static_cast<double>(all.height())},
+            static_cast<double>(free.y() - all.y())};
+}
+
+int sizeOr(double size, int other)
+{
+    return size > 0 ? static_cast<int>(size) + 2 * TransparentWindow::shadowWidth : other;
+}
+
+} // namespace
+
+TransparentWindow::TransparentWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+    , m_panel(new Rounded_View2)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(shadowWidth, shadowWidth, shadowWidth, shadowWidth);
+    layout->addWidget(m_panel);
+    connect(m_panel, &Rounded_View2::orderOut, this, &TransparentWindow::orderOut);
+    connect(m_panel, &Rounded_View2::miniaturize, this, &TransparentWindow::miniaturize);
+}
+
+Frame TransparentWindow::frame() const
+{
+    const QRect panel = geometry().adjusted(shadowWidth, shadowWidth, -shadowWidth, -shadowWidth);
+    return turnedOver(Frame{static_cast<double>(panel.x()), static_cast<double>(panel.y()),
+                            static_cast<double>(panel.width()), static_cast<double>(panel.height())},
+                      screenBottom());
+}
+
+void TransparentWindow::setFrame(const Frame& frame)
+{
+    const Frame turned = turnedOver(frame, screenBottom());
+    setGeometry(QRectF(turned.x, turned.y, turned.width, turned.height)
+                    .toRect()
+                    .adjusted(-shadowWidth, -shadowWidth, shadowWidth, shadowWidth));
+}
+
+void TransparentWindow::setLimits(const SizeLimits& limits)
+{
+    m_limits = limits;
+    setMinimumSize(sizeOr(limits.minWidth, 0), sizeOr(limits.minHeight, 0));
+    setMaximumSize(sizeOr(limits.maxWidth, QWIDGETSIZE_MAX), sizeOr(limits.maxHeight, QWIDGETSIZE_MAX));
+}
+
+// Another flag makes another window: it is shown again where it was.
+void TransparentWindow::setAbove(bool above)
+{
+    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == above)
+        return;
+    const bool wasVisible = isVisible();
+    const QRect place = geometry();
+    setWindowFlag(Qt::WindowStaysOnTopHint, above);
+    setGeometry(place);
+    setVisible(wasVisible);
+}
+
+void TransparentWindow::orderOut()
+{
+    hide();
+    Q_EMIT orderedOut();
+}
+
+void TransparentWindow::miniaturize()
+{
+    showMinimized();
+}
+
+// Where a program may not place its windows, the compositor moves and resizes them itself.
+bool TransparentWindow::handOver()
+{
+    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) || windowHandle() == nullptr)
+        return false;
+    return m_isResizing ? windowHandle()->startSystemResize(Qt::RightEdge | Qt::BottomEdge)
+                        : windowHandle()->startSystemMove();
+}
+
+void TransparentWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_startWindowFrame = frame();
+    m_startLocation = onScreen(*event);
+    m_initialLocation = inWindow(m_startWindowFrame, m_startLocation);
+    m_isResizing = holds(resizeGrip(m_startWindowFrame), m_initialLocation);
+    m_isDragging = !m_isResizing;
+    // Then no release is heard of.
+    if (handOver())
+        m_isResizing = m_isDragging = false;
+}
+
+void TransparentWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_isResizing) {
+        const Frame resized = resizedFrame(m_startWindowFrame, m_startLocation, onScreen(*event), m_limits);
+        if (resized != frame())
+            setFrame(resized);
+    } else if (m_isDragging) {
+        setFrame(movedFrame(frame(), m_initialLocation, onScreen(*event), mainScreen()));
+    }
+}
+
+void TransparentWindow::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_startWindowFrame = {};
+    m_startLocation = {};
+    (m_isResizing ? m_isResizing : m_isDragging) = false;
+}
+
+// Rings around the panel, the more of them the nearer; none beneath it, since it can be seen through.
+void TransparentWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, shadowAlpha));
+    const QRectF panel(m_panel->geometry());
+    QPainterPath inner;
+    inner.addRoundedRect(panel, RoundedPath::radius, RoundedPath::radius);
+    for (int ring = 1; ring <= shadowWidth; ++ring) {
+        QPainterPath outer;
+        const double radius = RoundedPath::radius + ring;
+        outer.addRoundedRect(panel.adjusted(-ring, -ring, ring, ring), radius, radius);
+        painter.drawPath(outer.subtracted(inner));
+    }
+}
+
+} // namespace tessera

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "catalogue/catalogue.h"
+#include "catalogue/storewriter.h"
+#include "favourites/favourites.h"
+#include "favourites/favouritespath.h"
+#include "favourites/playedgames.h"
+#include "favourites/ui/favouritestable.h"
+#include "favourites/ui/favouritestablemodel.h"
+#include "favourites/ui/ucappcontroller.h"
+#include "platform/defaultscontroller.h"
+#include "support/scripteddesktop.h"
+
+#include "favouritetexts.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+namespace tessera::test {
+
+/// The favourites with their table on a scripted desktop. The catalogue holds pong and bare; the game that is
+/// selected in it is the test's to say.
+class StagedFavourites
+{
+public:
+    StagedFavourites()
+        : defaults(path(QStringLiteral("settings.ini")))
+        , controls(defaults)
+        , catalogue(path(QStringLiteral("Tessera.xml")))
+        , favourites(favouritesPath(path(QStringLiteral("support"))))
+        , played(playedPath(favourites.path()))
+    {
+        controls.setInitialValues(QStringLiteral("Inter"), QStringLiteral("/home/somebody"));
+        (void)writeStore(catalogue.path(), std::array{pong, bare});
+        (void)catalogue.open();
+    }
+
+    /// Puts a favourites file where it belongs.
+    void writeFile(const QByteArray& values)
+    {
+        QDir().mkpath(QFileInfo(favourites.path()).path());
+        QVERIFY(writeBytes(favourites.path(), listFile(values)));
+    }
+    QByteArray file() const { return bytesOf(favourites.path()); }
+
+    /// Start-up as the program does it.
+    void start()
+    {
+        table = std::make_unique<FavouritesTable>(controls);
+        controller = std::make_unique<UCAppController>(FavouritesParts{
+            desktop, controls, favourites, played, catalogue, [this] { return selectedGame; }});
+        controller->setTable(table.get());
+        table->resize(800, 300);
+        table->show();
+        controller->awakeFromNib();
+    }
+
+    QStringList shownNames() const
+    {
+        QStringList names;
+        for (int row = 0; row < controller->model()->rowCount(); ++row)
+            names << controller->model()->index(row, 0).data().toString();
+        return names;
+    }
+    QVariant shown(int row, FavouriteColumn column, int role = Qt::DisplayRole) const
+    {
+        return controller->model()->index(row, static_cast<int>(column)).data(role);
+    }
+    QVariant storedSelection() const { return defaults.value(keys::FavoriteTable.name).value_or(QVariant()); }
+
+    QString path(const QString& name) const { return folder.filePath(name); }
+
+    QTemporaryDir folder;
+    ScriptedDesktop desktop;
+    UserDefaults defaults;
+    DefaultsController controls;
+    Catalogue catalogue;
+    Favourites favourites;
+    PlayedGames played;
+    const GameRecord* selectedGame = nullptr;
+    std::unique_ptr<FavouritesTable> table;
+    std::unique_ptr<UCAppController> controller;
+};
+
+} // namespace tessera::test

@@ -1,0 +1,152 @@
+#include "widgets/rounded_view2.h"
+#include "widgets/roundedpath.h"
+
+#include "support/testmain.h"
+
+#include <QSignalSpy>
+#include <QToolButton>
+
+#include <cmath>
+
+using namespace tessera;
+
+namespace {
+
+QString line(Place place)
+{
+    return QStringLiteral("%1,%2").arg(place.x).arg(place.y);
+}
+
+QString line(const RoundedPath& path)
+{
+    QStringList parts{line(path.start)};
+    for (const RoundedCorner& each : path.corners)
+        parts << line(each.corner) + QStringLiteral(">") + line(each.towards);
+    return parts.join(u' ');
+}
+
+QImage drawn(Rounded_View2& view)
+{
+    QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    view.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+} // namespace
+
+class RoundedViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theOutlineGoesRoundFromTheMiddleOfTheLowerEdge_data()
+    {
+        QTest::addColumn<double>("width");
+        QTest::addColumn<double>("height");
+        QTest::addColumn<float>("borderWidth");
+        QTest::addColumn<QString>("path");
+        const auto row = [](const char* name, double width, double height, float border, const char* path) {
+            QTest::newRow(name) << width << height << border << QString::fromLatin1(path);
+        };
+        row("as it begins", 300, 200, 0.9F, "150,0 300,0>300,100 300,200>150,200 0,200>0,100 0,0>150,0");
+        row("odd sizes", 301, 201, 0.9F, "151,0 301,0>301,101 301,201>151,201 0,201>0,101 0,0>151,0");
+        row("no border", 300, 200, 0, "150,0 300,0>300,100 300,200>150,200 0,200>0,100 0,0>150,0");
+        row("a wide border", 300, 200, 3, "150,2 298,2>298,100 298,198>150,198 2,198>2,100 2,2>150,2");
+        row("a border of broken width", 300, 200, 1.8F,
+            "150,1 299,1>299,100 299,199>150,199 1,199>1,100 1,1>150,1");
+        row("nothing left", 2, 2, 9, "0,0 0,0>0,0 0,0>0,0 0,0>0,0 0,0>0,0");
+    }
+    void theOutlineGoesRoundFromTheMiddleOfTheLowerEdge()
+    {
+        QFETCH(double, width);
+        QFETCH(double, height);
+        QFETCH(float, borderWidth);
+        QFETCH(QString, path);
+        QCOMPARE(line(roundedPath({0, 0, width, height}, borderWidth)), path);
+    }
+
+    void cornersAreRoundedByTheirRadius()
+    {
+        const QPainterPath path = painterPath(roundedPath({0, 0, 300, 200}, 0.9F));
+        QCOMPARE(path.boundingRect(), QRectF(0, 0, 300, 200));
+        QCOMPARE(path.currentPosition(), QPointF(150, 0));
+        // Along the diagonal a quarter of a circle of 19 leaves 19 * (sqrt 2 - 1) = 7.87 of its corner free.
+        const double edge = RoundedPath::radius - RoundedPath::radius / std::sqrt(2.0);
+        for (const QPointF corner : {QPointF(0, 0), QPointF(300, 0), QPointF(0, 200), QPointF(300, 200)}) {
+            const QPointF inward((corner.x() > 0 ? -1 : 1), (corner.y() > 0 ? -1 : 1));
+            QVERIFY(!path.contains(corner + inward * (edge - 0.1)));
+            QVERIFY(path.contains(corner + inward * (edge + 0.1)));
+            QVERIFY(path.contains(corner + QPointF(inward.x() * 19.5, inward.y() * 0.1)));
+            QVERIFY(path.contains(corner + QPointF(inward.x() * 0.1, inward.y() * 19.5)));
+        }
+        QVERIFY(painterPath(roundedPath({}, 0.9F)).boundingRect().isEmpty());
+    }
+
+    void buttonsStandAtTheUpperEdge()
+    {
+        QVERIFY(panelButtonFrame(closePanelButton, 200) == (Frame{8, 174, 14, 14}));
+        QVERIFY(panelButtonFrame(minimisePanelButton, 200) == (Frame{28, 174, 14, 14}));
+        Rounded_View2 view;
+        for (const QSize size : {QSize(300, 200), QSize(500, 90)}) {
+            view.resize(size);
+            view.grab();
+            // 26 from the upper edge up to their lower one.
+            QCOMPARE(view.closeButton->geometry(), QRect(8, 12, 14, 14));
+            QCOMPARE(view.minimiseButton->geometry(), QRect(28, 12, 14, 14));
+        }
+        QCOMPARE(view.closeButton->objectName(), QStringLiteral("bu_close2"));
+        QCOMPARE(view.minimiseButton->objectName(), QStringLiteral("bu_minus2"));
+        QCOMPARE(view.closeButton->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
+        QCOMPARE(view.minimiseButton->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_M));
+    }
+
+    void buttonsActOnTheWindow()
+    {
+        Rounded_View2 view;
+        QSignalSpy out(&view, &Rounded_View2::orderOut);
+        QSignalSpy small(&view, &Rounded_View2::miniaturize);
+        QTest::mouseClick(view.closeButton, Qt::LeftButton);
+        QCOMPARE(out.size(), 1);
+        QTest::mouseClick(view.minimiseButton, Qt::LeftButton);
+        QCOMPARE(small.size(), 1);
+    }
+
+    void itBeginsTranslucentBlackWithAGreyOutline()
+    {
+        const Rounded_View2 view;
+        QCOMPARE(view.borderWidth(), 0.9F);
+        QCOMPARE(view.borderColor().rgba(), qRgba(102, 102, 102, 191));
+        QCOMPARE(view.backgroundColor().rgba(), qRgba(0, 0, 0, 191));
+    }
+
+    void withoutAWidthItIsFilledButNotOutlined()
+    {
+        Rounded_View2 view;
+        view.resize(300, 200);
+        view.closeButton->hide();
+        view.minimiseButton->hide();
+        view.setBackgroundColor(Qt::blue);
+        view.setBorderColor(Qt::red);
+        const auto reds = [&] {
+            const QImage image = drawn(view);
+            int count = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    count += qRed(image.pixel(x, y)) > 60 ? 1 : 0;
+            }
+            return count;
+        };
+        QVERIFY(reds() > 500);
+        view.setBorderWidth(0);
+        QCOMPARE(reds(), 0);
+        const QImage image = drawn(view);
+        QCOMPARE(image.pixelColor(150, 100), QColor(Qt::blue));
+        QCOMPARE(image.pixelColor(150, 1), QColor(Qt::blue));
+        QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(image.pixelColor(299, 199).alpha(), 0);
+    }
+};
+
+TESSERA_TEST(RoundedViewTest);
+#include "roundedviewtest.moc"
