@@ -4,6 +4,7 @@
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "favourites/ui/favouritestable.h"
+#include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
@@ -28,6 +29,18 @@ namespace {
 
 constexpr int sidePanelWidth = 300;
 constexpr QSize firstSize(1200, 760);
+
+struct ColumnWidth {
+    FavouriteColumn column;
+    int width;
+};
+
+constexpr std::array columnWidths{
+    ColumnWidth{FavouriteColumn::Name, 128},    ColumnWidth{FavouriteColumn::Title, 240},
+    ColumnWidth{FavouriteColumn::Titlejp, 172}, ColumnWidth{FavouriteColumn::Year, 56},
+    ColumnWidth{FavouriteColumn::Maker, 112},   ColumnWidth{FavouriteColumn::Option, 120},
+    ColumnWidth{FavouriteColumn::Times, 60},
+};
 
 } // namespace
 
@@ -66,6 +79,7 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     setCentralWidget(content);
     makeStatusLine();
     resize(firstSize);
+    connect(favoritesTable, &GameTableView::typed, favoritesTable, &QAbstractItemView::keyboardSearch);
 }
 
 QWidget* FavoritesWindow::makeToolRow()
@@ -164,8 +178,11 @@ void FavoritesWindow::restore()
     m_split->splitView()->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
     if (const auto split = stored.value(keys::FavoritesWindowSplit.name))
         m_split->splitView()->restoreState(split->toByteArray());
+    for (const ColumnWidth& each : columnWidths)
+        favoritesTable->setColumnWidth(static_cast<int>(each.column), each.width);
     if (const auto columns = stored.value(keys::FavoritesWindowColumns.name))
         favoritesTable->horizontalHeader()->restoreState(columns->toByteArray());
+    favoritesTable->setFocus();
 }
 
 void FavoritesWindow::remember()

@@ -148,11 +148,11 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
     addColumnsMenu(*menuOf(bar, view), delegate);
 }
 
-void carryMenuKeys(const QMenuBar& bar, QWidget& window)
+void carryMenuKeys(const QMenuBar& bar, QWidget& other)
 {
     for (QAction* action : bar.findChildren<QAction*>()) {
         if (!action->shortcut().isEmpty())
-            window.addAction(action);
+            other.addAction(action);
     }
 }
 

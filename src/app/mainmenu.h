@@ -11,6 +11,6 @@ class Tessera_AppDelegate;
 void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate);
 
 /// Gives a window without menus their keys.
-void carryMenuKeys(const QMenuBar& bar, QWidget& window);
+void carryMenuKeys(const QMenuBar& bar, QWidget& other);
 
 } // namespace tessera

@@ -60,6 +60,7 @@ MiniWindow::MiniWindow(QWidget* parent)
     layout->addWidget(m_picture, 0, Qt::AlignTop);
     layout->addLayout(side, 1);
     setLimits(ownLimits);
+    setnameTextField2->setFocus();
     resize(firstSize + 2 * QSize(shadowWidth, shadowWidth));
 }
 

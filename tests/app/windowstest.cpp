@@ -1,0 +1,232 @@
+#include "stagedapp.h"
+
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "favourites/ui/favouriteeditor.h"
+#include "favourites/ui/favouritestable.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/logwindow.h"
+#include "support/testmain.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QToolButton>
+
+using namespace tessera;
+using test::StagedApp;
+
+/// The three windows of the same work, and what commands act on in each.
+class WindowsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staged = std::make_unique<StagedApp>();
+        m_staged->writeCatalogue();
+        m_staged->start();
+    }
+
+    void cleanup() { m_staged.reset(); }
+
+    void theFavouritesTakeTheMainWindowsPlaceAndGiveItBack()
+    {
+        main().setGeometry(40, 50, 900, 600);
+        m_staged->app->windowFavorites();
+        QVERIFY(!main().isVisible());
+        QVERIFY(favorites().isVisible());
+        QCOMPARE(favorites().geometry(), QRect(40, 50, 900, 600));
+        favorites().setGeometry(10, 20, 1000, 640);
+        m_staged->app->windowMain();
+        QVERIFY(main().isVisible());
+        QVERIFY(!favorites().isVisible());
+        QCOMPARE(main().geometry(), QRect(10, 20, 1000, 640));
+    }
+
+    void fromTheMiniWindowEachComesBackToItsOwnPlace()
+    {
+        main().setGeometry(40, 50, 900, 600);
+        m_staged->app->windowMini();
+        QVERIFY(!main().isVisible());
+        QVERIFY(mini().isVisible());
+        favorites().setGeometry(5, 6, 700, 500);
+        m_staged->app->windowFavorites();
+        QVERIFY(!mini().isVisible());
+        QCOMPARE(favorites().geometry(), QRect(5, 6, 700, 500));
+        m_staged->app->windowMini();
+        m_staged->app->windowMain();
+        QCOMPARE(main().geometry(), QRect(40, 50, 900, 600));
+    }
+
+    void switchingRefreshesTheSelection()
+    {
+        QSignalSpy refreshed(&m_staged->app->gameList(), &GameListController::selectionChanged);
+        m_staged->app->windowFavorites();
+        QCOMPARE(refreshed.count(), 1);
+        m_staged->app->windowMini();
+        QCOMPARE(refreshed.count(), 1);
+        m_staged->app->windowMain();
+        QCOMPARE(refreshed.count(), 2);
+    }
+
+    void closingOneOfTheOthersBringsTheMainWindowBack()
+    {
+        m_staged->app->windowFavorites();
+        favorites().close();
+        QVERIFY(main().isVisible());
+        QVERIFY(!favorites().isVisible());
+        m_staged->app->windowMini();
+        mini().orderOut();
+        QVERIFY(main().isVisible());
+    }
+
+    void titlesNameTheKindOfEmulator()
+    {
+        QCOMPARE(mini().windowTitle(), QStringLiteral("SDL MAME :"));
+        QCOMPARE(mini().emulatorLabel->text(), QStringLiteral("SDL MAME :"));
+    }
+
+    void theMenusStandInTheFavouritesWindowToo()
+    {
+        QCOMPARE(favorites().menuBar()->actions(), main().menuBar()->actions());
+    }
+
+    void addingNeedsASelectedGame()
+    {
+        main().gameTable->clearSelection();
+        m_staged->app->addFavorite();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+        add("pong");
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("sound shutter")});
+        QCOMPARE(m_staged->app->favorites().favourites().records().size(), std::size_t(1));
+    }
+
+    void favouritesAreSavedAtQuit()
+    {
+        add("pong");
+        m_staged->app->applicationWillTerminate();
+        QVERIFY(QFile::exists(m_staged->app->favorites().favourites().path()));
+        m_staged->app.reset();
+        m_staged->start();
+        QCOMPARE(m_staged->app->favorites().favourites().records().size(), std::size_t(1));
+    }
+
+    void randomActsOnTheKeyWindowsList()
+    {
+        add("qix");
+        m_staged->app->windowFavorites();
+        becomeKey(favorites());
+        m_staged->app->mameslotAction();
+        QCOMPARE(m_staged->app->favorites().controller().tableViewSelectionROM2(), QStringLiteral("qix"));
+        m_staged->app->windowMini();
+        becomeKey(mini());
+        m_staged->app->mameslotAction();
+        QCOMPARE(mini().setnameTextField2->text(), m_staged->app->gameList().tableViewSelectionROM());
+        QVERIFY(!mini().setnameTextField2->text().isEmpty());
+    }
+
+    void runTakesTheGameOfTheKeyWindow()
+    {
+        add("qix");
+        m_staged->desktop.takeTranscript();
+        m_staged->app->windowMini();
+        becomeKey(mini());
+        m_staged->app->menuRun();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+        mini().setnameTextField2->setText(QStringLiteral("galaga"));
+        m_staged->app->menuRun();
+        QTRY_VERIFY(main().stopButton->isEnabled());
+        QVERIFY(logText().contains(QStringLiteral("galaga")));
+        m_staged->app->stopGame();
+        QTRY_VERIFY(!main().stopButton->isEnabled());
+    }
+
+    void commandsOfTheFavouritesActOnTheFavourites()
+    {
+        add("qix");
+        add("pong");
+        m_staged->app->windowFavorites();
+        becomeKey(favorites());
+        favorites().favoritesTable->selectRow(0);
+        m_staged->app->editRecord();
+        QVERIFY(m_staged->app->favorites().editing().editor().isVisible());
+        becomeKey(favorites());
+        m_staged->desktop.takeTranscript();
+        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        m_staged->app->removeOfKeyWindow();
+        QCOMPARE(m_staged->app->favorites().favourites().records().size(), std::size_t(1));
+        QCOMPARE(m_staged->app->catalogue().records().size(), std::size_t(4));
+        m_staged->app->undo();
+        QCOMPARE(m_staged->app->favorites().favourites().records().size(), std::size_t(2));
+        m_staged->app->saveOfKeyWindow();
+        QVERIFY(QFile::exists(m_staged->app->favorites().favourites().path()));
+    }
+
+    void undoIsDimWhereThereIsNothingToUndo()
+    {
+        auto* undo = main().menuBar()->findChild<QAction*>(QStringLiteral("menu_undo"));
+        becomeKey(main());
+        QVERIFY(!undo->isEnabled());
+        add("pong");
+        QVERIFY(!undo->isEnabled());
+        m_staged->app->windowFavorites();
+        becomeKey(favorites());
+        QVERIFY(undo->isEnabled());
+    }
+
+    void theMiniWindowKnowsTitles()
+    {
+        m_staged->app->windowMini();
+        becomeKey(mini());
+        QTest::keyClicks(mini().setnameTextField2, QStringLiteral("gala"));
+        mini().setnameTextField2->setText(QStringLiteral("galaga"));
+        const auto labels = mini().findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(
+            labels, [](const QLabel* label) { return label->text() == QStringLiteral("Galaga"); }));
+    }
+
+    void windowsAreShownWhereTheyWereLeft()
+    {
+        m_staged->app->windowLog();
+        m_staged->app->logWindow().setGeometry(60, 70, 640, 480);
+        m_staged->app->applicationWillTerminate();
+        m_staged->app.reset();
+        m_staged->start();
+        m_staged->app->windowLog();
+        QCOMPARE(m_staged->app->logWindow().size(), QSize(640, 480));
+    }
+
+private:
+    MainWindow& main() const { return m_staged->app->mainWindow(); }
+    FavoritesWindow& favorites() const { return m_staged->app->favorites().window(); }
+    MiniWindow& mini() const { return m_staged->app->mini().window(); }
+
+    void add(const char* set)
+    {
+        QVERIFY(m_staged->app->gameList().selectGame(QString::fromLatin1(set)));
+        m_staged->app->addFavorite();
+    }
+
+    QString logText() const { return m_staged->app->logWindow().infomationTextView->text(); }
+
+    static void becomeKey(QWidget& window)
+    {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    std::unique_ptr<StagedApp> m_staged;
+};
+
+TESSERA_TEST(WindowsTest);
+#include "windowstest.moc"
