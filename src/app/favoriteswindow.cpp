@@ -36,10 +36,10 @@ struct ColumnWidth {
 };
 
 constexpr std::array columnWidths{
-    ColumnWidth{FavouriteColumn::Name, 128},    ColumnWidth{FavouriteColumn::Title, 240},
-    ColumnWidth{FavouriteColumn::Titlejp, 172}, ColumnWidth{FavouriteColumn::Year, 56},
-    ColumnWidth{FavouriteColumn::Maker, 112},   ColumnWidth{FavouriteColumn::Option, 120},
-    ColumnWidth{FavouriteColumn::Times, 60},
+    ColumnWidth{FavouriteColumn::Name, 112},    ColumnWidth{FavouriteColumn::Title, 200},
+    ColumnWidth{FavouriteColumn::Titlejp, 140}, ColumnWidth{FavouriteColumn::Year, 56},
+    ColumnWidth{FavouriteColumn::Maker, 100},   ColumnWidth{FavouriteColumn::Option, 96},
+    ColumnWidth{FavouriteColumn::Times, 72},
 };
 
 } // namespace
