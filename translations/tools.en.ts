@@ -36,5 +36,7 @@
     <message id="build_cut_off"><source></source><translation>The list that “%1” printed is cut off. The catalogue was not changed.</translation></message>
     <message id="build_unreadable"><source></source><translation>“%1” lists machines in a form that no catalogue can be made of.</translation></message>
     <message id="convert_no_titles"><source></source><translation>“%1” is not a list of titles.</translation></message>
+    <message id="tool_text_too_large"><source></source><translation>“%1” is too large to be what an emulator prints.</translation></message>
+    <message id="existence_no_header"><source></source><translation>The list has no header line that begins with “Name:”, or the ROM folder holds something of that name; so it is not shown. Save what the emulator prints for -listfull as it is.</translation></message>
 </context>
 </TS>

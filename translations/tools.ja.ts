@@ -36,5 +36,7 @@
     <message id="build_cut_off"><source></source><translation>“%1”の出力したリストは途中で切れています。カタログは変更されていません。</translation></message>
     <message id="build_unreadable"><source></source><translation>“%1”の一覧は、カタログにできない形式です。</translation></message>
     <message id="convert_no_titles"><source></source><translation>“%1”はタイトルのリストではありません。</translation></message>
+    <message id="tool_text_too_large"><source></source><translation>“%1”は大きすぎます。エミュレータの出力ではないようです。</translation></message>
+    <message id="existence_no_header"><source></source><translation>“Name:”で始まる見出し行がリストにないか、同じ名前のものが ROM フォルダーにあるため、表示できません。-listfull の出力をそのまま保存したファイルを指定してください。</translation></message>
 </context>
 </TS>
