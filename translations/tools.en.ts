@@ -38,5 +38,9 @@
     <message id="convert_no_titles"><source></source><translation>“%1” is not a list of titles.</translation></message>
     <message id="tool_text_too_large"><source></source><translation>“%1” is too large to be what an emulator prints.</translation></message>
     <message id="existence_no_header"><source></source><translation>The list has no header line that begins with “Name:”, or the ROM folder holds something of that name; so it is not shown. Save what the emulator prints for -listfull as it is.</translation></message>
+    <message id="copy_exists"><source></source><translation>“%1” is already there.</translation></message>
+    <message id="copy_special"><source></source><translation>“%1” is neither a file nor a folder.</translation></message>
+    <message id="copy_into_itself"><source></source><translation>“%1” is the folder that is copied to.</translation></message>
+    <message id="copy_cancelled"><source></source><translation>The copy was cancelled.</translation></message>
 </context>
 </TS>

@@ -38,5 +38,9 @@
     <message id="convert_no_titles"><source></source><translation>“%1”はタイトルのリストではありません。</translation></message>
     <message id="tool_text_too_large"><source></source><translation>“%1”は大きすぎます。エミュレータの出力ではないようです。</translation></message>
     <message id="existence_no_header"><source></source><translation>“Name:”で始まる見出し行がリストにないか、同じ名前のものが ROM フォルダーにあるため、表示できません。-listfull の出力をそのまま保存したファイルを指定してください。</translation></message>
+    <message id="copy_exists"><source></source><translation>“%1”はすでに存在します。</translation></message>
+    <message id="copy_special"><source></source><translation>“%1”はファイルでもフォルダーでもありません。</translation></message>
+    <message id="copy_into_itself"><source></source><translation>“%1”はコピー先のフォルダーそのものです。</translation></message>
+    <message id="copy_cancelled"><source></source><translation>コピーはキャンセルされました。</translation></message>
 </context>
 </TS>
