@@ -42,5 +42,6 @@
     <message id="copy_special"><source></source><translation>“%1” is neither a file nor a folder.</translation></message>
     <message id="copy_into_itself"><source></source><translation>“%1” is the folder that is copied to.</translation></message>
     <message id="copy_cancelled"><source></source><translation>The copy was cancelled.</translation></message>
+    <message id="separate_failed"><source></source><translation>Not copied: %1. The first: %2</translation></message>
 </context>
 </TS>

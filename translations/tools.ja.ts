@@ -42,5 +42,6 @@
     <message id="copy_special"><source></source><translation>“%1”はファイルでもフォルダーでもありません。</translation></message>
     <message id="copy_into_itself"><source></source><translation>“%1”はコピー先のフォルダーそのものです。</translation></message>
     <message id="copy_cancelled"><source></source><translation>コピーはキャンセルされました。</translation></message>
+    <message id="separate_failed"><source></source><translation>コピーできなかった項目: %1。最初のもの: %2</translation></message>
 </context>
 </TS>
