@@ -64,9 +64,9 @@
     <message id="separation_empty"><source></source><translation>3 つのパスを選択して、“確認”を押してください。</translation></message>
     <message id="separation_failures"><source></source><translation>コピーできなかった項目</translation></message>
     <message id="separation_plan"><source></source><translation>対応: %1、コピーする項目: %2（%3）。</translation></message>
-    <message id="separation_plan_there"><source></source><translation> コピー先にすでに存在するためそのまま残る項目: %1。</translation></message>
-    <message id="separation_plan_free"><source></source><translation> コピー先の空き容量: %1。</translation></message>
-    <message id="separation_plan_full"><source></source><translation> 空き容量が足りません。</translation></message>
+    <message id="separation_plan_there"><source></source><translation>コピー先にすでに存在するためそのまま残る項目: %1。</translation></message>
+    <message id="separation_plan_free"><source></source><translation>コピー先の空き容量: %1。</translation></message>
+    <message id="separation_plan_full"><source></source><translation>空き容量が足りません。</translation></message>
     <message id="separation_not_copied"><source></source><translation>コピーできなかった項目: %1</translation></message>
     <message id="verification_page"><source></source><translation>検証レポート</translation></message>
     <message id="verification_explanation"><source></source><translation>エミュレータの -verifyroms の出力を判定ごとにまとめ、それぞれの件数を付けます。</translation></message>

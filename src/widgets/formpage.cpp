@@ -85,7 +85,7 @@ QLabel* FormPage::addNote(const QString& text)
 void FormPage::addWide(QWidget* widget, int stretch)
 {
     m_grid->setRowStretch(m_row, stretch);
-    m_grid->addWidget(widget, m_row++, labelColumn, 1, allColumns);
+    m_grid->addWidget(widget, m_row++, labelColumn, 1, fillColumn);
 }
 
 void FormPage::addLine()

@@ -25,7 +25,8 @@ public:
     QLabel* addRow(const QString& label, const QList<QWidget*>& controls);
     /// Dim text under the controls' column.
     QLabel* addNote(const QString& text = QString());
-    /// A widget without a label, over the whole width; `stretch` is its share of the height that is left.
+    /// A widget without a label, as wide as labels and controls together; `stretch` is its share of the
+    /// height that is left.
     void addWide(QWidget* widget, int stretch);
     void addLine();
     /// Takes the space that is left; after the last row.

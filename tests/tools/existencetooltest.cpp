@@ -69,12 +69,27 @@ private Q_SLOTS:
         QTest::mouseClick(stage.page.button_check2, Qt::LeftButton);
         QVERIFY(stage.isIndicatorRunning() && stage.isBusy());
         QCOMPARE(stage.information(), "Now Checking...");
-        QVERIFY(!stage.page.button_check2->isEnabled() && !stage.page.button_save->isEnabled());
+        QVERIFY(!stage.page.button_check2->isVisible() && !stage.page.button_save->isEnabled());
+        QVERIFY(stage.foot.progressInd->isVisible() && stage.foot.button_cancel->isVisible());
         // A second one must wait.
         stage.tool.romlistup();
         QCOMPARE(stage.desktop.takeTranscript(), {"beep"});
         QTRY_VERIFY(!stage.isBusy());
-        QVERIFY(stage.page.button_check2->isEnabled());
+        QVERIFY(stage.page.button_check2->isVisible() && stage.page.button_check2->isEnabled());
+        QVERIFY(!stage.foot.progressInd->isVisible());
+    }
+
+    void theKeyboardStaysWhereItWas()
+    {
+        Stage stage;
+        stage.fill(listfull);
+        stage.utility.utilityOrderFront();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        stage.page.button_check2->setFocus();
+        QTest::keyClick(stage.page.button_check2, Qt::Key_Space);
+        QCOMPARE(stage.window.focusWidget(), stage.foot.button_cancel);
+        QTRY_VERIFY(!stage.isBusy());
+        QCOMPARE(stage.window.focusWidget(), stage.page.button_check2);
     }
 
     void missingPathsAreNamed_data()

@@ -204,6 +204,7 @@ private Q_SLOTS:
             stage.file(QString("roms/%1.zip").arg(i), QByteArray(1 << 20, 'x'));
         stage.check();
         stage.desktop.takeTranscript();
+        const int width = stage.window.width();
         QTest::mouseClick(stage.page.button_separete, Qt::LeftButton);
         QVERIFY(stage.isBusy());
         QTRY_VERIFY(!stage.foot.progressCount->isHidden());
@@ -220,6 +221,7 @@ private Q_SLOTS:
                     || QFileInfo(stage.path("aside/" + name)).size()
                         == QFileInfo(stage.path("roms/" + name)).size());
         QVERIFY(stage.foot.progressCount->isHidden());
+        QCOMPARE(stage.window.width(), width);
     }
 
     void closingAbandonsTheCopying()

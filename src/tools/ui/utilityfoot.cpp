@@ -34,6 +34,7 @@ UtilityFoot::UtilityFoot(QWidget* parent)
     progressInd->setAccessibleName(qtTrId("tool_progress"));
     progressInd->setTextVisible(false);
     progressInd->setFixedWidth(indicatorWidth);
+    progressInd->setVisible(false);
     progressCount->setObjectName(QStringLiteral("progressCount"));
     progressCount->setProperty("role", QStringLiteral("dim"));
     progressCount->setVisible(false);
@@ -57,11 +58,12 @@ void UtilityFoot::addButtons(const QList<QPushButton*>& buttons)
     auto* layout = new QHBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();
+    // Before it moves in: a style sheet looks at it then.
+    buttons.last()->setProperty("role", QStringLiteral("accent"));
     for (QPushButton* button : buttons) {
         button->setAutoDefault(true);
         layout->addWidget(button);
     }
-    buttons.last()->setProperty("role", QStringLiteral("accent"));
     m_buttons->addWidget(group);
 }
 
@@ -72,10 +74,30 @@ void UtilityFoot::showButtonsOf(int page)
 
 void UtilityFoot::setBusy(bool isBusy)
 {
+    QWidget* focused = window()->focusWidget();
+    if (isBusy)
+        m_focused = m_buttons->isAncestorOf(focused) ? focused : nullptr;
     m_buttons->setEnabled(!isBusy);
-    button_cancel->setVisible(isBusy);
-    if (!isBusy)
+    // First what goes, then what comes: both beside each other would widen the window.
+    if (isBusy) {
+        m_buttons->setVisible(false);
+        button_cancel->setVisible(true);
+    } else {
         progressCount->setVisible(false);
+        button_cancel->setVisible(false);
+        m_buttons->setVisible(true);
+    }
+    if (isBusy && m_focused)
+        button_cancel->setFocus();
+    if (!isBusy && m_focused && (focused == nullptr || focused == button_cancel))
+        m_focused->setFocus();
+}
+
+// Laid out at once, since a conversion keeps the event loop waiting.
+void UtilityFoot::showIndicator(bool isShown)
+{
+    progressInd->setVisible(isShown);
+    layout()->activate();
 }
 
 } // namespace tessera

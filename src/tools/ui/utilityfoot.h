@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QLabel;
@@ -21,8 +22,10 @@ public:
     /// The next page's buttons; the last one is what the page is for.
     void addButtons(const QList<QPushButton*>& buttons);
     void showButtonsOf(int page);
-    /// While something goes on it can be cancelled, and nothing else be begun.
+    /// While something goes on it can be cancelled, and nothing else be begun: one button stands for the
+    /// others.
     void setBusy(bool isBusy);
+    void showIndicator(bool isShown);
 
     QLabel* infoTextField;
     QProgressBar* progressInd;
@@ -31,6 +34,7 @@ public:
 
 private:
     QStackedWidget* m_buttons;
+    QPointer<QWidget> m_focused; ///< what the cancel button took the focus from
 };
 
 } // namespace tessera

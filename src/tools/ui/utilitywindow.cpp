@@ -18,7 +18,7 @@ namespace tessera {
 
 namespace {
 
-constexpr QSize usualSize(860, 540);
+constexpr QSize usualSize(920, 580);
 constexpr int listWidth = 196;
 
 } // namespace

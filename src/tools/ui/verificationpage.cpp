@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -13,6 +14,8 @@
 namespace tessera {
 
 namespace {
+
+constexpr int labelDrop = 4; // to the first box's line
 
 // What the emulator's words mean, in the verdicts' order.
 constexpr std::array<const char*, verdicts.size()> meanings{
@@ -35,7 +38,9 @@ VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent
     reveal_verifyroms = verifyroms->revealButton();
     button_convert2->setObjectName(QStringLiteral("button_convert2"));
     addLine();
-    addRow(qtTrId("verification_verdicts"), makeBoxes(defaults))->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    QLabel* label = addRow(qtTrId("verification_verdicts"), makeBoxes(defaults));
+    label->setContentsMargins(0, labelDrop, 0, 0);
+    layout()->setAlignment(label, Qt::AlignRight | Qt::AlignTop);
     addStretch();
     bind(*verifyromsTextField, defaults, keys::verifyromsText);
 }

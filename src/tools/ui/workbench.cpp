@@ -66,6 +66,7 @@ void Workbench::conclude(const QString& text)
 void Workbench::indicator_start()
 {
     m_foot.progressInd->setRange(0, 0);
+    m_foot.showIndicator(true);
     m_foot.progressInd->repaint();
 }
 
@@ -73,6 +74,7 @@ void Workbench::indicator_stop()
 {
     m_foot.progressInd->setRange(0, wholeIndicator);
     m_foot.progressInd->reset();
+    m_foot.showIndicator(false);
 }
 
 void Workbench::showProgress(qint64 done, qint64 all)
