@@ -1,52 +1,75 @@
 #include "tools/existence.h"
 
-#include "catalogue/foldernames.h"
+#include "tools/foldersets.h"
 #include "tools/printedtext.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
+#include <iterator>
 
 namespace tessera {
 
 namespace {
 
 constexpr std::string_view header = "Name:";
-constexpr std::string_view archiveEnding = ".zip";
+// Bytes; lines of real lists are longer, so that the rows need not move.
+constexpr std::size_t lineLength = 32;
+
+// Takes the list's words one after another.
+class Check
+{
+public:
+    Check(const FolderSets& roms, std::size_t expected)
+        : m_roms(roms)
+    {
+        m_list.rows.reserve(expected);
+    }
+
+    void take(std::string_view word)
+    {
+        const bool isFound = m_roms.holds(word);
+        (isFound ? m_list.rows : m_missing).push_back({printedText(std::string(word)), isFound});
+    }
+
+    std::expected<ExistenceList, Failure> finish();
+
+private:
+    const FolderSets& m_roms;
+    ExistenceList m_list;
+    std::vector<ExistenceRow> m_missing;
+};
+
+// Deliberate: the header stays among the sets and is counted; a list that has none is not shown at all, nor
+// is one whose header is the name of something in the folder.
+std::expected<ExistenceList, Failure> Check::finish()
+{
+    if (std::ranges::find(m_missing, header, &ExistenceRow::romlistfull) == m_missing.end())
+        return std::unexpected(Failure{"existence_no_header", {}});
+    m_list.found = static_cast<int>(m_list.rows.size());
+    m_list.notFound = static_cast<int>(m_missing.size());
+    std::ranges::move(m_missing, std::back_inserter(m_list.rows));
+    return std::move(m_list);
+}
 
 } // namespace
 
-bool setExists(const FolderNames& roms, std::string_view setName)
+std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
+                                                  const FolderSets& roms)
 {
-    std::string name(setName);
-    // The folder itself, and what it is in, are not among its names; as a path they are asked for.
-    if (name == "." || name == "..")
-        name += '/';
-    else if (roms.find(name + std::string(archiveEnding)))
-        return true;
-    return roms.find(name).has_value();
-}
-
-std::expected<ExistenceList, Failure> existenceOf(std::string_view listfull, const FolderNames& roms)
-{
-    ExistenceList list;
-    for (const std::string_view word : firstWords(listfull)) {
-        const bool isFound = setExists(roms, word);
-        ++(isFound ? list.found : list.notFound);
-        list.rows.push_back({std::string(word), isFound});
-    }
-    // Deliberate: the header stays among the sets and is counted; a list that has none is not shown at all,
-    // nor is one whose header is the name of something in the folder.
-    if (std::ranges::find(list.rows, ExistenceRow{std::string(header), false}) == list.rows.end())
-        return std::unexpected(Failure{"existence_no_header", {}});
-    std::ranges::stable_partition(list.rows, &ExistenceRow::isFound);
-    return list;
+    Check check(roms, words.size());
+    for (const std::string_view word : words)
+        check.take(word);
+    return check.finish();
 }
 
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms)
 {
-    const auto text = readPrintedText(listfull);
-    if (!text)
-        return std::unexpected(text.error());
-    return existenceOf(*text, FolderNames::read(roms));
+    const FolderSets sets = FolderSets::read(roms);
+    Check check(sets, static_cast<std::size_t>(QFileInfo(listfull).size()) / lineLength);
+    if (const auto read = readFirstWords(listfull, [&](std::string_view word) { check.take(word); }); !read)
+        return std::unexpected(read.error());
+    return check.finish();
 }
 
 QString existenceSummary(std::size_t count, int found, int notFound)

@@ -12,7 +12,7 @@
 
 namespace tessera {
 
-class FolderNames;
+class FolderSets;
 
 /// What the tool says and writes; the same in every language.
 namespace existencetexts {
@@ -42,11 +42,10 @@ struct ExistenceList {
     int notFound = 0;
 };
 
-/// "name.zip", or anything of that very name.
-bool setExists(const FolderNames& roms, std::string_view setName);
-
-/// `listfull` is what the emulator prints for -listfull. Without its header, "existence_no_header".
-std::expected<ExistenceList, Failure> existenceOf(std::string_view listfull, const FolderNames& roms);
+/// `words` are the first ones of what the emulator prints for -listfull. Without its header,
+/// "existence_no_header".
+std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
+                                                  const FolderSets& roms);
 
 /// The same of a file and a folder.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms);

@@ -27,6 +27,12 @@ QString decoded(const std::string& path)
 // Letters outside ASCII have lower case too.
 std::string inLowerCase(std::string_view name)
 {
+    if (isAscii(name)) {
+        std::string lower(name);
+        for (char& c : lower)
+            c = c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+        return lower;
+    }
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).toLower().toStdString();
 }
 
@@ -51,17 +57,18 @@ std::vector<std::string> romNames(const QString& folder)
     return names;
 }
 
-SupportedNames::SupportedNames(std::string listfull)
+SupportedNames::SupportedNames(std::string_view listfull)
 {
-    const std::string text = printedText(std::move(listfull));
-    for (const std::string_view word : firstWords(text))
-        m_names.emplace(word);
+    for (const std::string_view word : firstWords(listfull))
+        m_names.insert(printedText(std::string(word)));
 }
 
 SupportedNames SupportedNames::read(const QString& listfull)
 {
-    auto text = readPrintedText(listfull);
-    return text ? SupportedNames(std::move(*text)) : SupportedNames();
+    SupportedNames names;
+    const auto read = readFirstWords(
+        listfull, [&](std::string_view word) { names.m_names.insert(printedText(std::string(word))); });
+    return read ? names : SupportedNames();
 }
 
 bool SupportedNames::supports(std::string_view fileName) const

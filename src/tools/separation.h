@@ -40,7 +40,7 @@ class SupportedNames
 {
 public:
     SupportedNames() = default;
-    explicit SupportedNames(std::string listfull);
+    explicit SupportedNames(std::string_view listfull);
     /// None where the file cannot be read.
     static SupportedNames read(const QString& listfull);
 

@@ -67,18 +67,18 @@ std::optional<std::size_t> verdictNamed(const QString& ending)
                                    : std::optional(static_cast<std::size_t>(found - verdicts.begin()));
 }
 
-std::string verificationReport(std::string_view text, ChosenVerdicts chosen, const std::stop_token& stop)
+std::string verificationReport(std::string_view printed, ChosenVerdicts chosen, const std::stop_token& stop)
 {
     std::string report;
     for (std::size_t i = 0; i < verdicts.size(); ++i) {
         if (!chosen[i])
             continue;
-        const std::size_t count = appendLines(report, text, verdicts[i], stop);
+        const std::size_t count = appendLines(report, printed, verdicts[i], stop);
         report += "\n(";
         report += verdicts[i].summary;
         report += ": " + std::to_string(count) + ")\n\n";
     }
-    return report;
+    return printedText(std::move(report));
 }
 
 } // namespace tessera

@@ -61,7 +61,7 @@ std::optional<std::size_t> verdictNamed(const QString& ending);
 
 /// Condenses what the emulator prints for -verifyroms: under each chosen verdict its lines and their number.
 /// Empty where none is chosen. Once somebody asks to stop, what comes is of no use.
-std::string verificationReport(std::string_view text, ChosenVerdicts chosen,
+std::string verificationReport(std::string_view printed, ChosenVerdicts chosen,
                                const std::stop_token& stop = {});
 
 } // namespace tessera

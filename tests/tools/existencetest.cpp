@@ -1,13 +1,17 @@
 #include "tools/existence.h"
 
-#include "catalogue/foldernames.h"
+#include "support/ordinaryuser.h"
 #include "support/testmain.h"
+#include "tools/foldersets.h"
+#include "tools/printedtext.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <random>
+
+#include <sys/stat.h>
 
 using namespace tessera;
 
@@ -161,14 +165,15 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("word");
         for (const char* word :
              {".", "..", "sub/pong", "sub/gone", "../roms/pong", "../roms", "/pong", "sub/", "pong/", "ポン",
-              "caf\xC3\xA9", "a\tb", "\"quoted\"", "~", "*", "pong.zip", "sub/."})
+              "caf\xC3\xA9", "a\tb", "\"quoted\"", "~", "*", "pong.zip", ".hidden", "seven.7z", "sub/."})
             QTest::newRow(word) << QByteArray(word);
     }
 
     void oddNamesAreAskedOfTheFileSystem()
     {
         QFETCH(QByteArray, word);
-        for (const char* name : {"pong.zip", "sub/pong.zip", "ポン.zip", "a\tb.zip", "\"quoted\".zip"})
+        for (const char* name : {"pong.zip", "sub/pong.zip", "ポン.zip", "a\tb.zip", "\"quoted\".zip",
+                                 ".hidden.zip", "seven.7z"})
             touch(name);
         const auto list = check(QByteArray(header) + word + " x\n");
         QVERIFY(list.has_value());
@@ -177,10 +182,57 @@ private Q_SLOTS:
         QCOMPARE(list->notFound, plain.notFound);
     }
 
+    void aFolderThatMayNotBeReadIsAskedInstead_data()
+    {
+        QTest::addColumn<int>("permissions");
+        QTest::addColumn<bool>("isFound");
+        QTest::newRow("entered but not read") << 0311 << true;
+        QTest::newRow("read but not entered") << 0644 << false;
+        QTest::newRow("neither") << 0 << false;
+    }
+
+    void aFolderThatMayNotBeReadIsAskedInstead()
+    {
+        QFETCH(int, permissions);
+        QFETCH(bool, isFound);
+        touch("pong.zip");
+        ::chmod(m_folder->path().toLocal8Bit().constData(), 0755);
+        ::chmod(roms().toLocal8Bit().constData(), static_cast<mode_t>(permissions));
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            QCOMPARE(FolderSets::read(roms()).holds("pong"), isFound);
+            QVERIFY(!FolderSets::read(roms()).holds("gone"));
+        }
+        ::chmod(roms().toLocal8Bit().constData(), 0755);
+    }
+
+    void manyNamesAreToldApart()
+    {
+        for (int i = 0; i < 300; ++i)
+            touch(QString("s%1%2").arg(i).arg(i % 2 == 0 ? ".zip" : ""));
+        const FolderSets sets = FolderSets::read(roms());
+        for (int i = 0; i < 400; ++i) {
+            const std::string name = "s" + std::to_string(i);
+            QCOMPARE(sets.holds(name), i < 300);
+            QVERIFY(!sets.holds(name + "x") && !sets.holds("S" + std::to_string(i)));
+            QCOMPARE(sets.holds(name + ".zip"), i < 300 && i % 2 == 0);
+        }
+    }
+
+    void aFolderThatIsNotThereHoldsNothing()
+    {
+        const FolderSets sets = FolderSets::read(roms() + "/none");
+        for (const char* name : {"pong", ".", "..", "../pong", "pong.zip"})
+            QVERIFY2(!sets.holds(name), name);
+        QVERIFY(!sets.holds(std::string_view("a\0b", 3)));
+    }
+
     void aRomFolderThatIsAFileHoldsNothing()
     {
         touch("file");
-        const auto list = existenceOf("Name: x\npong x\n. x\n", FolderNames::read(roms() + "/file"));
+        const auto list
+            = existenceOf(firstWords("Name: x\npong x\n. x\n"), FolderSets::read(roms() + "/file"));
         QVERIFY(list.has_value());
         QCOMPARE(list->found, 0);
     }
@@ -236,8 +288,8 @@ private:
 
     std::expected<ExistenceList, Failure> check(const QByteArray& text) const
     {
-        return existenceOf({text.constData(), static_cast<std::size_t>(text.size())},
-                           FolderNames::read(roms()));
+        const auto words = firstWords({text.constData(), static_cast<std::size_t>(text.size())});
+        return existenceOf(words, FolderSets::read(roms()));
     }
 
     void touch(const QString& name) const

@@ -1,9 +1,13 @@
 #include "tools/printedtext.h"
 
+#include "core/encodings.h"
 #include "support/testmain.h"
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <algorithm>
+#include <random>
 
 using namespace tessera;
 
@@ -58,9 +62,25 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("caf\xE9 \"\xE9\"\nポン b\n");
         file.close();
-        const auto text = readPrintedText(file.fileName());
-        QVERIFY(text.has_value());
-        QCOMPARE(words(*text), QStringList({"caf\uFFFD", "ポン"}));
+        const auto printed = readPrinted(file.fileName());
+        QVERIFY(printed.has_value());
+        QCOMPARE(words(printedText(*printed)), QStringList({"caf\uFFFD", "ポン"}));
+        QVERIFY(firstWords(*printed).front() == "caf\xE9");
+    }
+
+    void replacesAsIfAllWereDecodedAtOnce()
+    {
+        std::mt19937 random(8);
+        for (int round = 0; round < 300; ++round) {
+            std::string bytes;
+            for (unsigned i = random() % 900; i > 0; --i)
+                bytes += random() % 40 == 0 ? static_cast<char>(random()) : 'a';
+            for (unsigned i = random() % 9; i > 0; --i)
+                bytes.insert(random() % (bytes.size() + 1), "\xE3\x83\x9D\xF0\x9F\x98");
+            std::string expected;
+            appendUtf8(expected, bytes);
+            QCOMPARE(printedText(bytes), expected);
+        }
     }
 
     void aLongFileIsReadWhole()
@@ -71,14 +91,40 @@ private Q_SLOTS:
         const QByteArray bytes = QByteArray("a line of some length\n").repeated(50'000);
         file.write(bytes);
         file.close();
-        QVERIFY(readPrintedText(file.fileName()) == bytes.toStdString());
+        QVERIFY(readPrinted(file.fileName()) == bytes.toStdString());
+    }
+
+    void wordsAreTheSameWhileTheFileIsRead()
+    {
+        std::mt19937 random(3);
+        QTemporaryDir folder;
+        for (const unsigned longest : {20U, 3000U, 200'000U}) {
+            std::string text;
+            while (text.size() < 400'000) {
+                text += std::array{"", " ", "\t", "\n"}[random() % 4];
+                text += "word" + std::to_string(text.size()) + std::string(random() % longest, 'x');
+                text += std::array{" rest", "", " \"x y\""}[random() % 3];
+                text += '\n';
+            }
+            text += "  last";
+            QFile file(folder.filePath("list"));
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(text.data(), static_cast<qint64>(text.size()));
+            file.close();
+            std::vector<std::string> words;
+            QVERIFY(
+                readFirstWords(file.fileName(), [&](std::string_view word) { words.emplace_back(word); }));
+            const auto expected = firstWords(text);
+            QVERIFY(std::ranges::equal(words, expected));
+        }
+        QCOMPARE(readFirstWords(folder.path(), [](std::string_view) { }).error().key, "convert_not_read");
     }
 
     void whatCannotBeReadIsAFailure()
     {
         QTemporaryDir folder;
         for (const QString& path : {folder.path(), folder.filePath("none")}) {
-            const auto text = readPrintedText(path);
+            const auto text = readPrinted(path);
             QVERIFY(!text.has_value());
             QCOMPARE(text.error().key, "convert_not_read");
             QCOMPARE(text.error().arguments.first(), path);

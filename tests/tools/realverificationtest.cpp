@@ -24,7 +24,7 @@ private Q_SLOTS:
     void agreesWithAPlainReport()
     {
         QFETCH(QString, path);
-        const auto text = readPrintedText(path);
+        const auto text = readPrinted(path);
         QVERIFY(text.has_value());
         QSet<QString> endings;
         for (const Verdict& verdict : verdicts)
@@ -36,7 +36,7 @@ private Q_SLOTS:
     void aKnownReportHasTheKnownCounts()
     {
         constexpr std::array counts{3, 197, 178, 354, 0, 90, 52, 390, 0, 85, 1, 0};
-        const auto text = readPrintedText(QStringLiteral(TESSERA_REAL_DATA "/verifyroms/mame0251.txt"));
+        const auto text = readPrinted(QStringLiteral(TESSERA_REAL_DATA "/verifyroms/mame0251.txt"));
         QVERIFY(text.has_value());
         for (std::size_t i = 0; i < verdicts.size(); ++i) {
             const std::string report = verificationReport(*text, ChosenVerdicts().set(i));

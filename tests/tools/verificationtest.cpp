@@ -206,6 +206,12 @@ private Q_SLOTS:
         QCOMPARE(report(manyReleases, all), test::plainVerification(manyReleases, {all.begin(), all.end()}));
     }
 
+    void bytesThatAreNoTextAreReplaced()
+    {
+        QCOMPARE(report("caf\xE9 is bad\n\xE3\x83\x9D is bad\xE3", {"isbad"}),
+                 QString::fromUtf8("caf\uFFFD is bad\nポ is bad\uFFFD\n\n(is bad: 2)\n\n"));
+    }
+
     void endingsNameTheirVerdicts()
     {
         for (std::size_t i = 0; i < verdicts.size(); ++i)

@@ -55,10 +55,10 @@ int runVerify(const Verb& verb, const QStringList& arguments)
     const QString path = parser.positionalArguments().constFirst();
     if (!QFileInfo::exists(path))
         return missing(verificationtexts::noFile, path);
-    const auto text = readPrintedText(path);
-    if (!text)
-        return failed(text.error());
-    const std::string report = verificationReport(*text, *chosen);
+    const auto printed = readPrinted(path);
+    if (!printed)
+        return failed(printed.error());
+    const std::string report = verificationReport(*printed, *chosen);
     if (const auto written = writeAtomically(parser.value(output), std::array{std::string_view(report)});
         !written)
         return refuse(QString(verificationtexts::notWritten)

@@ -32,10 +32,10 @@ void VerificationTool::converter2Action()
     m_workbench.indicator_start();
     const auto condense
         = [path, chosen = m_page.chosen()](const Job& job) -> std::expected<std::string, Failure> {
-        const auto text = readPrintedText(path);
-        if (!text)
-            return std::unexpected(text.error());
-        return verificationReport(*text, chosen, job.stop());
+        const auto printed = readPrinted(path);
+        if (!printed)
+            return std::unexpected(printed.error());
+        return verificationReport(*printed, chosen, job.stop());
     };
     m_workbench.run(condense, [this](std::expected<std::string, Failure> report, bool isCancelled) {
         offer(std::move(report), isCancelled);
