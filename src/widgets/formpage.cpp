@@ -82,6 +82,12 @@ QLabel* FormPage::addNote(const QString& text)
     return note;
 }
 
+void FormPage::addWide(QWidget* widget, int stretch)
+{
+    m_grid->setRowStretch(m_row, stretch);
+    m_grid->addWidget(widget, m_row++, labelColumn, 1, fillColumn);
+}
+
 void FormPage::addLine()
 {
     auto* line = new QFrame(this);

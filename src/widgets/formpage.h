@@ -25,6 +25,9 @@ public:
     QLabel* addRow(const QString& label, const QList<QWidget*>& controls);
     /// Dim text under the controls' column.
     QLabel* addNote(const QString& text = QString());
+    /// A widget without a label, as wide as labels and controls together; `stretch` is its share of the
+    /// height that is left.
+    void addWide(QWidget* widget, int stretch);
     void addLine();
     /// Takes the space that is left; after the last row.
     void addStretch();

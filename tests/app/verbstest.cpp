@@ -99,6 +99,13 @@ private Q_SLOTS:
         row("a flag that is none", QStringLiteral("arguments --set Maximize=perhaps"));
         row("a number that is none", QStringLiteral("arguments --set Videodriver=abc"));
         row("launch without a game", QStringLiteral("launch"));
+        row("existence without -o", QStringLiteral("existence a b"));
+        row("existence without a folder", QStringLiteral("existence a -o c"));
+        row("separate without a destination", QStringLiteral("separate a b"));
+        row("separate with one too many", QStringLiteral("separate a b c d"));
+        row("verify without -o", QStringLiteral("verify a"));
+        row("verify with an unknown key", QStringLiteral("verify a -o b --only isbad --only isBad"));
+        row("verify with a whole key", QStringLiteral("verify a -o b --only verifyromsButton_isbad"));
         row("an unknown option for the windows", QStringLiteral("--nonsense"));
     }
 
@@ -126,8 +133,10 @@ private Q_SLOTS:
     void everyVerbHasHelp_data()
     {
         QTest::addColumn<QString>("verb");
-        for (const char* verb : {"arguments", "build", "convert", "launch", "list"})
-            QTest::newRow(verb) << QString(QLatin1String(verb));
+        for (const std::string_view name : verbNames) {
+            const QByteArray verb(name.data(), static_cast<qsizetype>(name.size()));
+            QTest::newRow(verb.constData()) << QString::fromLatin1(verb);
+        }
     }
 
     void everyVerbHasHelp()
@@ -179,6 +188,148 @@ private Q_SLOTS:
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.out, QByteArray("The conversion work is finished.  ( 1 games )\n"));
         QCOMPARE(listed(), QByteArray("game\tpong\tpong\tPong\tポン\t1972\tAtari\tgood\t\n"));
+    }
+
+    void existenceWritesTheReportAndSaysTheCounts()
+    {
+        write(QStringLiteral("listfull.txt"), "Name: Description:\npong \"Pong\"\ngone \"Gone\"\n");
+        QVERIFY(QDir().mkpath(path(QStringLiteral("roms/pong"))));
+        const QStringList arguments{QStringLiteral("existence"), path(QStringLiteral("listfull.txt")),
+                                    path(QStringLiteral("roms")), QStringLiteral("-o"),
+                                    path(QStringLiteral("report.txt"))};
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.err, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out, QByteArray("3 ROMs ( Found: 1 / Not found: 2 )\n"));
+        QCOMPARE(read(QStringLiteral("report.txt")),
+                 QByteArray("MAME ROM Existence Report\nAll: 3 ROMs ( Found: 1 / Not found: 2 )\n\n"
+                            "pong\t\tFound\nName:\t\tNot found\ngone\t\tNot found\n"));
+
+        write(QStringLiteral("listfull.txt"), "pong \"Pong\"\n");
+        expectRefusal(arguments, "header");
+        QVERIFY(read(QStringLiteral("report.txt")).contains("gone"));
+    }
+
+    void existenceTestsTheListBeforeTheFolder()
+    {
+        const QString report = path(QStringLiteral("report.txt"));
+        write(QStringLiteral("listfull.txt"), "Name: x\n");
+        expectRefusal({QStringLiteral("existence"), path(QStringLiteral("none")),
+                       path(QStringLiteral("none")), QStringLiteral("-o"), report},
+                      "listfull.txt file is not found.");
+        expectRefusal({QStringLiteral("existence"), path(QStringLiteral("listfull.txt")),
+                       path(QStringLiteral("none")), QStringLiteral("-o"), report},
+                      "ROMs folder is not found.");
+        expectRefusal({QStringLiteral("existence"), path(QStringLiteral("listfull.txt")), m_folder->path(),
+                       QStringLiteral("-o"), path(QStringLiteral("none/report.txt"))},
+                      "none/report.txt");
+        QVERIFY(!QFile::exists(report));
+    }
+
+    void separateCopiesAndSaysTheCounts()
+    {
+        write(QStringLiteral("listfull.txt"), "Name: Description:\npong \"Pong\"\n");
+        QVERIFY(QDir().mkpath(path(QStringLiteral("roms/old")))
+                && QDir().mkpath(path(QStringLiteral("aside"))));
+        write(QStringLiteral("roms/PONG.ZIP"), "pong");
+        write(QStringLiteral("roms/gone.zip"), "gone");
+        write(QStringLiteral("roms/.hidden"), "hidden");
+        const QStringList arguments{QStringLiteral("separate"), path(QStringLiteral("roms")),
+                                    path(QStringLiteral("listfull.txt")), path(QStringLiteral("aside"))};
+        Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.err, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out, QByteArray("3 ROMs ( Support: 1 / Moved: 2 )\n"));
+        QCOMPARE(QDir(path(QStringLiteral("aside")))
+                     .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({QStringLiteral("gone.zip"), QStringLiteral("old")}));
+        QCOMPARE(read(QStringLiteral("roms/gone.zip")), QByteArray("gone"));
+
+        // A second time nothing is replaced, and that is said.
+        write(QStringLiteral("roms/gone.zip"), "newer");
+        outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out, QByteArray("3 ROMs ( Support: 1 / Moved: 2 )\n"));
+        QVERIFY2(outcome.err.contains("2") && outcome.err.count('\n') == 1, outcome.err.constData());
+        QCOMPARE(read(QStringLiteral("aside/gone.zip")), QByteArray("gone"));
+    }
+
+    void separateTestsTheRomFolderFirst()
+    {
+        write(QStringLiteral("listfull.txt"), "Name: x\n");
+        QVERIFY(QDir().mkpath(path(QStringLiteral("roms"))));
+        const QString none = path(QStringLiteral("none"));
+        const QString roms = path(QStringLiteral("roms"));
+        const QString list = path(QStringLiteral("listfull.txt"));
+        expectRefusal({QStringLiteral("separate"), none, none, none}, "ROMs folder is not found.");
+        expectRefusal({QStringLiteral("separate"), roms, none, none}, "listfull.txt file is not found.");
+        expectRefusal({QStringLiteral("separate"), roms, list, none}, "Move folder is not found.");
+        expectRefusal({QStringLiteral("separate"), roms, list, roms}, "No Separating file.");
+    }
+
+    void anInterruptedSeparationLeavesNoHalves()
+    {
+        write(QStringLiteral("listfull.txt"), "Name: x\n");
+        QVERIFY(QDir().mkpath(path(QStringLiteral("roms"))) && QDir().mkpath(path(QStringLiteral("aside"))));
+        for (int i = 0; i < 400; ++i)
+            write(QStringLiteral("roms/%1.zip").arg(i), QByteArray(1 << 20, 'x'));
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.start(QStringLiteral(TESSERA_PROGRAM),
+                      {QStringLiteral("separate"), path(QStringLiteral("roms")),
+                       path(QStringLiteral("listfull.txt")), path(QStringLiteral("aside"))});
+        const QDir aside(path(QStringLiteral("aside")));
+        QTRY_VERIFY(!aside.isEmpty());
+        process.terminate();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 1);
+        QCOMPARE(process.readAllStandardOutput(), QByteArray());
+        const QFileInfoList copies
+            = aside.entryInfoList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QVERIFY(!copies.isEmpty() && copies.size() < 400);
+        for (const QFileInfo& copy : copies)
+            QVERIFY2(copy.size() == 1 << 20, qPrintable(copy.fileName()));
+    }
+
+    void verifyWritesTheReport_data()
+    {
+        QTest::addColumn<QStringList>("keys");
+        QTest::addColumn<QByteArray>("report");
+        QTest::newRow("bad sets by default")
+            << QStringList() << QByteArray("romset a is bad\n\n(is bad: 1)\n\n");
+        QTest::newRow("another key alone")
+            << QStringList{QStringLiteral("notfound")} << QByteArray("\n(NOT FOUND: 0)\n\n");
+        QTest::newRow("several, in the report's order")
+            << QStringList{QStringLiteral("isbad"), QStringLiteral("isgood")}
+            << QByteArray("romset b is good\n\n(is good: 1)\n\nromset a is bad\n\n(is bad: 1)\n\n");
+    }
+
+    void verifyWritesTheReport()
+    {
+        QFETCH(QStringList, keys);
+        QFETCH(QByteArray, report);
+        write(QStringLiteral("verifyroms.txt"), "romset a is bad\nromset b is good\n");
+        QStringList arguments{QStringLiteral("verify"), path(QStringLiteral("verifyroms.txt")),
+                              QStringLiteral("-o"), path(QStringLiteral("report.txt"))};
+        for (const QString& key : keys)
+            arguments << QStringLiteral("--only") << key;
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.err, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out, QByteArray("Saved a Verifyroms text.\n"));
+        QCOMPARE(read(QStringLiteral("report.txt")), report);
+    }
+
+    void verifySaysWhatIsMissing()
+    {
+        write(QStringLiteral("verifyroms.txt"), "romset a is bad\n");
+        expectRefusal({QStringLiteral("verify"), path(QStringLiteral("none")), QStringLiteral("-o"),
+                       path(QStringLiteral("report.txt"))},
+                      "verifyroms.txt file is not found.");
+        expectRefusal({QStringLiteral("verify"), path(QStringLiteral("verifyroms.txt")), QStringLiteral("-o"),
+                       path(QStringLiteral("none/report.txt"))},
+                      "Error writing file at ");
     }
 
     void listPrintsNineFieldsInOrder()
@@ -391,6 +542,23 @@ private:
         QFile file(path(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    QByteArray read(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    // One sentence, and nothing done.
+    void expectRefusal(const QStringList& arguments, const char* sentence) const
+    {
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out, QByteArray());
+        QVERIFY2(outcome.err.startsWith("tessera: ") && outcome.err.contains(sentence),
+                 outcome.err.constData());
+        QCOMPARE(outcome.err.count('\n'), 1);
     }
 
     void useStandIn() const

@@ -1,52 +1,19 @@
-#include "tools/ui/utilityobject.h"
-
-#include "catalogue/gamerecord.h"
-#include "platform/defaultscontroller.h"
-#include "support/ordinaryuser.h"
-#include "support/scripteddesktop.h"
-#include "support/testmain.h"
 #include "tools/ui/conversionpage.h"
-#include "tools/ui/utilitywindow.h"
+#include "tools/utilitystage.h"
 
 #include <QCheckBox>
-#include <QFile>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 #include <QToolButton>
 
 using namespace tessera;
 
 namespace {
 
-// The utility window on a desktop that answers from a script.
-struct Stage {
-    QTemporaryDir folder;
-    test::ScriptedDesktop desktop;
-    UserDefaults defaults{folder.filePath("settings.ini")};
-    DefaultsController controller{defaults};
-    UtilityObject utility{desktop, controller};
-    UtilityWindow& window = utility.utilityWindow();
+struct Stage : test::UtilityStage {
     ConversionPage& page = *window.conversionPage;
-
-    QString file(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            QTest::qFail("no file", __FILE__, __LINE__);
-        return file.fileName();
-    }
-
-    QByteArray read(const QString& name)
-    {
-        QFile file(folder.filePath(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 
     void fillFields()
     {
@@ -58,8 +25,7 @@ struct Stage {
         page.mame32jpTextField->setText(file("titles.lst", "a\tB\n"));
     }
 
-    QString information() const { return window.infoTextField->text(); }
-    void convert() { QTest::mouseClick(window.button_convert, Qt::LeftButton); }
+    void convert() { QTest::mouseClick(page.button_convert, Qt::LeftButton); }
 };
 
 } // namespace
@@ -181,16 +147,16 @@ private Q_SLOTS:
     void theIndicatorRunsBetweenStartAndStop()
     {
         Stage stage;
-        QVERIFY(stage.window.progressInd->maximum() > 0);
+        QVERIFY(stage.foot.progressInd->maximum() > 0);
         stage.utility.indicator_start();
-        QCOMPARE(stage.window.progressInd->maximum(), 0);
+        QCOMPARE(stage.foot.progressInd->maximum(), 0);
         stage.utility.indicator_stop();
-        QVERIFY(stage.window.progressInd->maximum() > 0);
+        QVERIFY(stage.foot.progressInd->maximum() > 0);
         // Nothing of it is left after a failure either.
         stage.fillFields();
         stage.page.mame32jpTextField->setText(stage.folder.path());
         stage.convert();
-        QVERIFY(stage.window.progressInd->maximum() > 0);
+        QVERIFY(stage.foot.progressInd->maximum() > 0);
     }
 
     void choosersFillStoreAndFlush_data()
@@ -198,8 +164,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("key");
-        QTest::newRow("list") << "button_listxml" << "listxmlTextField" << "listxmlPath";
-        QTest::newRow("titles") << "button_mame32jp" << "mame32jpTextField" << "localizePath";
+        QTest::addColumn<bool>("isFolder");
+        const auto row = [](const char* button, const char* field, const char* key, bool isFolder) {
+            QTest::newRow(field) << QString(button) << QString(field) << QString(key) << isFolder;
+        };
+        row("button_listxml", "listxmlTextField", "listxmlPath", false);
+        row("button_mame32jp", "mame32jpTextField", "localizePath", false);
+        row("button_listfull2", "listfullTextField2", "listfullPath", false);
+        row("button_rompath2", "rompathTextField2", "RomsPath", true);
+        row("button_listfull1", "listfullTextField1", "listfullPath", false);
+        row("button_rompath1", "rompathTextField1", "romsfolderPath", true);
+        row("button_movepath", "movepathTextField", "movefolderPath", true);
+        row("button_verifyroms", "verifyromsTextField", "verifyromsText", false);
     }
 
     void choosersFillStoreAndFlush()
@@ -207,13 +183,14 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QFETCH(QString, field);
         QFETCH(QString, key);
+        QFETCH(bool, isFolder);
         Stage stage;
         stage.desktop.answerOpen("/a/file");
         stage.window.findChild<QPushButton*>(button)->click();
         QCOMPARE(stage.window.findChild<QLineEdit*>(field)->text(), "/a/file");
         QVERIFY(stage.read("settings.ini").contains(QByteArray(key.toLatin1() + "=/a/file")));
         const OpenRequest request = stage.desktop.openRequests.front();
-        QVERIFY(request.files && !request.folders && request.extensions.isEmpty());
+        QVERIFY(request.files != isFolder && request.folders == isFolder && request.extensions.isEmpty());
 
         stage.desktop.answerOpen(std::nullopt);
         stage.window.findChild<QPushButton*>(button)->click();
@@ -223,6 +200,13 @@ private Q_SLOTS:
     void fieldsShowTheStoredPaths()
     {
         Stage stage;
+        stage.controller.setText(keys::listfullPath, "/stored/listfull");
+        stage.controller.setText(keys::RomsPath, "/stored/roms");
+        for (const auto& [field, path] : {std::pair{"listfullTextField1", "/stored/listfull"},
+                                          {"listfullTextField2", "/stored/listfull"},
+                                          {"rompathTextField1", ""},
+                                          {"rompathTextField2", "/stored/roms"}})
+            QCOMPARE(stage.window.findChild<QLineEdit*>(field)->text(), path);
         stage.controller.setText(keys::listxmlPath, "/stored/list");
         stage.controller.setText(keys::localizePath, "/stored/titles");
         QCOMPARE(stage.page.listxmlTextField->text(), "/stored/list");
@@ -242,22 +226,42 @@ private Q_SLOTS:
     void revealsWhatAFieldNames_data()
     {
         QTest::addColumn<int>("tag");
-        QTest::addColumn<QString>("name"); // empty for a beep
-        QTest::newRow("list") << 6 << "list.xml";
-        QTest::newRow("titles") << 7 << "titles.lst";
-        QTest::newRow("no such tag") << 0 << "";
-        QTest::newRow("a far tag") << 99 << "";
+        QTest::addColumn<QString>("field"); // empty for a beep
+        QTest::addColumn<QString>("button");
+        const auto row = [](int tag, const char* field, const char* button) {
+            QTest::addRow("%d", tag) << tag << QString(field) << QString(button);
+        };
+        row(1, "listfullTextField2", "reveal_listfull2");
+        row(2, "rompathTextField2", "reveal_rompath2");
+        row(3, "rompathTextField1", "reveal_rompath1");
+        row(4, "listfullTextField1", "reveal_listfull1");
+        row(5, "movepathTextField", "reveal_movepath");
+        row(6, "listxmlTextField", "reveal_listxml");
+        row(7, "mame32jpTextField", "reveal_mame32jp");
+        row(8, "verifyromsTextField", "reveal_verifyroms");
+        row(0, "", "");
+        row(10, "", "");
+        row(-1, "", "");
     }
 
     void revealsWhatAFieldNames()
     {
         QFETCH(int, tag);
-        QFETCH(QString, name);
+        QFETCH(QString, field);
+        QFETCH(QString, button);
         Stage stage;
-        stage.fillFields();
+        for (QLineEdit* other : stage.window.findChildren<QLineEdit*>())
+            other->setText("/nowhere");
+        if (field.isEmpty()) {
+            stage.utility.show_file_in_finder2(tag);
+            QCOMPARE(stage.desktop.transcript(), {"beep"});
+            return;
+        }
+        const QString path = stage.file("revealed", "");
+        stage.window.findChild<QLineEdit*>(field)->setText(path);
         stage.utility.show_file_in_finder2(tag);
-        const QString line = name.isEmpty() ? QString("beep") : "reveal " + stage.folder.filePath(name);
-        QCOMPARE(stage.desktop.transcript(), {line});
+        stage.window.findChild<QToolButton*>(button)->click();
+        QCOMPARE(stage.desktop.transcript(), QStringList({"reveal " + path, "reveal " + path}));
     }
 
     void revealingNothingBeeps()
@@ -305,10 +309,29 @@ private Q_SLOTS:
                  stage.window.pageList, stage.page.listxmlTextField, stage.page.button_listxml,
                  stage.page.reveal_listxml, stage.page.mame32jpTextField, stage.page.button_mame32jp,
                  stage.page.reveal_mame32jp, stage.page.button_isbios, stage.page.button_ismechanical,
-                 stage.page.button_isdevice, stage.window.button_convert})
+                 stage.page.button_isdevice, stage.page.button_convert})
             QVERIFY2(reached.contains(widget), qPrintable(widget->objectName()));
         QTest::keyClick(&stage.window, Qt::Key_Escape);
         QVERIFY(!stage.window.isVisible());
+    }
+
+    void eachPageHasItsButtonsAtTheFoot()
+    {
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        const QList<QStringList> buttons{{"button_convert"},
+                                         {"button_save", "button_check2"},
+                                         {"button_check1", "button_separete"},
+                                         {"button_convert2"}};
+        QCOMPARE(stage.window.utilityTabView->count(), buttons.size());
+        for (int page = 0; page < buttons.size(); ++page) {
+            stage.window.pageList->setCurrentRow(page);
+            QCOMPARE(stage.window.utilityTabView->currentIndex(), page);
+            for (int other = 0; other < buttons.size(); ++other) {
+                for (const QString& name : buttons[other])
+                    QCOMPARE(stage.window.findChild<QPushButton*>(name)->isVisible(), page == other);
+            }
+        }
     }
 
     void everyControlHasANameForAScreenReader()
@@ -323,9 +346,9 @@ private Q_SLOTS:
             }
         }
         for (const auto& [widget, name] :
-             {std::pair<QWidget*, QString>{stage.window.infoTextField, "infoTextField"},
-              {stage.window.progressInd, "progressInd"},
-              {stage.window.button_convert, "button_convert"},
+             {std::pair<QWidget*, QString>{stage.foot.infoTextField, "infoTextField"},
+              {stage.foot.progressInd, "progressInd"},
+              {stage.page.button_convert, "button_convert"},
               {stage.window.utilityTabView, "utilityTabView"},
               {stage.page.button_isbios, "button_isbios"}})
             QCOMPARE(widget->objectName(), name);

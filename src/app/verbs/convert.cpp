@@ -4,24 +4,7 @@
 
 #include <QFileInfo>
 
-#include <cstdio>
-
 namespace tessera {
-
-namespace {
-
-int refuse(const QString& text)
-{
-    std::fprintf(stderr, "tessera: %s\n", qUtf8Printable(text));
-    return Failed;
-}
-
-QString missing(QLatin1StringView text, const QString& path)
-{
-    return text + QStringLiteral(" (%1)").arg(path);
-}
-
-} // namespace
 
 int runConvert(const Verb& verb, const QStringList& arguments)
 {
@@ -39,9 +22,9 @@ int runConvert(const Verb& verb, const QStringList& arguments)
 
     const QStringList files = parser.positionalArguments();
     if (!QFileInfo::exists(files[0]))
-        return refuse(missing(conversiontexts::noListxml, files[0]));
+        return missing(conversiontexts::noListxml, files[0]);
     if (!QFileInfo::exists(files[1]))
-        return refuse(missing(conversiontexts::noTitles, files[1]));
+        return missing(conversiontexts::noTitles, files[1]);
     const ConversionOptions options{parser.isSet(withoutBios), parser.isSet(withoutMechanical),
                                     parser.isSet(withoutDevices)};
     const auto converted = convertFiles(files[0], files[1], options);

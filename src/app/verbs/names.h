@@ -6,6 +6,7 @@
 namespace tessera {
 
 /// What `tessera` takes for a verb; anything else opens the windows.
-inline constexpr std::array<std::string_view, 5> verbNames{"arguments", "build", "convert", "launch", "list"};
+inline constexpr std::array<std::string_view, 8> verbNames{"arguments", "build", "convert",  "existence",
+                                                           "launch",    "list",  "separate", "verify"};
 
 } // namespace tessera

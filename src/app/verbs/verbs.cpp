@@ -17,12 +17,25 @@ constexpr std::array table{
          "Build the catalogue from what the emulator lists about itself.", &runBuild},
     Verb{"convert", "LISTXML TITLES -o FILE [--without-bios] [--without-mechanical] [--without-devices]",
          "Make a catalogue file from a saved -listxml text and a list of Japanese titles.", &runConvert},
+    Verb{"existence", "LISTFULL ROMS -o REPORT",
+         "Report which sets of a saved -listfull text have an archive or a folder among the ROMs.",
+         &runExistence},
     Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",
          "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
          "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
          &runList},
+    Verb{"separate", "ROMS LISTFULL DEST",
+         "Copy what a saved -listfull text does not name out of a ROM folder into another; nothing is "
+         "removed or "
+         "replaced.",
+         &runSeparate},
+    Verb{"verify", "VERIFYROMS -o REPORT [--only KEY]...",
+         "Condense a saved -verifyroms text by verdict: isgood, isbesta, iclength, iccsum, nredump, ngdk, "
+         "isbad (alone "
+         "by default), notfound, nfsparent, nfngd, nfbo, other.",
+         &runVerify},
 };
 
 static_assert(std::ranges::equal(table, verbNames, {},
@@ -97,6 +110,17 @@ int failed(const Failure& failure)
 {
     warn(failure);
     return Failed;
+}
+
+int refuse(const QString& text)
+{
+    printTo(stderr, QStringLiteral("tessera: ") + text);
+    return Failed;
+}
+
+int missing(QLatin1StringView text, const QString& path)
+{
+    return refuse(text + QStringLiteral(" (%1)").arg(path));
 }
 
 void warn(const Failure& failure)

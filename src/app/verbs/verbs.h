@@ -34,6 +34,10 @@ std::optional<int> parseVerb(const Verb& verb, QCommandLineParser& parser, const
 
 int badCommandLine(const Verb& verb, const QString& why);
 int failed(const Failure& failure);
+/// Says a text of the information line on stderr.
+int refuse(const QString& text);
+/// The same with the path that it is about.
+int missing(QLatin1StringView text, const QString& path);
 /// Says on stderr what went wrong beside the job.
 void warn(const Failure& failure);
 void print(const QString& line);
@@ -43,7 +47,10 @@ bool printBytes(std::string_view bytes);
 int runArguments(const Verb& verb, const QStringList& arguments);
 int runBuild(const Verb& verb, const QStringList& arguments);
 int runConvert(const Verb& verb, const QStringList& arguments);
+int runExistence(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
+int runSeparate(const Verb& verb, const QStringList& arguments);
+int runVerify(const Verb& verb, const QStringList& arguments);
 
 } // namespace tessera

@@ -4,31 +4,21 @@
 #include "widgets/pathfield.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QToolButton>
 
 namespace tessera {
 
-namespace {
-
-// "&Year" and "年(&Y)" alike.
-QString withoutMnemonic(QString label)
-{
-    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
-    return label.remove(appended).remove(QLatin1Char('&'));
-}
-
-} // namespace
-
 ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
-    : FormPage(parent)
+    : ToolPage(parent)
+    , button_convert(new QPushButton(qtTrId("convert_button"), this))
 {
     addHeading(qtTrId("convert_heading"), qtTrId("convert_explanation"));
-    const PathField* listxml = addPath(qtTrId("convert_listxml"), QStringLiteral("listxml"));
-    const PathField* titles = addPath(qtTrId("convert_titles"), QStringLiteral("mame32jp"));
+    const PathField* listxml
+        = addPath(qtTrId("convert_listxml"), QStringLiteral("listxmlTextField"), QStringLiteral("listxml"));
+    const PathField* titles
+        = addPath(qtTrId("convert_titles"), QStringLiteral("mame32jpTextField"), QStringLiteral("mame32jp"));
     listxmlTextField = listxml->field();
     button_listxml = listxml->chooseButton();
     reveal_listxml = listxml->revealButton();
@@ -41,19 +31,10 @@ ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     button_isdevice = makeBox(qtTrId("convert_devices"), QStringLiteral("button_isdevice"));
     addRow(qtTrId("convert_leave_out"), {button_isbios, button_ismechanical, button_isdevice});
     addStretch();
+    button_convert->setObjectName(QStringLiteral("button_convert"));
 
     bind(*listxmlTextField, defaults, keys::listxmlPath);
     bind(*mame32jpTextField, defaults, keys::localizePath);
-}
-
-PathField* ConversionPage::addPath(const QString& label, const QString& name)
-{
-    auto* path = new PathField(withoutMnemonic(label), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
-    path->field()->setObjectName(name + QStringLiteral("TextField"));
-    path->chooseButton()->setObjectName(QStringLiteral("button_") + name);
-    path->revealButton()->setObjectName(QStringLiteral("reveal_") + name);
-    addRow(label, path);
-    return path;
 }
 
 QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)

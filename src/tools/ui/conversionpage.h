@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/formpage.h"
+#include "tools/ui/toolpage.h"
 
 class QCheckBox;
 class QLineEdit;
@@ -10,10 +10,9 @@ class QToolButton;
 namespace tessera {
 
 class DefaultsController;
-class PathField;
 
 /// The utility window's first page: what a catalogue is made of.
-class ConversionPage : public FormPage
+class ConversionPage : public ToolPage
 {
     Q_OBJECT
 
@@ -29,9 +28,9 @@ public:
     QCheckBox* button_isbios;
     QCheckBox* button_ismechanical;
     QCheckBox* button_isdevice;
+    QPushButton* button_convert; ///< at the window's foot
 
 private:
-    PathField* addPath(const QString& label, const QString& name);
     QCheckBox* makeBox(const QString& label, const QString& name);
 };
 

@@ -1,21 +1,25 @@
 #include "tools/ui/utilityobject.h"
 
 #include "catalogue/storelayout.h"
-#include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "tools/conversion.h"
 #include "tools/titletable.h"
 #include "tools/ui/conversionpage.h"
+#include "tools/ui/existencetool.h"
+#include "tools/ui/separationtool.h"
 #include "tools/ui/utilitywindow.h"
+#include "tools/ui/verificationtool.h"
+#include "tools/ui/workbench.h"
 #include "widgets/bringforward.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
-#include <QLabel>
 #include <QLineEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QToolButton>
+
+#include <algorithm>
+#include <array>
 
 namespace tessera {
 
@@ -25,45 +29,62 @@ namespace {
 constexpr int listxmlTag = 6;
 constexpr int titlesTag = 7;
 
+// A path field of the window, and the button that shows it in the file manager.
+struct TaggedField {
+    int tag;
+    const char* field;
+    const char* reveal;
+};
+
+constexpr std::array fields{
+    TaggedField{1, "listfullTextField2", "reveal_listfull2"},
+    TaggedField{2, "rompathTextField2", "reveal_rompath2"},
+    TaggedField{3, "rompathTextField1", "reveal_rompath1"},
+    TaggedField{4, "listfullTextField1", "reveal_listfull1"},
+    TaggedField{5, "movepathTextField", "reveal_movepath"},
+    TaggedField{listxmlTag, "listxmlTextField", "reveal_listxml"},
+    TaggedField{titlesTag, "mame32jpTextField", "reveal_mame32jp"},
+    TaggedField{8, "verifyromsTextField", "reveal_verifyroms"},
+};
+
 } // namespace
 
 UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
-    , m_defaults(defaults)
     , m_window(std::make_unique<UtilityWindow>(defaults))
+    , m_workbench(std::make_unique<Workbench>(desktop, defaults, *m_window->foot))
+    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench))
+    , m_separation(std::make_unique<SeparationTool>(*m_window->separationPage, *m_workbench))
+    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench))
 {
     const ConversionPage& page = *m_window->conversionPage;
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
-    connect(m_window->button_convert, &QPushButton::clicked, this, &UtilityObject::xmloutputAction);
+    connect(page.button_convert, &QPushButton::clicked, this, &UtilityObject::xmloutputAction);
     connect(page.button_listxml, &QPushButton::clicked, this, &UtilityObject::selectlistxml);
     connect(page.button_mame32jp, &QPushButton::clicked, this, &UtilityObject::selectlocalize);
-    connect(page.reveal_listxml, &QToolButton::clicked, this, [this] { show_file_in_finder2(listxmlTag); });
-    connect(page.reveal_mame32jp, &QToolButton::clicked, this, [this] { show_file_in_finder2(titlesTag); });
+    connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
+    connect(m_existence.get(), &ExistenceTool::statusMessage, this, &UtilityObject::statusMessage);
+    connectReveals();
 }
 
 UtilityObject::~UtilityObject() = default;
 
-// Painted at once, since a conversion keeps the event loop waiting.
-void UtilityObject::inform(const QString& text)
+void UtilityObject::connectReveals()
 {
-    m_window->infoTextField->setText(text);
-    m_window->infoTextField->repaint();
-}
-
-void UtilityObject::refuse(const QString& text)
-{
-    inform(text);
-    m_desktop.beep();
+    for (const TaggedField& field : fields) {
+        const auto* button = m_window->findChild<QToolButton*>(QLatin1String(field.reveal));
+        connect(button, &QToolButton::clicked, this, [this, tag = field.tag] { show_file_in_finder2(tag); });
+    }
 }
 
 void UtilityObject::xmloutputAction()
 {
-    inform(conversiontexts::started);
+    m_workbench->inform(conversiontexts::started);
     if (!QFileInfo::exists(pathOf(listxmlTag)))
-        return refuse(conversiontexts::noListxml);
+        return m_workbench->refuse(conversiontexts::noListxml);
     if (!QFileInfo::exists(pathOf(titlesTag)))
-        return refuse(conversiontexts::noTitles);
+        return m_workbench->refuse(conversiontexts::noTitles);
     indicator_start();
     outputAction();
     indicator_stop();
@@ -76,7 +97,7 @@ void UtilityObject::outputAction()
                                     page.button_isdevice->isChecked()};
     const auto list = convertFiles(pathOf(listxmlTag), pathOf(titlesTag), options);
     if (!list)
-        return refuse(list.error().text());
+        return m_workbench->refuse(list.error().text());
     m_desktop.log(conversiontexts::logged);
     save(*list);
 }
@@ -90,11 +111,11 @@ void UtilityObject::save(const ConvertedList& list)
         return;
     if (const auto written = list.text.save(*path); !written) {
         m_desktop.beep();
-        inform(QString(conversiontexts::notWritten).arg(*path, written.error().arguments.last()));
+        m_workbench->inform(
+            QString(conversiontexts::notWritten).arg(*path, written.error().arguments.last()));
         return;
     }
-    inform(conversionReport(list.games));
-    m_desktop.playSound(QStringLiteral("st_ovenbell"));
+    m_workbench->conclude(conversionReport(list.games));
 }
 
 QString UtilityObject::issueuuid() const
@@ -104,53 +125,36 @@ QString UtilityObject::issueuuid() const
 
 void UtilityObject::indicator_start()
 {
-    m_window->progressInd->setRange(0, 0);
-    m_window->progressInd->repaint();
+    m_workbench->indicator_start();
 }
 
 void UtilityObject::indicator_stop()
 {
-    m_window->progressInd->setRange(0, 100);
-    m_window->progressInd->reset();
+    m_workbench->indicator_stop();
 }
 
 QString UtilityObject::openPanelpath(bool chooseFile, bool chooseDirect)
 {
-    return m_desktop.openPanel({chooseFile, chooseDirect, {}, {}}).value_or(QString());
-}
-
-void UtilityObject::select(QLineEdit& field, const ChosenKey& key)
-{
-    const QString path = openPanelpath(true, false);
-    if (path.isEmpty())
-        return;
-    field.setText(path);
-    m_defaults.setText(key, path);
-    UserDefaults& defaults = m_defaults.defaults();
-    if (!defaults.synchronize())
-        Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
+    return m_workbench->openPanelpath(chooseFile, chooseDirect);
 }
 
 void UtilityObject::selectlistxml()
 {
-    select(*m_window->conversionPage->listxmlTextField, keys::listxmlPath);
+    m_workbench->choose(*m_window->conversionPage->listxmlTextField, keys::listxmlPath,
+                        Workbench::Choice::File);
 }
 
 void UtilityObject::selectlocalize()
 {
-    select(*m_window->conversionPage->mame32jpTextField, keys::localizePath);
+    m_workbench->choose(*m_window->conversionPage->mame32jpTextField, keys::localizePath,
+                        Workbench::Choice::File);
 }
 
 QString UtilityObject::pathOf(int tag) const
 {
-    switch (tag) {
-    case listxmlTag:
-        return m_window->conversionPage->listxmlTextField->text();
-    case titlesTag:
-        return m_window->conversionPage->mame32jpTextField->text();
-    default:
-        return QString();
-    }
+    const auto field = std::ranges::find(fields, tag, &TaggedField::tag);
+    return field == fields.end() ? QString()
+                                 : m_window->findChild<QLineEdit*>(QLatin1String(field->field))->text();
 }
 
 void UtilityObject::show_file_in_finder2(int tag)
@@ -167,7 +171,10 @@ void UtilityObject::utilityOrderFront()
 
 void UtilityObject::windowWillClose()
 {
-    inform(QString());
+    m_workbench->abandon();
+    m_existence->clear_reportController();
+    m_separation->clear_separatorController();
+    m_workbench->inform(QString());
 }
 
 } // namespace tessera

@@ -1,21 +1,22 @@
 #pragma once
 
-#include "core/settingskeys.h"
-
 #include <QObject>
 
 #include <memory>
-
-class QLineEdit;
 
 namespace tessera {
 
 class DefaultsController;
 class Desktop;
+class ExistenceTool;
+class SeparationTool;
 class UtilityWindow;
+class VerificationTool;
+class Workbench;
 struct ConvertedList;
 
-/// The commands of the utility window.
+/// The commands of the utility window as a whole, and of its first page; the other pages have tools of their
+/// own.
 class UtilityObject : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,9 @@ public:
     ~UtilityObject() override;
 
     UtilityWindow& utilityWindow() { return *m_window; }
+    ExistenceTool& existence() { return *m_existence; }
+    SeparationTool& separation() { return *m_separation; }
+    VerificationTool& verification() { return *m_verification; }
 
     /// A new one in its standard form.
     QString issueuuid() const;
@@ -48,15 +52,16 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
-    void inform(const QString& text);
-    void refuse(const QString& text);
-    void select(QLineEdit& field, const ChosenKey& key);
+    void connectReveals();
     QString pathOf(int tag) const;
     void save(const ConvertedList& list);
 
     Desktop& m_desktop;
-    DefaultsController& m_defaults;
     std::unique_ptr<UtilityWindow> m_window;
+    std::unique_ptr<Workbench> m_workbench;
+    std::unique_ptr<ExistenceTool> m_existence;
+    std::unique_ptr<SeparationTool> m_separation;
+    std::unique_ptr<VerificationTool> m_verification;
 };
 
 } // namespace tessera

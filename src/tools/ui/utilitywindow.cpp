@@ -1,13 +1,15 @@
 #include "tools/ui/utilitywindow.h"
 
 #include "tools/ui/conversionpage.h"
+#include "tools/ui/existencepage.h"
+#include "tools/ui/separationpage.h"
+#include "tools/ui/utilityfoot.h"
+#include "tools/ui/verificationpage.h"
 #include "widgets/closekeys.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QListWidget>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -16,9 +18,8 @@ namespace tessera {
 
 namespace {
 
-constexpr QSize usualSize(860, 540);
+constexpr QSize usualSize(920, 580);
 constexpr int listWidth = 196;
-constexpr int indicatorWidth = 168;
 
 } // namespace
 
@@ -27,6 +28,10 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     , pageList(new QListWidget(this))
     , utilityTabView(new QStackedWidget(this))
     , conversionPage(new ConversionPage(defaults, this))
+    , existencePage(new ExistencePage(defaults, this))
+    , separationPage(new SeparationPage(defaults, this))
+    , verificationPage(new VerificationPage(defaults, this))
+    , foot(new UtilityFoot(this))
 {
     setObjectName(QStringLiteral("utilityWindow"));
     setWindowTitle(qtTrId("tool_title"));
@@ -34,12 +39,17 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     pageList->setAccessibleName(qtTrId("tool_pages"));
     pageList->setFixedWidth(listWidth);
     utilityTabView->setObjectName(QStringLiteral("utilityTabView"));
-    addPage(conversionPage, qtTrId("convert_page"));
+    addPage(conversionPage, qtTrId("convert_page"), {conversionPage->button_convert});
+    addPage(existencePage, qtTrId("existence_page"),
+            {existencePage->button_save, existencePage->button_check2});
+    addPage(separationPage, qtTrId("separation_page"),
+            {separationPage->button_check1, separationPage->button_separete});
+    addPage(verificationPage, qtTrId("verification_page"), {verificationPage->button_convert2});
 
     auto* form = new QVBoxLayout;
     form->setSpacing(0);
     form->addWidget(utilityTabView, 1);
-    form->addWidget(makeFoot());
+    form->addWidget(foot);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -47,45 +57,17 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     layout->addLayout(form, 1);
 
     connect(pageList, &QListWidget::currentRowChanged, utilityTabView, &QStackedWidget::setCurrentIndex);
+    connect(pageList, &QListWidget::currentRowChanged, foot, &UtilityFoot::showButtonsOf);
     pageList->setCurrentRow(0);
     closeByKeyboard(*this);
     resize(usualSize);
 }
 
-void UtilityWindow::addPage(QWidget* page, const QString& title)
+void UtilityWindow::addPage(QWidget* page, const QString& title, const QList<QPushButton*>& buttons)
 {
     utilityTabView->addWidget(page);
     pageList->addItem(title);
-}
-
-QWidget* UtilityWindow::makeFoot()
-{
-    auto* foot = new QWidget(this);
-    foot->setProperty("role", QStringLiteral("foot"));
-    foot->setAttribute(Qt::WA_StyledBackground);
-    infoTextField = new QLabel(foot);
-    infoTextField->setObjectName(QStringLiteral("infoTextField"));
-    infoTextField->setAccessibleName(qtTrId("tool_information"));
-    infoTextField->setTextFormat(Qt::PlainText);
-    infoTextField->setWordWrap(true);
-    infoTextField->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    progressInd = new QProgressBar(foot);
-    progressInd->setObjectName(QStringLiteral("progressInd"));
-    progressInd->setAccessibleName(qtTrId("tool_progress"));
-    progressInd->setTextVisible(false);
-    progressInd->setFixedWidth(indicatorWidth);
-    button_convert = new QPushButton(qtTrId("convert_button"), foot);
-    button_convert->setObjectName(QStringLiteral("button_convert"));
-    button_convert->setProperty("role", QStringLiteral("accent"));
-    button_convert->setAutoDefault(true);
-
-    auto* layout = new QHBoxLayout(foot);
-    layout->setContentsMargins(18, 12, 18, 12);
-    layout->setSpacing(14);
-    layout->addWidget(infoTextField, 1);
-    layout->addWidget(progressInd);
-    layout->addWidget(button_convert);
-    return foot;
+    foot->addButtons(buttons);
 }
 
 void UtilityWindow::closeEvent(QCloseEvent* event)

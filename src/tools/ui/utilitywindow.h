@@ -2,9 +2,7 @@
 
 #include <QWidget>
 
-class QLabel;
 class QListWidget;
-class QProgressBar;
 class QPushButton;
 class QStackedWidget;
 
@@ -12,6 +10,10 @@ namespace tessera {
 
 class ConversionPage;
 class DefaultsController;
+class ExistencePage;
+class SeparationPage;
+class UtilityFoot;
+class VerificationPage;
 
 /// The window of the catalogue tools: a page for each, one information line and one progress indicator for
 /// all.
@@ -25,9 +27,10 @@ public:
     QListWidget* pageList;
     QStackedWidget* utilityTabView;
     ConversionPage* conversionPage;
-    QLabel* infoTextField;
-    QProgressBar* progressInd;
-    QPushButton* button_convert;
+    ExistencePage* existencePage;
+    SeparationPage* separationPage;
+    VerificationPage* verificationPage;
+    UtilityFoot* foot;
 
 Q_SIGNALS:
     void closed();
@@ -36,8 +39,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void addPage(QWidget* page, const QString& title);
-    QWidget* makeFoot();
+    void addPage(QWidget* page, const QString& title, const QList<QPushButton*>& buttons);
 };
 
 } // namespace tessera

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "core/failure.h"
+
+#include <QLatin1StringView>
+
+#include <expected>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+class FolderSets;
+
+/// What the tool says and writes; the same in every language.
+namespace existencetexts {
+inline constexpr QLatin1StringView started("Now Checking...");
+inline constexpr QLatin1StringView noListfull("listfull.txt file is not found.");
+inline constexpr QLatin1StringView noRoms("ROMs folder is not found.");
+inline constexpr QLatin1StringView noReport("No Report file.");
+inline constexpr QLatin1StringView summary("%1 ROMs ( Found: %2 / Not found: %3 )");
+inline constexpr QLatin1StringView notWritten("Error writing file at %1\n%2");
+inline constexpr std::string_view found = "Found";
+inline constexpr std::string_view notFound = "Not found";
+} // namespace existencetexts
+
+/// One set that the emulator lists.
+struct ExistenceRow {
+    std::string romlistfull;
+    bool isFound = false;
+
+    std::string_view existence() const { return isFound ? existencetexts::found : existencetexts::notFound; }
+    friend bool operator==(const ExistenceRow&, const ExistenceRow&) = default;
+};
+
+/// The sets that are found, then those that are not, each in the order of the list.
+struct ExistenceList {
+    std::vector<ExistenceRow> rows;
+    int found = 0;
+    int notFound = 0;
+};
+
+/// `words` are the first ones of what the emulator prints for -listfull. Without its header,
+/// "existence_no_header".
+std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
+                                                  const FolderSets& roms);
+
+/// The same of a file and a folder.
+std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms);
+
+/// The information line's words. `count` may differ from the sum: it is the rows that are shown.
+QString existenceSummary(std::size_t count, int found, int notFound);
+
+/// The report's text, with the rows as they come.
+std::string existenceReport(std::span<const ExistenceRow> rows, int found, int notFound);
+
+} // namespace tessera

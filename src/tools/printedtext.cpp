@@ -1,0 +1,135 @@
+#include "tools/printedtext.h"
+
+#include "core/encodings.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::string_view whiteSpace = " \t\r\n\v\f";
+// Bytes; the largest that an emulator prints has some hundred MB, a device may have no end.
+constexpr std::size_t textLimit = std::size_t{1} << 30;
+
+std::unexpected<Failure> notRead(const QFile& file)
+{
+    return std::unexpected(Failure{"convert_not_read", {file.fileName(), file.errorString()}});
+}
+
+// `take` gets each piece, and as how many bytes the whole file is known.
+template <class Take>
+std::expected<void, Failure> readPieces(const QString& path, Take take)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return notRead(file);
+    const std::size_t expected = file.isSequential() ? 0 : static_cast<std::size_t>(file.size());
+    std::array<char, 128 * 1024> piece;
+    for (std::size_t all = 0;;) {
+        const qint64 count = file.read(piece.data(), piece.size());
+        if (count < 0)
+            return notRead(file);
+        if (count == 0)
+            return {};
+        all += static_cast<std::size_t>(count);
+        if (all > textLimit)
+            return std::unexpected(Failure{"tool_text_too_large", {path}});
+        take(std::string_view(piece.data(), static_cast<std::size_t>(count)), std::min(expected, textLimit));
+    }
+}
+
+template <class Take>
+void takeFirstWords(std::string_view text, Take take)
+{
+    while (!(text = withoutIndent(text)).empty()) {
+        const std::string_view line = text.substr(0, text.find('\n'));
+        take(line.substr(0, line.find(' ')));
+        text.remove_prefix(line.size());
+    }
+}
+
+bool isForeign(char c)
+{
+    return static_cast<unsigned char>(c) >= 0x80;
+}
+
+// How much ASCII is at the start. What is not is rare, so large pieces are looked at together.
+std::size_t plainLength(std::string_view bytes)
+{
+    constexpr std::size_t pieceSize = 256;
+    std::size_t length = 0;
+    while (length < bytes.size() && isAscii(bytes.substr(length, pieceSize)))
+        length = std::min(length + pieceSize, bytes.size());
+    return static_cast<std::size_t>(
+        std::find_if(bytes.begin() + static_cast<std::ptrdiff_t>(length), bytes.end(), &isForeign)
+        - bytes.begin());
+}
+
+} // namespace
+
+std::expected<std::string, Failure> readPrinted(const QString& path)
+{
+    std::string bytes;
+    const auto read = readPieces(path, [&](std::string_view piece, std::size_t expected) {
+        bytes.reserve(expected);
+        bytes += piece;
+    });
+    if (!read)
+        return std::unexpected(read.error());
+    return bytes;
+}
+
+// Only runs of bytes outside ASCII need be looked at: none of their sequences goes on behind one of ours.
+std::string printedText(std::string bytes)
+{
+    if (isAscii(bytes))
+        return bytes;
+    std::string text;
+    text.reserve(bytes.size());
+    for (std::string_view rest = bytes; !rest.empty();) {
+        const std::size_t plain = plainLength(rest);
+        text += rest.substr(0, plain);
+        rest.remove_prefix(plain);
+        const auto foreignEnd = std::ranges::find_if_not(rest, &isForeign);
+        const auto foreign = static_cast<std::size_t>(foreignEnd - rest.begin());
+        appendUtf8(text, rest.substr(0, foreign));
+        rest.remove_prefix(foreign);
+    }
+    return text;
+}
+
+std::string_view withoutIndent(std::string_view text)
+{
+    return text.substr(std::min(text.find_first_not_of(whiteSpace), text.size()));
+}
+
+std::vector<std::string_view> firstWords(std::string_view text)
+{
+    std::vector<std::string_view> words;
+    takeFirstWords(text, [&](std::string_view word) { words.push_back(word); });
+    return words;
+}
+
+std::expected<void, Failure> readFirstWords(const QString& path,
+                                            const std::function<void(std::string_view)>& take)
+{
+    std::string rest; // the line that the next piece goes on with
+    const auto read = readPieces(path, [&](std::string_view piece, std::size_t) {
+        const std::size_t lines = piece.rfind('\n') + 1;
+        rest += piece.substr(0, lines);
+        if (lines > 0) {
+            takeFirstWords(rest, take);
+            rest.clear();
+        }
+        rest += piece.substr(lines);
+    });
+    if (read)
+        takeFirstWords(rest, take);
+    return read;
+}
+
+} // namespace tessera

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tools/ui/toolpage.h"
+
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace tessera {
+
+class DefaultsController;
+class RowsList;
+class RowsModel;
+
+/// Which of the sets that an emulator lists are in the ROM folder.
+class ExistencePage : public ToolPage
+{
+    Q_OBJECT
+
+public:
+    explicit ExistencePage(DefaultsController& defaults, QWidget* parent = nullptr);
+
+    QLineEdit* listfullTextField2;
+    QLineEdit* rompathTextField2;
+    QPushButton* button_listfull2;
+    QPushButton* button_rompath2;
+    QToolButton* reveal_listfull2;
+    QToolButton* reveal_rompath2;
+    QPushButton* button_check2; ///< at the window's foot, like the next one
+    QPushButton* button_save;
+    RowsModel* rows;
+    RowsList* reportList;
+};
+
+} // namespace tessera

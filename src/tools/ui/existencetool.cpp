@@ -1,0 +1,139 @@
+#include "tools/ui/existencetool.h"
+
+#include "core/atomicfile.h"
+#include "platform/desktop.h"
+#include "tools/ui/existencepage.h"
+#include "tools/ui/rowslist.h"
+#include "tools/ui/rowsmodel.h"
+#include "tools/ui/workbench.h"
+#include "tools/verification.h"
+
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace tessera {
+
+namespace {
+
+QString text(std::string_view existence)
+{
+    return QString::fromLatin1(existence.data(), static_cast<qsizetype>(existence.size()));
+}
+
+} // namespace
+
+ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, QObject* parent)
+    : QObject(parent)
+    , m_page(page)
+    , m_workbench(workbench)
+{
+    connect(m_page.button_check2, &QPushButton::clicked, this, &ExistenceTool::romlistup);
+    connect(m_page.button_save, &QPushButton::clicked, this, &ExistenceTool::saveAction);
+    connect(m_page.button_listfull2, &QPushButton::clicked, this, &ExistenceTool::selectListfull2);
+    connect(m_page.button_rompath2, &QPushButton::clicked, this, &ExistenceTool::selectROMsfolder2);
+}
+
+void ExistenceTool::romlistup()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    const QString listfull = m_page.listfullTextField2->text();
+    const QString roms = m_page.rompathTextField2->text();
+    m_workbench.inform(existencetexts::started);
+    if (!QFileInfo::exists(listfull))
+        return m_workbench.refuse(existencetexts::noListfull);
+    if (!QFileInfo::exists(roms))
+        return m_workbench.refuse(existencetexts::noRoms);
+    m_workbench.indicator_start();
+    clear_reportController();
+    m_found = 0;
+    m_notFound = 0;
+    m_workbench.run([listfull, roms](const Job&) { return checkExistence(listfull, roms); },
+                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
+                        show(std::move(list), isCancelled);
+                    });
+}
+
+void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCancelled)
+{
+    if (!isCancelled && !list && list.error().key == QLatin1String("existence_no_header"))
+        return stopWithoutHeader(list.error());
+    m_workbench.indicator_stop();
+    if (isCancelled)
+        return m_workbench.inform(verificationtexts::cancelled);
+    if (!list)
+        return m_workbench.refuse(list.error().text());
+    const QString found = text(existencetexts::found);
+    const QString notFound = text(existencetexts::notFound);
+    std::vector<RowsModel::Row> rows;
+    rows.reserve(list->rows.size());
+    for (ExistenceRow& row : list->rows)
+        rows.push_back({std::move(row.romlistfull), row.isFound ? found : notFound});
+    m_found = list->found;
+    m_notFound = list->notFound;
+    m_page.rows->setRows(std::move(rows));
+    m_page.reportList->sortByColumn(RowsModel::StateColumn, Qt::AscendingOrder);
+    m_workbench.conclude(existenceSummary(m_page.rows->size(), m_found, m_notFound));
+}
+
+// Deliberate: such a check ends in the middle, with the indicator running and the information line as it was.
+// Elsewhere it is said why.
+void ExistenceTool::stopWithoutHeader(const Failure& failure)
+{
+    m_page.reportList->setEmptyText(failure.text());
+    Q_EMIT statusMessage(failure.text());
+}
+
+// As the list's own check, but of the file system itself.
+QString ExistenceTool::existscheck(const QString& setName)
+{
+    const QString path = m_page.rompathTextField2->text() + QLatin1Char('/') + setName;
+    const bool isFound = QFileInfo::exists(path + QStringLiteral(".zip")) || QFileInfo::exists(path);
+    ++(isFound ? m_found : m_notFound);
+    return text(isFound ? existencetexts::found : existencetexts::notFound);
+}
+
+void ExistenceTool::saveAction()
+{
+    if (m_page.rows->size() == 0)
+        return m_workbench.refuse(existencetexts::noReport);
+    std::vector<ExistenceRow> rows;
+    rows.reserve(m_page.rows->size());
+    for (std::size_t i = 0; i < m_page.rows->size(); ++i) {
+        const RowsModel::Row& row = m_page.rows->shown(i);
+        rows.push_back({row.name, row.state == text(existencetexts::found)});
+    }
+    m_report = existenceReport(rows, m_found, m_notFound);
+    if (const auto path = m_workbench.desktop().savePanel({QStringLiteral("Save Report file"),
+                                                           QStringLiteral("ROM Existence Report"),
+                                                           {QStringLiteral("txt")}}))
+        write(*path);
+}
+
+// Deliberate: neither success nor failure is told; the log has the failure.
+void ExistenceTool::write(const QString& path)
+{
+    if (const auto written = writeAtomically(path, std::array{std::string_view(m_report)}); !written)
+        m_workbench.desktop().log(
+            QString(existencetexts::notWritten).arg(path, written.error().arguments.last()));
+}
+
+void ExistenceTool::selectListfull2()
+{
+    m_workbench.choose(*m_page.listfullTextField2, keys::listfullPath, Workbench::Choice::File);
+}
+
+void ExistenceTool::selectROMsfolder2()
+{
+    m_workbench.choose(*m_page.rompathTextField2, keys::RomsPath, Workbench::Choice::Folder);
+}
+
+void ExistenceTool::clear_reportController()
+{
+    m_page.reportList->dropSort();
+    m_page.rows->clear();
+    m_page.reportList->setEmptyText(qtTrId("existence_empty"));
+}
+
+} // namespace tessera

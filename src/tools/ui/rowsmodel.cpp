@@ -1,0 +1,113 @@
+#include "tools/ui/rowsmodel.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace tessera {
+
+namespace {
+
+constexpr char16_t controlPictures = 0x2400;
+
+// On one line, whatever is in it.
+QString shownName(const std::string& name)
+{
+    QString text = QString::fromStdString(name);
+    for (QChar& c : text) {
+        if (c.unicode() < 0x20)
+            c = QChar(static_cast<char16_t>(controlPictures + c.unicode()));
+    }
+    return text;
+}
+
+} // namespace
+
+RowsModel::RowsModel(std::array<QString, 2> titles, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_titles(std::move(titles))
+{
+}
+
+void RowsModel::setRows(std::vector<Row> rows)
+{
+    beginResetModel();
+    m_rows = std::move(rows);
+    arrange();
+    endResetModel();
+}
+
+void RowsModel::clear()
+{
+    setRows({});
+}
+
+void RowsModel::setState(std::size_t place, const QString& state)
+{
+    m_rows[place].state = state;
+    // Where a row stands among tens of thousands need not be looked up: what is visible is painted again.
+    if (m_rows.size() > 0)
+        Q_EMIT dataChanged(index(0, StateColumn), index(rowCount() - 1, StateColumn));
+}
+
+int RowsModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int RowsModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_titles.size());
+}
+
+QVariant RowsModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || role != Qt::DisplayRole)
+        return {};
+    const Row& row = shown(static_cast<std::size_t>(index.row()));
+    return index.column() == NameColumn ? shownName(row.name) : row.state;
+}
+
+QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= columnCount())
+        return {};
+    return m_titles[static_cast<std::size_t>(section)];
+}
+
+void RowsModel::sort(int column, Qt::SortOrder order)
+{
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    std::vector<std::size_t> places;
+    const QModelIndexList before = persistentIndexList();
+    for (const QModelIndex& index : before)
+        places.push_back(m_order[static_cast<std::size_t>(index.row())]);
+    m_sortColumn = column;
+    m_sortOrder = order;
+    arrange();
+    std::vector<int> positions(m_order.size());
+    for (std::size_t position = 0; position < m_order.size(); ++position)
+        positions[m_order[position]] = static_cast<int>(position);
+    QModelIndexList after;
+    for (std::size_t i = 0; i < places.size(); ++i)
+        after << index(positions[places[i]], before[static_cast<qsizetype>(i)].column());
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void RowsModel::arrange()
+{
+    m_order.resize(m_rows.size());
+    std::iota(m_order.begin(), m_order.end(), std::size_t{0});
+    if (m_sortColumn < 0)
+        return;
+    const auto isBefore = [this](std::size_t a, std::size_t b) {
+        return m_sortColumn == NameColumn ? m_rows[a].name < m_rows[b].name
+                                          : m_rows[a].state < m_rows[b].state;
+    };
+    if (m_sortOrder == Qt::AscendingOrder)
+        std::ranges::stable_sort(m_order, isBefore);
+    else
+        std::ranges::stable_sort(m_order, [&](std::size_t a, std::size_t b) { return isBefore(b, a); });
+}
+
+} // namespace tessera

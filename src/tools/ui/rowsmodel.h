@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace tessera {
+
+/// The list of a tool: a name, and what became of it, in two columns that can be sorted.
+class RowsModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, StateColumn };
+
+    struct Row {
+        std::string name; ///< as the file system or the emulator has it
+        QString state;
+    };
+
+    RowsModel(std::array<QString, 2> titles, QObject* parent = nullptr);
+
+    /// Shown in the order of the sort that holds.
+    void setRows(std::vector<Row> rows);
+    void clear();
+    std::size_t size() const { return m_rows.size(); }
+    /// The rows in the order shown.
+    const Row& shown(std::size_t position) const { return m_rows[m_order[position]]; }
+    /// Of the row at a position now; the place that it keeps however the list is sorted.
+    std::size_t placeOf(std::size_t position) const { return m_order[position]; }
+    void setState(std::size_t place, const QString& state);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// Equal rows stay in the list's own order; without a column all of them do.
+    void sort(int column, Qt::SortOrder order) override;
+
+private:
+    void arrange();
+
+    std::array<QString, 2> m_titles;
+    std::vector<Row> m_rows;
+    std::vector<std::size_t> m_order;
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+};
+
+} // namespace tessera

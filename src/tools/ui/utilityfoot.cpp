@@ -1,0 +1,103 @@
+#include "tools/ui/utilityfoot.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+
+namespace tessera {
+
+namespace {
+
+constexpr int indicatorWidth = 168;
+constexpr int spacing = 14;
+
+} // namespace
+
+UtilityFoot::UtilityFoot(QWidget* parent)
+    : QWidget(parent)
+    , infoTextField(new QLabel(this))
+    , progressInd(new QProgressBar(this))
+    , progressCount(new QLabel(this))
+    , button_cancel(new QPushButton(qtTrId("tool_cancel"), this))
+    , m_buttons(new QStackedWidget(this))
+{
+    setProperty("role", QStringLiteral("foot"));
+    setAttribute(Qt::WA_StyledBackground);
+    infoTextField->setObjectName(QStringLiteral("infoTextField"));
+    infoTextField->setAccessibleName(qtTrId("tool_information"));
+    infoTextField->setTextFormat(Qt::PlainText);
+    infoTextField->setWordWrap(true);
+    infoTextField->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    progressInd->setObjectName(QStringLiteral("progressInd"));
+    progressInd->setAccessibleName(qtTrId("tool_progress"));
+    progressInd->setTextVisible(false);
+    progressInd->setFixedWidth(indicatorWidth);
+    progressInd->setVisible(false);
+    progressCount->setObjectName(QStringLiteral("progressCount"));
+    progressCount->setProperty("role", QStringLiteral("dim"));
+    progressCount->setVisible(false);
+    button_cancel->setObjectName(QStringLiteral("button_cancel"));
+    button_cancel->setVisible(false);
+    m_buttons->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(18, 12, 18, 12);
+    layout->setSpacing(spacing);
+    layout->addWidget(infoTextField, 1);
+    layout->addWidget(progressInd);
+    layout->addWidget(progressCount);
+    layout->addWidget(button_cancel);
+    layout->addWidget(m_buttons);
+}
+
+void UtilityFoot::addButtons(const QList<QPushButton*>& buttons)
+{
+    auto* group = new QWidget(m_buttons);
+    auto* layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    // Before it moves in: a style sheet looks at it then.
+    buttons.last()->setProperty("role", QStringLiteral("accent"));
+    for (QPushButton* button : buttons) {
+        button->setAutoDefault(true);
+        layout->addWidget(button);
+    }
+    m_buttons->addWidget(group);
+}
+
+void UtilityFoot::showButtonsOf(int page)
+{
+    m_buttons->setCurrentIndex(page);
+}
+
+void UtilityFoot::setBusy(bool isBusy)
+{
+    QWidget* focused = window()->focusWidget();
+    if (isBusy)
+        m_focused = m_buttons->isAncestorOf(focused) ? focused : nullptr;
+    m_buttons->setEnabled(!isBusy);
+    // First what goes, then what comes: both beside each other would widen the window.
+    if (isBusy) {
+        m_buttons->setVisible(false);
+        button_cancel->setVisible(true);
+    } else {
+        progressCount->setVisible(false);
+        button_cancel->setVisible(false);
+        m_buttons->setVisible(true);
+    }
+    if (isBusy && m_focused)
+        button_cancel->setFocus();
+    if (!isBusy && m_focused && (focused == nullptr || focused == button_cancel))
+        m_focused->setFocus();
+}
+
+// Laid out at once, since a conversion keeps the event loop waiting.
+void UtilityFoot::showIndicator(bool isShown)
+{
+    progressInd->setVisible(isShown);
+    layout()->activate();
+}
+
+} // namespace tessera

@@ -1,0 +1,137 @@
+#include "tools/ui/workbench.h"
+
+#include "core/failure.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+#include "tools/ui/utilityfoot.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace tessera {
+
+namespace {
+constexpr int wholeIndicator = 1000;
+} // namespace
+
+void Job::post(std::function<void()> call) const
+{
+    Workbench& workbench = m_workbench;
+    QMetaObject::invokeMethod(
+        &workbench,
+        [&workbench, number = m_number, call = std::move(call)] {
+            if (number == workbench.m_job)
+                call();
+        },
+        Qt::QueuedConnection);
+}
+
+Workbench::Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent)
+    : QObject(parent)
+    , m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_foot(foot)
+{
+    m_pool.setMaxThreadCount(1);
+    connect(m_foot.button_cancel, &QPushButton::clicked, this, &Workbench::cancel);
+}
+
+Workbench::~Workbench()
+{
+    m_stop.request_stop();
+}
+
+// Painted at once, since a conversion keeps the event loop waiting.
+void Workbench::inform(const QString& text)
+{
+    m_foot.infoTextField->setText(text);
+    m_foot.infoTextField->repaint();
+}
+
+void Workbench::refuse(const QString& text)
+{
+    inform(text);
+    m_desktop.beep();
+}
+
+void Workbench::conclude(const QString& text)
+{
+    inform(text);
+    m_desktop.playSound(QStringLiteral("st_ovenbell"));
+}
+
+void Workbench::indicator_start()
+{
+    m_foot.progressInd->setRange(0, 0);
+    m_foot.showIndicator(true);
+    m_foot.progressInd->repaint();
+}
+
+void Workbench::indicator_stop()
+{
+    m_foot.progressInd->setRange(0, wholeIndicator);
+    m_foot.progressInd->reset();
+    m_foot.showIndicator(false);
+}
+
+void Workbench::showProgress(qint64 done, qint64 all)
+{
+    const double part = all > 0 ? static_cast<double>(done) / static_cast<double>(all) : 1;
+    m_foot.progressInd->setRange(0, wholeIndicator);
+    m_foot.progressInd->setValue(static_cast<int>(part * wholeIndicator));
+    const QLocale locale;
+    m_foot.progressCount->setText(
+        qtTrId("tool_progress_of").arg(locale.formattedDataSize(done), locale.formattedDataSize(all)));
+    m_foot.progressCount->setVisible(true);
+}
+
+QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect)
+{
+    return m_desktop.openPanel({chooseFile, chooseDirect, {}, {}}).value_or(QString());
+}
+
+void Workbench::choose(QLineEdit& field, const ChosenKey& key, Choice choice)
+{
+    const QString path = openPanelpath(choice == Choice::File, choice == Choice::Folder);
+    if (path.isEmpty())
+        return;
+    field.setText(path);
+    m_defaults.setText(key, path);
+    UserDefaults& defaults = m_defaults.defaults();
+    if (!defaults.synchronize())
+        Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
+}
+
+Job Workbench::begin()
+{
+    m_stop = std::stop_source();
+    m_isBusy = true;
+    m_foot.setBusy(true);
+    return Job(*this, ++m_job, m_stop.get_token());
+}
+
+void Workbench::end()
+{
+    m_isBusy = false;
+    m_foot.setBusy(false);
+}
+
+void Workbench::cancel()
+{
+    m_stop.request_stop();
+}
+
+void Workbench::abandon()
+{
+    if (!m_isBusy)
+        return;
+    m_stop.request_stop();
+    ++m_job;
+    end();
+    indicator_stop();
+}
+
+} // namespace tessera

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "core/settingskeys.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+#include <functional>
+#include <memory>
+#include <stop_token>
+
+class QLineEdit;
+
+namespace tessera {
+
+class DefaultsController;
+class Desktop;
+class UtilityFoot;
+
+class Workbench;
+
+/// What goes on beside the windows, as it is seen from there.
+class Job
+{
+public:
+    Job(Workbench& workbench, int number, std::stop_token stop)
+        : m_workbench(workbench)
+        , m_number(number)
+        , m_stop(std::move(stop))
+    {
+    }
+
+    const std::stop_token& stop() const { return m_stop; }
+    /// The call is made on the windows' thread, unless the job is abandoned by then.
+    void post(std::function<void()> call) const;
+
+private:
+    Workbench& m_workbench;
+    int m_number;
+    std::stop_token m_stop;
+};
+
+/// What the tools of the utility window share: information line, indicator, path choosers, and one job at a
+/// time beside the windows.
+class Workbench : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Choice { File, Folder };
+
+    Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent = nullptr);
+    /// A job that goes on is stopped.
+    ~Workbench() override;
+
+    Desktop& desktop() { return m_desktop; }
+    void inform(const QString& text);
+    /// The same with a beep.
+    void refuse(const QString& text);
+    /// The same with the sound of a tool that has finished.
+    void conclude(const QString& text);
+
+    void indicator_start();
+    void indicator_stop();
+    /// Sizes in bytes.
+    void showProgress(qint64 done, qint64 all);
+
+    /// The chosen path; empty after Cancel.
+    QString openPanelpath(bool chooseFile, bool chooseDirect);
+    /// Fills the field, stores the path and flushes; nothing after Cancel.
+    void choose(QLineEdit& field, const ChosenKey& key, Choice choice);
+
+    bool isBusy() const { return m_isBusy; }
+    /// Runs `work` (of a Job) on another thread and hands what it gave, and whether it was cancelled, to
+    /// `done` on this one. Not while another job goes on.
+    template <class Work, class Done>
+    void run(Work work, Done done)
+    {
+        const Job job = begin();
+        m_pool.start([this, job, work = std::move(work), done = std::move(done)] {
+            auto result = std::make_shared<decltype(work(job))>(work(job));
+            job.post([this, job, done, result] {
+                end();
+                done(std::move(*result), job.stop().stop_requested());
+            });
+        });
+    }
+    /// The job is asked to stop; it still ends by `done`.
+    void cancel();
+    /// The same, but it is heard of no more.
+    void abandon();
+
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
+private:
+    friend class Job;
+    Job begin();
+    void end();
+
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    UtilityFoot& m_foot;
+    std::stop_source m_stop;
+    bool m_isBusy = false;
+    int m_job = 0;
+    QThreadPool m_pool; ///< ends first, while everything else still stands
+};
+
+} // namespace tessera

@@ -1,0 +1,158 @@
+#include "tools/ui/verificationtool.h"
+
+#include "tools/plainverification.h"
+#include "tools/ui/verificationpage.h"
+#include "tools/utilitystage.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+using namespace tessera;
+
+namespace {
+
+constexpr char printed[] = "romset a is bad\nromset b is good\na : x - NOT FOUND\n";
+
+struct Stage : test::UtilityStage {
+    VerificationPage& page = *window.verificationPage;
+
+    explicit Stage(const QByteArray& bytes = printed)
+    {
+        window.pageList->setCurrentRow(3);
+        window.show();
+        page.verifyromsTextField->setText(file("verifyroms.txt", bytes));
+    }
+
+    void choose(const QSet<QString>& endings)
+    {
+        for (std::size_t i = 0; i < verdicts.size(); ++i)
+            page.boxes[i]->setChecked(endings.contains(verdicts[i].ending()));
+    }
+
+    void convert() { press(page.button_convert2); }
+};
+
+} // namespace
+
+class VerificationToolTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void savesTheReportOfBadSetsAtFirst()
+    {
+        Stage stage;
+        stage.desktop.answerSave("verifyroms_convert", stage.path("report.txt"));
+        stage.convert();
+        QCOMPARE(stage.desktop.transcript(), QStringList({"save verifyroms_convert", "sound st_ovenbell"}));
+        QCOMPARE(stage.desktop.saveRequests.front().title, "Save Verifyroms text");
+        QCOMPARE(stage.desktop.saveRequests.front().extensions, {"txt"});
+        QCOMPARE(stage.information(), "Saved a Verifyroms text.");
+        QCOMPARE(stage.read("report.txt"), "romset a is bad\n\n(is bad: 1)\n\n");
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void eachBoxHasItsSettingAndItsVerdict_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("key");
+        const auto row = [](const char* box, const char* ending) {
+            QTest::newRow(box) << QString(box) << QString("verifyromsButton_") + ending;
+        };
+        row("verifyButton1", "isgood");
+        row("verifyButton2", "isbesta");
+        row("verifyButton9", "iclength");
+        row("verifyButton10", "iccsum");
+        row("verifyButton3", "nredump");
+        row("verifyButton4", "ngdk");
+        row("verifyButton6", "isbad");
+        row("verifyButton7", "notfound");
+        row("verifyButton8", "nfsparent");
+        row("verifyButton_nfngd", "nfngd");
+        row("verifyButton_nfbo", "nfbo");
+        row("verifyButton5", "other");
+    }
+
+    void eachBoxHasItsSettingAndItsVerdict()
+    {
+        QFETCH(QString, box);
+        QFETCH(QString, key);
+        Stage stage;
+        stage.choose({});
+        auto* button = stage.window.findChild<QCheckBox*>(box);
+        button->click();
+        stage.defaults.synchronize();
+        QVERIFY(stage.read("settings.ini").contains((key + "=true").toLatin1()));
+        stage.desktop.answerSave("verifyroms_convert", stage.path("report.txt"));
+        stage.convert();
+        QCOMPARE(stage.read("report.txt"),
+                 test::plainVerification(printed, {key.mid(key.indexOf('_') + 1)}).toUtf8());
+        stage.desktop.takeTranscript();
+    }
+
+    void aMissingFileIsNamed()
+    {
+        Stage stage;
+        stage.page.verifyromsTextField->setText(stage.path("none"));
+        stage.convert();
+        QCOMPARE(stage.information(), "verifyroms.txt file is not found.");
+        QCOMPARE(stage.desktop.transcript(), {"beep"});
+    }
+
+    void withoutABoxThereIsNothing()
+    {
+        Stage stage;
+        stage.choose({});
+        stage.convert();
+        QCOMPARE(stage.information(), "Not found.");
+        QCOMPARE(stage.desktop.transcript(), {"beep"});
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void cancellingTheSavePanelIsSaid()
+    {
+        Stage stage;
+        stage.desktop.answerSave("verifyroms_convert", std::nullopt);
+        stage.convert();
+        QCOMPARE(stage.information(), "Cancel.");
+        QCOMPARE(stage.desktop.transcript(), {"save verifyroms_convert"});
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void aFailedWriteIsSaidWithoutABeep()
+    {
+        Stage stage;
+        const QString target = stage.path("none/%1.txt");
+        stage.desktop.answerSave("verifyroms_convert", target);
+        stage.convert();
+        QVERIFY2(stage.information().startsWith("Error writing file at " + target + " - "),
+                 qPrintable(stage.information()));
+        QCOMPARE(stage.desktop.transcript(), {"save verifyroms_convert"});
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void aFileThatCannotBeReadIsRefused()
+    {
+        Stage stage;
+        stage.page.verifyromsTextField->setText(stage.folder.path());
+        stage.convert();
+        QCOMPARE(stage.information(), "convert_not_read");
+        QCOMPARE(stage.desktop.transcript(), {"beep"});
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void cancellingTheJobAsksForNoFile()
+    {
+        Stage stage;
+        QTest::mouseClick(stage.page.button_convert2, Qt::LeftButton);
+        QVERIFY(stage.isIndicatorRunning());
+        QCOMPARE(stage.information(), "Now Extracting...");
+        stage.press(stage.foot.button_cancel);
+        QCOMPARE(stage.information(), "Cancel.");
+        QCOMPARE(stage.desktop.transcript(), QStringList());
+    }
+};
+
+TESSERA_TEST(VerificationToolTest);
+#include "verificationtooltest.moc"
