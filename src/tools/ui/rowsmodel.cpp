@@ -100,14 +100,14 @@ void RowsModel::arrange()
     std::iota(m_order.begin(), m_order.end(), std::size_t{0});
     if (m_sortColumn < 0)
         return;
-    const auto isBefore = [this](std::size_t a, std::size_t b) {
-        return m_sortColumn == NameColumn ? m_rows[a].name < m_rows[b].name
-                                          : m_rows[a].state < m_rows[b].state;
+    const auto order = [this](std::size_t a, std::size_t b) {
+        return m_sortColumn == NameColumn ? m_rows[a].name.compare(m_rows[b].name)
+                                          : m_rows[a].state.compare(m_rows[b].state);
     };
-    if (m_sortOrder == Qt::AscendingOrder)
-        std::ranges::stable_sort(m_order, isBefore);
-    else
-        std::ranges::stable_sort(m_order, [&](std::size_t a, std::size_t b) { return isBefore(b, a); });
+    std::ranges::sort(m_order, [&](std::size_t a, std::size_t b) {
+        const int result = m_sortOrder == Qt::AscendingOrder ? order(a, b) : order(b, a);
+        return result != 0 ? result < 0 : a < b;
+    });
 }
 
 } // namespace tessera
