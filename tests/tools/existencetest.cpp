@@ -12,6 +12,7 @@
 #include <random>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace tessera;
 
@@ -220,6 +221,21 @@ private Q_SLOTS:
         }
     }
 
+    void whereCaseIsIgnoredEachNameIsAsked()
+    {
+        touch("pong.zip");
+        const FolderSets read = FolderSets::read(roms());
+        // One file under both names, as where case is ignored.
+        QVERIFY(::link((roms() + "/pong.zip").toLocal8Bit().constData(),
+                       (roms() + "/PONG.ZIP").toLocal8Bit().constData())
+                == 0);
+        const FolderSets asking = FolderSets::read(roms());
+        touch("later.zip");
+        QVERIFY(!read.holds("later") && asking.holds("later"));
+        QVERIFY(read.holds("pong") && asking.holds("pong"));
+        QVERIFY(!asking.holds("gone"));
+    }
+
     void aFolderThatIsNotThereHoldsNothing()
     {
         const FolderSets sets = FolderSets::read(roms() + "/none");
@@ -241,7 +257,7 @@ private Q_SLOTS:
     {
         std::mt19937 random(20261121);
         const auto below = [&](unsigned n) { return random() % n; };
-        const auto name = [&] {
+        const auto name = [&]() -> QByteArray {
             return QByteArray(1, static_cast<char>('a' + below(6))) + QByteArray::number(below(40));
         };
         for (int i = 0; i < 90; ++i) {

@@ -100,14 +100,13 @@ void RowsModel::arrange()
     std::iota(m_order.begin(), m_order.end(), std::size_t{0});
     if (m_sortColumn < 0)
         return;
-    const auto compared = [this](std::size_t a, std::size_t b) {
+    const auto order = [this](std::size_t a, std::size_t b) {
         return m_sortColumn == NameColumn ? m_rows[a].name.compare(m_rows[b].name)
                                           : m_rows[a].state.compare(m_rows[b].state);
     };
-    // Rows that are equal keep their order.
     std::ranges::sort(m_order, [&](std::size_t a, std::size_t b) {
-        const int order = m_sortOrder == Qt::AscendingOrder ? compared(a, b) : compared(b, a);
-        return order != 0 ? order < 0 : a < b;
+        const int result = m_sortOrder == Qt::AscendingOrder ? order(a, b) : order(b, a);
+        return result != 0 ? result < 0 : a < b;
     });
 }
 
