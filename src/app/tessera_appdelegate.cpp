@@ -129,7 +129,6 @@ void Tessera_AppDelegate::loadInterface()
     m_mini = std::make_unique<MiniDesk>(m_catalogue, m_finding->finder(), m_defaults);
     m_switching = std::make_unique<WindowSwitching>(*m_mainWindow, m_mini->window(), m_favorites->window(),
                                                     [this] { m_gameList->tableViewSelectionDidChange(); });
-    m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
     m_rebuild = std::make_unique<CatalogueRebuild>(
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
         [this] { m_chooser->exeSelect(); });
@@ -168,7 +167,6 @@ void Tessera_AppDelegate::joinRooms()
             &LaunchController::prepareProfile);
     connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
     connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
             &MainWindow::setRebuilding);
@@ -203,6 +201,8 @@ void Tessera_AppDelegate::joinViews()
 {
     connect(m_launch.get(), &LaunchController::started, &m_favorites->played(),
             &PlayedController::notePlayed);
+    connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
+            [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
     connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
             &LaunchController::Launchusing);
     connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);
@@ -250,12 +250,21 @@ void Tessera_AppDelegate::randomForMini()
     m_mini->setGame(m_gameList->tableViewSelectionROM());
 }
 
+UtilityObject& Tessera_AppDelegate::utility()
+{
+    if (!m_utility) {
+        m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+        connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
+        m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
+    }
+    return *m_utility;
+}
+
 void Tessera_AppDelegate::keepWindowPlaces()
 {
     m_places.keep(m_favorites->window(), keys::FavoritesWindowGeometry.name.data());
     m_places.keep(m_mini->window(), keys::MiniWindowGeometry.name.data());
     m_places.keep(*m_logWindow, keys::LogWindowGeometry.name.data());
-    m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     m_places.keep(m_editing->editor(), keys::RecordEditorGeometry.name.data());
     m_places.keep(m_favorites->editing().editor(), keys::FavoritesEditorGeometry.name.data());
     m_places.keep(m_finding->panel(), keys::FilterPanelGeometry.name.data());
@@ -555,7 +564,7 @@ void Tessera_AppDelegate::showPrefsWindow()
 
 void Tessera_AppDelegate::utilityOrderFront()
 {
-    m_utility->utilityOrderFront();
+    utility().utilityOrderFront();
 }
 
 void Tessera_AppDelegate::makeTextBigger()

@@ -65,7 +65,8 @@ public:
     RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
-    UtilityObject& utility() { return *m_utility; }
+    /// Made when it is asked for first: a start of the program needs none of its pages.
+    UtilityObject& utility();
     FavoritesDesk& favorites() { return *m_favorites; }
     MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
