@@ -30,7 +30,6 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
                              GameListController& list,
                              std::function<QString(const QString& name)> commandLine, QObject* parent)
     : QObject(parent)
-    , m_defaults(defaults)
     , m_window(std::make_unique<FavoritesWindow>(defaults))
     , m_favourites(pathBeside(catalogue))
     , m_played(playedPath(m_favourites.path()))

@@ -54,7 +54,6 @@ private:
     void actOnEmptyList();
     void showRecentlyPlayed(bool only);
 
-    DefaultsController& m_defaults;
     std::unique_ptr<FavoritesWindow> m_window;
     Favourites m_favourites;
     PlayedGames m_played;

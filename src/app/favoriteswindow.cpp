@@ -87,10 +87,7 @@ QWidget* FavoritesWindow::makeToolRow()
     auto* row = new QWidget;
     row->setProperty("role", QStringLiteral("toolbar"));
     row->setAttribute(Qt::WA_StyledBackground);
-    playButton = new QPushButton(qtTrId("main_play"));
-    playButton->setIcon(theme::icon(QStringLiteral("play"), "onaccent"));
-    playButton->setObjectName(QStringLiteral("playButton"));
-    playButton->setProperty("role", QStringLiteral("accent"));
+    playButton = accentButton(QStringLiteral("play"), qtTrId("main_play"));
     stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
     stopButton->setEnabled(false);
     randomButton = toolButton(QStringLiteral("random"), qtTrId("main_random"));

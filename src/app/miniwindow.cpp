@@ -28,7 +28,7 @@ MiniWindow::MiniWindow(QWidget* parent)
     , emulatorLabel(new QLabel)
     , setnameTextField2(new QLineEdit)
     , randomButton(toolButton(QStringLiteral("random"), qtTrId("main_random")))
-    , playButton(new QPushButton(qtTrId("main_play")))
+    , playButton(accentButton(QStringLiteral("play"), qtTrId("main_play")))
     , aboveButton(toolButton(QStringLiteral("above"), qtTrId("mini_above")))
     , mainButton(toolButton(QStringLiteral("list"), qtTrId("mini_main")))
     , m_picture(new QLabel)
@@ -91,9 +91,6 @@ QLayout* MiniWindow::makeLauncher()
     completer->setCompletionRole(setRole);
     setnameTextField2->setCompleter(completer);
     randomButton->setObjectName(QStringLiteral("randomButton"));
-    playButton->setObjectName(QStringLiteral("playButton"));
-    playButton->setIcon(theme::icon(QStringLiteral("play"), "onaccent"));
-    playButton->setProperty("role", QStringLiteral("accent"));
     auto* launcher = new QHBoxLayout;
     launcher->setSpacing(8);
     launcher->addWidget(setnameTextField2, 1);

@@ -381,14 +381,18 @@ void Tessera_AppDelegate::saveAction()
 
 void Tessera_AppDelegate::undo()
 {
-    if (!m_rebuild->isRunning())
-        m_keyCommands->undoStack()->undo();
+    if (m_rebuild->isRunning())
+        return;
+    m_favorites->controller().commitEditing();
+    m_keyCommands->undoStack()->undo();
 }
 
 void Tessera_AppDelegate::redo()
 {
-    if (!m_rebuild->isRunning())
-        m_keyCommands->undoStack()->redo();
+    if (m_rebuild->isRunning())
+        return;
+    m_favorites->controller().commitEditing();
+    m_keyCommands->undoStack()->redo();
 }
 
 void Tessera_AppDelegate::editCell()

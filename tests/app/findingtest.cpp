@@ -459,6 +459,17 @@ private Q_SLOTS:
         QCOMPARE(finder().haveOf(4), std::optional(Have::Here));
     }
 
+    void aRemovalMeanwhileAsksTheRomFoldersAnew()
+    {
+        QTRY_COMPARE(finder().haveOf(2), std::optional(Have::Missing));
+        const QString roms = m_staged->path(QStringLiteral("roms"));
+        QVERIFY(QDir().mkpath(roms));
+        touch(QDir(roms).filePath(QStringLiteral("gradius3.zip")));
+        finder().setRomFolders(std::make_shared<RomFolders>(roms, QStringList()));
+        m_staged->app->catalogue().remove({0});
+        QTRY_COMPARE(finder().haveOf(1), std::optional(Have::Here));
+    }
+
     void theFactsMarkFollowsAnEdit()
     {
         QVERIFY(list().selectGame(QStringLiteral("jp")));

@@ -120,6 +120,7 @@ void GameFinder::follow(std::uint32_t record, Field field)
         m_search->replace(record, now);
     if (field == Field::Name || field == Field::Cloneof) {
         m_heads.clear();
+        askHavesAgain();
         if (record < m_haves.size()) {
             m_haves[record] = m_roms->have(now);
             if (m_search)
@@ -142,8 +143,7 @@ void GameFinder::takeOut(const std::vector<std::uint32_t>& records)
             m_haves.erase(m_haves.begin() + *record);
     }
     m_isAdjusted = true;
-    if (m_haves.empty())
-        askHaves();
+    askHavesAgain();
 }
 
 void GameFinder::putBack(const std::vector<std::uint32_t>& records)
@@ -158,8 +158,7 @@ void GameFinder::putBack(const std::vector<std::uint32_t>& records)
             m_haves.insert(m_haves.begin() + record, have);
     }
     m_isAdjusted = true;
-    if (m_haves.empty())
-        askHaves();
+    askHavesAgain();
 }
 
 std::vector<std::uint32_t> GameFinder::suggestions(const QString& text, std::size_t most)
@@ -351,10 +350,18 @@ void GameFinder::askHaves()
     });
 }
 
+// An answer that is under way tells of the records as they were.
+void GameFinder::askHavesAgain()
+{
+    if (m_havesAnswered != m_havesQuestion)
+        askHaves();
+}
+
 void GameFinder::takeHaves(int question, std::vector<Have> haves)
 {
     if (question != m_havesQuestion || haves.size() != m_catalogue.records().size())
         return;
+    m_havesAnswered = question;
     m_haves = std::move(haves);
     if (m_search)
         m_search->setHaves(m_haves);

@@ -83,6 +83,7 @@ private:
     void applyFamilies();
     const std::vector<std::uint32_t>& heads();
     void askHaves();
+    void askHavesAgain();
     void takeHaves(int question, std::vector<Have> haves);
 
     Catalogue& m_catalogue;
@@ -101,6 +102,7 @@ private:
     bool m_ranks = true; ///< until the user sorts what was found
     bool m_isAdjusted = false; ///< what is kept of the records already follows the coming content
     int m_havesQuestion = 0; ///< only the newest one is answered
+    int m_havesAnswered = 0; ///< the question that was answered last
     std::set<std::string, std::less<>> m_open; ///< set names of the heads of open families
     int m_generation = 0; ///< of the content that is searched
     std::stop_source m_folding;

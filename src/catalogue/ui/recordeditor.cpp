@@ -135,6 +135,13 @@ void RecordEditor::show(std::optional<std::uint32_t> record, std::span<const Gam
         each->setEnabled(record && editable);
 }
 
+// A field that goes away with its window loses the focus, and would be taken over by what is left of us.
+RecordEditor::~RecordEditor()
+{
+    for (const Row& row : m_rows)
+        row.edit->disconnect(this);
+}
+
 void RecordEditor::bringForward()
 {
     tessera::bringForward(*this);

@@ -21,6 +21,7 @@ class RecordEditor : public QWidget
 
 public:
     explicit RecordEditor(QWidget* parent = nullptr);
+    ~RecordEditor() override;
 
     QLineEdit* editSetname;
     QLineEdit* editTitle;
