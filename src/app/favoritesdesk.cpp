@@ -30,7 +30,7 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
                              GameListController& list,
                              std::function<QString(const QString& name)> commandLine, QObject* parent)
     : QObject(parent)
-    , m_window(std::make_unique<FavoritesWindow>(defaults))
+    , m_defaults(defaults)
     , m_favourites(pathBeside(catalogue))
     , m_played(playedPath(m_favourites.path()))
     , m_controller(
@@ -38,21 +38,43 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
     , m_editing(m_favourites, m_controller, std::move(commandLine))
     , m_playing(m_played, desktop, defaults)
 {
-    m_controller.setTable(m_window->favoritesTable);
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
-    connect(&m_controller, &UCAppController::selectionChanged, this, &FavoritesDesk::showSelection);
-    connect(&m_controller, &UCAppController::markChanged, m_window->factsPanel, &FactsPanel::showMark);
-    connect(&m_controller, &UCAppController::unsavedChanged, m_window.get(), &FavoritesWindow::showUnsaved);
-    connect(&m_controller, &UCAppController::countChanged, this, &FavoritesDesk::showCount);
-    connect(&m_controller, &UCAppController::statusMessage, m_window.get(), &FavoritesWindow::say);
-    joinWindow();
+    connect(&m_controller, &UCAppController::statusMessage, this, &FavoritesDesk::statusMessage);
 }
 
 FavoritesDesk::~FavoritesDesk() = default;
 
+FavoritesWindow& FavoritesDesk::window()
+{
+    if (m_window)
+        return *m_window;
+    m_window = std::make_unique<FavoritesWindow>(m_defaults);
+    joinWindow();
+    m_controller.setTable(m_window->favoritesTable);
+    m_controller.favorites_tableViewSort();
+    m_window->restore();
+    m_window->showUnsaved(!m_favourites.undoStack().isClean());
+    showCount();
+    showSelection();
+    m_controller.romStatus2();
+    Q_EMIT windowMade(*m_window);
+    return *m_window;
+}
+
+void FavoritesDesk::remember()
+{
+    if (m_window)
+        m_window->remember();
+}
+
 void FavoritesDesk::joinWindow()
 {
     FavoritesWindow& window = *m_window;
+    connect(&m_controller, &UCAppController::selectionChanged, this, &FavoritesDesk::showSelection);
+    connect(&m_controller, &UCAppController::markChanged, window.factsPanel, &FactsPanel::showMark);
+    connect(&m_controller, &UCAppController::unsavedChanged, &window, &FavoritesWindow::showUnsaved);
+    connect(&m_controller, &UCAppController::countChanged, this, &FavoritesDesk::showCount);
+    connect(this, &FavoritesDesk::statusMessage, &window, &FavoritesWindow::say);
     connect(window.playButton, &QPushButton::clicked, &m_controller,
             &UCAppController::tableViewDoubleAction2);
     connect(window.randomButton, &QToolButton::clicked, &m_controller, &UCAppController::gameShuffle2);
@@ -71,9 +93,6 @@ void FavoritesDesk::awakeFromNib()
 {
     m_playing.open();
     m_controller.awakeFromNib();
-    m_window->restore();
-    showCount();
-    showSelection();
 }
 
 void FavoritesDesk::showSelection()
@@ -99,7 +118,7 @@ void FavoritesDesk::actOnEmptyList()
 
 void FavoritesDesk::showRecentlyPlayed(bool only)
 {
-    m_window->recentChip->setChecked(only);
+    window().recentChip->setChecked(only);
     m_controller.showRecentlyPlayed(only);
     showCount();
 }

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-class QMenuBar;
+class QWidget;
 
 namespace tessera {
 
@@ -32,13 +32,16 @@ public:
                   QObject* parent = nullptr);
     ~FavoritesDesk() override;
 
-    FavoritesWindow& window() { return *m_window; }
+    /// Made when it is first asked for.
+    FavoritesWindow& window();
+    /// Where it was made, what it looks like goes into the settings.
+    void remember();
     UCAppController& controller() { return m_controller; }
     FavouriteEditing& editing() { return m_editing; }
     PlayedController& played() { return m_playing; }
     Favourites& favourites() { return m_favourites; }
 
-    /// Reads both files, and takes the columns up as they were left.
+    /// Reads both files.
     void awakeFromNib();
 
 Q_SIGNALS:
@@ -46,6 +49,8 @@ Q_SIGNALS:
     /// The empty window's button, or its own one: back to the game list.
     void mainWanted();
     void miniWanted();
+    void statusMessage(const QString& text);
+    void windowMade(QWidget& window);
 
 private:
     void joinWindow();
@@ -54,12 +59,13 @@ private:
     void actOnEmptyList();
     void showRecentlyPlayed(bool only);
 
-    std::unique_ptr<FavoritesWindow> m_window;
+    DefaultsController& m_defaults;
     Favourites m_favourites;
     PlayedGames m_played;
     UCAppController m_controller;
     FavouriteEditing m_editing;
     PlayedController m_playing;
+    std::unique_ptr<FavoritesWindow> m_window;
 };
 
 } // namespace tessera

@@ -29,10 +29,8 @@ Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& l
     , m_defaults(defaults)
     , m_emulator(std::move(emulator))
     , m_finder(catalogue, list, defaults)
-    , m_panel(std::make_unique<FilterPanel>())
 {
     joinField();
-    joinPanel();
     connect(&m_finder, &GameFinder::changed, this, &Finding::changed);
     connect(&m_finder, &GameFinder::countsChanged, window.chipBar, &ChipBar::setCounts);
     connect(window.chipBar, &ChipBar::chosen, &m_finder, &GameFinder::setChip);
@@ -70,12 +68,18 @@ void Finding::joinField()
     connect(m_window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
 
-void Finding::joinPanel()
+FilterPanel& Finding::panel()
 {
+    if (m_panel)
+        return *m_panel;
+    m_panel = std::make_unique<FilterPanel>();
     connect(m_panel.get(), &FilterPanel::rulesChanged, &m_finder, &GameFinder::setRules);
     connect(m_panel.get(), &FilterPanel::makerWanted, &m_finder, &GameFinder::setPredicate);
     connect(m_panel.get(), &FilterPanel::makerCleared, &m_finder, &GameFinder::clearPredicate);
     connect(&m_finder, &GameFinder::changed, this, [this] { m_panel->showMaker(m_finder.maker()); });
+    m_panel->showMaker(m_finder.maker());
+    Q_EMIT windowMade(*m_panel);
+    return *m_panel;
 }
 
 // What is wrong stands beside the chips; a term that is half typed is no complaint.
@@ -129,13 +133,14 @@ void Finding::readRomFolders()
 
 void Finding::showPredicatePanel()
 {
-    if (m_panel->isVisible()) {
-        m_panel->close();
+    FilterPanel& shown = panel();
+    if (shown.isVisible()) {
+        shown.close();
         return;
     }
-    if (m_panel->rowCount() == 0)
-        m_panel->addRow();
-    bringForward(*m_panel);
+    if (shown.rowCount() == 0)
+        shown.addRow();
+    bringForward(shown);
 }
 
 void Finding::focusSearch()
@@ -148,7 +153,8 @@ void Finding::focusSearch()
 void Finding::showAll()
 {
     m_window.searchField->clear();
-    m_panel->clear();
+    if (m_panel)
+        m_panel->clear();
     m_finder.showAll();
     m_window.chipBar->setChip(m_finder.chip());
     m_window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());

@@ -8,6 +8,8 @@
 #include <functional>
 #include <memory>
 
+class QWidget;
+
 namespace tessera {
 
 class FilterPanel;
@@ -27,7 +29,8 @@ public:
     ~Finding() override;
 
     GameFinder& finder() { return m_finder; }
-    FilterPanel& panel() { return *m_panel; }
+    /// Made when it is first asked for.
+    FilterPanel& panel();
     RomWatcher& roms() { return m_roms; }
     /// After the first paint: what a search needs, and the ROM folders.
     void prepare();
@@ -40,10 +43,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Which rows are shown, or why, or what is known of them.
     void changed();
+    void windowMade(QWidget& window);
 
 private:
     void joinField();
-    void joinPanel();
     void showQuery();
     void showSort();
     void takeProfile(const QString& executable, const ProfileAnswer& answer);

@@ -11,8 +11,6 @@ KeyCommands::KeyCommands(std::vector<Row> rows, std::function<void(const QString
     , m_rows(std::move(rows))
     , m_run(std::move(run))
 {
-    for (const Row& row : m_rows)
-        m_keyWindow.watch(*row.widget, row.window);
     connect(&m_keyWindow, &KeyWindow::changed, this, &KeyCommands::keyWindowChanged);
 }
 

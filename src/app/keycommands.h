@@ -20,7 +20,6 @@ public:
 
     struct Row {
         KeyWindow::Kind window;
-        QWidget* widget;
         Command random;
         Command home;
         Command end;
@@ -34,6 +33,8 @@ public:
     KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run,
                 QObject* parent = nullptr);
 
+    /// Each window, as soon as it is made.
+    void watch(QWidget& window, KeyWindow::Kind kind) { m_keyWindow.watch(window, kind); }
     KeyWindow::Kind keyWindow() const { return m_keyWindow.kind(); }
     /// Nothing to undo in a window without edits of its own: the catalogue's, which is the first row's.
     QUndoStack* undoStack() const;

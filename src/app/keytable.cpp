@@ -4,14 +4,9 @@
 #include "app/favoriteswindow.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
-#include "app/miniwindow.h"
-#include "app/preferenceswindow.h"
 #include "app/tessera_appdelegate.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
-#include "catalogue/ui/recordediting.h"
-#include "catalogue/ui/recordeditor.h"
-#include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
@@ -26,7 +21,8 @@ std::vector<KeyCommands::Row> keyTable(Tessera_AppDelegate& hub)
     GameListController& list = hub.gameList();
     UCAppController& favorites = hub.favorites().controller();
     GameTableView& table = *hub.mainWindow().gameTable;
-    GameTableView& table2 = *hub.favorites().window().favoritesTable;
+    // The window is there when it is key, and not before.
+    const auto table2 = [&hub] { return hub.favorites().window().favoritesTable; };
     QUndoStack* edits = &hub.catalogue().undoStack();
     QUndoStack* edits2 = &hub.favorites().favourites().undoStack();
     const auto page
@@ -41,13 +37,13 @@ std::vector<KeyCommands::Row> keyTable(Tessera_AppDelegate& hub)
     // Deliberate: in a window with text Home and End move by one page only, not to its top or end.
     // clang-format off
     return {
-        {Kind::Main,      &hub.mainWindow(),           [&list] { list.gameShuffle(); },            [&table] { table.scrollToTop(); },          [&table] { table.scrollToBottom(); },       game,                            remove,  save,  edits},
-        {Kind::Mini,      &hub.mini().window(),            [&hub] { hub.randomForMini(); },                nullptr,                                    nullptr,                                    [&hub] { return hub.mini().game(); }, nullptr, save,  edits},
-        {Kind::Favorites, &hub.favorites().window(),       [&favorites] { favorites.gameShuffle2(); }, [&table2] { table2.scrollToTop(); },        [&table2] { table2.scrollToBottom(); },     favorite,                        remove2, save2, edits2},
-        {Kind::Log,       &hub.logWindow(),            nullptr,                                    page(QAbstractSlider::SliderPageStepSub),   page(QAbstractSlider::SliderPageStepAdd),   nullptr,                         nullptr, save,  edits},
-        {Kind::Editor,    &hub.editing().editor(),         nullptr,                                    nullptr,                                    nullptr,                                    game,                            nullptr, save,  edits},
-        {Kind::FavoritesEditor, &hub.favorites().editing().editor(), nullptr,                          nullptr,                                    nullptr,                                    favorite,                        nullptr, save2, edits2},
-        {Kind::Other,     &hub.preferencesWindow(),    nullptr,                                    nullptr,                                    nullptr,                                    nullptr,                         nullptr, save,  edits},
+        {Kind::Main,            [&list] { list.gameShuffle(); },            [&table] { table.scrollToTop(); },        [&table] { table.scrollToBottom(); },        game,                                 remove,  save,  edits},
+        {Kind::Mini,            [&hub] { hub.randomForMini(); },            nullptr,                                  nullptr,                                     [&hub] { return hub.mini().game(); }, nullptr, save,  edits},
+        {Kind::Favorites,       [&favorites] { favorites.gameShuffle2(); }, [table2] { table2()->scrollToTop(); },    [table2] { table2()->scrollToBottom(); },    favorite,                             remove2, save2, edits2},
+        {Kind::Log,             nullptr,                                    page(QAbstractSlider::SliderPageStepSub), page(QAbstractSlider::SliderPageStepAdd),    nullptr,                              nullptr, save,  edits},
+        {Kind::Editor,          nullptr,                                    nullptr,                                  nullptr,                                     game,                                 nullptr, save,  edits},
+        {Kind::FavoritesEditor, nullptr,                                    nullptr,                                  nullptr,                                     favorite,                             nullptr, save2, edits2},
+        {Kind::Other,           nullptr,                                    nullptr,                                  nullptr,                                     nullptr,                              nullptr, save,  edits},
     };
     // clang-format on
 }

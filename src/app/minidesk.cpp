@@ -24,30 +24,42 @@ MiniDesk::MiniDesk(Catalogue& catalogue, GameFinder& finder, DefaultsController&
     , m_catalogue(catalogue)
     , m_finder(finder)
     , m_defaults(defaults)
-    , m_window(std::make_unique<MiniWindow>())
 {
-    connect(m_window->setnameTextField2, &QLineEdit::textEdited, this, &MiniDesk::suggest);
-    connect(m_window->setnameTextField2, &QLineEdit::textChanged, this, &MiniDesk::showTitle);
-    connect(m_window->aboveButton, &QToolButton::clicked, this, &MiniDesk::setAbove);
 }
 
 MiniDesk::~MiniDesk() = default;
 
-void MiniDesk::awakeFromNib()
+MiniWindow& MiniDesk::window()
 {
+    if (m_window)
+        return *m_window;
+    m_window = std::make_unique<MiniWindow>();
+    connect(m_window->setnameTextField2, &QLineEdit::textEdited, this, &MiniDesk::suggest);
+    connect(m_window->setnameTextField2, &QLineEdit::textChanged, this, &MiniDesk::showTitle);
+    connect(m_window->aboveButton, &QToolButton::clicked, this, &MiniDesk::setAbove);
     const bool above = m_defaults.defaults().flag(keys::MiniWindowAbove.name);
     m_window->aboveButton->setChecked(above);
     m_window->setAbove(above);
+    m_window->setEmulator(m_emulator);
+    Q_EMIT windowMade(*m_window);
+    return *m_window;
+}
+
+void MiniDesk::setEmulator(const QString& title)
+{
+    m_emulator = title;
+    if (m_window)
+        m_window->setEmulator(title);
 }
 
 QString MiniDesk::game() const
 {
-    return m_window->setnameTextField2->text();
+    return m_window ? m_window->setnameTextField2->text() : QString();
 }
 
 void MiniDesk::setGame(const QString& set)
 {
-    m_window->setnameTextField2->setText(set);
+    window().setnameTextField2->setText(set);
 }
 
 void MiniDesk::suggest(const QString& text)

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <memory>
+
+class QWidget;
 
 namespace tessera {
 
@@ -21,11 +24,16 @@ public:
              QObject* parent = nullptr);
     ~MiniDesk() override;
 
-    MiniWindow& window() { return *m_window; }
+    /// Made when it is first asked for.
+    MiniWindow& window();
     /// The text of its field.
     QString game() const;
     void setGame(const QString& set);
-    void awakeFromNib();
+    /// Names the kind of emulator.
+    void setEmulator(const QString& title);
+
+Q_SIGNALS:
+    void windowMade(QWidget& window);
 
 private:
     void suggest(const QString& text);
@@ -35,6 +43,7 @@ private:
     Catalogue& m_catalogue;
     GameFinder& m_finder;
     DefaultsController& m_defaults;
+    QString m_emulator;
     std::unique_ptr<MiniWindow> m_window;
 };
 

@@ -3,29 +3,18 @@
 #include "app/cataloguerebuild.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
-#include "app/favoriteswindow.h"
 #include "app/finding.h"
 #include "app/keycommands.h"
-#include "app/keytable.h"
-#include "app/mainmenu.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
-#include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
-#include "app/rebuildstrip.h"
 #include "app/windowswitching.h"
-#include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
-#include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
-#include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
-#include "catalogue/ui/recordeditor.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
-#include "favourites/ui/favouriteeditor.h"
-#include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
 #include "launch/ui/generalpage.h"
@@ -34,15 +23,13 @@
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
 #include "launch/ui/miscpage.h"
-#include "launch/ui/optionpage.h"
 #include "launch/ui/pathchooser.h"
 #include "platform/desktop.h"
 #include "platform/recentdocuments.h"
 #include "tools/ui/utilityobject.h"
-#include "tools/ui/utilitywindow.h"
 #include "widgets/bringforward.h"
+#include "widgets/firstpaint.h"
 #include "widgets/menusearch.h"
-#include "widgets/theme.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -53,9 +40,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTimer>
-#include <QToolButton>
 
 namespace tessera {
 
@@ -79,9 +64,11 @@ void Tessera_AppDelegate::run(const QString& file)
     awakeFromNib();
     m_mainWindow->show();
     applicationDidFinishLaunching();
-    // After the first paint: the emulator's options, asked of it once, so that no launch waits for them.
-    QTimer::singleShot(0, m_finding.get(), &Finding::prepare);
-    QTimer::singleShot(0, m_launch.get(), &LaunchController::prepareProfile);
+    // The emulator's options are asked of it once, so that no launch waits for them.
+    afterFirstPaint(*m_mainWindow, [this] {
+        m_finding->prepare();
+        m_launch->prepareProfile();
+    });
     if (m_buildWanted)
         QTimer::singleShot(0, m_rebuild.get(), &CatalogueRebuild::build);
     application_openFile(file);
@@ -94,180 +81,10 @@ void Tessera_AppDelegate::initialize()
     m_defaults.defaults().synchronize();
 }
 
-void Tessera_AppDelegate::loadInterface()
-{
-    m_mainWindow = std::make_unique<MainWindow>(m_defaults);
-    fillMainMenu(*m_mainWindow->menuBar(), *this);
-    // Here it costs least: the main window's widgets take it together, the others when they are first shown.
-    theme::applyStyleSheet(*qApp);
-    m_logWindow = std::make_unique<LogWindow>();
-    m_preferencesWindow = std::make_unique<PreferencesWindow>();
-    m_pages = std::make_unique<LaunchPages>(m_defaults, [] { return findEmulator(); });
-    m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
-    m_pages->general().setChooser(*m_chooser);
-    for (OptionPage* page : m_pages->all())
-        m_preferencesWindow->addPage(page, page->title(), page->icon());
-    addAppearancePage();
-
-    m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
-    m_gameList->setTable(m_mainWindow->gameTable);
-    m_task = std::make_unique<EmulatorTask>();
-    m_profiles = std::make_unique<ProfileCache>();
-    // Before the editing: what a search keeps of the records follows a removal first.
-    m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
-                                          [this] { return m_pages->general().emulator(); });
-    m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
-    m_launch = std::make_unique<LaunchController>(LaunchParts{
-        m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
-        SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
-                         [this] { return m_gameList->tableViewSelectionTitleE(); },
-                         [this] { return m_gameList->tableViewSelectionTitleJ(); }},
-        [this](const QString& name) { return m_favorites->controller().search_priorityOption(name); }});
-    m_favorites = std::make_unique<FavoritesDesk>(
-        m_desktop, m_defaults, m_catalogue, *m_gameList,
-        [this](const QString& name) { return m_launch->shownCommandLine(name); });
-    m_mini = std::make_unique<MiniDesk>(m_catalogue, m_finding->finder(), m_defaults);
-    m_switching = std::make_unique<WindowSwitching>(*m_mainWindow, m_mini->window(), m_favorites->window(),
-                                                    [this] { m_gameList->tableViewSelectionDidChange(); });
-    m_rebuild = std::make_unique<CatalogueRebuild>(
-        m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
-        [this] { m_chooser->exeSelect(); });
-    m_keyCommands
-        = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
-    keepWindowPlaces();
-    joinRooms();
-    joinViews();
-    openCatalogue();
-}
-
-void Tessera_AppDelegate::addAppearancePage()
-{
-    auto* page = new AppearancePage(m_defaults);
-    m_preferencesWindow->addPage(page, qtTrId("page_appearance"), QStringLiteral("appearance"));
-    m_tableFont = std::make_unique<TableFont>(m_desktop, m_defaults, *page);
-    m_rowColors = std::make_unique<RowColors>(m_desktop, m_defaults, *page);
-}
-
-void Tessera_AppDelegate::joinRooms()
-{
-    connect(m_gameList.get(), &GameListController::launchRequested, m_launch.get(),
-            &LaunchController::Launchusing);
-    connect(m_gameList.get(), &GameListController::selectionChanged, this,
-            &Tessera_AppDelegate::showSelection);
-    connect(m_gameList.get(), &GameListController::markChanged, m_mainWindow->factsPanel,
-            &FactsPanel::showMark);
-    connect(m_gameList.get(), &GameListController::countChanged, this, &Tessera_AppDelegate::showCount);
-    connect(&m_catalogue, &Catalogue::recordChanged, this, &Tessera_AppDelegate::showSelection);
-    connect(m_launch.get(), &LaunchController::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_launch.get(), &LaunchController::runningChanged, m_mainWindow.get(), &MainWindow::setRunning);
-    connect(m_chooser.get(), &PathChooser::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(&m_defaults, &DefaultsController::changed, this, &Tessera_AppDelegate::settingChanged);
-    connect(m_chooser.get(), &PathChooser::chosen, m_launch.get(), &LaunchController::prepareProfile);
-    connect(&m_pages->general(), &GeneralPage::emulatorFound, m_launch.get(),
-            &LaunchController::prepareProfile);
-    connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
-    connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
-            &MainWindow::setRebuilding);
-    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_editing.get(),
-            [this](bool running) { m_editing->setEnabled(!running); });
-    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_gameList->model(),
-            &GameTableModel::setLocked);
-    connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
-            [this](bool running) { m_mainWindow->offerRebuild(!running && m_rebuild->isOutdated()); });
-
-    connect(m_mainWindow.get(), &MainWindow::closeRequested, this, &Tessera_AppDelegate::terminate);
-    connect(m_mainWindow->gameTable, &GameTableView::doubleAction, m_gameList.get(),
-            &GameListController::tableViewDoubleAction);
-    connect(m_finding.get(), &Finding::changed, this, &Tessera_AppDelegate::showCount);
-    connect(m_finding.get(), &Finding::changed, this, &Tessera_AppDelegate::showSelection);
-    connect(m_mainWindow->randomButton, &QToolButton::clicked, m_gameList.get(),
-            &GameListController::gameShuffle);
-    connect(m_mainWindow->emptyState, &EmptyState::acted, this, &Tessera_AppDelegate::actOnEmptyList);
-    connect(m_mainWindow->playButton, &QPushButton::clicked, this, &Tessera_AppDelegate::playSelected);
-    connect(m_mainWindow->stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
-    connect(m_mainWindow->logButton, &QToolButton::clicked, this, &Tessera_AppDelegate::showLogWindow);
-    connect(m_mainWindow->toolsButton, &QToolButton::clicked, this, &Tessera_AppDelegate::utilityOrderFront);
-    connect(m_mainWindow->preferencesButton, &QToolButton::clicked, this,
-            &Tessera_AppDelegate::showPrefsWindow);
-    connect(m_mainWindow->rebuildButton, &QPushButton::clicked, this, &Tessera_AppDelegate::rebuildCatalogue);
-    connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
-            &Tessera_AppDelegate::DefaultAction);
-    connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
-}
-
-void Tessera_AppDelegate::joinViews()
-{
-    connect(m_launch.get(), &LaunchController::started, &m_favorites->played(),
-            &PlayedController::notePlayed);
-    connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
-            [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
-    connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
-            &LaunchController::Launchusing);
-    connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);
-    connect(m_favorites.get(), &FavoritesDesk::miniWanted, this, &Tessera_AppDelegate::windowMini);
-    connect(m_mainWindow->favoritesButton, &QToolButton::clicked, this,
-            &Tessera_AppDelegate::windowFavorites);
-    FavoritesWindow& favorites = m_favorites->window();
-    favorites.takeMenus(*m_mainWindow->menuBar());
-    connect(favorites.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
-    connect(m_launch.get(), &LaunchController::runningChanged, &favorites, &FavoritesWindow::setRunning);
-    connect(m_launch.get(), &LaunchController::statusMessage, &favorites, &FavoritesWindow::say);
-
-    MiniWindow& mini = m_mini->window();
-    connect(&mini, &MiniWindow::playRequested, this, [this] { runGame(m_mini->game()); });
-    connect(mini.randomButton, &QToolButton::clicked, this, &Tessera_AppDelegate::randomForMini);
-    connect(mini.mainButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowMain);
-    connect(&mini, &TransparentWindow::orderedOut, this, &Tessera_AppDelegate::windowMain);
-    // Without a menu bar of its own a window still takes the menus' keys.
-    for (QWidget* window : std::initializer_list<QWidget*>{&mini, m_logWindow.get()})
-        carryMenuKeys(*m_mainWindow->menuBar(), *window);
-
-    // For as long as there are menus: a stack's own end, too, tells that there is nothing left to undo.
-    QObject* keys = m_keyCommands.get();
-    const auto follow = [this] { followUndo(); };
-    connect(m_keyCommands.get(), &KeyCommands::keyWindowChanged, keys, follow);
-    for (QUndoStack* stack : {&m_catalogue.undoStack(), &m_favorites->favourites().undoStack()}) {
-        connect(stack, &QUndoStack::canUndoChanged, keys, follow);
-        connect(stack, &QUndoStack::canRedoChanged, keys, follow);
-    }
-    followUndo();
-}
-
-// Undo and Redo are dim while there is nothing to undo or redo in the key window.
-void Tessera_AppDelegate::followUndo()
-{
-    const QUndoStack& stack = *m_keyCommands->undoStack();
-    const QMenuBar& bar = *m_mainWindow->menuBar();
-    bar.findChild<QAction*>(QStringLiteral("menu_undo"))->setEnabled(stack.canUndo());
-    bar.findChild<QAction*>(QStringLiteral("menu_redo"))->setEnabled(stack.canRedo());
-}
-
 void Tessera_AppDelegate::randomForMini()
 {
     m_gameList->gameShuffle();
     m_mini->setGame(m_gameList->tableViewSelectionROM());
-}
-
-UtilityObject& Tessera_AppDelegate::utility()
-{
-    if (!m_utility) {
-        m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
-        connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
-        m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
-    }
-    return *m_utility;
-}
-
-void Tessera_AppDelegate::keepWindowPlaces()
-{
-    m_places.keep(m_favorites->window(), keys::FavoritesWindowGeometry.name.data());
-    m_places.keep(m_mini->window(), keys::MiniWindowGeometry.name.data());
-    m_places.keep(*m_logWindow, keys::LogWindowGeometry.name.data());
-    m_places.keep(m_editing->editor(), keys::RecordEditorGeometry.name.data());
-    m_places.keep(m_favorites->editing().editor(), keys::FavoritesEditorGeometry.name.data());
-    m_places.keep(m_finding->panel(), keys::FilterPanelGeometry.name.data());
 }
 
 void Tessera_AppDelegate::openCatalogue()
@@ -288,7 +105,6 @@ void Tessera_AppDelegate::awakeFromNib()
     m_mainWindow->restore();
     m_gameList->main_tableViewSort();
     m_favorites->awakeFromNib();
-    m_mini->awakeFromNib();
 }
 
 void Tessera_AppDelegate::applicationDidFinishLaunching()
@@ -601,7 +417,7 @@ void Tessera_AppDelegate::Setwindowtitle()
 {
     m_mainWindow->setWindowTitle(QStringLiteral("Tessera  |  ")
                                  + m_pages->general().launchusingPop->currentText());
-    m_mini->window().setEmulator(m_pages->general().launchusingPop->currentText());
+    m_mini->setEmulator(m_pages->general().launchusingPop->currentText());
 }
 
 void Tessera_AppDelegate::terminate()
@@ -646,7 +462,7 @@ void Tessera_AppDelegate::applicationWillTerminate()
     m_launch->stopProcess();
     m_favorites->controller().saveFavorites();
     m_mainWindow->remember();
-    m_favorites->window().remember();
+    m_favorites->remember();
     m_places.remember();
     m_defaults.defaults().synchronize();
 }

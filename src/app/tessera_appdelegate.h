@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/keywindow.h"
 #include "app/windowplaces.h"
 #include "catalogue/catalogue.h"
 #include "platform/defaultscontroller.h"
@@ -130,7 +131,10 @@ private:
     void addAppearancePage();
     void joinRooms();
     void joinViews();
-    void keepWindowPlaces();
+    void joinWindow(QWidget& window, KeyWindow::Kind kind, const char* place);
+    void joinWindows();
+    void joinFavoritesWindow();
+    void joinMiniWindow();
     void followUndo();
     void runGame(const QString& game);
     void openCatalogue();

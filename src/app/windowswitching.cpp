@@ -13,13 +13,18 @@ void takePlace(QWidget& window, const QWidget& from)
     window.setWindowState(from.windowState() & ~Qt::WindowMinimized);
 }
 
+void hide(QWidget* window)
+{
+    if (window != nullptr)
+        window->hide();
+}
+
 } // namespace
 
-WindowSwitching::WindowSwitching(QWidget& main, QWidget& mini, QWidget& favorites,
-                                 std::function<void()> refresh)
+WindowSwitching::WindowSwitching(QWidget& main, Maker mini, Maker favorites, std::function<void()> refresh)
     : m_main(main)
-    , m_mini(mini)
-    , m_favorites(favorites)
+    , m_makeMini(std::move(mini))
+    , m_makeFavorites(std::move(favorites))
     , m_refresh(std::move(refresh))
 {
 }
@@ -29,33 +34,37 @@ void WindowSwitching::windowMain()
 {
     m_refresh();
     windowAdjustment();
-    m_mini.hide();
-    m_favorites.hide();
+    hide(m_mini);
+    hide(m_favorites);
     bringForward(m_main);
 }
 
 void WindowSwitching::windowFavorites()
 {
     m_refresh();
+    m_favorites = &m_makeFavorites();
     windowAdjustment();
     m_main.hide();
-    m_mini.hide();
-    bringForward(m_favorites);
+    hide(m_mini);
+    bringForward(*m_favorites);
 }
 
 void WindowSwitching::windowMini()
 {
+    m_mini = &m_makeMini();
     m_main.hide();
-    m_favorites.hide();
-    bringForward(m_mini);
+    hide(m_favorites);
+    bringForward(*m_mini);
 }
 
 void WindowSwitching::windowAdjustment()
 {
+    if (m_favorites == nullptr)
+        return;
     if (m_main.isVisible())
-        takePlace(m_favorites, m_main);
-    else if (m_favorites.isVisible())
-        takePlace(m_main, m_favorites);
+        takePlace(*m_favorites, m_main);
+    else if (m_favorites->isVisible())
+        takePlace(m_main, *m_favorites);
 }
 
 } // namespace tessera

@@ -10,8 +10,11 @@ namespace tessera {
 class WindowSwitching
 {
 public:
-    /// `refresh` makes picture and status mark follow the present selection.
-    WindowSwitching(QWidget& main, QWidget& mini, QWidget& favorites, std::function<void()> refresh);
+    using Maker = std::function<QWidget&()>;
+
+    /// Mini and favourites window are made when they are first shown. `refresh` makes picture and status mark
+    /// follow the present selection.
+    WindowSwitching(QWidget& main, Maker mini, Maker favorites, std::function<void()> refresh);
 
     void windowMain();
     void windowMini();
@@ -21,8 +24,10 @@ public:
 
 private:
     QWidget& m_main;
-    QWidget& m_mini;
-    QWidget& m_favorites;
+    Maker m_makeMini;
+    Maker m_makeFavorites;
+    QWidget* m_mini = nullptr; ///< once it was shown, like the other
+    QWidget* m_favorites = nullptr;
     std::function<void()> m_refresh;
 };
 

@@ -7,6 +7,7 @@
 #include "app/miniwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/recordediting.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
 #include "launch/ui/logview.h"
@@ -14,6 +15,7 @@
 #include "support/testmain.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -38,6 +40,38 @@ private Q_SLOTS:
     }
 
     void cleanup() { m_staged.reset(); }
+
+    void aWindowIsMadeWhenItIsFirstAskedFor()
+    {
+        const auto made = [] {
+            QStringList names;
+            for (const QWidget* window : QApplication::topLevelWidgets())
+                names << QString::fromLatin1(window->metaObject()->className());
+            return names;
+        };
+        const QStringList later{
+            QStringLiteral("tessera::FavoritesWindow"), QStringLiteral("tessera::MiniWindow"),
+            QStringLiteral("tessera::RecordEditor"), QStringLiteral("tessera::FavouriteEditor"),
+            QStringLiteral("tessera::FilterPanel")};
+        for (const QString& name : later)
+            QVERIFY2(!made().contains(name), qPrintable(name));
+        m_staged->app->windowFavorites();
+        m_staged->app->favorites().editing().editRecord();
+        m_staged->app->windowMini();
+        m_staged->app->windowMain();
+        m_staged->app->editing().editRecord();
+        m_staged->app->showPredicatePanel();
+        for (const QString& name : later)
+            QVERIFY2(made().contains(name), qPrintable(name));
+    }
+
+    void aFavouriteAddedUnseenIsInTheWindow()
+    {
+        add("pong");
+        m_staged->app->windowFavorites();
+        QCOMPARE(favorites().favoritesTable->model()->rowCount(), 1);
+        QVERIFY(favorites().saveButton->isVisible());
+    }
 
     void theFavouritesTakeTheMainWindowsPlaceAndGiveItBack()
     {

@@ -221,6 +221,33 @@ private Q_SLOTS:
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), selected);
     }
 
+    void whatIsSelectedIsKnownBeforeTheWindowIsMade()
+    {
+        m_staged->writeFile(threeEntries);
+        m_staged->defaults.setValue(keys::FavoriteTable.name, 1);
+        m_staged->startUnseen();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
+        m_staged->selectedGame = &pong;
+        m_staged->controller->addFavorite();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
+        m_staged->controller->saveFavorites();
+        QCOMPARE(m_staged->storedSelection().toInt(), 2);
+        m_staged->showTable();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
+        QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(1));
+    }
+
+    void aRandomFavouriteNeedsNoWindow()
+    {
+        m_staged->writeFile(threeEntries);
+        m_staged->startUnseen();
+        m_staged->controller->gameShuffle2();
+        const QString drawn = m_staged->controller->tableViewSelectionROM2();
+        QVERIFY(!drawn.isEmpty());
+        m_staged->showTable();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), drawn);
+    }
+
     void theFileKeepsTheContentsOrder()
     {
         m_staged->writeFile(threeEntries);

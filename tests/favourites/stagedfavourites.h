@@ -43,16 +43,25 @@ public:
     }
     QByteArray file() const { return bytesOf(favourites.path()); }
 
-    /// Start-up as the program does it.
+    /// Start-up as the program does it: the window is made when it is first shown.
     void start()
     {
-        table = std::make_unique<FavouritesTable>(controls);
+        startUnseen();
+        showTable();
+    }
+    void startUnseen()
+    {
         controller = std::make_unique<UCAppController>(FavouritesParts{
             desktop, controls, favourites, played, catalogue, [this] { return selectedGame; }});
+        controller->awakeFromNib();
+    }
+    void showTable()
+    {
+        table = std::make_unique<FavouritesTable>(controls);
         controller->setTable(table.get());
+        controller->favorites_tableViewSort();
         table->resize(800, 300);
         table->show();
-        controller->awakeFromNib();
     }
 
     QStringList shownNames() const

@@ -15,39 +15,48 @@ RecordEditing::RecordEditing(Catalogue& catalogue, Desktop& desktop, GameListCon
     , m_catalogue(catalogue)
     , m_desktop(desktop)
     , m_list(list)
-    , m_editor(std::make_unique<RecordEditor>())
 {
     connect(&list, &GameListController::selectionChanged, this, &RecordEditing::showSelection);
     connect(&catalogue, &Catalogue::recordChanged, this, &RecordEditing::showSelection);
     connect(&catalogue, &Catalogue::removed, this, &RecordEditing::removed);
     connect(&catalogue, &Catalogue::putBackAt, this, &RecordEditing::putBack);
-    connect(m_editor.get(), &RecordEditor::edited, &catalogue, &Catalogue::setValue);
-    connect(m_editor->editRemove, &QPushButton::clicked, this, &RecordEditing::removeRecord);
-    connect(m_editor->previousButton, &QPushButton::clicked, &list, [&list] { list.selectNeighbour(-1); });
-    connect(m_editor->nextButton, &QPushButton::clicked, &list, [&list] { list.selectNeighbour(1); });
 }
 
 RecordEditing::~RecordEditing() = default;
 
+RecordEditor& RecordEditing::editor()
+{
+    if (m_editor)
+        return *m_editor;
+    m_editor = std::make_unique<RecordEditor>();
+    connect(m_editor.get(), &RecordEditor::edited, &m_catalogue, &Catalogue::setValue);
+    connect(m_editor->editRemove, &QPushButton::clicked, this, &RecordEditing::removeRecord);
+    connect(m_editor->previousButton, &QPushButton::clicked, &m_list, [this] { m_list.selectNeighbour(-1); });
+    connect(m_editor->nextButton, &QPushButton::clicked, &m_list, [this] { m_list.selectNeighbour(1); });
+    showSelection();
+    Q_EMIT windowMade(*m_editor);
+    return *m_editor;
+}
+
 void RecordEditing::setEnabled(bool enabled)
 {
     m_enabled = enabled;
-    if (!enabled)
+    if (!enabled && m_editor)
         m_editor->close();
     showSelection();
 }
 
 void RecordEditing::commitEditing()
 {
-    m_editor->commit();
+    if (m_editor)
+        m_editor->commit();
 }
 
 void RecordEditing::editRecord()
 {
     if (!m_enabled)
         return;
-    showSelection();
-    m_editor->bringForward();
+    editor().bringForward();
 }
 
 // What is selected at the answer is what was selected at the question: the alert is modal.
@@ -68,7 +77,8 @@ void RecordEditing::removeRecord()
 
 void RecordEditing::showSelection()
 {
-    m_editor->show(m_list.firstSelected(), m_catalogue.records(), m_enabled);
+    if (m_editor)
+        m_editor->show(m_list.firstSelected(), m_catalogue.records(), m_enabled);
 }
 
 // The row that took the place of the first one is selected, so that several can be removed in a row.

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QWidget;
+
 namespace tessera {
 
 class Catalogue;
@@ -21,7 +23,8 @@ public:
                   QObject* parent = nullptr);
     ~RecordEditing() override;
 
-    RecordEditor& editor() { return *m_editor; }
+    /// Made when it is first asked for.
+    RecordEditor& editor();
     /// While a catalogue is being built the old one is not edited.
     void setEnabled(bool enabled);
     void commitEditing();
@@ -29,6 +32,9 @@ public:
 public Q_SLOTS:
     void editRecord();
     void removeRecord();
+
+Q_SIGNALS:
+    void windowMade(QWidget& window);
 
 private:
     void showSelection();

@@ -14,33 +14,44 @@ FavouriteEditing::FavouriteEditing(Favourites& favourites, UCAppController& cont
     , m_favourites(favourites)
     , m_controller(controller)
     , m_commandLine(std::move(commandLine))
-    , m_editor(std::make_unique<FavouriteEditor>())
 {
     connect(&controller, &UCAppController::selectionChanged, this, &FavouriteEditing::showSelection);
     connect(&controller, &UCAppController::commitRequested, this, &FavouriteEditing::commitEditing);
-    connect(m_editor.get(), &FavouriteEditor::edited, &favourites, &Favourites::setValue);
-    connect(m_editor->removeButton, &QPushButton::clicked, &controller,
-            &UCAppController::removeFavoritesTable);
-    connect(m_editor->previousButton, &QPushButton::clicked, this, [this] { selectNeighbour(-1); });
-    connect(m_editor->nextButton, &QPushButton::clicked, this, [this] { selectNeighbour(1); });
-    showSelection();
 }
 
 FavouriteEditing::~FavouriteEditing() = default;
 
+FavouriteEditor& FavouriteEditing::editor()
+{
+    if (m_editor)
+        return *m_editor;
+    m_editor = std::make_unique<FavouriteEditor>();
+    connect(m_editor.get(), &FavouriteEditor::edited, &m_favourites, &Favourites::setValue);
+    connect(m_editor->removeButton, &QPushButton::clicked, &m_controller,
+            &UCAppController::removeFavoritesTable);
+    connect(m_editor->previousButton, &QPushButton::clicked, this, [this] { selectNeighbour(-1); });
+    connect(m_editor->nextButton, &QPushButton::clicked, this, [this] { selectNeighbour(1); });
+    showSelection();
+    Q_EMIT windowMade(*m_editor);
+    return *m_editor;
+}
+
 void FavouriteEditing::commitEditing()
 {
-    m_editor->commit();
+    if (m_editor)
+        m_editor->commit();
 }
 
 void FavouriteEditing::editRecord()
 {
-    m_editor->bringForward();
+    editor().bringForward();
     showSelection();
 }
 
 void FavouriteEditing::showSelection()
 {
+    if (!m_editor)
+        return;
     const auto favourite = m_controller.selection().first();
     m_editor->show(favourite, m_favourites);
     const bool isShown = favourite && m_editor->isVisible();

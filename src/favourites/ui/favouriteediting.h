@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+class QWidget;
+
 namespace tessera {
 
 class Favourites;
@@ -22,12 +24,16 @@ public:
                      std::function<QString(const QString& name)> commandLine, QObject* parent = nullptr);
     ~FavouriteEditing() override;
 
-    FavouriteEditor& editor() { return *m_editor; }
+    /// Made when it is first asked for.
+    FavouriteEditor& editor();
     void commitEditing();
 
 public Q_SLOTS:
     /// Brings the editor forward.
     void editRecord();
+
+Q_SIGNALS:
+    void windowMade(QWidget& window);
 
 private:
     void showSelection();

@@ -4,17 +4,31 @@
 #include <QTableView>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace tessera {
 
+void FavouriteSelection::setTable(QTableView* table)
+{
+    m_table = table;
+    selectFavourites(std::exchange(m_waiting, {}));
+}
+
 int FavouriteSelection::firstRow() const
 {
-    if (m_table == nullptr)
-        return -1;
     int first = -1;
+    const auto take = [&](int row) { first = first < 0 ? row : std::min(first, row); };
+    if (m_table == nullptr) {
+        for (const std::uint32_t favourite : m_waiting) {
+            if (const auto row = m_list.rowOf(favourite))
+                take(static_cast<int>(*row));
+        }
+        return first;
+    }
     for (const QItemSelectionRange& range : m_table->selectionModel()->selection()) {
-        if (range.isValid() && (first < 0 || range.top() < first))
-            first = range.top();
+        if (range.isValid())
+            take(range.top());
     }
     return first;
 }
@@ -27,9 +41,9 @@ std::optional<std::uint32_t> FavouriteSelection::first() const
 
 std::vector<std::uint32_t> FavouriteSelection::favourites() const
 {
-    std::vector<std::uint32_t> favourites;
     if (m_table == nullptr)
-        return favourites;
+        return m_waiting;
+    std::vector<std::uint32_t> favourites;
     for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
         favourites.push_back(m_list.rows()[static_cast<std::size_t>(row.row())]);
     std::ranges::sort(favourites);
@@ -38,10 +52,15 @@ std::vector<std::uint32_t> FavouriteSelection::favourites() const
 
 void FavouriteSelection::selectRow(qint64 row)
 {
-    if (m_table == nullptr)
+    const bool isThere = row >= 0 && row < static_cast<qint64>(m_list.size());
+    if (m_table == nullptr) {
+        m_waiting.clear();
+        if (isThere)
+            m_waiting.push_back(m_list.rows()[static_cast<std::size_t>(row)]);
         return;
+    }
     m_table->clearSelection();
-    if (row < 0 || row >= static_cast<qint64>(m_list.size()))
+    if (!isThere)
         return;
     m_table->selectRow(static_cast<int>(row));
     m_table->scrollTo(m_table->model()->index(static_cast<int>(row), 0), QAbstractItemView::PositionAtCenter);
@@ -49,8 +68,13 @@ void FavouriteSelection::selectRow(qint64 row)
 
 void FavouriteSelection::selectFavourites(const std::vector<std::uint32_t>& favourites)
 {
-    if (m_table == nullptr)
+    if (m_table == nullptr) {
+        m_waiting.clear();
+        std::ranges::copy_if(favourites, std::back_inserter(m_waiting),
+                             [this](std::uint32_t each) { return m_list.rowOf(each).has_value(); });
+        std::ranges::sort(m_waiting);
         return;
+    }
     QItemSelection selection;
     QModelIndex first;
     for (const std::uint32_t favourite : favourites) {

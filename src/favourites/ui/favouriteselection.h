@@ -8,7 +8,8 @@ class QTableView;
 
 namespace tessera {
 
-/// The selected rows of the favourites table, and the favourites in them.
+/// The selected rows of the favourites table, and the favourites in them. They are known before there is a
+/// table.
 class FavouriteSelection
 {
 public:
@@ -17,7 +18,8 @@ public:
     {
     }
 
-    void setTable(QTableView* table) { m_table = table; }
+    /// The table takes the selection over.
+    void setTable(QTableView* table);
 
     /// -1 where nothing is selected.
     int firstRow() const;
@@ -33,6 +35,7 @@ public:
 private:
     const ArrangedList& m_list;
     QTableView* m_table = nullptr;
+    std::vector<std::uint32_t> m_waiting; ///< as long as there is no table
 };
 
 } // namespace tessera

@@ -163,6 +163,8 @@ void UCAppController::favorites_tableViewSort()
 {
     if (m_table != nullptr)
         m_table->sortByColumn(0, Qt::AscendingOrder);
+    else
+        m_model->sort(0, Qt::AscendingOrder);
 }
 
 void UCAppController::gameShuffle2()

@@ -1,0 +1,43 @@
+#include "widgets/firstpaint.h"
+#include "support/testmain.h"
+
+#include <QWidget>
+
+using namespace tessera;
+
+class FirstPaintTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void itRunsOnceAfterThePaint()
+    {
+        QWidget window;
+        int runs = 0;
+        afterFirstPaint(window, [&] { ++runs; });
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 0);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_COMPARE(runs, 1);
+        window.repaint();
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 1);
+    }
+
+    void aWindowThatGoesTakesItAlong()
+    {
+        int runs = 0;
+        {
+            QWidget window;
+            afterFirstPaint(window, [&] { ++runs; });
+            window.show();
+            window.repaint();
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(runs, 0);
+    }
+};
+
+TESSERA_TEST(FirstPaintTest);
+#include "firstpainttest.moc"
