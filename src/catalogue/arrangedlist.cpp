@@ -34,13 +34,14 @@ RecordSet recordsWhere(std::span<const GameRecord> content, const Predicate& pre
     return records;
 }
 
-void ArrangedList::setContent(std::span<const GameRecord> content)
+void ArrangedList::setContent(std::span<const GameRecord> content, std::optional<SortedRecords> byName)
 {
     Q_EMIT aboutToArrange();
     m_content = content;
     m_found.reset();
     m_families.reset();
     m_sorted = {};
+    m_sorted[static_cast<std::size_t>(Field::Name)] = std::move(byName);
     m_order.reset();
     arrange(Content::Other);
 }

@@ -38,7 +38,8 @@ public:
     /// The content outlives the list, or is replaced by another call. What was found and the families, which
     /// name records by their indexes, are gone then. Absent values sort first, ties keep the content's order,
     /// comparison is by code point, case-sensitive.
-    void setContent(std::span<const GameRecord> content);
+    /// `byName`, where it is known already, is this content's.
+    void setContent(std::span<const GameRecord> content, std::optional<SortedRecords> byName = std::nullopt);
     /// No predicate lets every record through.
     void setPredicate(Predicate predicate);
     /// Besides the predicate: only what was found, the best ranked first. Nothing lets every record through.

@@ -20,14 +20,20 @@ Catalogue::Catalogue(QString path, QObject* parent)
 void Catalogue::readAhead()
 {
     m_state = FileState::of(m_path);
-    m_ahead = std::async(std::launch::async, [path = m_path] { return readStore(path); });
+    m_ahead = std::async(std::launch::async, [path = m_path] {
+        auto store = readStore(path);
+        // The first order that is asked for; beside the windows it costs nobody's time.
+        SortedRecords byName(
+            store ? std::span<const GameRecord>(store->records) : std::span<const GameRecord>(), Field::Name);
+        return Ahead{std::move(store), std::move(byName)};
+    });
 }
 
 std::expected<void, Failure> Catalogue::open()
 {
     if (!m_ahead.valid())
         readAhead();
-    auto store = m_ahead.get();
+    auto [store, byName] = m_ahead.get();
     m_read = store.has_value();
     m_isMissing = !m_read && store.error().key == std::string_view("failure_store_missing");
     // The commands hold views of the old arena.
@@ -36,7 +42,9 @@ std::expected<void, Failure> Catalogue::open()
     // The old texts live until everybody has let go of the old records.
     const StoredCatalogue old{std::exchange(m_arena, std::move(content.arena)),
                               std::exchange(m_records, std::move(content.records))};
+    m_byName = std::move(byName);
     Q_EMIT replaced();
+    m_byName.reset();
     if (!store)
         return std::unexpected(store.error());
     return {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
+#include "catalogue/recordsort.h"
 #include "catalogue/storedcatalogue.h"
 #include "core/failure.h"
 #include "core/filestate.h"
@@ -10,7 +11,9 @@
 
 #include <expected>
 #include <future>
+#include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -32,6 +35,8 @@ public:
     std::expected<void, Failure> open();
 
     std::span<const GameRecord> records() const { return m_records; }
+    /// The order of the records that replaced() has just told of; known then, and given once.
+    std::optional<SortedRecords> takeByName() { return std::exchange(m_byName, std::nullopt); }
 
     /// Undoable. `record` is an index into records().
     void setValue(std::uint32_t record, Field field, const QString& text);
@@ -55,6 +60,11 @@ Q_SIGNALS:
     void putBackAt(const std::vector<std::uint32_t>& records);
 
 private:
+    struct Ahead {
+        std::expected<StoredCatalogue, Failure> store;
+        SortedRecords byName;
+    };
+
     friend class EditCommand;
     friend class RemoveCommand;
     void put(std::uint32_t record, Field field, std::string_view text);
@@ -68,7 +78,8 @@ private:
     FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
     bool m_isMissing = false; ///< there was no file to read
-    std::future<std::expected<StoredCatalogue, Failure>> m_ahead;
+    std::future<Ahead> m_ahead;
+    std::optional<SortedRecords> m_byName;
 };
 
 } // namespace tessera

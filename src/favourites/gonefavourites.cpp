@@ -7,7 +7,7 @@ namespace tessera {
 RecordSet goneFavourites(std::span<const GameRecord> favourites, std::span<const GameRecord> catalogue)
 {
     RecordSet gone(favourites.size());
-    if (catalogue.empty())
+    if (favourites.empty() || catalogue.empty())
         return gone;
     // The favourites are few: what is looked for is kept, not what there is.
     std::unordered_set<std::string_view> wanted;

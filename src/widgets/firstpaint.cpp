@@ -4,11 +4,15 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <chrono>
 #include <utility>
 
 namespace tessera {
 
 namespace {
+
+// What a window that was just shown is told (its place, that it is active) comes first.
+constexpr std::chrono::milliseconds settling{20};
 
 class FirstPaint : public QObject
 {
@@ -26,7 +30,7 @@ public:
     {
         if (event->type() == QEvent::Paint) {
             window->removeEventFilter(this);
-            QTimer::singleShot(0, this, [this] {
+            QTimer::singleShot(settling, this, [this] {
                 deleteLater();
                 m_run();
             });

@@ -246,7 +246,7 @@ void GameListController::restore(const std::vector<std::uint32_t>& records,
 
 void GameListController::setContent()
 {
-    m_list.setContent(m_catalogue.records());
+    m_list.setContent(m_catalogue.records(), m_catalogue.takeByName());
     Q_EMIT contentChanged();
 }
 
