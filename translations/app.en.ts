@@ -103,5 +103,44 @@
     <message id="menu_clearplayed"><source></source><translation>&amp;Clear What Was Played…</translation></message>
     <message id="menu_favorites"><source></source><translation>&amp;Favourites</translation></message>
     <message id="menu_mini"><source></source><translation>M&amp;ini Window</translation></message>
+    <message id="menu_help"><source></source><translation>&amp;Help</translation></message>
+    <message id="menu_showhelp"><source></source><translation>Tessera &amp;Help</translation></message>
+    <message id="help_title"><source></source><translation>Help</translation></message>
+    <message id="help_guide"><source></source><translation>Guide</translation></message>
+    <message id="help_subject"><source></source><translation>Subject:</translation></message>
+    <message id="help_keys"><source></source><translation>Keys</translation></message>
+    <message id="help_terms_title"><source></source><translation>Search terms</translation></message>
+    <message id="help_start_title"><source></source><translation>First start</translation></message>
+    <message id="help_search_title"><source></source><translation>Finding a game</translation></message>
+    <message id="help_launch_title"><source></source><translation>Playing</translation></message>
+    <message id="help_tools_title"><source></source><translation>Catalogue tools</translation></message>
+    <message id="help_favorites_title"><source></source><translation>Favourites and the mini window</translation></message>
+    <message id="help_start"><source></source><translation>&lt;p&gt;Tessera needs two things: MAME, and the folder that holds your ROM archives.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;1. The catalogue.&lt;/b&gt; At the first start Tessera offers to build its list from your MAME. It asks MAME for every machine it knows, which takes a minute or two, and can be cancelled. Later, after a new MAME was installed, the status line offers the same again; the command is &lt;i&gt;File › Rebuild catalogue from MAME&lt;/i&gt;. The list that was there before is kept under a dated name.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;2. MAME itself&lt;/b&gt; is found where your system installs it. Another one is chosen in &lt;i&gt;Emulator › Choose Emulator&lt;/i&gt;.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;3. Your ROM folder&lt;/b&gt; is chosen in &lt;i&gt;Emulator › Choose ROM Folder&lt;/i&gt;. Folders that MAME's own settings name are looked into as well. A machine without ROMs, such as &lt;i&gt;pong&lt;/i&gt;, runs at once.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;4. Play.&lt;/b&gt; A double click, or the Return key, starts the selected game.&lt;/p&gt;
+&lt;p&gt;Nothing is sent or fetched over the network unless you ask for it.&lt;/p&gt;</translation></message>
+    <message id="help_search"><source></source><translation>&lt;p&gt;Just type: whatever you type in the list goes into the search field (&lt;b&gt;Ctrl+F&lt;/b&gt;). Set name, both titles, maker and year are searched; the words may come in any order. Capitals, accents and full or half width make no difference, hiragana finds katakana, and romaji finds kana: &lt;i&gt;guradi&lt;/i&gt; finds グラディウス.&lt;/p&gt;
+&lt;p&gt;What fits best comes first: the exact set name, then a whole title, then beginnings of words. A click on a column header sorts by that column instead.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;The chips&lt;/b&gt; above the list show a part of it, with their counts. &lt;b&gt;Families&lt;/b&gt; folds clones beneath their parents; the right and left arrow keys open and close one.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;The filter panel&lt;/b&gt; (&lt;i&gt;View › Filter Panel&lt;/i&gt;) joins several rules, and holds the maker filter.&lt;/p&gt;
+&lt;p&gt;Whatever hides rows is named beside the count, with &lt;b&gt;Show all&lt;/b&gt;.&lt;/p&gt;</translation></message>
+    <message id="help_launch"><source></source><translation>&lt;p&gt;A double click, the Return key or &lt;b&gt;Play&lt;/b&gt; starts the selected game. What MAME prints goes into the log window (&lt;b&gt;Ctrl+L&lt;/b&gt;), together with the command line. &lt;b&gt;Stop&lt;/b&gt; (&lt;b&gt;Ctrl+.&lt;/b&gt;) ends a running game.&lt;/p&gt;
+&lt;p&gt;How games are started is set in the &lt;b&gt;preferences&lt;/b&gt; (&lt;b&gt;Ctrl+,&lt;/b&gt;). Options that your MAME does not know are left out; the log names them in one line. A favourite may have options of its own, which come last and so win.&lt;/p&gt;
+&lt;p&gt;When MAME ends with an error, Tessera says so, and the log shows why: mostly a file is missing from an archive, or the archive is of another MAME version.&lt;/p&gt;</translation></message>
+    <message id="help_tools"><source></source><translation>&lt;p&gt;&lt;i&gt;File › Catalogue Tools&lt;/i&gt; (&lt;b&gt;Ctrl+T&lt;/b&gt;) opens a window with a page for each job:&lt;/p&gt;
+&lt;ul&gt;&lt;li&gt;&lt;b&gt;Conversion&lt;/b&gt; makes a catalogue from a saved listing of MAME and a list of titles.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROM existence&lt;/b&gt; compares a list of names with a folder, and reports what is there and what is missing.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROM separation&lt;/b&gt; copies the archives of some games into another folder. It never replaces and never deletes.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;Verification&lt;/b&gt; sorts the report of MAME's own check by its verdicts.&lt;/li&gt;&lt;/ul&gt;
+&lt;p&gt;Each job can be cancelled. Most of them can also be run without windows: &lt;i&gt;tessera --help&lt;/i&gt; in a terminal names the commands.&lt;/p&gt;</translation></message>
+    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt; adds the selected game to the favourites; &lt;b&gt;Ctrl+2&lt;/b&gt; shows them in the same place, &lt;b&gt;Ctrl+1&lt;/b&gt; goes back. Each favourite may have options of its own; &lt;i&gt;Edit record&lt;/i&gt; completes them from what your MAME lists, and shows the whole command line.&lt;/p&gt;
+&lt;p&gt;Favourites that were added or removed are saved when you quit. An edit alone is saved by &lt;b&gt;Ctrl+S&lt;/b&gt; in the favourites window, which also says when something is not saved yet.&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;Ctrl+3&lt;/b&gt; leaves a small launcher: type a set name, or let the dice choose, and press Return. It can stay above all other windows.&lt;/p&gt;
+&lt;p&gt;What you played, how often and when last, is kept beside the favourites. It can be switched off in the preferences, and cleared in the &lt;i&gt;Game&lt;/i&gt; menu.&lt;/p&gt;</translation></message>
+    <message id="help_terms_before"><source></source><translation>&lt;p&gt;Besides words, the search field takes terms: a key, a colon and a value. Several of them must all hold.&lt;/p&gt;</translation></message>
+    <message id="help_terms_after"><source></source><translation>&lt;p&gt;A minus before a word or a term leaves out what it finds: &lt;b&gt;-bootleg&lt;/b&gt;. Words in quotation marks are found as they stand: &lt;b&gt;"street fighter"&lt;/b&gt;. A term that is wrong is underlined, and the reason stands beside the chips.&lt;/p&gt;&lt;p&gt;Together: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
+    <message id="help_keys_list"><source></source><translation>&lt;h2&gt;In the list&lt;/h2&gt;&lt;p&gt;&lt;b&gt;Return&lt;/b&gt; starts the selected game. &lt;b&gt;F2&lt;/b&gt; edits a field. Letters go into the search field; the &lt;b&gt;down&lt;/b&gt; arrow goes from there into the list. &lt;b&gt;Right&lt;/b&gt; and &lt;b&gt;left&lt;/b&gt; open and close a family. &lt;b&gt;Esc&lt;/b&gt; closes any other window, and clears the search field.&lt;/p&gt;</translation></message>
 </context>
 </TS>

@@ -103,5 +103,44 @@
     <message id="menu_clearplayed"><source></source><translation>プレイ記録を消去(&amp;C)…</translation></message>
     <message id="menu_favorites"><source></source><translation>お気に入り(&amp;F)</translation></message>
     <message id="menu_mini"><source></source><translation>ミニウインドウ(&amp;I)</translation></message>
+    <message id="menu_help"><source></source><translation>ヘルプ(&amp;H)</translation></message>
+    <message id="menu_showhelp"><source></source><translation>Tesseraヘルプ(&amp;H)</translation></message>
+    <message id="help_title"><source></source><translation>ヘルプ</translation></message>
+    <message id="help_guide"><source></source><translation>ガイド</translation></message>
+    <message id="help_subject"><source></source><translation>項目:</translation></message>
+    <message id="help_keys"><source></source><translation>キー操作</translation></message>
+    <message id="help_terms_title"><source></source><translation>検索の書き方</translation></message>
+    <message id="help_start_title"><source></source><translation>はじめに</translation></message>
+    <message id="help_search_title"><source></source><translation>ゲームを探す</translation></message>
+    <message id="help_launch_title"><source></source><translation>ゲームを起動する</translation></message>
+    <message id="help_tools_title"><source></source><translation>カタログツール</translation></message>
+    <message id="help_favorites_title"><source></source><translation>お気に入りとミニウインドウ</translation></message>
+    <message id="help_start"><source></source><translation>&lt;p&gt;Tesseraに必要なのは、MAMEと、ROMアーカイブを入れたフォルダの二つです。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;1. カタログ。&lt;/b&gt;最初の起動時に、お使いのMAMEから一覧を作るかどうかをたずねます。MAMEが知っているすべてのマシンを読み出すので一、二分かかりますが、途中で取り消せます。新しいMAMEを入れたあとは、ステータス行に同じ案内が出ます。コマンドは「ファイル › MAMEからカタログを再作成」です。それまでの一覧は日付の付いた名前で残ります。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;2. MAME本体&lt;/b&gt;は、システムがインストールした場所から見つけます。別のものは「エミュレータ › エミュレータを選択」で選びます。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;3. ROMフォルダ&lt;/b&gt;は「エミュレータ › ROMフォルダを選択」で選びます。MAME自身の設定にあるフォルダも調べます。「pong」のようにROMのいらないマシンは、すぐに動きます。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;4. 起動。&lt;/b&gt;ダブルクリックかReturnキーで、選択したゲームが始まります。&lt;/p&gt;
+&lt;p&gt;頼まれないかぎり、ネットワークとは何もやりとりしません。&lt;/p&gt;</translation></message>
+    <message id="help_search"><source></source><translation>&lt;p&gt;そのまま入力してください。一覧で打った文字は検索欄（&lt;b&gt;Ctrl+F&lt;/b&gt;）に入ります。セット名、英語と日本語のタイトル、メーカー、年を探し、語の順序は問いません。大文字と小文字、アクセント記号、全角と半角は区別せず、ひらがなでカタカナが、ローマ字でかなが見つかります。「guradi」でグラディウスが見つかります。&lt;/p&gt;
+&lt;p&gt;もっともよく合うものが先に並びます。セット名の一致、タイトル全体の一致、語の先頭の一致の順です。見出しをクリックすると、その列の順に並びます。&lt;/p&gt;
+&lt;p&gt;一覧の上の&lt;b&gt;チップ&lt;/b&gt;は、その一部だけを件数とともに表示します。&lt;b&gt;ファミリー&lt;/b&gt;はクローンを親の下にたたみ、右と左の矢印キーで開閉します。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;フィルタパネル&lt;/b&gt;（「表示 › フィルタパネル」）では、いくつもの条件を組み合わせられます。メーカーフィルタもここにあります。&lt;/p&gt;
+&lt;p&gt;隠れている行があるときは、その理由が件数の横に出ます。&lt;b&gt;すべて表示&lt;/b&gt;で元に戻ります。&lt;/p&gt;</translation></message>
+    <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で実行中のゲームを終えます。&lt;/p&gt;
+&lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは省かれ、ログの一行に示されます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
+&lt;p&gt;MAMEがエラーで終わると、Tesseraが知らせます。理由はログで分かります。多くは、アーカイブにファイルが足りないか、アーカイブが別のバージョンのMAME用です。&lt;/p&gt;</translation></message>
+    <message id="help_tools"><source></source><translation>&lt;p&gt;「ファイル › カタログツール」（&lt;b&gt;Ctrl+T&lt;/b&gt;）で、作業ごとのページがあるウインドウが開きます。&lt;/p&gt;
+&lt;ul&gt;&lt;li&gt;&lt;b&gt;変換&lt;/b&gt;は、保存したMAMEの一覧とタイトル一覧からカタログを作ります。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROMの有無&lt;/b&gt;は、名前の一覧とフォルダを比べ、あるものとないものを報告します。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROMの分離&lt;/b&gt;は、ゲームのアーカイブを別のフォルダにコピーします。置き換えたり消したりはしません。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;検証&lt;/b&gt;は、MAME自身の検査結果を判定ごとに整理します。&lt;/li&gt;&lt;/ul&gt;
+&lt;p&gt;どの作業も取り消せます。多くはウインドウなしでも実行できます。ターミナルで「tessera --help」と入力すると、コマンドの一覧が出ます。&lt;/p&gt;</translation></message>
+    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt;で、選択したゲームがお気に入りに加わります。&lt;b&gt;Ctrl+2&lt;/b&gt;で同じ場所にお気に入りが開き、&lt;b&gt;Ctrl+1&lt;/b&gt;で戻ります。お気に入りにはそれぞれ独自のオプションを付けられます。「項目を編集」では、お使いのMAMEのオプションが補完され、コマンドライン全体が見られます。&lt;/p&gt;
+&lt;p&gt;追加や削除は終了時に保存されます。編集だけのときは、お気に入りウインドウで&lt;b&gt;Ctrl+S&lt;/b&gt;を押すと保存されます。保存していない変更があるときは、そこに表示されます。&lt;/p&gt;
+&lt;p&gt;&lt;b&gt;Ctrl+3&lt;/b&gt;は小さなランチャーだけを残します。セット名を入力するか、サイコロにまかせて、Returnキーを押してください。ほかのウインドウより手前に置いておけます。&lt;/p&gt;
+&lt;p&gt;遊んだ回数と最後に遊んだ日時は、お気に入りの横のファイルに残ります。環境設定で切ることができ、「ゲーム」メニューで消去できます。&lt;/p&gt;</translation></message>
+    <message id="help_terms_before"><source></source><translation>&lt;p&gt;検索欄には、語のほかに条件を書けます。キー、コロン、値の順に書きます。いくつも書くと、すべてに合うものだけが残ります。&lt;/p&gt;</translation></message>
+    <message id="help_terms_after"><source></source><translation>&lt;p&gt;語や条件の前にマイナスを付けると、当てはまるものを除きます: &lt;b&gt;-bootleg&lt;/b&gt;。引用符で囲むと、そのままの並びで探します: &lt;b&gt;"street fighter"&lt;/b&gt;。誤った条件には下線が付き、理由がチップの横に出ます。&lt;/p&gt;&lt;p&gt;組み合わせの例: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
+    <message id="help_keys_list"><source></source><translation>&lt;h2&gt;一覧で&lt;/h2&gt;&lt;p&gt;&lt;b&gt;Return&lt;/b&gt;で選択したゲームを起動します。&lt;b&gt;F2&lt;/b&gt;で欄を編集します。文字は検索欄に入り、そこから&lt;b&gt;下矢印&lt;/b&gt;で一覧に移ります。&lt;b&gt;右&lt;/b&gt;と&lt;b&gt;左&lt;/b&gt;でファミリーを開閉します。&lt;b&gt;Esc&lt;/b&gt;はほかのウインドウを閉じ、検索欄を空にします。&lt;/p&gt;</translation></message>
 </context>
 </TS>

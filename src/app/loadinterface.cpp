@@ -7,6 +7,7 @@
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
 #include "app/finding.h"
+#include "app/helpwindow.h"
 #include "app/keycommands.h"
 #include "app/keytable.h"
 #include "app/mainmenu.h"
@@ -232,6 +233,15 @@ UtilityObject& Tessera_AppDelegate::utility()
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }
     return *m_utility;
+}
+
+HelpWindow& Tessera_AppDelegate::helpWindow()
+{
+    if (!m_help) {
+        m_help = std::make_unique<HelpWindow>(m_defaults, *m_mainWindow->menuBar());
+        m_places.keep(*m_help, keys::HelpWindowGeometry.name.data());
+    }
+    return *m_help;
 }
 
 // Undo and Redo are dim while there is nothing to undo or redo in the key window.

@@ -32,6 +32,7 @@ constexpr const char* view = textKey("menu_view");
 constexpr const char* game = textKey("menu_game");
 constexpr const char* emulator = textKey("menu_emulator");
 constexpr const char* window = textKey("menu_window");
+constexpr const char* help = textKey("menu_help");
 
 // clang-format off
 constexpr std::array rows{
@@ -77,6 +78,7 @@ constexpr std::array rows{
     MenuRow{window,   nullptr,                     nullptr,        nullptr},
     MenuRow{window,   textKey("menu_log"),         "Ctrl+L",       &Hub::showLogWindow},
     MenuRow{window,   textKey("menu_logfront"),    nullptr,        &Hub::windowLog},
+    MenuRow{help,     textKey("menu_showhelp"),    "F1",           &Hub::showHelpWindow},
 };
 // clang-format on
 
@@ -88,6 +90,13 @@ QMenu* menuOf(QMenuBar& bar, const char* key)
     QMenu* menu = bar.addMenu(qtTrId(key));
     menu->setObjectName(name);
     return menu;
+}
+
+// A plain key belongs to the controls of the other windows, but for the function keys.
+bool isLeftToControls(const QKeySequence& shortcut)
+{
+    return shortcut.count() == 1 && shortcut[0].keyboardModifiers() == Qt::NoModifier
+        && (shortcut[0].key() < Qt::Key_F1 || shortcut[0].key() > Qt::Key_F35);
 }
 
 void fillRecent(QMenu& menu, Tessera_AppDelegate& delegate)
@@ -136,10 +145,8 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
         action->setObjectName(QLatin1String(row.text));
         if (row.shortcuts != nullptr)
             action->setShortcuts(QKeySequence::listFromString(QLatin1String(row.shortcuts)));
-        // A key of its own is left to the controls of the other windows.
-        const bool isPlainKey
-            = action->shortcut().count() == 1 && action->shortcut()[0].keyboardModifiers() == Qt::NoModifier;
-        action->setShortcutContext(isPlainKey ? Qt::WindowShortcut : Qt::ApplicationShortcut);
+        action->setShortcutContext(isLeftToControls(action->shortcut()) ? Qt::WindowShortcut
+                                                                        : Qt::ApplicationShortcut);
         action->setMenuRole(QAction::NoRole);
         QObject::connect(action, &QAction::triggered, &delegate, row.command);
         menu->addAction(action);

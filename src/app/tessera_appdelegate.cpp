@@ -4,6 +4,7 @@
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/finding.h"
+#include "app/helpwindow.h"
 #include "app/keycommands.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
@@ -382,6 +383,14 @@ void Tessera_AppDelegate::showPrefsWindow()
     bringForward(*m_preferencesWindow);
 }
 
+void Tessera_AppDelegate::showHelpWindow()
+{
+    if (helpWindow().isVisible())
+        helpWindow().close();
+    else
+        bringForward(helpWindow());
+}
+
 void Tessera_AppDelegate::utilityOrderFront()
 {
     utility().utilityOrderFront();
@@ -433,11 +442,36 @@ bool Tessera_AppDelegate::applicationShouldTerminate()
 {
     m_editing->commitEditing();
     const bool quits = m_gameList->commitEditing() && m_launch->confirmQuit() && saveBeforeQuitting();
-    // Whatever the answer: recording and replay never stay switched on into the next run.
+    // Whatever the answer.
+    forgetRecording();
+    return quits;
+}
+
+void Tessera_AppDelegate::saveForSessionEnd()
+{
+    m_editing->commitEditing();
+    m_gameList->commitEditing();
+    if (m_catalogue.hasChanges()) {
+        if (const auto saved = m_catalogue.save(); !saved)
+            m_desktop.log(saved.error().text());
+    }
+    m_favorites->controller().saveFavorites();
+}
+
+void Tessera_AppDelegate::endWithSession()
+{
+    saveForSessionEnd();
+    forgetRecording();
+    applicationWillTerminate();
+    QCoreApplication::exit(0);
+}
+
+// Recording and replay never stay switched on into the next run.
+void Tessera_AppDelegate::forgetRecording()
+{
     m_defaults.setFlag(keys::Movierecord, false);
     m_defaults.setFlag(keys::Replaymove, false);
     m_defaults.defaults().synchronize();
-    return quits;
 }
 
 bool Tessera_AppDelegate::saveBeforeQuitting()

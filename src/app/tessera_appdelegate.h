@@ -19,6 +19,7 @@ class EmulatorTask;
 class FavoritesDesk;
 class GameListController;
 class Finding;
+class HelpWindow;
 class KeyCommands;
 class LaunchController;
 class LaunchPages;
@@ -55,6 +56,8 @@ public:
     /// True for "terminate now".
     bool applicationShouldTerminate();
     void applicationWillTerminate();
+    /// Saves everything, the favourites' edits too, without a question: nobody may be there to answer.
+    void saveForSessionEnd();
 
     bool application_openFile(const QString& path);
 
@@ -68,6 +71,7 @@ public:
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
+    HelpWindow& helpWindow();
     FavoritesDesk& favorites() { return *m_favorites; }
     MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
@@ -99,6 +103,7 @@ public Q_SLOTS:
     void openROMfile();
     void rebuildCatalogue();
     void terminate();
+    void endWithSession();
     void playSelected();
     void stopGame();
     void selectExefile();
@@ -110,6 +115,7 @@ public Q_SLOTS:
     void showLogWindow();
     void windowLog();
     void showPrefsWindow();
+    void showHelpWindow();
     void utilityOrderFront();
     void makeTextBigger();
     void makeTextSmaller();
@@ -147,6 +153,7 @@ private:
     QString emulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
+    void forgetRecording();
 
     Desktop& m_desktop;
     DefaultsController m_defaults;
@@ -169,6 +176,7 @@ private:
     std::unique_ptr<ProfileCache> m_profiles;
     std::unique_ptr<LaunchController> m_launch;
     std::unique_ptr<UtilityObject> m_utility;
+    std::unique_ptr<HelpWindow> m_help;
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;

@@ -2,6 +2,7 @@
 #include "core/texts.h"
 #include "catalogue/cataloguepath.h"
 #include "platform/qt/qtdesktop.h"
+#include "platform/qt/sessionend.h"
 #include "platform/qt/singleinstance.h"
 #include "widgets/theme.h"
 
@@ -26,6 +27,9 @@ int runWindows(QApplication& application, const QString& file)
     theme::apply(application);
     Tessera_AppDelegate delegate(desktop, defaults, recent, standardCataloguePath());
     QObject::connect(&instance, &SingleInstance::handedOver, &delegate, &Tessera_AppDelegate::comeForward);
+    const SessionEnd sessionEnd;
+    QObject::connect(&sessionEnd, &SessionEnd::mayEnd, &delegate, &Tessera_AppDelegate::saveForSessionEnd);
+    QObject::connect(&sessionEnd, &SessionEnd::ended, &delegate, &Tessera_AppDelegate::endWithSession);
     delegate.run(file);
     return application.exec();
 }

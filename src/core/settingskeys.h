@@ -185,6 +185,7 @@ TESSERA_CHOSEN(FavoritesWindowGeometry);
 TESSERA_CHOSEN(MiniWindowGeometry);
 TESSERA_CHOSEN(MiniWindowAbove);
 TESSERA_CHOSEN(LogWindowGeometry);
+TESSERA_CHOSEN(HelpWindowGeometry);
 TESSERA_CHOSEN(UtilityWindowGeometry);
 TESSERA_CHOSEN(RecordEditorGeometry);
 TESSERA_CHOSEN(FavoritesEditorGeometry);

@@ -1,5 +1,6 @@
 #include "stagedapp.h"
 
+#include "app/favoritesdesk.h"
 #include "app/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -163,6 +164,39 @@ private Q_SLOTS:
         editFirstTitle(staged, QStringLiteral("Kept"));
         staged.app->mainWindow().close();
         QVERIFY(staged.store().contains("Kept"));
+    }
+
+    void theEndOfTheSessionSavesWithoutAQuestion()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.defaults.setValue(keys::Movierecord.name, true);
+        editFirstTitle(staged, QStringLiteral("Kept"));
+        staged.app->gameList().selectRow(0);
+        staged.app->addFavorite();
+        (void)staged.desktop.takeTranscript();
+        staged.app->endWithSession();
+        QVERIFY(staged.store().contains("Kept"));
+        QVERIFY(QFile::exists(staged.app->favorites().favourites().path()));
+        QVERIFY(!staged.defaults.flag(keys::Movierecord.name));
+        QCOMPARE(staged.desktop.takeTranscript(), QStringList());
+    }
+
+    void aSessionEndThatCannotSaveIsOnlyLogged()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Lost"));
+        QFile::remove(staged.storePath());
+        QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
+        (void)staged.desktop.takeTranscript();
+        staged.app->saveForSessionEnd();
+        const QStringList said = staged.desktop.takeTranscript();
+        QCOMPARE(said.size(), 1);
+        QVERIFY2(said.constFirst().startsWith(QStringLiteral("log ")), qPrintable(said.constFirst()));
+        QVERIFY(staged.app->mainWindow().isVisible());
     }
 
     void theWindowStaysAfterCancel()
