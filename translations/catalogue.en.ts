@@ -5,6 +5,7 @@
     <name></name>
     <message id="chip_all"><source></source><translation>All</translation></message>
     <message id="chip_bios"><source></source><translation>BIOS</translation></message>
+    <message id="chip_favorites"><source></source><translation>Favourites</translation></message>
     <message id="chip_games"><source></source><translation>Games</translation></message>
     <message id="chip_have_rom"><source></source><translation>Have ROM</translation></message>
     <message id="chip_parents"><source></source><translation>Parents</translation></message>

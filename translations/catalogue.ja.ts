@@ -5,6 +5,7 @@
     <name></name>
     <message id="chip_all"><source></source><translation>すべて</translation></message>
     <message id="chip_bios"><source></source><translation>BIOS</translation></message>
+    <message id="chip_favorites"><source></source><translation>お気に入り</translation></message>
     <message id="chip_games"><source></source><translation>ゲーム</translation></message>
     <message id="chip_have_rom"><source></source><translation>ROMあり</translation></message>
     <message id="chip_parents"><source></source><translation>親セット</translation></message>

@@ -75,5 +75,8 @@
     <message id="filter_maker_none"><source></source><translation>Every maker is shown.</translation></message>
     <message id="filter_maker_empty"><source></source><translation>Only machines with an empty maker are shown.</translation></message>
     <message id="hides_rules" numerus="yes"><source></source><translation><numerusform>%n filter row</numerusform><numerusform>%n filter rows</numerusform></translation></message>
+    <message id="appearance_language"><source></source><translation>Language</translation></message>
+    <message id="appearance_language_system"><source></source><translation>That of the system</translation></message>
+    <message id="appearance_language_note"><source></source><translation>The windows are in it from the next start on.</translation></message>
 </context>
 </TS>

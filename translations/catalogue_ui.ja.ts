@@ -75,5 +75,8 @@
     <message id="filter_maker_none"><source></source><translation>すべてのメーカーを表示しています。</translation></message>
     <message id="filter_maker_empty"><source></source><translation>メーカーが空のマシンだけを表示しています。</translation></message>
     <message id="hides_rules" numerus="yes"><source></source><translation><numerusform>フィルタ条件 %n 件</numerusform></translation></message>
+    <message id="appearance_language"><source></source><translation>言語</translation></message>
+    <message id="appearance_language_system"><source></source><translation>システムの言語</translation></message>
+    <message id="appearance_language_note"><source></source><translation>次に起動したときから変わります。</translation></message>
 </context>
 </TS>

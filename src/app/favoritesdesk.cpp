@@ -40,6 +40,10 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
 {
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
     connect(&m_controller, &UCAppController::statusMessage, this, &FavoritesDesk::statusMessage);
+    for (const auto& changed : {&Favourites::replaced, &Favourites::appended, &Favourites::removed})
+        connect(&m_favourites, changed, this, &FavoritesDesk::namesChanged);
+    connect(&m_favourites, &Favourites::putBackAt, this, &FavoritesDesk::namesChanged);
+    connect(&m_favourites, &Favourites::valueChanged, this, &FavoritesDesk::namesChanged);
 }
 
 FavoritesDesk::~FavoritesDesk() = default;
@@ -59,6 +63,16 @@ FavoritesWindow& FavoritesDesk::window()
     m_controller.romStatus2();
     Q_EMIT windowMade(*m_window);
     return *m_window;
+}
+
+NameSet FavoritesDesk::names() const
+{
+    NameSet names;
+    for (const GameRecord& favourite : m_favourites.records()) {
+        if (!favourite[Field::Name].empty())
+            names.emplace(favourite[Field::Name]);
+    }
+    return names;
 }
 
 void FavoritesDesk::remember()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/search/nameset.h"
 #include "favourites/favourites.h"
 #include "favourites/playedgames.h"
 #include "favourites/ui/favouriteediting.h"
@@ -40,6 +41,7 @@ public:
     FavouriteEditing& editing() { return m_editing; }
     PlayedController& played() { return m_playing; }
     Favourites& favourites() { return m_favourites; }
+    NameSet names() const;
 
     /// Reads both files.
     void awakeFromNib();
@@ -50,6 +52,8 @@ Q_SIGNALS:
     void mainWanted();
     void miniWanted();
     void statusMessage(const QString& text);
+    /// The names of the sets in the list are others now.
+    void namesChanged();
     void windowMade(QWidget& window);
 
 private:

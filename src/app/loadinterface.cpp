@@ -159,6 +159,8 @@ void Tessera_AppDelegate::joinViews()
             &PlayedController::notePlayed);
     connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
             [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
+    connect(m_favorites.get(), &FavoritesDesk::namesChanged, m_finding.get(),
+            [this] { m_finding->finder().setFavorites(m_favorites->names()); });
     connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
             &LaunchController::Launchusing);
     connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);

@@ -131,6 +131,16 @@ void addColumnsMenu(QMenu& viewMenu, Tessera_AppDelegate& delegate)
                      [columns, &delegate] { delegate.mainWindow().gameTable->fillColumnsMenu(*columns); });
 }
 
+void addPlayedSwitch(QMenu& gameMenu, Tessera_AppDelegate& delegate)
+{
+    auto* notes = new QAction(qtTrId("menu_notesplayed"), &gameMenu);
+    notes->setObjectName(QStringLiteral("menu_notesplayed"));
+    notes->setCheckable(true);
+    notes->setChecked(delegate.notesPlayed());
+    gameMenu.insertAction(gameMenu.actions().constLast(), notes);
+    QObject::connect(notes, &QAction::triggered, &delegate, &Tessera_AppDelegate::setNotesPlayed);
+}
+
 } // namespace
 
 void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
@@ -153,6 +163,7 @@ void fillMainMenu(QMenuBar& bar, Tessera_AppDelegate& delegate)
     }
     addRecentMenu(*menuOf(bar, file), delegate);
     addColumnsMenu(*menuOf(bar, view), delegate);
+    addPlayedSwitch(*menuOf(bar, game), delegate);
 }
 
 void carryMenuKeys(const QMenuBar& bar, QWidget& other)

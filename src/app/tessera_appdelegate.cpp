@@ -324,6 +324,11 @@ void Tessera_AppDelegate::clearPlayed()
     m_favorites->played().clearPlayed();
 }
 
+void Tessera_AppDelegate::setNotesPlayed(bool notes)
+{
+    m_defaults.defaults().setValue(keys::PlayedIsOff.name, !notes);
+}
+
 void Tessera_AppDelegate::playSelected()
 {
     m_gameList->tableViewDoubleAction();

@@ -53,6 +53,7 @@ public:
     // The catalogue
     QString applicationSupportFolder() const;
     QUndoStack* windowWillReturnUndoManager();
+    bool notesPlayed() { return !m_defaults.defaults().flag(keys::PlayedIsOff.name); }
     /// True for "terminate now".
     bool applicationShouldTerminate();
     void applicationWillTerminate();
@@ -84,6 +85,7 @@ public Q_SLOTS:
     void saveFavoritesNow();
     void addFavorite();
     void clearPlayed();
+    void setNotesPlayed(bool notes);
     void removeOfKeyWindow();
     void menuRun();
     /// A random game's set name into the mini window's field.

@@ -1,9 +1,11 @@
+#include "app/mainwindow.h"
 #include "app/tessera_appdelegate.h"
 #include "core/texts.h"
 #include "catalogue/cataloguepath.h"
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/sessionend.h"
 #include "platform/qt/singleinstance.h"
+#include "widgets/firstpaint.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
@@ -11,17 +13,17 @@
 
 #include <cstdio>
 
+using namespace tessera;
+
 namespace {
 
-int runWindows(QApplication& application, const QString& file)
+int runWindows(QApplication& application, UserDefaults& defaults, const QString& file)
 {
-    using namespace tessera;
     SingleInstance instance;
     if (instance.handOver(file))
         return 0;
     instance.listen();
 
-    UserDefaults defaults(UserDefaults::standardPath());
     RecentDocuments recent(defaults);
     QtDesktop desktop(recent);
     theme::apply(application);
@@ -31,6 +33,9 @@ int runWindows(QApplication& application, const QString& file)
     QObject::connect(&sessionEnd, &SessionEnd::mayEnd, &delegate, &Tessera_AppDelegate::saveForSessionEnd);
     QObject::connect(&sessionEnd, &SessionEnd::ended, &delegate, &Tessera_AppDelegate::endWithSession);
     delegate.run(file);
+    // Drawing it in all its sizes is nothing that the list has to wait for.
+    afterFirstPaint(delegate.mainWindow(),
+                    [] { QGuiApplication::setWindowIcon(theme::mark(QStringLiteral("tessera"))); });
     return application.exec();
 }
 
@@ -40,13 +45,15 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("Tessera"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSERA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
     QApplication application(argc, argv);
     QTranslator texts;
-    tessera::installTexts(texts);
+    UserDefaults defaults(UserDefaults::standardPath());
+    installTexts(texts, defaults.string(keys::Language.name));
     const QString file = application.arguments().value(1);
     if (file.startsWith(QLatin1Char('-')) || application.arguments().size() > 2) {
         std::fputs("Usage: tessera [FILE]\n\"tessera --help\" tells more.\n", stderr);
         return 2;
     }
-    return runWindows(application, file.isEmpty() ? file : QFileInfo(file).absoluteFilePath());
+    return runWindows(application, defaults, file.isEmpty() ? file : QFileInfo(file).absoluteFilePath());
 }

@@ -191,6 +191,7 @@ TESSERA_CHOSEN(RecordEditorGeometry);
 TESSERA_CHOSEN(FavoritesEditorGeometry);
 TESSERA_CHOSEN(FilterPanelGeometry);
 TESSERA_CHOSEN(PlayedIsOff);
+TESSERA_CHOSEN(Language);
 
 #undef TESSERA_FLAG
 #undef TESSERA_INDEX

@@ -2,6 +2,7 @@
 
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
+#include "app/finding.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
@@ -71,6 +72,36 @@ private Q_SLOTS:
         m_staged->app->windowFavorites();
         QCOMPARE(favorites().favoritesTable->model()->rowCount(), 1);
         QVERIFY(favorites().saveButton->isVisible());
+    }
+
+    void theMenuSwitchesOffWhatIsNotedOfPlaying()
+    {
+        auto* notes = main().menuBar()->findChild<QAction*>(QStringLiteral("menu_notesplayed"));
+        QVERIFY(notes != nullptr && notes->isChecked());
+        notes->trigger();
+        QVERIFY(m_staged->defaults.flag(keys::PlayedIsOff.name));
+        m_staged->app.reset();
+        m_staged->start();
+        notes = main().menuBar()->findChild<QAction*>(QStringLiteral("menu_notesplayed"));
+        QVERIFY(!notes->isChecked());
+        notes->trigger();
+        QVERIFY(!m_staged->defaults.flag(keys::PlayedIsOff.name));
+    }
+
+    void theFavouritesChipShowsThemInTheMainList()
+    {
+        add("pong");
+        add("qix");
+        m_staged->app->finding().finder().setChip(Chip::Favorites);
+        QCOMPARE(m_staged->app->gameList().list().size(), std::size_t(2));
+        m_staged->app->favorites().favourites().undoStack().undo();
+        QCOMPARE(m_staged->app->gameList().list().size(), std::size_t(1));
+        // What is chosen is remembered, and follows the file at the next start.
+        m_staged->app->applicationWillTerminate();
+        m_staged->app.reset();
+        m_staged->start();
+        QCOMPARE(m_staged->app->gameList().list().size(), std::size_t(1));
+        QCOMPARE(m_staged->app->gameList().list()[0][Field::Name], std::string_view("pong"));
     }
 
     void theFavouritesTakeTheMainWindowsPlaceAndGiveItBack()

@@ -1,5 +1,7 @@
 #include "core/texts.h"
 #include "app/verbs/verbs.h"
+#include "core/settingskeys.h"
+#include "platform/userdefaults.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -25,7 +27,8 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("Tessera"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSERA_VERSION));
     QTranslator texts;
-    installTexts(texts);
+    const UserDefaults stored(UserDefaults::standardPath());
+    installTexts(texts, stored.string(keys::Language.name));
 
     const QStringList arguments = application.arguments().mid(1);
     const QString first = arguments.value(0);

@@ -17,6 +17,8 @@ bool letsThrough(Chip chip, const RecordFacts& facts, Have have)
         return facts.parent;
     case Chip::Bios:
         return facts.type == GameType::Bios;
+    case Chip::Favorites:
+        return facts.favorite;
     }
     return true;
 }

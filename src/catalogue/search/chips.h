@@ -13,7 +13,7 @@
 namespace tessera {
 
 /// A filter over the list that one click sets.
-enum class Chip : std::uint8_t { All, Games, HaveRom, Working, Parents, Bios };
+enum class Chip : std::uint8_t { All, Games, HaveRom, Working, Parents, Bios, Favorites };
 
 struct ChipRow {
     Chip chip;
@@ -29,6 +29,7 @@ inline constexpr std::array chips{
     ChipRow{Chip::Working, "working", textKey("chip_working")},
     ChipRow{Chip::Parents, "parents", textKey("chip_parents")},
     ChipRow{Chip::Bios,    "bios",    textKey("chip_bios")},
+    ChipRow{Chip::Favorites, "favorites", textKey("chip_favorites")},
 };
 // clang-format on
 

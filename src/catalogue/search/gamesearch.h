@@ -35,6 +35,12 @@ public:
     /// One a record, or none while nothing is known of the ROM folders: then nobody has anything.
     void setHaves(std::vector<Have> haves) { m_haves = std::move(haves); }
 
+    /// `content` is the one that is searched.
+    void setFavorites(NameSet favorites, std::span<const GameRecord> content)
+    {
+        m_facts.setFavorites(std::move(favorites), content);
+    }
+
     /// What the chip and all terms let through, and `within` holds.
     Found find(const Query& query, Chip chip = Chip::All, const RecordSet* within = nullptr) const;
     /// Takes out what a chip does not let through.

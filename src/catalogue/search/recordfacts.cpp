@@ -37,7 +37,15 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .type = kindOf<GameType>(record[Field::Type], typeValues),
         .status = kindOf<GameStatus>(record[Field::Status], statusValues),
         .parent = isParent(record),
+        .favorite = m_favorites.contains(record[Field::Name]),
     };
+}
+
+void ContentFacts::setFavorites(NameSet favorites, std::span<const GameRecord> content)
+{
+    m_favorites = std::move(favorites);
+    for (std::size_t i = 0; i < m_facts.size(); ++i)
+        m_facts[i].favorite = m_favorites.contains(content[i][Field::Name]);
 }
 
 // Few records have a device, and few values differ.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
+#include "catalogue/search/nameset.h"
 #include "catalogue/search/yearrange.h"
 
 #include <array>
@@ -25,6 +26,7 @@ struct RecordFacts {
     GameType type = GameType::Other;
     GameStatus status = GameStatus::Other;
     bool parent = false; ///< no clone of another set
+    bool favorite = false;
 };
 
 /// The facts of a content's records, gathered once.
@@ -41,6 +43,9 @@ public:
     /// The different values of the field, folded.
     const std::vector<std::string>& devices() const { return m_devices; }
 
+    /// The user's favourites; `content` is the one that the facts are of.
+    void setFavorites(NameSet favorites, std::span<const GameRecord> content);
+
     void replace(std::uint32_t record, const GameRecord& now) { m_facts[record] = facts(now); }
     void remove(std::uint32_t record) { m_facts.erase(m_facts.begin() + record); }
     void insert(std::uint32_t record, const GameRecord& added)
@@ -53,6 +58,7 @@ private:
     std::uint32_t device(std::string_view value);
 
     std::vector<RecordFacts> m_facts;
+    NameSet m_favorites;
     std::vector<std::string> m_devices;
     std::unordered_map<std::string, std::uint32_t> m_deviceNumbers;
 };

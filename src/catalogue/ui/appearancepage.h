@@ -4,6 +4,7 @@
 #include "widgets/formpage.h"
 
 class QCheckBox;
+class QComboBox;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -13,7 +14,7 @@ namespace tessera {
 class ColorWell;
 class DefaultsController;
 
-/// How the game list looks: the font of its rows and their colours.
+/// How the game list looks: the font of its rows and their colours; and the language of the windows.
 class AppearancePage : public FormPage
 {
     Q_OBJECT
@@ -31,6 +32,7 @@ public:
     QToolButton* initialColorButton;
     ColorWell* textColorWell2;
     QToolButton* initialColorButton2;
+    QComboBox* languagePop;
 
 private:
     void layOut();
@@ -39,6 +41,8 @@ private:
     ColorWell* makeWell(const QString& name, const char* objectName);
     void showFont();
     void showColors();
+    void showLanguage();
+    void storeLanguage(int position);
 
     DefaultsController& m_defaults;
     ColorTransformer m_colors;

@@ -57,6 +57,8 @@ GameSearch& GameFinder::search()
     if (!m_search) {
         m_search.emplace(m_catalogue.records());
         m_search->setHaves(m_haves);
+        if (!m_favorites.empty())
+            m_search->setFavorites(m_favorites, m_catalogue.records());
         fold();
     }
     return *m_search;
@@ -335,6 +337,19 @@ void GameFinder::setRomFolders(const std::shared_ptr<const RomFolders>& folders)
     m_roms = folders;
     m_list.setRomFolders(folders);
     askHaves();
+}
+
+void GameFinder::setFavorites(const NameSet& favorites)
+{
+    if (m_favorites == favorites)
+        return;
+    m_favorites = favorites;
+    if (m_search)
+        m_search->setFavorites(favorites, m_catalogue.records());
+    if (m_chip == Chip::Favorites)
+        refresh();
+    else if (m_search)
+        tellCounts();
 }
 
 // Beside the windows: a folder that cannot be listed is asked for each name.

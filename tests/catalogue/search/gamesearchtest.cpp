@@ -386,7 +386,26 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < chips.size(); ++i)
             QCOMPARE(counts[i], search.find({}, chips[i].chip).records.count());
         const RecordSet konami = search.find(Query(u"maker:konami")).records;
-        QCOMPARE(search.chipCounts(&konami), (ChipCounts{4, 4, 1, 2, 3, 0}));
+        QCOMPARE(search.chipCounts(&konami), (ChipCounts{4, 4, 1, 2, 3, 0, 0}));
+    }
+
+    void theFavouritesChipFollowsTheirNames()
+    {
+        const SampleRecords sample = sampleGames();
+        GameSearch search = prepared(sample);
+        const auto shown = [&] { return names(sample, search.find({}, Chip::Favorites).records.records()); };
+        QCOMPARE(shown(), QString());
+        search.setFavorites({"robo", "cdr", "notthere", ""}, sample.store.records);
+        QCOMPARE(shown(), QStringLiteral("cdr robo"));
+        QCOMPARE(search.chipCounts().back(), std::size_t(2));
+        GameRecord renamed = sample.store.records[8];
+        renamed[Field::Name] = "other";
+        search.replace(8, renamed);
+        QCOMPARE(shown(), QStringLiteral("robo"));
+        search.replace(8, sample.store.records[8]);
+        QCOMPARE(shown(), QStringLiteral("cdr robo"));
+        search.setFavorites({}, sample.store.records);
+        QCOMPARE(shown(), QString());
     }
 
     void chipAndQueryAndFilterAllCount()
