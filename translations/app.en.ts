@@ -103,5 +103,12 @@
     <message id="menu_clearplayed"><source></source><translation>&amp;Clear What Was Played…</translation></message>
     <message id="menu_favorites"><source></source><translation>&amp;Favourites</translation></message>
     <message id="menu_mini"><source></source><translation>M&amp;ini Window</translation></message>
+    <message id="menu_audit"><source></source><translation>Quick &amp;Audit</translation></message>
+    <message id="audit_roms"><source></source><translation>Verify the ROMs</translation></message>
+    <message id="audit_samples"><source></source><translation>Verify the samples</translation></message>
+    <message id="audit_listroms"><source></source><translation>List the ROMs</translation></message>
+    <message id="audit_romident"><source></source><translation>Identify the archive</translation></message>
+    <message id="menu_currentdir"><source></source><translation>Open the Emulator’s Fol&amp;der</translation></message>
+    <message id="menu_openroms"><source></source><translation>&amp;Open the ROM Folder</translation></message>
 </context>
 </TS>

@@ -103,5 +103,12 @@
     <message id="menu_clearplayed"><source></source><translation>プレイ記録を消去(&amp;C)…</translation></message>
     <message id="menu_favorites"><source></source><translation>お気に入り(&amp;F)</translation></message>
     <message id="menu_mini"><source></source><translation>ミニウインドウ(&amp;I)</translation></message>
+    <message id="menu_audit"><source></source><translation>クイック検査(&amp;A)</translation></message>
+    <message id="audit_roms"><source></source><translation>ROMを検査</translation></message>
+    <message id="audit_samples"><source></source><translation>サンプルを検査</translation></message>
+    <message id="audit_listroms"><source></source><translation>ROMの一覧</translation></message>
+    <message id="audit_romident"><source></source><translation>アーカイブを識別</translation></message>
+    <message id="menu_currentdir"><source></source><translation>エミュレータのフォルダを開く(&amp;D)</translation></message>
+    <message id="menu_openroms"><source></source><translation>ROMフォルダを開く(&amp;O)</translation></message>
 </context>
 </TS>

@@ -115,5 +115,27 @@
     <message id="recordname_title"><source></source><translation>English title</translation></message>
     <message id="recordname_titlejp"><source></source><translation>Japanese title</translation></message>
     <message id="bios_none"><source></source><translation>None</translation></message>
+    <message id="command_label"><source></source><translation>Command</translation></message>
+    <message id="command_run"><source></source><translation>Run Command</translation></message>
+    <message id="command_exportlabel"><source></source><translation>Export</translation></message>
+    <message id="command_export"><source></source><translation>Export…</translation></message>
+    <message id="command_stop"><source></source><translation>Stop</translation></message>
+    <message id="command_progress"><source></source><translation>A command is running</translation></message>
+    <message id="command_game"><source></source><translation>GAME</translation></message>
+    <message id="command_archive"><source></source><translation>ARCHIVE</translation></message>
+    <message id="command_executable"><source></source><translation>EMULATOR</translation></message>
+    <message id="command_unwritable"><source></source><translation>“%1” could not be written: it holds nothing of what the emulator printed.</translation></message>
+    <message id="mode_application"><source></source><translation>Other application</translation></message>
+    <message id="option_osx"><source></source><translation>MAME OS X</translation></message>
+    <message id="option_application"><source></source><translation>Other application</translation></message>
+    <message id="alert_Message2"><source></source><translation>The MAME OS X application was not found.</translation></message>
+    <message id="alert_Message3"><source></source><translation>The application that opens the games was not found.</translation></message>
+    <message id="alert_Message4"><source></source><translation>The archive of this game was not found.</translation></message>
+    <message id="alert_Info4"><source></source><translation>It is looked for in the folder “ROMs” of “Documents/MacMAME User Data” in your home folder.</translation></message>
+    <message id="alert_Message5"><source></source><translation>The ROM folder was not found.</translation></message>
+    <message id="alert_Info5"><source></source><translation>There is nothing at the path of the ROM folder in the preferences. Select the folder with your ROMs, or leave it to the emulator.</translation></message>
+    <message id="disable"><source></source><translation>Do Not Use</translation></message>
+    <message id="record_save"><source></source><translation>Save the recording</translation></message>
+    <message id="launch_notopened"><source></source><translation>“%1” could not be opened with “%2”.</translation></message>
 </context>
 </TS>

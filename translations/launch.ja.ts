@@ -115,5 +115,27 @@
     <message id="recordname_title"><source></source><translation>英語タイトル</translation></message>
     <message id="recordname_titlejp"><source></source><translation>日本語タイトル</translation></message>
     <message id="bios_none"><source></source><translation>なし</translation></message>
+    <message id="command_label"><source></source><translation>コマンド</translation></message>
+    <message id="command_run"><source></source><translation>実行</translation></message>
+    <message id="command_exportlabel"><source></source><translation>書き出し</translation></message>
+    <message id="command_export"><source></source><translation>書き出す…</translation></message>
+    <message id="command_stop"><source></source><translation>中止</translation></message>
+    <message id="command_progress"><source></source><translation>コマンドを実行中</translation></message>
+    <message id="command_game"><source></source><translation>ゲーム</translation></message>
+    <message id="command_archive"><source></source><translation>アーカイブ</translation></message>
+    <message id="command_executable"><source></source><translation>エミュレータ</translation></message>
+    <message id="command_unwritable"><source></source><translation>“%1”に書き込めませんでした。エミュレータの出力は保存されていません。</translation></message>
+    <message id="mode_application"><source></source><translation>別のアプリケーション</translation></message>
+    <message id="option_osx"><source></source><translation>MAME OS X</translation></message>
+    <message id="option_application"><source></source><translation>別のアプリケーション</translation></message>
+    <message id="alert_Message2"><source></source><translation>MAME OS Xが見つかりません。</translation></message>
+    <message id="alert_Message3"><source></source><translation>ゲームを開くアプリケーションが見つかりません。</translation></message>
+    <message id="alert_Message4"><source></source><translation>このゲームのアーカイブが見つかりません。</translation></message>
+    <message id="alert_Info4"><source></source><translation>ホームフォルダの“Documents/MacMAME User Data”にある“ROMs”フォルダの中を探しました。</translation></message>
+    <message id="alert_Message5"><source></source><translation>ROMフォルダが見つかりません。</translation></message>
+    <message id="alert_Info5"><source></source><translation>環境設定のROMフォルダのパスには何もありません。ROMのあるフォルダを選択するか、エミュレータの設定に任せてください。</translation></message>
+    <message id="disable"><source></source><translation>使用しない</translation></message>
+    <message id="record_save"><source></source><translation>記録の保存先</translation></message>
+    <message id="launch_notopened"><source></source><translation>“%1”を“%2”で開けませんでした。</translation></message>
 </context>
 </TS>

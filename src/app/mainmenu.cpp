@@ -71,6 +71,8 @@ constexpr std::array rows{
     MenuRow{game,     textKey("menu_clearplayed"), nullptr,        &Hub::clearPlayed},
     MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
+    MenuRow{emulator, textKey("menu_currentdir"),  nullptr,        &Hub::openCurrentdir},
+    MenuRow{emulator, textKey("menu_openroms"),    nullptr,        &Hub::openROMfolder},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
     MenuRow{window,   textKey("menu_favorites"),   "Ctrl+2",       &Hub::windowFavorites},
     MenuRow{window,   textKey("menu_mini"),        "Ctrl+3",       &Hub::windowMini},

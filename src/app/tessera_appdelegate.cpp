@@ -1,6 +1,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
@@ -11,6 +12,7 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
+#include "app/modemenu.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/windowswitching.h"
@@ -36,6 +38,7 @@
 #include "launch/ui/miscpage.h"
 #include "launch/ui/optionpage.h"
 #include "launch/ui/pathchooser.h"
+#include "launch/ui/runcontroller.h"
 #include "platform/desktop.h"
 #include "platform/recentdocuments.h"
 #include "tools/ui/utilityobject.h"
@@ -104,7 +107,7 @@ void Tessera_AppDelegate::loadInterface()
     m_preferencesWindow = std::make_unique<PreferencesWindow>();
     m_pages = std::make_unique<LaunchPages>(m_defaults, [] { return findEmulator(); });
     m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
-    m_pages->general().setChooser(*m_chooser);
+    m_pages->setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
         m_preferencesWindow->addPage(page, page->title(), page->icon());
     addAppearancePage();
@@ -117,8 +120,9 @@ void Tessera_AppDelegate::loadInterface()
     m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
                                           [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
+    m_runs = std::make_unique<RunController>(m_desktop, m_defaults, *m_logWindow, *m_task);
     m_launch = std::make_unique<LaunchController>(LaunchParts{
-        m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
+        m_desktop, m_defaults, *m_pages, *m_chooser, *m_task, *m_runs, *m_profiles,
         SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
                          [this] { return m_gameList->tableViewSelectionTitleE(); },
                          [this] { return m_gameList->tableViewSelectionTitleJ(); }},
@@ -137,6 +141,7 @@ void Tessera_AppDelegate::loadInterface()
     keepWindowPlaces();
     joinRooms();
     joinViews();
+    joinCommands();
     openCatalogue();
 }
 
@@ -195,12 +200,13 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
             &Tessera_AppDelegate::DefaultAction);
     connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
+    connect(m_launch.get(), &LaunchController::launchModeChanged, this,
+            [this] { m_modeMenu->mark(m_pages->general().launchusingPop->currentText()); });
 }
 
 void Tessera_AppDelegate::joinViews()
 {
-    connect(m_launch.get(), &LaunchController::started, &m_favorites->played(),
-            &PlayedController::notePlayed);
+    connect(m_runs.get(), &RunController::started, &m_favorites->played(), &PlayedController::notePlayed);
     connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
             [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
     connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
@@ -233,6 +239,24 @@ void Tessera_AppDelegate::joinViews()
         connect(stack, &QUndoStack::canRedoChanged, keys, follow);
     }
     followUndo();
+}
+
+void Tessera_AppDelegate::joinCommands()
+{
+    QMenuBar& bar = *m_mainWindow->menuBar();
+    m_modeMenu = std::make_unique<ModeMenu>(bar, *m_launch);
+    m_commands = std::make_unique<CommandsDesk>(
+        CommandsDesk::Parts{m_desktop,
+                            m_defaults,
+                            *m_logWindow,
+                            *m_task,
+                            *m_runs,
+                            *m_launch,
+                            *m_chooser,
+                            [this] { return m_gameList->tableViewSelectionROM(); },
+                            {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton,
+                             m_favorites->window().stopButton}});
+    m_commands->addAuditsTo(*bar.findChild<QMenu*>(QStringLiteral("menu_game")));
 }
 
 // Undo and Redo are dim while there is nothing to undo or redo in the key window.
@@ -527,9 +551,19 @@ void Tessera_AppDelegate::selectROMfolder()
     m_chooser->selectROMfolder();
 }
 
+void Tessera_AppDelegate::openCurrentdir()
+{
+    m_chooser->openCurrentdir();
+}
+
+void Tessera_AppDelegate::openROMfolder()
+{
+    m_chooser->openROMfolder();
+}
+
 void Tessera_AppDelegate::saveLogAction()
 {
-    m_launch->saveLogAction();
+    m_runs->saveLogAction();
 }
 
 void Tessera_AppDelegate::windowMain()
@@ -549,12 +583,12 @@ void Tessera_AppDelegate::windowMini()
 
 void Tessera_AppDelegate::showLogWindow()
 {
-    m_launch->showLogWindow();
+    m_runs->showLogWindow();
 }
 
 void Tessera_AppDelegate::windowLog()
 {
-    m_launch->windowLog();
+    m_runs->windowLog();
 }
 
 void Tessera_AppDelegate::showPrefsWindow()

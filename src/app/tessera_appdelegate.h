@@ -13,6 +13,7 @@ class QAction;
 namespace tessera {
 
 class CatalogueRebuild;
+class CommandsDesk;
 class Desktop;
 class EmulatorTask;
 class FavoritesDesk;
@@ -24,12 +25,14 @@ class LaunchPages;
 class LogWindow;
 class MainWindow;
 class MiniDesk;
+class ModeMenu;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
 class RecentDocuments;
 class RecordEditing;
 class RowColors;
+class RunController;
 class TableFont;
 class UtilityObject;
 class WindowSwitching;
@@ -64,6 +67,7 @@ public:
     Finding& finding() { return *m_finding; }
     RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
+    CommandsDesk& commands() { return *m_commands; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
@@ -102,6 +106,8 @@ public Q_SLOTS:
     void stopGame();
     void selectExefile();
     void selectROMfolder();
+    void openCurrentdir();
+    void openROMfolder();
     void saveLogAction();
     void windowMain();
     void windowFavorites();
@@ -130,6 +136,7 @@ private:
     void addAppearancePage();
     void joinRooms();
     void joinViews();
+    void joinCommands();
     void keepWindowPlaces();
     void followUndo();
     void runGame(const QString& game);
@@ -163,7 +170,10 @@ private:
     std::unique_ptr<PathChooser> m_chooser;
     std::unique_ptr<EmulatorTask> m_task;
     std::unique_ptr<ProfileCache> m_profiles;
+    std::unique_ptr<RunController> m_runs;
     std::unique_ptr<LaunchController> m_launch;
+    std::unique_ptr<CommandsDesk> m_commands;
+    std::unique_ptr<ModeMenu> m_modeMenu;
     std::unique_ptr<UtilityObject> m_utility;
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;

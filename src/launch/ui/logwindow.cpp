@@ -41,4 +41,15 @@ LogWindow::LogWindow(QWidget* parent)
     resize(firstSize);
 }
 
+void LogWindow::setCommands(QWidget* bar)
+{
+    qobject_cast<QVBoxLayout*>(layout())->insertWidget(0, bar);
+}
+
+void LogWindow::showEvent(QShowEvent* event)
+{
+    Q_EMIT aboutToShow();
+    QWidget::showEvent(event);
+}
+
 } // namespace tessera
