@@ -137,5 +137,13 @@
     <message id="disable"><source></source><translation>Do Not Use</translation></message>
     <message id="record_save"><source></source><translation>Save the recording</translation></message>
     <message id="launch_notopened"><source></source><translation>“%1” could not be opened with “%2”.</translation></message>
+    <message id="reason_missing"><source></source><translation>Files of this game are missing: %1.</translation></message>
+    <message id="reason_missingfrom"><source></source><translation>Files of this game are missing: %1. They belong into %2.</translation></message>
+    <message id="reason_wrong"><source></source><translation>These files are not the ones that this version of the emulator expects: %1.</translation></message>
+    <message id="reason_option"><source></source><translation>The emulator does not know the option “%1”.</translation></message>
+    <message id="reason_system"><source></source><translation>The emulator does not know “%1”.</translation></message>
+    <message id="reason_closesystems"><source></source><translation>The emulator does not know “%1”. It knows %2.</translation></message>
+    <message id="reason_display"><source></source><translation>The emulator found no screen to draw on.</translation></message>
+    <message id="reason_more"><source></source><translation>%1 and %2 more</translation></message>
 </context>
 </TS>

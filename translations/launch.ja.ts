@@ -137,5 +137,13 @@
     <message id="disable"><source></source><translation>使用しない</translation></message>
     <message id="record_save"><source></source><translation>記録の保存先</translation></message>
     <message id="launch_notopened"><source></source><translation>“%1”を“%2”で開けませんでした。</translation></message>
+    <message id="reason_missing"><source></source><translation>このゲームのファイルがありません: %1</translation></message>
+    <message id="reason_missingfrom"><source></source><translation>このゲームのファイルがありません: %1。これらは%2に入っているはずです。</translation></message>
+    <message id="reason_wrong"><source></source><translation>次のファイルは、このバージョンのエミュレータが求めるものと異なります: %1</translation></message>
+    <message id="reason_option"><source></source><translation>エミュレータはオプション“%1”を認識しません。</translation></message>
+    <message id="reason_system"><source></source><translation>エミュレータは“%1”を認識しません。</translation></message>
+    <message id="reason_closesystems"><source></source><translation>エミュレータは“%1”を認識しません。似た名前に%2があります。</translation></message>
+    <message id="reason_display"><source></source><translation>エミュレータが描画できる画面がありません。</translation></message>
+    <message id="reason_more"><source></source><translation>%1、ほか%2件</translation></message>
 </context>
 </TS>

@@ -74,6 +74,8 @@ private Q_SLOTS:
         QCOMPARE(room.text(), header.arg("pong") + "Unknown system \"/r/pong.zip\"\n");
         QCOMPARE(room.desktop.transcript(),
                  QStringList({"recent /r/pong.zip", "beep", "alert errerAlert 5"}));
+        // In plain words, before where to read on.
+        QCOMPARE(room.desktop.alerts.at(0).informative, QStringLiteral("reason_system\n\nerrerInfo"));
     }
 
     void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed_data()

@@ -69,13 +69,6 @@ QPushButton* makeButton(const char* name, const char* labelKey)
     return button;
 }
 
-void keepRoom(QWidget& widget)
-{
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 } // namespace
 
 CommandBar::CommandBar(DefaultsController& defaults, QWidget* parent)
@@ -118,20 +111,30 @@ void CommandBar::layOut()
     }
     layout->addStretch();
     layout->addWidget(progressInd);
-    layout->addWidget(stopButton);
-    keepRoom(*progressInd);
-    keepRoom(*stopButton);
+    // In the place of the button that it takes back, where it is seen in a narrow window too.
+    layout->insertWidget(layout->indexOf(returnButton) + 1, stopButton);
+    stopButton->setMinimumWidth(returnButton->sizeHint().width());
+    QSizePolicy policy = progressInd->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    progressInd->setSizePolicy(policy);
+    // The window stays as narrow as it was left.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
 void CommandBar::setBusy(bool isBusy)
 {
-    progressInd->setVisible(isBusy);
-    stopButton->setVisible(isBusy);
     if (isBusy)
-        stopButton->setFocus();
+        m_focused = focusWidget();
+    progressInd->setVisible(isBusy);
+    returnButton->setVisible(!isBusy);
+    stopButton->setVisible(isBusy);
     for (QWidget* control : {static_cast<QWidget*>(commandPop), static_cast<QWidget*>(returnButton),
                              static_cast<QWidget*>(exportPop), static_cast<QWidget*>(exportButton)})
         control->setEnabled(!isBusy);
+    if (isBusy)
+        stopButton->setFocus();
+    else if (m_focused)
+        m_focused->setFocus();
 }
 
 } // namespace tessera

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QComboBox;
@@ -30,6 +31,8 @@ public:
 
 private:
     void layOut();
+
+    QPointer<QWidget> m_focused; ///< what Stop took the focus from
 };
 
 } // namespace tessera

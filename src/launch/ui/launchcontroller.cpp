@@ -128,6 +128,19 @@ QString LaunchController::shownCommandLine(const QString& game)
     return shellWords(QStringList{launch.executable} + line.arguments);
 }
 
+QStringList LaunchController::shellOptions()
+{
+    const QStringList built = argumentsArray(options());
+    const auto answer = m_parts.profiles.remembered(executable());
+    return answer && answer->profile ? answer->profile->fit(built, EmulatorProfile::Quotes::Kept).arguments
+                                     : built;
+}
+
+QStringList LaunchController::osxOptions() const
+{
+    return argumentsArray2(options());
+}
+
 void LaunchController::LaunchTask_SDLMAME(const QString& game)
 {
     noteRecent(game);
@@ -155,10 +168,9 @@ void LaunchController::LaunchTask_MAMEOSX(const QString& game)
     else if (folder)
         m_parts.paths.saveOpenRecent(*folder + QLatin1Char('/') + game + QStringLiteral(".zip"));
     const QString application = m_parts.defaults.text(keys::MameosxPath);
-    m_parts.runs.start(
-        {m_name, bundleExecutable(application), QFileInfo(application).path(),
-         osxGameArguments(game, usesFolder ? folders.romFolder : QString()) + argumentsArray2(options()),
-         game});
+    m_parts.runs.start({m_name, bundleExecutable(application), QFileInfo(application).path(),
+                        osxGameArguments(game, usesFolder ? folders.romFolder : QString()) + osxOptions(),
+                        game});
 }
 
 // Deliberate: an archive of any place is looked for by its bare name among the user data.

@@ -44,6 +44,8 @@ LogWindow::LogWindow(QWidget* parent)
 void LogWindow::setCommands(QWidget* bar)
 {
     qobject_cast<QVBoxLayout*>(layout())->insertWidget(0, bar);
+    // A layout shows what comes so late only after the window.
+    bar->show();
 }
 
 void LogWindow::showEvent(QShowEvent* event)

@@ -2,6 +2,7 @@
 
 #include "core/atomicfile.h"
 #include "launch/emulatortask.h"
+#include "launch/failurereason.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
 #include "platform/defaultscontroller.h"
@@ -14,6 +15,10 @@
 #include <array>
 
 namespace tessera {
+
+namespace {
+constexpr qsizetype keptForReasons = qsizetype{64} * 1024; // characters
+}
 
 RunController::RunController(Desktop& desktop, DefaultsController& defaults, LogWindow& logWindow,
                              EmulatorTask& task, QObject* parent)
@@ -44,6 +49,7 @@ void RunController::beginLog(const QString& header)
 void RunController::start(const EmulatorRun& run)
 {
     m_run = run;
+    m_printed.clear();
     Q_EMIT statusMessage(about(textKey("launch_running")));
     m_task.start(run.executable, run.folder, run.arguments, run.outputFile);
     Q_EMIT runningChanged(true);
@@ -57,6 +63,7 @@ void RunController::taskStarted()
 
 void RunController::getData(const QString& text)
 {
+    m_printed = QString(m_printed + text).right(keptForReasons);
     appendOutput(text);
 }
 
@@ -95,9 +102,15 @@ void RunController::taskFailedToStart(const QString& reason)
 
 void RunController::errerAlert(const QString& statusText)
 {
+    QStringList informative;
+    for (const Failure& reason : failureReasons(m_printed))
+        informative << reason.text();
+    if (!informative.isEmpty())
+        informative << QString();
+    informative << qtTrId("errerInfo");
     m_desktop.beep();
     const Alert alert{qtTrId("errerAlert") + QLatin1Char(' ') + statusText,
-                      qtTrId("errerInfo"),
+                      informative.join(QLatin1Char('\n')),
                       {QStringLiteral("OK"), QStringLiteral("Log")},
                       Alert::Style::Warning,
                       0};

@@ -61,6 +61,7 @@ private:
     LogWindow& m_logWindow;
     EmulatorTask& m_task;
     EmulatorRun m_run;
+    QString m_printed; ///< the end of what it printed
 };
 
 } // namespace tessera
