@@ -15,6 +15,7 @@
 #include "app/modemenu.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "app/scriptjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
@@ -41,6 +42,7 @@
 #include "launch/ui/runcontroller.h"
 #include "platform/desktop.h"
 #include "platform/recentdocuments.h"
+#include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 #include "widgets/bringforward.h"
@@ -278,6 +280,7 @@ UtilityObject& Tessera_AppDelegate::utility()
 {
     if (!m_utility) {
         m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+        m_scripts = joinScripts(*m_utility, *m_gameList, *m_launch, m_defaults);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }

@@ -33,6 +33,7 @@ class RecentDocuments;
 class RecordEditing;
 class RowColors;
 class RunController;
+class ScriptTool;
 class TableFont;
 class UtilityObject;
 class WindowSwitching;
@@ -175,6 +176,7 @@ private:
     std::unique_ptr<CommandsDesk> m_commands;
     std::unique_ptr<ModeMenu> m_modeMenu;
     std::unique_ptr<UtilityObject> m_utility;
+    std::unique_ptr<ScriptTool> m_scripts;
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;

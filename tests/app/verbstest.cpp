@@ -105,6 +105,10 @@ private Q_SLOTS:
         row("command without its game", QStringLiteral("command 7"));
         row("export without -o", QStringLiteral("export 1"));
         row("export with a negative position", QStringLiteral("export -o file -- -1"));
+        row("script without a format", QStringLiteral("script pong -o file"));
+        row("script in an unknown format", QStringLiteral("script pong --format bat -o file"));
+        row("script for an unknown emulator", QStringLiteral("script pong --format sh --emulator 3 -o file"));
+        row("script without -o", QStringLiteral("script pong --format sh"));
         row("existence without -o", QStringLiteral("existence a b"));
         row("existence without a folder", QStringLiteral("existence a -o c"));
         row("separate without a destination", QStringLiteral("separate a b"));
@@ -527,6 +531,35 @@ private Q_SLOTS:
                            path(QStringLiteral("no such folder/out"))});
         QCOMPARE(outcome.status, 1);
         QVERIFY(outcome.out.isEmpty() && outcome.err.contains("no such folder"));
+    }
+
+    void scriptsLeaveOutWhatTheEmulatorDoesNotKnowAndKeepTheQuotes()
+    {
+        write(QStringLiteral("usage.txt"),
+              "-video               video output method\n-effect              name of the effect\n"
+              "-rompath             path to ROM sets\n");
+        m_environment.insert(QStringLiteral("FAKE_USAGE"), path(QStringLiteral("usage.txt")));
+        useStandIn();
+        UserDefaults settings(settingsPath());
+        settings.setValue(keys::Effect.name, true);
+        QVERIFY(settings.synchronize());
+        const QString folder = QFileInfo(QStringLiteral(TESSERA_FAKEEMULATOR)).path();
+        const QString name = QFileInfo(QStringLiteral(TESSERA_FAKEEMULATOR)).fileName();
+        const auto made = [&](const QString& more) {
+            const QString line = QStringLiteral("script pong -o %1 ").arg(path(QStringLiteral("out"))) + more;
+            const Outcome outcome = tessera(line.split(QLatin1Char(' ')));
+            return outcome.status == 0 && outcome.out == "Saved a Script file.\n"
+                ? QString::fromUtf8(read(QStringLiteral("out")))
+                : QString::fromUtf8(outcome.err);
+        };
+        const QString start = QStringLiteral("cd %1\n./%2 pong").arg(folder, name);
+        QCOMPARE(made(QStringLiteral("--format tool")),
+                 start + QStringLiteral(" -video opengl -effect \"none\""));
+        QVERIFY(QFileInfo(path(QStringLiteral("out"))).isExecutable());
+        QCOMPARE(made(QStringLiteral("--format tool --no-options")), start);
+        QVERIFY(made(QStringLiteral("--format scpt"))
+                    .endsWith(QStringLiteral(" -video opengl -effect \\\"none\\\"\"")));
+        QVERIFY(made(QStringLiteral("--format sh --emulator 1")).contains(QStringLiteral("No emulator")));
     }
 
     void launchNotesAnArchiveAmongTheRecentFiles()

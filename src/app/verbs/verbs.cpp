@@ -39,6 +39,11 @@ constexpr std::array table{
          "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
          "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
          &runList},
+    Verb{"script", "GAME --format tool|sh|scpt [--emulator 0|1|2] [--no-options] -o FILE",
+         "Write a script that starts a game: with the command-line emulator (0), the MAME OS X application "
+         "(1) "
+         "or another application (2).",
+         &runScript},
     Verb{"separate", "ROMS LISTFULL DEST",
          "Copy what a saved -listfull text does not name out of a ROM folder into another; nothing is "
          "removed or "

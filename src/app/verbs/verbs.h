@@ -52,6 +52,7 @@ int runExistence(const Verb& verb, const QStringList& arguments);
 int runExport(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
+int runScript(const Verb& verb, const QStringList& arguments);
 int runSeparate(const Verb& verb, const QStringList& arguments);
 int runVerify(const Verb& verb, const QStringList& arguments);
 
