@@ -110,5 +110,8 @@
     <message id="audit_romident"><source></source><translation>Identify the archive</translation></message>
     <message id="menu_currentdir"><source></source><translation>Open the Emulator’s Fol&amp;der</translation></message>
     <message id="menu_openroms"><source></source><translation>&amp;Open the ROM Folder</translation></message>
+    <message id="menu_launcher"><source></source><translation>Save as &amp;Launcher…</translation></message>
+    <message id="launcher_save"><source></source><translation>Save as launcher</translation></message>
+    <message id="launcher_saved"><source></source><translation>The launcher was saved: %1</translation></message>
 </context>
 </TS>

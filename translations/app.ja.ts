@@ -110,5 +110,8 @@
     <message id="audit_romident"><source></source><translation>アーカイブを識別</translation></message>
     <message id="menu_currentdir"><source></source><translation>エミュレータのフォルダを開く(&amp;D)</translation></message>
     <message id="menu_openroms"><source></source><translation>ROMフォルダを開く(&amp;O)</translation></message>
+    <message id="menu_launcher"><source></source><translation>ランチャーとして保存(&amp;L)…</translation></message>
+    <message id="launcher_save"><source></source><translation>ランチャーとして保存</translation></message>
+    <message id="launcher_saved"><source></source><translation>ランチャーを保存しました: %1</translation></message>
 </context>
 </TS>

@@ -145,5 +145,9 @@
     <message id="reason_closesystems"><source></source><translation>The emulator does not know “%1”. It knows %2.</translation></message>
     <message id="reason_display"><source></source><translation>The emulator found no screen to draw on.</translation></message>
     <message id="reason_more"><source></source><translation>%1 and %2 more</translation></message>
+    <message id="commandline_copy"><source></source><translation>Copy</translation></message>
+    <message id="commandline_copytip"><source></source><translation>Copy the command line</translation></message>
+    <message id="commandline_name"><source></source><translation>Command line</translation></message>
+    <message id="commandline_leftout"><source></source><translation>Left out: this emulator does not know it</translation></message>
 </context>
 </TS>

@@ -145,5 +145,9 @@
     <message id="reason_closesystems"><source></source><translation>エミュレータは“%1”を認識しません。似た名前に%2があります。</translation></message>
     <message id="reason_display"><source></source><translation>エミュレータが描画できる画面がありません。</translation></message>
     <message id="reason_more"><source></source><translation>%1、ほか%2件</translation></message>
+    <message id="commandline_copy"><source></source><translation>コピー</translation></message>
+    <message id="commandline_copytip"><source></source><translation>コマンドラインをコピー</translation></message>
+    <message id="commandline_name"><source></source><translation>コマンドライン</translation></message>
+    <message id="commandline_leftout"><source></source><translation>このエミュレータは認識しないため省かれます</translation></message>
 </context>
 </TS>

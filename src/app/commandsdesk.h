@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -11,12 +12,14 @@ namespace tessera {
 
 class CommandBar;
 class CommandController;
+class CommandLineFoot;
 class DefaultsController;
 class Desktop;
 class EmulatorTask;
 class LaunchController;
 class LogWindow;
 class PathChooser;
+class PreferencesWindow;
 class RunController;
 
 /// Puts the emulator's commands into the log window and the menus. The controls are made when they are first
@@ -35,6 +38,7 @@ public:
         LaunchController& launches;
         PathChooser& paths;
         std::function<QString()> selectedGame;
+        std::function<QString()> selectedTitle;
         QList<QObject*> stops; ///< buttons and menu items that stop the emulator
     };
     explicit CommandsDesk(Parts parts, QObject* parent = nullptr);
@@ -44,6 +48,14 @@ public:
     CommandController& controller();
     /// The quick audits of the selected game are added to the menu when it is first opened.
     void addAuditsTo(QMenu& menu);
+    /// The command line of the selected game at the preferences' foot, while they are shown.
+    void addLineTo(PreferencesWindow& preferences);
+    void showLine();
+    /// Saves a desktop entry that starts the selected game as it would be started now.
+    void saveLauncher();
+
+Q_SIGNALS:
+    void statusMessage(const QString& text);
 
 private:
     void make();
@@ -51,6 +63,7 @@ private:
 
     Parts m_parts;
     CommandBar* m_bar = nullptr;
+    QPointer<CommandLineFoot> m_foot;
     std::unique_ptr<CommandController> m_controller;
 };
 

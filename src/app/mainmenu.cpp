@@ -69,6 +69,7 @@ constexpr std::array rows{
     MenuRow{game,     nullptr,                     nullptr,        nullptr},
     MenuRow{game,     textKey("menu_addfavorite"), "Ctrl+D",       &Hub::addFavorite},
     MenuRow{game,     textKey("menu_clearplayed"), nullptr,        &Hub::clearPlayed},
+    MenuRow{game,     textKey("menu_launcher"),    nullptr,        &Hub::saveLauncher},
     MenuRow{emulator, textKey("menu_emulatorfile"), nullptr,       &Hub::selectExefile},
     MenuRow{emulator, textKey("menu_romfolder"),   nullptr,        &Hub::selectROMfolder},
     MenuRow{emulator, textKey("menu_currentdir"),  nullptr,        &Hub::openCurrentdir},

@@ -256,8 +256,13 @@ void Tessera_AppDelegate::joinCommands()
                             *m_launch,
                             *m_chooser,
                             [this] { return m_gameList->tableViewSelectionROM(); },
+                            [this] { return m_gameList->tableViewSelectionTitleE(); },
                             {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton,
                              m_favorites->window().stopButton}});
+    m_commands->addLineTo(*m_preferencesWindow);
+    connect(m_gameList.get(), &GameListController::selectionChanged, m_commands.get(),
+            &CommandsDesk::showLine);
+    connect(m_commands.get(), &CommandsDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     m_commands->addAuditsTo(*bar.findChild<QMenu*>(QStringLiteral("menu_game")));
 }
 
@@ -552,6 +557,11 @@ void Tessera_AppDelegate::selectExefile()
 void Tessera_AppDelegate::selectROMfolder()
 {
     m_chooser->selectROMfolder();
+}
+
+void Tessera_AppDelegate::saveLauncher()
+{
+    m_commands->saveLauncher();
 }
 
 void Tessera_AppDelegate::openCurrentdir()

@@ -107,6 +107,7 @@ public Q_SLOTS:
     void stopGame();
     void selectExefile();
     void selectROMfolder();
+    void saveLauncher();
     void openCurrentdir();
     void openROMfolder();
     void saveLogAction();

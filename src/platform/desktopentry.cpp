@@ -68,6 +68,25 @@ QStringList parted(const QString& command)
     return words;
 }
 
+// A value of any key.
+QString escaped(QString value)
+{
+    value.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+    value.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+    value.replace(QStringLiteral("\r"), QStringLiteral("\\r"));
+    value.replace(QStringLiteral("\t"), QStringLiteral("\\t"));
+    return value;
+}
+
+// An argument within Exec, always in quotes.
+QString argument(QString word)
+{
+    for (const char c : {'\\', '"', '`', '$'})
+        word.replace(QLatin1Char(c), QStringLiteral("\\") + QString(QLatin1Char(c)));
+    word.replace(QLatin1Char('%'), QStringLiteral("%%"));
+    return QLatin1Char('"') + word + QLatin1Char('"');
+}
+
 } // namespace
 
 std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QString& file)
@@ -91,6 +110,17 @@ std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QS
     if (!hasFile)
         command << file;
     return command;
+}
+
+QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder)
+{
+    QStringList words;
+    for (const QString& word : command)
+        words << argument(word);
+    const QString text = QStringLiteral("[Desktop Entry]\nType=Application\nName=") + escaped(name)
+        + QStringLiteral("\nExec=") + escaped(words.join(QLatin1Char(' '))) + QStringLiteral("\nPath=")
+        + escaped(folder) + QStringLiteral("\nTerminal=false\nCategories=Game;\n");
+    return text.toUtf8();
 }
 
 } // namespace tessera

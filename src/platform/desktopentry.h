@@ -11,4 +11,7 @@ namespace tessera {
 /// says so, or at the end. Nothing where it starts nothing.
 std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QString& file);
 
+/// A desktop entry that starts a command in a folder.
+QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder);
+
 } // namespace tessera

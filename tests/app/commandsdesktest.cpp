@@ -1,8 +1,10 @@
 #include "app/commandsdesk.h"
 
 #include "app/mainwindow.h"
+#include "app/preferenceswindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "launch/ui/commandbar.h"
+#include "launch/ui/commandlinefoot.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
@@ -12,6 +14,8 @@
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFile>
 #include <QMenu>
@@ -111,6 +115,36 @@ private Q_SLOTS:
         const QFileInfo emulator(QStringLiteral(TESSERA_FAKEEMULATOR));
         QCOMPARE(QString::fromUtf8(file.readAll()),
                  QStringLiteral("cd %1\n./%2 pong").arg(emulator.path(), emulator.fileName()));
+    }
+
+    void thePreferencesFootShowsTheLiveCommandLine()
+    {
+        PreferencesWindow& window = m_staged->app->preferencesWindow();
+        QVERIFY(!window.findChild<CommandLineFoot*>());
+        m_staged->app->showPrefsWindow();
+        const auto* foot = window.findChild<CommandLineFoot*>();
+        QVERIFY(foot && foot->isVisible());
+        QVERIFY2(foot->text().startsWith(QStringLiteral(TESSERA_FAKEEMULATOR) + " pong -video opengl "),
+                 qPrintable(foot->text()));
+        window.findChild<QCheckBox*>(QStringLiteral("checkboxMaximize"))->click();
+        QVERIFY(foot->text().contains(" -maximize "));
+        m_staged->app->gameList().selectGame(QStringLiteral("qix"));
+        QVERIFY(foot->text().contains(" qix -video"));
+        foot->copyButton->click();
+        QCOMPARE(QGuiApplication::clipboard()->text(), foot->text());
+    }
+
+    void aLauncherStartsTheSelectedGame()
+    {
+        const QString path = m_staged->path(QStringLiteral("pong.desktop"));
+        m_staged->desktop.answerSave(QStringLiteral("pong.desktop"), path);
+        m_staged->app->saveLauncher();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray entry = file.readAll();
+        QVERIFY(entry.contains("\nName=Pong\n"));
+        QVERIFY(entry.contains("\nExec=\"" TESSERA_FAKEEMULATOR "\" \"pong\" \"-video\" \"opengl\" "));
+        QVERIFY(QFileInfo(path).isExecutable());
     }
 
     void quittingIsRefusedWhileACommandRuns()

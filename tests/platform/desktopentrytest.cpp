@@ -35,6 +35,16 @@ private Q_SLOTS:
         QCOMPARE(*got, command);
     }
 
+    void whatIsWrittenIsReadAgain()
+    {
+        const QStringList command{
+            "/my apps/mame", "pong", "", "a\"b", "c\\d", "$HOME `x` 100%", QString::fromUtf8("日本\tx")};
+        const QByteArray entry = desktopEntry("Pong\nof old", command, "/my apps");
+        QVERIFY(entry.contains("\nName=Pong\\nof old\n"));
+        QVERIFY(entry.contains("\nPath=/my apps\n"));
+        QCOMPARE(desktopEntryCommand(entry, "/f"), std::optional(command + QStringList{"/f"}));
+    }
+
     void whatStartsNothing()
     {
         QVERIFY(!desktopEntryCommand("", "/a"));

@@ -64,6 +64,13 @@ bool LaunchController::romsfolder_FoundCheck() const
     return romsFolderExists(m_parts.pages.general().romsTextField->text());
 }
 
+// Empty where the emulator is left to its own.
+QString LaunchController::usedRomFolder() const
+{
+    const ArchiveFolders folders = archiveFolders();
+    return folders.usesRomFolder && romsfolder_FoundCheck() ? folders.romFolder : QString();
+}
+
 bool LaunchController::findsExecutable()
 {
     m_parts.pages.general().lookForEmulator();
@@ -119,13 +126,33 @@ LaunchController::Launch LaunchController::launchOf(const QString& game) const
     return {executable(), game, argumentsArray(options()), ownOptions(m_parts.search_priorityOption(game))};
 }
 
+ShownLine LaunchController::shownLine(const QString& game)
+{
+    ShownLine shown;
+    const int mode = m_parts.pages.general().launchusingPop->currentIndex();
+    if (mode == OtherApplication) {
+        const auto archive = userDataArchive(QDir::homePath(), game);
+        shown.executable = m_parts.defaults.text(keys::ApplicationPath);
+        shown.line.arguments << archive.value_or(game);
+    } else if (mode == MameOsx) {
+        shown.executable = bundleExecutable(m_parts.defaults.text(keys::MameosxPath));
+        shown.line.arguments = osxGameArguments(game, usedRomFolder()) + osxOptions();
+    } else {
+        const Launch launch = launchOf(game);
+        const auto answer = m_parts.profiles.remembered(launch.executable);
+        shown.executable = launch.executable;
+        shown.line = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
+    }
+    // Where none is selected there is no game to name.
+    if (game.isEmpty())
+        shown.line.arguments.removeAll(QString());
+    return shown;
+}
+
 QString LaunchController::shownCommandLine(const QString& game)
 {
-    const Launch launch = launchOf(game);
-    const auto answer = m_parts.profiles.remembered(launch.executable);
-    const CommandLine line
-        = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
-    return shellWords(QStringList{launch.executable} + line.arguments);
+    const ShownLine shown = shownLine(game);
+    return shellWords(QStringList{shown.executable} + shown.line.arguments);
 }
 
 QStringList LaunchController::shellOptions()
@@ -160,17 +187,15 @@ void LaunchController::noteRecent(const QString& game)
 
 void LaunchController::LaunchTask_MAMEOSX(const QString& game)
 {
-    const ArchiveFolders folders = archiveFolders();
-    const bool usesFolder = folders.usesRomFolder && romsfolder_FoundCheck();
-    const auto folder = usesFolder ? folders.romFolder : osxRomPath(QDir::homePath());
+    const QString used = usedRomFolder();
+    const auto folder = used.isEmpty() ? osxRomPath(QDir::homePath()) : used;
     if (QDir::isAbsolutePath(game))
         m_parts.paths.saveOpenRecent(game);
     else if (folder)
         m_parts.paths.saveOpenRecent(*folder + QLatin1Char('/') + game + QStringLiteral(".zip"));
     const QString application = m_parts.defaults.text(keys::MameosxPath);
     m_parts.runs.start({m_name, bundleExecutable(application), QFileInfo(application).path(),
-                        osxGameArguments(game, usesFolder ? folders.romFolder : QString()) + osxOptions(),
-                        game});
+                        osxGameArguments(game, used) + osxOptions(), game});
 }
 
 // Deliberate: an archive of any place is looked for by its bare name among the user data.

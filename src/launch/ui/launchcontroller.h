@@ -1,6 +1,7 @@
 #pragma once
 
 #include "launch/archivepath.h"
+#include "launch/commandline.h"
 #include "launch/launchoptions.h"
 
 #include <QObject>
@@ -41,6 +42,12 @@ struct LaunchParts {
     std::function<QString(const QString& name)> search_priorityOption;
 };
 
+/// A program and what it is started with.
+struct ShownLine {
+    QString executable;
+    CommandLine line;
+};
+
 /// Starts games.
 class LaunchController : public QObject
 {
@@ -60,8 +67,10 @@ public:
     bool findsExecutable();
     /// Where archives are expected with what is chosen now.
     ArchiveFolders archiveFolders() const;
-    /// What would be started for a short name, as a shell would take it; the emulator's own wishes are
-    /// respected where it was asked already.
+    /// What would be started for a short name, or without a game; the emulator's own wishes are respected
+    /// where it was asked already.
+    ShownLine shownLine(const QString& game);
+    /// The same as a shell would take it.
     QString shownCommandLine(const QString& game);
     /// The command-line emulator's options as a shell is to read them, without what it would not understand
     /// where it was asked already.
@@ -97,6 +106,7 @@ private:
         QStringList own;
     };
     LaunchOptions options() const;
+    QString usedRomFolder() const;
     Launch launchOf(const QString& game) const;
     void begin(const Launch& launch, const ProfileAnswer& answer);
     void profileAnswered(const QString& executable, const ProfileAnswer& answer);
