@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -11,12 +12,36 @@
 namespace tessera {
 
 namespace {
+
 constexpr int shownLines = 3;
+constexpr QChar joiner(0x2060);
+
+// Lines would be broken behind the hyphens of options.
+QString unbroken(QString text)
+{
+    return text.replace(QLatin1Char('-'), QLatin1Char('-') + QString(joiner));
 }
+
+/// What is copied out of it is the line as it was.
+class Text : public QTextEdit
+{
+public:
+    using QTextEdit::QTextEdit;
+
+protected:
+    QMimeData* createMimeDataFromSelection() const override
+    {
+        auto* mime = new QMimeData;
+        mime->setText(textCursor().selectedText().remove(joiner));
+        return mime;
+    }
+};
+
+} // namespace
 
 CommandLineFoot::CommandLineFoot(QWidget* parent)
     : QWidget(parent)
-    , commandLineText(new QTextEdit(this))
+    , commandLineText(new Text(this))
     , copyButton(new QPushButton(qtTrId("commandline_copy"), this))
 {
     commandLineText->setObjectName(QStringLiteral("commandLineText"));
@@ -42,7 +67,7 @@ void CommandLineFoot::showLine(const QString& executable, const CommandLine& lin
 {
     const QString text = shellWords(QStringList{executable} + line.arguments);
     const QString struck = line.leftOut.join(QLatin1Char(' '));
-    const QString shown = struck.isEmpty() ? text : text + QLatin1Char(' ') + struck;
+    const QString shown = unbroken(struck.isEmpty() ? text : text + QLatin1Char(' ') + struck);
     m_text = text;
     // A selection is not lost to what changes nothing.
     if (commandLineText->toPlainText() == shown)
@@ -50,13 +75,13 @@ void CommandLineFoot::showLine(const QString& executable, const CommandLine& lin
     commandLineText->clear();
     QTextCursor cursor(commandLineText->document());
     QTextCharFormat format;
-    cursor.insertText(text, format);
+    cursor.insertText(unbroken(text), format);
     if (struck.isEmpty())
         return;
     cursor.insertText(QStringLiteral(" "), format);
     format.setFontStrikeOut(true);
     format.setToolTip(qtTrId("commandline_leftout"));
-    cursor.insertText(struck, format);
+    cursor.insertText(unbroken(struck), format);
 }
 
 void CommandLineFoot::copy()
