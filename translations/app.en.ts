@@ -143,5 +143,15 @@
     <message id="help_terms_after"><source></source><translation>&lt;p&gt;A minus before a word or a term leaves out what it finds: &lt;b&gt;-bootleg&lt;/b&gt;. Words in quotation marks are found as they stand: &lt;b&gt;"street fighter"&lt;/b&gt;. A term that is wrong is underlined, and the reason stands beside the chips.&lt;/p&gt;&lt;p&gt;Together: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
     <message id="help_keys_list"><source></source><translation>&lt;h2&gt;In the list&lt;/h2&gt;&lt;p&gt;&lt;b&gt;Return&lt;/b&gt; starts the selected game. &lt;b&gt;F2&lt;/b&gt; edits a field. Letters go into the search field; the &lt;b&gt;down&lt;/b&gt; arrow goes from there into the list. &lt;b&gt;Right&lt;/b&gt; and &lt;b&gt;left&lt;/b&gt; open and close a family. &lt;b&gt;Esc&lt;/b&gt; closes any other window, and clears the search field.&lt;/p&gt;</translation></message>
     <message id="menu_notesplayed"><source></source><translation>&amp;Note What Is Played</translation></message>
+    <message id="menu_audit"><source></source><translation>Quick &amp;Audit</translation></message>
+    <message id="audit_roms"><source></source><translation>Verify the ROMs</translation></message>
+    <message id="audit_samples"><source></source><translation>Verify the samples</translation></message>
+    <message id="audit_listroms"><source></source><translation>List the ROMs</translation></message>
+    <message id="audit_romident"><source></source><translation>Identify the archive</translation></message>
+    <message id="menu_currentdir"><source></source><translation>Open the Emulator’s Fol&amp;der</translation></message>
+    <message id="menu_openroms"><source></source><translation>&amp;Open the ROM Folder</translation></message>
+    <message id="menu_launcher"><source></source><translation>Save as &amp;Launcher…</translation></message>
+    <message id="launcher_save"><source></source><translation>Save as launcher</translation></message>
+    <message id="launcher_saved"><source></source><translation>The launcher was saved: %1</translation></message>
 </context>
 </TS>

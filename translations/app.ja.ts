@@ -143,5 +143,15 @@
     <message id="help_terms_after"><source></source><translation>&lt;p&gt;語や条件の前にマイナスを付けると、当てはまるものを除きます: &lt;b&gt;-bootleg&lt;/b&gt;。引用符で囲むと、そのままの並びで探します: &lt;b&gt;"street fighter"&lt;/b&gt;。誤った条件には下線が付き、理由がチップの横に出ます。&lt;/p&gt;&lt;p&gt;組み合わせの例: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
     <message id="help_keys_list"><source></source><translation>&lt;h2&gt;一覧で&lt;/h2&gt;&lt;p&gt;&lt;b&gt;Return&lt;/b&gt;で選択したゲームを起動します。&lt;b&gt;F2&lt;/b&gt;で欄を編集します。文字は検索欄に入り、そこから&lt;b&gt;下矢印&lt;/b&gt;で一覧に移ります。&lt;b&gt;右&lt;/b&gt;と&lt;b&gt;左&lt;/b&gt;でファミリーを開閉します。&lt;b&gt;Esc&lt;/b&gt;はほかのウインドウを閉じ、検索欄を空にします。&lt;/p&gt;</translation></message>
     <message id="menu_notesplayed"><source></source><translation>プレイ履歴を残す(&amp;N)</translation></message>
+    <message id="menu_audit"><source></source><translation>クイック検査(&amp;A)</translation></message>
+    <message id="audit_roms"><source></source><translation>ROMを検査</translation></message>
+    <message id="audit_samples"><source></source><translation>サンプルを検査</translation></message>
+    <message id="audit_listroms"><source></source><translation>ROMの一覧</translation></message>
+    <message id="audit_romident"><source></source><translation>アーカイブを識別</translation></message>
+    <message id="menu_currentdir"><source></source><translation>エミュレータのフォルダを開く(&amp;D)</translation></message>
+    <message id="menu_openroms"><source></source><translation>ROMフォルダを開く(&amp;O)</translation></message>
+    <message id="menu_launcher"><source></source><translation>ランチャーとして保存(&amp;L)…</translation></message>
+    <message id="launcher_save"><source></source><translation>ランチャーとして保存</translation></message>
+    <message id="launcher_saved"><source></source><translation>ランチャーを保存しました: %1</translation></message>
 </context>
 </TS>

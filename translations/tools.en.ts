@@ -85,5 +85,24 @@
     <message id="verdict_nfngd"><source></source><translation>A file is missing that nobody has a good dump of.</translation></message>
     <message id="verdict_nfbo"><source></source><translation>A file is missing that the set runs without.</translation></message>
     <message id="verdict_other"><source></source><translation>Lines with the word “Other”.</translation></message>
+    <message id="script_page"><source></source><translation>Launch script</translation></message>
+    <message id="script_explanation"><source></source><translation>A small script that starts the selected game later, without Tessera.</translation></message>
+    <message id="script_format"><source></source><translation>Format</translation></message>
+    <message id="script_tool"><source></source><translation>Command file (.tool)</translation></message>
+    <message id="script_sh"><source></source><translation>Shell script (.sh)</translation></message>
+    <message id="script_scpt"><source></source><translation>AppleScript source (.scpt)</translation></message>
+    <message id="script_emulator"><source></source><translation>Emulator</translation></message>
+    <message id="script_options"><source></source><translation>Options</translation></message>
+    <message id="script_withoptions"><source></source><translation>The current options</translation></message>
+    <message id="script_withoutoptions"><source></source><translation>None</translation></message>
+    <message id="script_filename"><source></source><translation>File name</translation></message>
+    <message id="script_setname"><source></source><translation>Set name</translation></message>
+    <message id="script_title"><source></source><translation>English title</translation></message>
+    <message id="script_titlejp"><source></source><translation>Japanese title</translation></message>
+    <message id="script_noname"><source></source><translation>None</translation></message>
+    <message id="script_emulatorsetname"><source></source><translation>Emulator and set name</translation></message>
+    <message id="script_emulatortitle"><source></source><translation>Emulator and English title</translation></message>
+    <message id="script_emulatortitlejp"><source></source><translation>Emulator and Japanese title</translation></message>
+    <message id="script_make"><source></source><translation>Make…</translation></message>
 </context>
 </TS>

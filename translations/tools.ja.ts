@@ -85,5 +85,24 @@
     <message id="verdict_nfngd"><source></source><translation>正しいダンプが知られておらず、見つからないファイルです。</translation></message>
     <message id="verdict_nfbo"><source></source><translation>見つからなくても動作に支障のないファイルです。</translation></message>
     <message id="verdict_other"><source></source><translation>“Other”を含む行です。</translation></message>
+    <message id="script_page"><source></source><translation>起動スクリプト</translation></message>
+    <message id="script_explanation"><source></source><translation>選択したゲームをTesseraなしで起動する小さなスクリプトを作成します。</translation></message>
+    <message id="script_format"><source></source><translation>形式</translation></message>
+    <message id="script_tool"><source></source><translation>コマンドファイル (.tool)</translation></message>
+    <message id="script_sh"><source></source><translation>シェルスクリプト (.sh)</translation></message>
+    <message id="script_scpt"><source></source><translation>AppleScriptソース (.scpt)</translation></message>
+    <message id="script_emulator"><source></source><translation>エミュレータ</translation></message>
+    <message id="script_options"><source></source><translation>オプション</translation></message>
+    <message id="script_withoptions"><source></source><translation>現在のオプション</translation></message>
+    <message id="script_withoutoptions"><source></source><translation>なし</translation></message>
+    <message id="script_filename"><source></source><translation>ファイル名</translation></message>
+    <message id="script_setname"><source></source><translation>セット名</translation></message>
+    <message id="script_title"><source></source><translation>英語タイトル</translation></message>
+    <message id="script_titlejp"><source></source><translation>日本語タイトル</translation></message>
+    <message id="script_noname"><source></source><translation>なし</translation></message>
+    <message id="script_emulatorsetname"><source></source><translation>エミュレータ名とセット名</translation></message>
+    <message id="script_emulatortitle"><source></source><translation>エミュレータ名と英語タイトル</translation></message>
+    <message id="script_emulatortitlejp"><source></source><translation>エミュレータ名と日本語タイトル</translation></message>
+    <message id="script_make"><source></source><translation>作成…</translation></message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
@@ -14,8 +15,10 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
+#include "app/modemenu.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "app/scriptjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
@@ -36,12 +39,15 @@
 #include "launch/ui/logwindow.h"
 #include "launch/ui/optionpage.h"
 #include "launch/ui/pathchooser.h"
+#include "launch/ui/runcontroller.h"
 #include "platform/desktop.h"
+#include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QToolButton>
@@ -58,7 +64,7 @@ void Tessera_AppDelegate::loadInterface()
     m_preferencesWindow = std::make_unique<PreferencesWindow>();
     m_pages = std::make_unique<LaunchPages>(m_defaults, [] { return findEmulator(); });
     m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
-    m_pages->general().setChooser(*m_chooser);
+    m_pages->setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
         m_preferencesWindow->addPage(page, page->title(), page->icon());
     addAppearancePage();
@@ -71,8 +77,9 @@ void Tessera_AppDelegate::loadInterface()
     m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,
                                           [this] { return m_pages->general().emulator(); });
     m_editing = std::make_unique<RecordEditing>(m_catalogue, m_desktop, *m_gameList);
+    m_runs = std::make_unique<RunController>(m_desktop, m_defaults, *m_logWindow, *m_task);
     m_launch = std::make_unique<LaunchController>(LaunchParts{
-        m_desktop, m_defaults, *m_pages, *m_chooser, *m_logWindow, *m_task, *m_profiles,
+        m_desktop, m_defaults, *m_pages, *m_chooser, *m_task, *m_runs, *m_profiles,
         SelectionReaders{[this] { return m_gameList->tableViewSelectionROM(); },
                          [this] { return m_gameList->tableViewSelectionTitleE(); },
                          [this] { return m_gameList->tableViewSelectionTitleJ(); }},
@@ -93,6 +100,7 @@ void Tessera_AppDelegate::loadInterface()
     joinRooms();
     joinViews();
     joinWindows();
+    joinCommands();
     openCatalogue();
 }
 
@@ -151,12 +159,13 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
             &Tessera_AppDelegate::DefaultAction);
     connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
+    connect(m_launch.get(), &LaunchController::launchModeChanged, this,
+            [this] { m_modeMenu->mark(m_pages->general().launchusingPop->currentText()); });
 }
 
 void Tessera_AppDelegate::joinViews()
 {
-    connect(m_launch.get(), &LaunchController::started, &m_favorites->played(),
-            &PlayedController::notePlayed);
+    connect(m_runs.get(), &RunController::started, &m_favorites->played(), &PlayedController::notePlayed);
     connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
             [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
     connect(m_favorites.get(), &FavoritesDesk::namesChanged, m_finding.get(),
@@ -179,6 +188,28 @@ void Tessera_AppDelegate::joinViews()
         connect(stack, &QUndoStack::canRedoChanged, keys, follow);
     }
     followUndo();
+}
+
+void Tessera_AppDelegate::joinCommands()
+{
+    QMenuBar& bar = *m_mainWindow->menuBar();
+    m_modeMenu = std::make_unique<ModeMenu>(bar, *m_launch);
+    m_commands = std::make_unique<CommandsDesk>(CommandsDesk::Parts{
+        m_desktop,
+        m_defaults,
+        *m_logWindow,
+        *m_task,
+        *m_runs,
+        *m_launch,
+        *m_chooser,
+        [this] { return m_gameList->tableViewSelectionROM(); },
+        [this] { return m_gameList->tableViewSelectionTitleE(); },
+        {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton}});
+    m_commands->addLineTo(*m_preferencesWindow);
+    connect(m_gameList.get(), &GameListController::selectionChanged, m_commands.get(),
+            &CommandsDesk::showLine);
+    connect(m_commands.get(), &CommandsDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    m_commands->addAuditsTo(*bar.findChild<QMenu*>(QStringLiteral("menu_game")));
 }
 
 // What every window needs that is a key window of its own and comes back where it was left.
@@ -210,6 +241,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     FavoritesWindow& window = m_favorites->window();
     window.takeMenus(*m_mainWindow->menuBar());
     window.setRunning(m_launch->isRunning());
+    m_commands->leaveOpen(*window.stopButton);
     connect(window.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_launch.get(), &LaunchController::runningChanged, &window, &FavoritesWindow::setRunning);
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
@@ -231,6 +263,7 @@ UtilityObject& Tessera_AppDelegate::utility()
 {
     if (!m_utility) {
         m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+        m_scripts = joinScripts(*m_utility, *m_gameList, *m_launch, m_defaults);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }

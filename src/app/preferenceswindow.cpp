@@ -39,10 +39,11 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     auto* foot = new QWidget;
     foot->setProperty("role", QStringLiteral("foot"));
     foot->setAttribute(Qt::WA_StyledBackground);
-    auto* footLayout = new QHBoxLayout(foot);
-    footLayout->setContentsMargins(16, 10, 16, 10);
-    footLayout->addStretch();
-    footLayout->addWidget(resetButton);
+    m_foot = new QHBoxLayout(foot);
+    m_foot->setContentsMargins(16, 10, 16, 10);
+    m_foot->setSpacing(8);
+    m_foot->addStretch();
+    m_foot->addWidget(resetButton);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -79,8 +80,16 @@ void PreferencesWindow::addPage(QWidget* page, const QString& title, const QStri
     m_bar->insertWidget(m_bar->count() - 1, button);
 }
 
+void PreferencesWindow::setFoot(QWidget* foot)
+{
+    delete m_foot->takeAt(0);
+    m_foot->insertWidget(0, foot, 1);
+    foot->show();
+}
+
 void PreferencesWindow::showEvent(QShowEvent* event)
 {
+    Q_EMIT aboutToShow();
     for (QWidget* page : std::exchange(m_waiting, {})) {
         auto* scroll = new QScrollArea;
         scroll->setWidgetResizable(true);

@@ -25,13 +25,21 @@ public:
     void showPage(int index);
     void centre();
 
+    /// Beside the way back, at the foot.
+    void setFoot(QWidget* foot);
+
     QPushButton* resetButton;
+
+Q_SIGNALS:
+    /// Before it is seen: what was not needed so far can be put into it.
+    void aboutToShow();
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
     QHBoxLayout* m_bar;
+    QHBoxLayout* m_foot;
     QButtonGroup* m_buttons;
     QStackedWidget* m_pages;
     QList<QPointer<QWidget>> m_waiting;

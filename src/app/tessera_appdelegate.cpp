@@ -1,6 +1,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/finding.h"
@@ -8,7 +9,9 @@
 #include "app/keycommands.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
+#include "app/modemenu.h"
 #include "app/preferenceswindow.h"
+#include "app/scriptjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -25,8 +28,10 @@
 #include "launch/ui/logwindow.h"
 #include "launch/ui/miscpage.h"
 #include "launch/ui/pathchooser.h"
+#include "launch/ui/runcontroller.h"
 #include "platform/desktop.h"
 #include "platform/recentdocuments.h"
+#include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "widgets/bringforward.h"
 #include "widgets/firstpaint.h"
@@ -349,9 +354,24 @@ void Tessera_AppDelegate::selectROMfolder()
     m_chooser->selectROMfolder();
 }
 
+void Tessera_AppDelegate::saveLauncher()
+{
+    m_commands->saveLauncher();
+}
+
+void Tessera_AppDelegate::openCurrentdir()
+{
+    m_chooser->openCurrentdir();
+}
+
+void Tessera_AppDelegate::openROMfolder()
+{
+    m_chooser->openROMfolder();
+}
+
 void Tessera_AppDelegate::saveLogAction()
 {
-    m_launch->saveLogAction();
+    m_runs->saveLogAction();
 }
 
 void Tessera_AppDelegate::windowMain()
@@ -371,12 +391,12 @@ void Tessera_AppDelegate::windowMini()
 
 void Tessera_AppDelegate::showLogWindow()
 {
-    m_launch->showLogWindow();
+    m_runs->showLogWindow();
 }
 
 void Tessera_AppDelegate::windowLog()
 {
-    m_launch->windowLog();
+    m_runs->windowLog();
 }
 
 void Tessera_AppDelegate::showPrefsWindow()

@@ -14,6 +14,7 @@ class QAction;
 namespace tessera {
 
 class CatalogueRebuild;
+class CommandsDesk;
 class Desktop;
 class EmulatorTask;
 class FavoritesDesk;
@@ -26,12 +27,15 @@ class LaunchPages;
 class LogWindow;
 class MainWindow;
 class MiniDesk;
+class ModeMenu;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
 class RecentDocuments;
 class RecordEditing;
 class RowColors;
+class RunController;
+class ScriptTool;
 class TableFont;
 class UtilityObject;
 class WindowSwitching;
@@ -69,6 +73,7 @@ public:
     Finding& finding() { return *m_finding; }
     RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
+    CommandsDesk& commands() { return *m_commands; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
@@ -110,6 +115,9 @@ public Q_SLOTS:
     void stopGame();
     void selectExefile();
     void selectROMfolder();
+    void saveLauncher();
+    void openCurrentdir();
+    void openROMfolder();
     void saveLogAction();
     void windowMain();
     void windowFavorites();
@@ -139,6 +147,7 @@ private:
     void addAppearancePage();
     void joinRooms();
     void joinViews();
+    void joinCommands();
     void joinWindow(QWidget& window, KeyWindow::Kind kind, const char* place);
     void joinWindows();
     void joinFavoritesWindow();
@@ -176,9 +185,13 @@ private:
     std::unique_ptr<PathChooser> m_chooser;
     std::unique_ptr<EmulatorTask> m_task;
     std::unique_ptr<ProfileCache> m_profiles;
+    std::unique_ptr<RunController> m_runs;
     std::unique_ptr<LaunchController> m_launch;
+    std::unique_ptr<CommandsDesk> m_commands;
+    std::unique_ptr<ModeMenu> m_modeMenu;
     std::unique_ptr<UtilityObject> m_utility;
     std::unique_ptr<HelpWindow> m_help;
+    std::unique_ptr<ScriptTool> m_scripts;
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;

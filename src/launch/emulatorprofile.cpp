@@ -122,13 +122,13 @@ QStringList EmulatorProfile::settingsFiles(const QString& home) const
     return files;
 }
 
-EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built) const
+EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built, Quotes quotes) const
 {
     Fitted fitted;
     for (qsizetype i = 0; i < built.size(); ++i) {
         const QString& option = built[i];
         if (takesValue(option) && i + 1 < built.size())
-            fitValue(option, built[++i], fitted);
+            fitValue(option, built[++i], quotes, fitted);
         else if (lists(option))
             fitted.arguments << option;
         else
@@ -137,7 +137,7 @@ EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built) const
     return fitted;
 }
 
-void EmulatorProfile::fitValue(QString option, const QString& value, Fitted& fitted) const
+void EmulatorProfile::fitValue(QString option, const QString& value, Quotes quotes, Fitted& fitted) const
 {
     for (const Renamed& row : renamedOptions) {
         if (option == QLatin1String(row.option) && !lists(option) && lists(QString::fromLatin1(row.now)))
@@ -150,7 +150,7 @@ void EmulatorProfile::fitValue(QString option, const QString& value, Fitted& fit
     else if (option == QLatin1String("-sound") && !m_soundTakesValue)
         fitted.arguments << (bare == QLatin1String("none") ? QStringLiteral("-nosound") : option);
     else
-        fitted.arguments << option << bare;
+        fitted.arguments << option << (quotes == Quotes::Kept ? value : bare);
 }
 
 } // namespace tessera

@@ -34,15 +34,18 @@ public:
         QStringList leftOut; ///< what the program would not understand, with values: "-beam 1"
     };
 
+    /// Literal double quotes around values: no program takes them off, a shell does.
+    enum class Quotes { Dropped, Kept };
+
     /// The builder's list in the program's own words: without what it does not list and without empty values,
-    /// renamed options under their new name, values without literal double quotes.
-    Fitted fit(const QStringList& built) const;
+    /// renamed options under their new name.
+    Fitted fit(const QStringList& built, Quotes quotes = Quotes::Dropped) const;
 
 private:
     void readOption(QStringView line);
     void readSetting(QStringView line);
     bool listsName(QStringView name) const;
-    void fitValue(QString option, const QString& value, Fitted& fitted) const;
+    void fitValue(QString option, const QString& value, Quotes quotes, Fitted& fitted) const;
 
     QSet<QString> m_names;
     QStringList m_overlong; ///< names with the first word of their description behind them

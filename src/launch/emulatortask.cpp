@@ -3,6 +3,7 @@
 #include "core/encodings.h"
 #include "launch/emulatoridentity.h"
 
+#include <QEventLoop>
 #include <QProcess>
 #include <QTimer>
 
@@ -66,15 +67,22 @@ bool EmulatorTask::isRunning() const
     return m_process && !m_exited && m_process->state() != QProcess::NotRunning;
 }
 
-void EmulatorTask::start(const QString& executable, const QString& workingFolder,
-                         const QStringList& arguments)
+void EmulatorTask::occupy()
 {
     stop();
     m_cutOff.clear();
     m_exited = false;
-    auto* process = new QProcess(this);
-    m_process = process;
+    m_process = new QProcess(this);
+}
+
+void EmulatorTask::start(const QString& executable, const QString& workingFolder,
+                         const QStringList& arguments, const QString& outputFile)
+{
+    occupy();
+    QProcess* process = m_process;
     process->setProcessChannelMode(QProcess::MergedChannels);
+    if (!outputFile.isEmpty())
+        process->setStandardOutputFile(outputFile);
     process->setStandardInputFile(QProcess::nullDevice());
     process->setProcessEnvironment(emulatorEnvironment());
     process->setWorkingDirectory(workingFolder);
@@ -106,10 +114,34 @@ void EmulatorTask::stop()
     QProcess* process = m_process;
     process->disconnect(this);
     process->terminate();
-    process->waitForReadyRead(0);
-    const QByteArray rest = process->readAllStandardOutput();
+    // One that was not started, or prints into a file, has nothing for us.
+    QByteArray rest;
+    if (process->isReadable()) {
+        process->waitForReadyRead(0);
+        rest = process->readAllStandardOutput();
+    }
     letGo();
     emitPiece(rest);
+    Q_EMIT stopped();
+}
+
+bool EmulatorTask::waitForExit()
+{
+    if (!m_process || m_isWaitedFor)
+        return false;
+    m_isWaitedFor = true;
+    bool hasEnded = false;
+    QEventLoop loop;
+    // Connected last, so that everybody else has heard of the end before.
+    connect(this, &EmulatorTask::ended, &loop, [&] {
+        hasEnded = true;
+        loop.quit();
+    });
+    connect(this, &EmulatorTask::failedToStart, &loop, &QEventLoop::quit);
+    connect(this, &EmulatorTask::stopped, &loop, &QEventLoop::quit);
+    loop.exec();
+    m_isWaitedFor = false;
+    return hasEnded;
 }
 
 // The process may be the one whose signal we are in, and it may take its time to end.
@@ -141,7 +173,9 @@ void EmulatorTask::pump()
     QProcess* process = m_process;
     if (!process)
         return;
-    emitPiece(process->read(pieceSize));
+    // What goes to a file is not read by us.
+    if (process->isReadable())
+        emitPiece(process->read(pieceSize));
     if (process != m_process)
         return;
     if (process->bytesAvailable() > 0)

@@ -20,9 +20,18 @@ public:
     /// Ends a run that is still going, and waits a moment for it.
     ~EmulatorTask() override;
 
-    /// Returns at once; what becomes of it comes with the signals.
-    void start(const QString& executable, const QString& workingFolder, const QStringList& arguments);
+    /// Returns at once; what becomes of it comes with the signals. Where a file is named it is emptied, and
+    /// everything that the run prints goes there instead of output().
+    void start(const QString& executable, const QString& workingFolder, const QStringList& arguments,
+               const QString& outputFile = QString());
+    /// Puts a run into the slot that is not started, in place of the one that has ended.
+    void occupy();
     bool isRunning() const;
+
+    /// Stays in an event loop until the run has ended and everything of it was handed over, slots of ended()
+    /// included. False where it was stopped or never started.
+    bool waitForExit();
+    bool isWaitedFor() const { return m_isWaitedFor; }
 
     /// Hands over what the run has printed so far and lets go of it: the run is asked to end, killed after a
     /// grace time, and neither its later output nor its end is heard of.
@@ -37,6 +46,8 @@ Q_SIGNALS:
     void ended(int status);
     /// The program could not be started; the system's reason.
     void failedToStart(const QString& reason);
+    /// The run was let go of by stop().
+    void stopped();
 
 private:
     void pump();
@@ -49,6 +60,7 @@ private:
     std::string m_cutOff; ///< bytes of a character whose rest is still to come
     bool m_pumpQueued = false;
     bool m_exited = false;
+    bool m_isWaitedFor = false;
 };
 
 } // namespace tessera

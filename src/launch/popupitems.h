@@ -33,7 +33,12 @@ constexpr auto labels(TextKey... key)
 
 } // namespace detail
 
-inline constexpr auto launchModes = detail::titles("SDL MAME");
+// Log and window titles show them as they stand.
+inline constexpr std::array<PopupItem, 3> launchModes{{
+    {"SDL MAME"},
+    {"MAME OS X"},
+    {nullptr, textKey("mode_application")},
+}};
 
 // The initial position is 2.
 inline constexpr auto videoDrivers = detail::titles("soft", "accel", "opengl", "bgfx", "none");

@@ -72,6 +72,11 @@ public:
         = 0;
     /// Shows the item selected in the file manager; false where that was not possible.
     virtual bool reveal(const QString& path) = 0;
+    /// Opens a folder in the file manager; false where that was not possible.
+    virtual bool openFolder(const QString& path) = 0;
+    /// Opens a file with a program, an executable or a desktop entry, which goes on by itself; false where it
+    /// could not be started.
+    virtual bool openWith(const QString& path, const QString& application) = 0;
     virtual void noteRecent(const QString& path) = 0;
     /// A line in the system log.
     virtual void log(const QString& line) = 0;

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -99,6 +100,15 @@ private Q_SLOTS:
         row("a flag that is none", QStringLiteral("arguments --set Maximize=perhaps"));
         row("a number that is none", QStringLiteral("arguments --set Videodriver=abc"));
         row("launch without a game", QStringLiteral("launch"));
+        row("command without a position", QStringLiteral("command"));
+        row("command with a word for a position", QStringLiteral("command help"));
+        row("command without its game", QStringLiteral("command 7"));
+        row("export without -o", QStringLiteral("export 1"));
+        row("export with a negative position", QStringLiteral("export -o file -- -1"));
+        row("script without a format", QStringLiteral("script pong -o file"));
+        row("script in an unknown format", QStringLiteral("script pong --format bat -o file"));
+        row("script for an unknown emulator", QStringLiteral("script pong --format sh --emulator 3 -o file"));
+        row("script without -o", QStringLiteral("script pong --format sh"));
         row("existence without -o", QStringLiteral("existence a b"));
         row("existence without a folder", QStringLiteral("existence a -o c"));
         row("separate without a destination", QStringLiteral("separate a b"));
@@ -476,6 +486,80 @@ private Q_SLOTS:
         QCOMPARE(outcome.out, QByteArray("out\nerr\n"));
         outcome = tessera({QStringLiteral("launch"), QStringLiteral("print")});
         QVERIFY(outcome.out.startsWith("[print]\n[-video]\n[opengl]\n"));
+    }
+
+    void commandGivesTheEmulatorsOutputAndStatus()
+    {
+        useStandIn();
+        Outcome outcome = tessera({QStringLiteral("command"), QStringLiteral("7"), QStringLiteral("exit3")});
+        QCOMPARE(outcome.status, 3);
+        QCOMPARE(outcome.out, QByteArray("leaving\n"));
+        m_environment.insert(QStringLiteral("FAKE_COMMAND"), QStringLiteral("print"));
+        const auto printed = [&](const QString& line) { return tessera(line.split(QLatin1Char(' '))).out; };
+        const QByteArray emulator = TESSERA_FAKEEMULATOR;
+        QCOMPARE(printed(QStringLiteral("command 0")), QByteArray("[-help]\n"));
+        QCOMPARE(printed(QStringLiteral("command 17 galaga")), QByteArray("[galaga]\n[-verifyroms]\n"));
+        QCOMPARE(printed(QStringLiteral("command 20 galaga")),
+                 '[' + QFileInfo(QString::fromLatin1(emulator)).path().toUtf8()
+                     + "/roms/galaga.zip]\n[-romident]\n");
+        QCOMPARE(printed(QStringLiteral("command 21 galaga")), '[' + emulator + "]\n[-listdevices]\n");
+        QCOMPARE(printed(QStringLiteral("command 24 galaga")), QByteArray());
+    }
+
+    void exportWritesWhatTheEmulatorPrints()
+    {
+        useStandIn();
+        m_environment.insert(QStringLiteral("FAKE_COMMAND"), QStringLiteral("print"));
+        const QStringList line{QStringLiteral("export"), QStringLiteral("15"), QStringLiteral("-o"),
+                               path(QStringLiteral("out"))};
+        Outcome outcome = tessera(line);
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out, QByteArray("File save was completed.\n"));
+        QCOMPARE(read(QStringLiteral("out")), QByteArray("[-verifyroms]\n"));
+
+        m_environment.insert(QStringLiteral("FAKE_COMMAND"), QStringLiteral("both"));
+        QCOMPARE(tessera(line).status, 0);
+        QCOMPARE(read(QStringLiteral("out")), QByteArray("out\nerr\n"));
+
+        m_environment.insert(QStringLiteral("FAKE_COMMAND"), QStringLiteral("exit3"));
+        outcome = tessera(line);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY(outcome.err.contains('3') && outcome.err.count('\n') == 1);
+        QCOMPARE(read(QStringLiteral("out")), QByteArray("leaving\n"));
+
+        outcome = tessera({QStringLiteral("export"), QStringLiteral("0"), QStringLiteral("-o"),
+                           path(QStringLiteral("no such folder/out"))});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY(outcome.out.isEmpty() && outcome.err.contains("no such folder"));
+    }
+
+    void scriptsLeaveOutWhatTheEmulatorDoesNotKnowAndKeepTheQuotes()
+    {
+        write(QStringLiteral("usage.txt"),
+              "-video               video output method\n-effect              name of the effect\n"
+              "-rompath             path to ROM sets\n");
+        m_environment.insert(QStringLiteral("FAKE_USAGE"), path(QStringLiteral("usage.txt")));
+        useStandIn();
+        UserDefaults settings(settingsPath());
+        settings.setValue(keys::Effect.name, true);
+        QVERIFY(settings.synchronize());
+        const QString folder = QFileInfo(QStringLiteral(TESSERA_FAKEEMULATOR)).path();
+        const QString name = QFileInfo(QStringLiteral(TESSERA_FAKEEMULATOR)).fileName();
+        const auto made = [&](const QString& more) {
+            const QString line = QStringLiteral("script pong -o %1 ").arg(path(QStringLiteral("out"))) + more;
+            const Outcome outcome = tessera(line.split(QLatin1Char(' ')));
+            return outcome.status == 0 && outcome.out == "Saved a Script file.\n"
+                ? QString::fromUtf8(read(QStringLiteral("out")))
+                : QString::fromUtf8(outcome.err);
+        };
+        const QString start = QStringLiteral("cd %1\n./%2 pong").arg(folder, name);
+        QCOMPARE(made(QStringLiteral("--format tool")),
+                 start + QStringLiteral(" -video opengl -effect \"none\""));
+        QVERIFY(QFileInfo(path(QStringLiteral("out"))).isExecutable());
+        QCOMPARE(made(QStringLiteral("--format tool --no-options")), start);
+        QVERIFY(made(QStringLiteral("--format scpt"))
+                    .endsWith(QStringLiteral(" -video opengl -effect \\\"none\\\"\"")));
+        QVERIFY(made(QStringLiteral("--format sh --emulator 1")).contains(QStringLiteral("No emulator")));
     }
 
     void launchNotesAnArchiveAmongTheRecentFiles()

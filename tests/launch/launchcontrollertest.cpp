@@ -1,103 +1,20 @@
 #include "launch/ui/launchcontroller.h"
 
-#include "launch/argumentsarray.h"
-#include "launch/emulatortask.h"
-#include "launch/profilecache.h"
+#include "launch/launchroom.h"
 #include "launch/ui/generalpage.h"
-#include "launch/ui/launchpages.h"
-#include "launch/ui/logview.h"
-#include "launch/ui/logwindow.h"
-#include "launch/ui/miscpage.h"
-#include "launch/ui/pathchooser.h"
 #include "launch/usagetexts.h"
-#include "platform/defaultscontroller.h"
-#include "support/scripteddesktop.h"
 #include "support/testmain.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 using namespace tessera;
+using tessera::test::Room;
 
 namespace {
 
 const QString header = QStringLiteral("SDL MAME :  %1  Launch...\n\n");
-
-// Everything around one controller; "mame" in `folder` plays the emulator.
-struct Room {
-    QTemporaryDir folder;
-    UserDefaults settings{folder.filePath(QStringLiteral("Tessera.ini"))};
-    DefaultsController defaults{settings};
-    test::ScriptedDesktop desktop;
-    std::unique_ptr<LaunchPages> pages;
-    std::unique_ptr<PathChooser> chooser;
-    LogWindow log;
-    EmulatorTask task;
-    ProfileCache profiles{folder.filePath(QStringLiteral("profiles"))};
-    QHash<QString, QString> favourites;
-    QString installed; ///< what is found where no emulator was chosen
-    std::unique_ptr<LaunchController> controller;
-    std::unique_ptr<QSignalSpy> running;
-
-    Room()
-    {
-        defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
-        if (!QFile::link(TESSERA_FAKEEMULATOR, emulator()))
-            qFatal("no emulator");
-        defaults.setText(keys::ExecutionPath, emulator());
-        pages = std::make_unique<LaunchPages>(defaults, [this] { return installed; });
-        chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
-        const SelectionReaders selection{[] { return QStringLiteral("sel"); },
-                                         [] { return QStringLiteral("Title"); },
-                                         [] { return QStringLiteral("題"); }};
-        controller = std::make_unique<LaunchController>(
-            LaunchParts{desktop, defaults, *pages, *chooser, log, task, profiles, selection,
-                        [this](const QString& name) { return favourites.value(name); }});
-        running = std::make_unique<QSignalSpy>(controller.get(), &LaunchController::runningChanged);
-    }
-
-    QString emulator() const { return folder.filePath(QStringLiteral("mame")); }
-    QString text() const { return log.infomationTextView->text(); }
-
-    bool launch(const QString& game)
-    {
-        controller->Launchusing(game);
-        return waitForEnd();
-    }
-    bool waitForEnd()
-    {
-        return QTest::qWaitFor([this] { return !running->isEmpty() && !running->last().first().toBool(); },
-                               20000);
-    }
-    bool waitForText(const QString& wanted)
-    {
-        return QTest::qWaitFor([&] { return text().contains(wanted); }, 20000);
-    }
-
-    // The arguments that the "print" game shows, without the game itself.
-    QStringList printed() const
-    {
-        QStringList list;
-        for (const QString& line : text().split(QLatin1Char('\n'))) {
-            if (line.startsWith(QLatin1Char('[')))
-                list << line.mid(1, line.size() - 2);
-        }
-        return list.mid(1);
-    }
-
-    QStringList built() const
-    {
-        return argumentsArray(
-            liveOptions(*pages, {QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
-    }
-};
 
 } // namespace
 
@@ -157,6 +74,8 @@ private Q_SLOTS:
         QCOMPARE(room.text(), header.arg("pong") + "Unknown system \"/r/pong.zip\"\n");
         QCOMPARE(room.desktop.transcript(),
                  QStringList({"recent /r/pong.zip", "beep", "alert errerAlert 5"}));
+        // In plain words, before where to read on.
+        QCOMPARE(room.desktop.alerts.at(0).informative, QStringLiteral("reason_system\n\nerrerInfo"));
     }
 
     void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed_data()
@@ -179,7 +98,7 @@ private Q_SLOTS:
             QVERIFY(QDir(room.folder.path()).mkdir("my roms"));
         room.defaults.setText(keys::RomsPath, room.folder.filePath("my roms"));
         room.defaults.setFlag(keys::Outputserror, use);
-        QCOMPARE(room.controller->romsfolder_FoundCheck(), exists);
+        QCOMPARE(room.controller.romsfolder_FoundCheck(), exists);
         QVERIFY(room.launch("exit0"));
         QCOMPARE(room.desktop.transcript(), QStringList({recent.arg(room.folder.path())}));
     }
@@ -223,14 +142,14 @@ private Q_SLOTS:
     void aLaunchBeforeTheAnswerWaitsWithoutBlocking()
     {
         Room room;
-        room.controller->Launchusing("print");
+        room.controller.Launchusing("print");
         QCOMPARE(room.text(), header.arg("print"));
-        QVERIFY(room.controller->isRunning());
+        QVERIFY(room.controller.isRunning());
         QVERIFY(!room.task.isRunning());
         QVERIFY(room.waitForEnd());
         // Now that the answer is known, the next one starts at once.
-        room.running->clear();
-        room.controller->Launchusing("exit0");
+        room.running.clear();
+        room.controller.Launchusing("exit0");
         QVERIFY(room.task.isRunning());
         QVERIFY(room.waitForEnd());
     }
@@ -238,14 +157,14 @@ private Q_SLOTS:
     void aWaitingLaunchCanBeStoppedAndReplaced()
     {
         Room room;
-        room.controller->Launchusing("exit3");
-        room.controller->stopProcess();
-        QVERIFY(!room.controller->isRunning());
-        room.running->clear();
-        room.controller->Launchusing("exit4");
-        room.running->clear();
-        room.controller->Launchusing("print");
-        room.running->clear();
+        room.controller.Launchusing("exit3");
+        room.controller.stopProcess();
+        QVERIFY(!room.controller.isRunning());
+        room.running.clear();
+        room.controller.Launchusing("exit4");
+        room.running.clear();
+        room.controller.Launchusing("print");
+        room.running.clear();
         QVERIFY(room.waitForEnd());
         QCOMPARE(room.printed(), room.built());
     }
@@ -282,10 +201,10 @@ private Q_SLOTS:
     void aNewLaunchEndsTheRunningGameSilently()
     {
         Room room;
-        room.controller->Launchusing("wait");
+        room.controller.Launchusing("wait");
         QVERIFY(room.waitForText("ready"));
-        room.controller->Launchusing("print");
-        room.running->clear();
+        room.controller.Launchusing("print");
+        room.running.clear();
         QVERIFY(room.waitForEnd());
         QVERIFY(room.desktop.alerts.empty());
         QVERIFY(!room.text().contains("ready"));
@@ -295,10 +214,10 @@ private Q_SLOTS:
     void stopProcessEndsTheGameAndKeepsItsOutput()
     {
         Room room;
-        room.controller->Launchusing("wait");
+        room.controller.Launchusing("wait");
         QVERIFY(room.waitForText("ready"));
-        room.controller->stopProcess();
-        QVERIFY(!room.controller->isRunning());
+        room.controller.stopProcess();
+        QVERIFY(!room.controller.isRunning());
         QCOMPARE(room.text(), header.arg("wait") + "ready\n");
         QVERIFY(room.waitForEnd());
     }
@@ -334,7 +253,7 @@ private Q_SLOTS:
         QVERIFY(room.text().contains("launch_notstarted"));
 
         room.installed = room.emulator();
-        room.running->clear();
+        room.running.clear();
         QVERIFY(room.launch("exit0"));
         QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
         QCOMPARE(room.settings.string(keys::ExecutionPath.name), QString());
@@ -354,7 +273,7 @@ private Q_SLOTS:
         QVERIFY(QDir(room.folder.path()).mkdir("folder"));
         QVERIFY(room.settings.synchronize());
         room.defaults.setText(keys::ExecutionPath, room.folder.filePath(name));
-        QSignalSpy status(room.controller.get(), &LaunchController::statusMessage);
+        QSignalSpy status(&room.controller, &LaunchController::statusMessage);
         QVERIFY(room.launch("pong"));
         QVERIFY(room.text().startsWith(header.arg("pong") + "launch_notstarted"));
         QVERIFY(status.last().first().toString().contains("launch_notstarted"));
@@ -364,17 +283,17 @@ private Q_SLOTS:
     void theCheckPassesAFoundEmulator()
     {
         Room room;
-        room.controller->LaunchemuCheck();
+        room.controller.LaunchemuCheck();
         QVERIFY(room.desktop.transcript().isEmpty());
     }
 
     void anUnknownModeLaunchesNothing()
     {
         Room room;
-        room.pages->general().launchusingPop->setCurrentIndex(-1);
-        room.controller->Launchusing("pong");
+        room.pages.general().launchusingPop->setCurrentIndex(-1);
+        room.controller.Launchusing("pong");
         QCOMPARE(room.text(), QStringLiteral(" :  pong  Launch...\n\n"));
-        QVERIFY(!room.controller->isRunning());
+        QVERIFY(!room.controller.isRunning());
         QVERIFY(room.desktop.transcript().isEmpty());
     }
 
@@ -382,7 +301,7 @@ private Q_SLOTS:
     {
         Room room;
         room.defaults.setText(keys::TableViewTextColor, "#ff102030");
-        room.controller->appendOutput("text");
+        room.runs.appendOutput("text");
         QTextCursor cursor(room.log.infomationTextView->document());
         cursor.movePosition(QTextCursor::End);
         QCOMPARE(cursor.charFormat().foreground().color(), QColor(0x10, 0x20, 0x30));
@@ -391,8 +310,8 @@ private Q_SLOTS:
     void aChangeOfTheModeIsTold()
     {
         Room room;
-        QSignalSpy spy(room.controller.get(), &LaunchController::launchModeChanged);
-        room.controller->LaunchemuPopAction();
+        QSignalSpy spy(&room.controller, &LaunchController::launchModeChanged);
+        room.controller.LaunchemuPopAction();
         QCOMPARE(spy.size(), 1);
     }
 
@@ -406,7 +325,7 @@ private Q_SLOTS:
     void theLogIsSavedAsText()
     {
         Room room;
-        room.controller->appendOutput(QString::fromUtf8("行\nline\r10%\r20%\r\nend"));
+        room.runs.appendOutput(QString::fromUtf8("行\nline\r10%\r20%\r\nend"));
         const QString path = room.folder.filePath("log.txt");
         room.desktop.answerSave("Log output", path);
         room.log.saveButton->click();
@@ -419,14 +338,14 @@ private Q_SLOTS:
     void aLogThatCannotBeSavedIsSaidInTheStatusLineOnly()
     {
         Room room;
-        QSignalSpy status(room.controller.get(), &LaunchController::statusMessage);
-        room.controller->appendOutput("text");
+        QSignalSpy status(&room.runs, &RunController::statusMessage);
+        room.runs.appendOutput("text");
         room.desktop.answerSave("Log output", "/no such folder/log.txt");
-        room.controller->saveLogAction();
+        room.runs.saveLogAction();
         QCOMPARE(status.size(), 1);
         QVERIFY(!status.at(0).at(0).toString().isEmpty());
         room.desktop.answerSave("Log output", std::nullopt);
-        room.controller->saveLogAction();
+        room.runs.saveLogAction();
         QCOMPARE(status.size(), 1);
         QCOMPARE(room.desktop.transcript(), QStringList({"save Log output", "save Log output"}));
     }
@@ -434,32 +353,32 @@ private Q_SLOTS:
     void theLogWindowTogglesOrComesForward()
     {
         Room room;
-        room.controller->showLogWindow();
+        room.runs.showLogWindow();
         QVERIFY(room.log.isVisible());
-        room.controller->windowLog();
+        room.runs.windowLog();
         QVERIFY(room.log.isVisible());
-        room.controller->showLogWindow();
+        room.runs.showLogWindow();
         QVERIFY(!room.log.isVisible());
-        room.controller->windowLog();
+        room.runs.windowLog();
         QVERIFY(room.log.isVisible());
     }
 
     void quittingAsksOnceWhileAGameRuns()
     {
         Room room;
-        QVERIFY(room.controller->confirmQuit());
-        room.controller->Launchusing("wait");
+        QVERIFY(room.controller.confirmQuit());
+        room.controller.Launchusing("wait");
         QVERIFY(room.waitForText("ready"));
         room.desktop.takeTranscript();
         room.desktop.answerAlert("launch_quitmessage", 1);
-        QVERIFY(!room.controller->confirmQuit());
-        QVERIFY(room.controller->isRunning());
+        QVERIFY(!room.controller.confirmQuit());
+        QVERIFY(room.controller.isRunning());
         room.desktop.answerAlert("launch_quitmessage", 0);
-        QVERIFY(room.controller->confirmQuit());
+        QVERIFY(room.controller.confirmQuit());
         // What is asked after us may still keep the program running.
-        QVERIFY(room.controller->isRunning());
-        room.controller->stopProcess();
-        QVERIFY(room.controller->confirmQuit());
+        QVERIFY(room.controller.isRunning());
+        room.controller.stopProcess();
+        QVERIFY(room.controller.confirmQuit());
         QCOMPARE(room.desktop.transcript(),
                  QStringList({"beep", "alert launch_quitmessage", "beep", "alert launch_quitmessage"}));
     }
@@ -468,9 +387,9 @@ private Q_SLOTS:
     {
         Room room;
         QSignalSpy spy(&room.profiles, &ProfileCache::answered);
-        room.controller->prepareProfile();
+        room.controller.prepareProfile();
         QVERIFY(spy.wait());
-        room.controller->Launchusing("exit0");
+        room.controller.Launchusing("exit0");
         QVERIFY(room.task.isRunning());
         QVERIFY(room.waitForEnd());
     }

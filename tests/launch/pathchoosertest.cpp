@@ -1,12 +1,15 @@
 #include "launch/ui/pathchooser.h"
 
+#include "launch/ui/effectspage.h"
 #include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
+#include "launch/ui/miscpage.h"
 #include "platform/defaultscontroller.h"
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
 #include "widgets/pathfield.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -17,6 +20,8 @@
 using namespace tessera;
 
 namespace {
+
+using Select = void (PathChooser::*)();
 
 struct Room {
     QTemporaryDir folder;
@@ -31,7 +36,7 @@ struct Room {
         defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
         pages = std::make_unique<LaunchPages>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
         chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
-        pages->general().setChooser(*chooser);
+        pages->setChooser(*chooser);
     }
 
     // What another program would read from the settings file now.
@@ -42,6 +47,8 @@ struct Room {
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(Select)
 
 class PathChooserTest : public QObject
 {
@@ -96,15 +103,205 @@ private Q_SLOTS:
         QVERIFY(!room.settings.value(keys::ExecutionPath.name));
     }
 
+    void everyMemberStoresWhatItTook_data()
+    {
+        QTest::addColumn<Select>("select");
+        QTest::addColumn<bool>("folder");
+        QTest::addColumn<QString>("startsIn");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        using C = PathChooser;
+        const auto row
+            = [](Select select, bool folder, const char* startsIn, QLatin1StringView key, const char* value) {
+                  QTest::newRow(key.data()) << select << folder << startsIn << QString(key) << value;
+              };
+        row(&C::selectExefile, false, "", keys::ExecutionPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectOSXfile, false, "", keys::MameosxPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectAppfile, false, "", keys::ApplicationPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectROMfolder, true, "", keys::RomsPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectSnapfolder, true, "", keys::SnapPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectTitlefolder, true, "", keys::TitlesnapPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectFryerfolder, true, "", keys::GameflyersPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectHistorybat, false, "", keys::HistoryPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectMameinfobat, false, "", keys::MameinfoPath.name, "/Apps/mame/inp/game1.inp");
+        row(&C::selectPlaybackfile, false, "/usr/games/inp", keys::Playbackfilename.name, "game1.inp");
+        row(&C::selectEffectfile, false, "/usr/games/artwork", keys::Effectname.name, "game1.inp");
+    }
+
+    void everyMemberStoresWhatItTook()
+    {
+        QFETCH(Select, select);
+        QFETCH(bool, folder);
+        QFETCH(QString, startsIn);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        Room room;
+        room.desktop.answerOpen("/Apps/mame/inp/game1.inp");
+        (room.chooser.get()->*select)();
+        QCOMPARE(room.onDisk(qPrintable(key)), value);
+        QCOMPARE(room.desktop.openRequests.at(0).folders, folder);
+        QCOMPARE(room.desktop.openRequests.at(0).files, !folder);
+        QCOMPARE(room.desktop.openRequests.at(0).directory.toLocalFile(), startsIn);
+    }
+
+    void theFieldsShowWhatWasChosen()
+    {
+        Room room;
+        room.desktop.answerOpen("/Apps/mame/inp/game1.inp");
+        room.chooser->playbackfileSelect();
+        QCOMPARE(room.pages->misc().textfildPlayback->text(), QStringLiteral("game1.inp"));
+        room.desktop.answerOpen("/Apps/mame/artwork/scan.png");
+        room.chooser->effectfileSelect();
+        QCOMPARE(room.pages->effects().effectTextField->text(), QStringLiteral("scan.png"));
+    }
+
+    void anEmulatorInAPathWithABlankGivesNoStartingPlace()
+    {
+        Room room;
+        room.defaults.setText(keys::ExecutionPath, "/my games/mame");
+        room.desktop.answerOpen(std::nullopt);
+        room.chooser->playbackfileSelect();
+        QVERIFY(!room.desktop.openRequests.at(0).directory.isValid());
+    }
+
+    void recordingsGetTheirFile_data()
+    {
+        QTest::addColumn<int>("tag");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("key");
+        QTest::newRow("sound") << 1 << "Sound_record.wav" << QString(keys::Wavfilename.name);
+        QTest::newRow("mng") << 2 << "Movie_record.mng" << QString(keys::Mngfilename.name);
+        QTest::newRow("avi") << 3 << "Movie_record.avi" << QString(keys::Avifilename.name);
+    }
+
+    void recordingsGetTheirFile()
+    {
+        QFETCH(int, tag);
+        QFETCH(QString, name);
+        QFETCH(QString, key);
+        Room room;
+        room.desktop.answerSave(name, "/movies/mine.x");
+        room.chooser->saveRecordfile(tag);
+        QCOMPARE(room.desktop.saveRequests.at(0).name, name);
+        QCOMPARE(room.onDisk(qPrintable(key)), QStringLiteral("/movies/mine.x"));
+        room.desktop.answerSave(name, std::nullopt);
+        room.chooser->saveRecordfile(tag);
+        QCOMPARE(room.onDisk(qPrintable(key)), QStringLiteral("/movies/mine.x"));
+    }
+
+    void aRecordingOfNoKindBeepsAndStoresNothing()
+    {
+        Room room;
+        room.desktop.answerSave("", "/movies/mine.x");
+        room.chooser->saveRecordfile(4);
+        QCOMPARE(room.desktop.transcript(), QStringList({"save", "beep"}));
+        for (const auto& key : {keys::Wavfilename, keys::Mngfilename, keys::Avifilename})
+            QVERIFY(!room.settings.value(key.name));
+    }
+
     void theButtonsRunTheirCommands()
     {
         Room room;
-        room.desktop.answerOpen("/a/mame");
-        room.pages->general().exePath->chooseButton()->click();
-        room.desktop.answerOpen("/roms");
-        room.pages->general().romsPath->chooseButton()->click();
-        QCOMPARE(room.settings.string(keys::ExecutionPath.name), QStringLiteral("/a/mame"));
-        QCOMPARE(room.settings.string(keys::RomsPath.name), QStringLiteral("/roms"));
+        std::vector<std::unique_ptr<OptionPage>> pages;
+        for (OptionPage* page : room.pages->all()) {
+            page->show();
+            pages.emplace_back(page);
+        }
+        const GeneralPage& general = room.pages->general();
+        int count = 0;
+        for (QPushButton* button : {general.exePath->chooseButton(), general.romsPath->chooseButton(),
+                                    general.osxPath->chooseButton(), general.appPath->chooseButton(),
+                                    room.pages->effects().effectButton, room.pages->misc().playbackButton}) {
+            room.desktop.answerOpen(QStringLiteral("/chosen/%1").arg(++count));
+            button->click();
+            QVERIFY(!button->accessibleName().isEmpty());
+        }
+        QCOMPARE(room.settings.string(keys::ExecutionPath.name), QStringLiteral("/chosen/1"));
+        QCOMPARE(room.settings.string(keys::RomsPath.name), QStringLiteral("/chosen/2"));
+        QCOMPARE(general.osxTextField->text(), QStringLiteral("/chosen/3"));
+        QCOMPARE(general.appTextField->text(), QStringLiteral("/chosen/4"));
+        QCOMPARE(room.settings.string(keys::Effectname.name), QStringLiteral("5"));
+        QCOMPARE(room.settings.string(keys::Playbackfilename.name), QStringLiteral("6"));
+        for (const char* field : {"wavnameTextField", "mngnameTextField", "avinameTextField"}) {
+            room.desktop.answerSave("ord.", std::nullopt);
+            room.pages->misc().findChild<QPushButton*>(QLatin1String(field) + "_choose")->click();
+        }
+        QCOMPARE(room.desktop.saveRequests.at(2).name, QStringLiteral("Movie_record.avi"));
+    }
+
+    void pathsAreShownInTheFileManager()
+    {
+        Room room;
+        const QString file = room.folder.filePath("history.dat");
+        QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+        const std::array shown{keys::ExecutionPath, keys::MameosxPath, keys::ApplicationPath,
+                               keys::HistoryPath, keys::MameinfoPath};
+        for (int tag = 0; tag < 5; ++tag) {
+            room.defaults.setText(shown[static_cast<std::size_t>(tag)], "/missing");
+            room.chooser->show_file_in_finder(tag);
+            QCOMPARE(room.desktop.takeTranscript(), QStringList({"beep"}));
+            room.defaults.setText(shown[static_cast<std::size_t>(tag)], file);
+            room.chooser->show_file_in_finder(tag);
+            QCOMPARE(room.desktop.takeTranscript(), QStringList({"reveal " + file}));
+        }
+        room.chooser->show_file_in_finder(5);
+        QCOMPARE(room.desktop.takeTranscript(), QStringList({"beep"}));
+    }
+
+    void theModesFolderAndTheRomFolderAreOpened()
+    {
+        Room room;
+        const QString place = room.folder.path();
+        room.defaults.setText(keys::ExecutionPath, place + "/mame");
+        room.defaults.setText(keys::MameosxPath, place + "/MAME.app");
+        room.defaults.setText(keys::ApplicationPath, place + "/other");
+        for (const int mode : {0, 1, 2}) {
+            room.defaults.setIndex(keys::Launchgamesusing, mode);
+            room.chooser->openCurrentdir();
+        }
+        room.chooser->openROMfolder();
+        room.defaults.setText(keys::RomsPath, place);
+        room.chooser->openROMfolder();
+        const QString folder = "folder " + place;
+        QCOMPARE(room.desktop.transcript(), QStringList({folder, folder, folder, "beep", folder}));
+    }
+
+    void theOtherAlertsOfferTheirChooser_data()
+    {
+        QTest::addColumn<Select>("alert");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("informative");
+        QTest::addColumn<QStringList>("buttons");
+        QTest::addColumn<QString>("key");
+        const QStringList select{"select", "cancel"};
+        QTest::newRow("2") << Select(&PathChooser::displayAlert2) << "alert_Message2" << "alert_Info1"
+                           << select << QString(keys::MameosxPath.name);
+        QTest::newRow("3") << Select(&PathChooser::displayAlert3) << "alert_Message3" << "alert_Info1"
+                           << select << QString(keys::ApplicationPath.name);
+        QTest::newRow("4") << Select(&PathChooser::displayAlert4) << "alert_Message4" << "alert_Info4"
+                           << QStringList{"OK"} << QString();
+        QTest::newRow("5") << Select(&PathChooser::displayAlert5) << "alert_Message5" << "alert_Info5"
+                           << QStringList{"select", "disable"} << QString(keys::RomsPath.name);
+    }
+
+    void theOtherAlertsOfferTheirChooser()
+    {
+        QFETCH(Select, alert);
+        QFETCH(QString, message);
+        QFETCH(QString, informative);
+        QFETCH(QStringList, buttons);
+        QFETCH(QString, key);
+        Room room;
+        room.desktop.answerAlert(message, 0);
+        if (!key.isEmpty())
+            room.desktop.answerOpen("/chosen");
+        (room.chooser.get()->*alert)();
+        QCOMPARE(room.desktop.transcript().mid(0, 2), QStringList({"beep", "alert " + message}));
+        QCOMPARE(room.desktop.alerts.at(0).informative, informative);
+        QCOMPARE(room.desktop.alerts.at(0).buttons, buttons);
+        QCOMPARE(room.desktop.alerts.at(0).style, Alert::Style::Informational);
+        if (!key.isEmpty())
+            QCOMPARE(room.onDisk(qPrintable(key)), QStringLiteral("/chosen"));
     }
 
     void theStartingPlaceIsAUrl()

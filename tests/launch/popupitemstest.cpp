@@ -30,7 +30,7 @@ private Q_SLOTS:
         const auto row = [](const char* name, std::span<const PopupItem> items, const QStringList& first) {
             QTest::newRow(name) << shown(items) << first;
         };
-        row("launch modes", launchModes, {"SDL MAME"});
+        row("launch modes", launchModes, {"SDL MAME", "MAME OS X", "mode_application"});
         row("video drivers", videoDrivers, {"soft", "accel", "opengl", "bgfx", "none"});
         row("display modes", displayModes, {"display_window", "display_fullscreen"});
         row("prescale", prescaleFactors, {"1", "2", "3", "4", "5", "6", "7", "8"});

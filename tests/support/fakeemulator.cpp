@@ -1,8 +1,9 @@
 // A program that plays the emulator. The first argument says how it behaves, as a game's name would; see
 // `plays`. With -showusage and -showconfig it prints the file that FAKE_USAGE and FAKE_CONFIG name, and adds
-// the option to the file that FAKE_RUNS names. With -listxml it says FAKE_WORDS on standard error, prints the
-// file that FAKE_LISTXML names, and then behaves as FAKE_THEN says. A grandchild that it leaves behind locks
-// the file that FAKE_GRANDCHILD names, with its number in it.
+// the option to the file that FAKE_RUNS names. FAKE_COMMAND says how it behaves whatever the arguments are.
+// With -listxml it says FAKE_WORDS on standard error, prints the file that FAKE_LISTXML names, and then
+// behaves as FAKE_THEN says. A grandchild that it leaves behind locks the file that FAKE_GRANDCHILD names,
+// with its number in it.
 
 #include <csignal>
 #include <cstdio>
@@ -148,6 +149,8 @@ int listMachines(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
+    if (const char* command = std::getenv("FAKE_COMMAND"))
+        return plays(command, argc, argv);
     if (argc > 1 && std::strcmp(argv[1], "-showusage") == 0)
         return answer(argv[1], std::getenv("FAKE_USAGE"));
     if (argc > 1 && std::strcmp(argv[1], "-showconfig") == 0)

@@ -108,6 +108,18 @@ bool ScriptedDesktop::reveal(const QString& path)
     return QFileInfo::exists(path);
 }
 
+bool ScriptedDesktop::openFolder(const QString& path)
+{
+    m_transcript << QStringLiteral("folder ") + path;
+    return QFileInfo::exists(path);
+}
+
+bool ScriptedDesktop::openWith(const QString& path, const QString& application)
+{
+    m_transcript << QStringLiteral("with %1 %2").arg(application, path);
+    return QFileInfo::exists(application);
+}
+
 void ScriptedDesktop::noteRecent(const QString& path)
 {
     m_transcript << QStringLiteral("recent ") + path;

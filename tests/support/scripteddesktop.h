@@ -25,7 +25,7 @@ public:
     void answerColor(const QString& from, const std::optional<QString>& color);
 
     /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "color FROM", "error MESSAGE", "reveal
-    /// PATH", "recent PATH", "log LINE", in order.
+    /// PATH", "folder PATH", "with APPLICATION PATH", "recent PATH", "log LINE", in order.
     QStringList transcript() const { return m_transcript; }
     /// The first line of this text is taken out.
     void forget(const QString& line) { m_transcript.removeOne(line); }
@@ -46,6 +46,8 @@ public:
     bool presentError(const QString& message, const QString& informative,
                       const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
+    bool openFolder(const QString& path) override;
+    bool openWith(const QString& path, const QString& application) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override { return clock; }

@@ -322,7 +322,8 @@ private Q_SLOTS:
         const QList<QStringList> buttons{{"button_convert"},
                                          {"button_save", "button_check2"},
                                          {"button_check1", "button_separete"},
-                                         {"button_convert2"}};
+                                         {"button_convert2"},
+                                         {"button_make"}};
         QCOMPARE(stage.window.utilityTabView->count(), buttons.size());
         for (int page = 0; page < buttons.size(); ++page) {
             stage.window.pageList->setCurrentRow(page);

@@ -15,17 +15,35 @@ constexpr std::array table{
          "Print the launch arguments that the settings make, one a line.", &runArguments},
     Verb{"build", "[--emulator PATH] [-o FILE]",
          "Build the catalogue from what the emulator lists about itself.", &runBuild},
+    Verb{
+        "command", "POSITION [GAME]",
+        "Run the command at a position of the command menu, counted from 0: help, validate, -, createconfig, "
+        "showconfig, showusage, -, and for a GAME listxml (7), listfull, -, listsource, listclones, "
+        "listbrothers, listcrc, listroms, listsamples, -, verifyroms (17), verifysamples, -, romident (20), "
+        "listdevices, listslots, listmedia. The emulator's output goes to stdout and its status is ours.",
+        &runCommand},
     Verb{"convert", "LISTXML TITLES -o FILE [--without-bios] [--without-mechanical] [--without-devices]",
          "Make a catalogue file from a saved -listxml text and a list of Japanese titles.", &runConvert},
     Verb{"existence", "LISTFULL ROMS -o REPORT",
          "Report which sets of a saved -listfull text have an archive or a folder among the ROMs.",
          &runExistence},
+    Verb{"export", "POSITION -o FILE",
+         "Write what the emulator prints for a position of the export menu into a file: listfull (0), "
+         "listxml, "
+         "-, listsource, listclones, listbrothers, listcrc, listroms, listsamples, -, verifyroms (10), "
+         "verifysamples, -, listdevices (13), listslots; 15 to 19 verify ROMs or samples again.",
+         &runExport},
     Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",
          "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
          "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
          &runList},
+    Verb{"script", "GAME --format tool|sh|scpt [--emulator 0|1|2] [--no-options] -o FILE",
+         "Write a script that starts a game: with the command-line emulator (0), the MAME OS X application "
+         "(1) "
+         "or another application (2).",
+         &runScript},
     Verb{"separate", "ROMS LISTFULL DEST",
          "Copy what a saved -listfull text does not name out of a ROM folder into another; nothing is "
          "removed or "

@@ -18,7 +18,7 @@ struct Verb {
     int (*run)(const Verb& verb, const QStringList& arguments);
 };
 
-/// Exit statuses of every verb but launch, which gives the emulator's own.
+/// Exit statuses of every verb but launch and command, which give the emulator's own.
 enum ExitStatus { Done = 0, Failed = 1, BadCommandLine = 2 };
 
 std::span<const Verb> verbs();
@@ -46,10 +46,13 @@ bool printBytes(std::string_view bytes);
 
 int runArguments(const Verb& verb, const QStringList& arguments);
 int runBuild(const Verb& verb, const QStringList& arguments);
+int runCommand(const Verb& verb, const QStringList& arguments);
 int runConvert(const Verb& verb, const QStringList& arguments);
 int runExistence(const Verb& verb, const QStringList& arguments);
+int runExport(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
+int runScript(const Verb& verb, const QStringList& arguments);
 int runSeparate(const Verb& verb, const QStringList& arguments);
 int runVerify(const Verb& verb, const QStringList& arguments);
 

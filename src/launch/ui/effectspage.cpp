@@ -1,10 +1,12 @@
 #include "launch/ui/effectspage.h"
 
+#include "launch/ui/pathchooser.h"
 #include "widgets/boundcontrols.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace tessera {
 
@@ -47,6 +49,12 @@ EffectsPage::EffectsPage(DefaultsController& defaults, QWidget* parent)
     bind(*checkboxAntialias, defaults, keys::Antialiased);
     bind(*beemTextField, defaults, keys::Displaybeam);
     bind(*flickerTextField, defaults, keys::Displayflicker);
+}
+
+void EffectsPage::complete(PathChooser& chooser)
+{
+    effectButton = addChooseButton(effectTextField);
+    connect(effectButton, &QPushButton::clicked, &chooser, &PathChooser::selectEffectfile);
 }
 
 } // namespace tessera

@@ -23,6 +23,10 @@ public:
     QCheckBox* checkboxAntialias;
     QLineEdit* beemTextField;
     QLineEdit* flickerTextField;
+    QPushButton* effectButton = nullptr; ///< once the page was shown
+
+protected:
+    void complete(PathChooser& chooser) override;
 };
 
 } // namespace tessera

@@ -20,7 +20,6 @@ PathField* makePath(const char* nameKey, const char* fieldName, QWidget* parent)
 {
     auto* path = new PathField(qtTrId(nameKey), qtTrId("path_choose"), qtTrId("path_reveal"), parent);
     path->field()->setObjectName(QString::fromLatin1(fieldName));
-    path->revealButton()->hide();
     return path;
 }
 
@@ -44,7 +43,6 @@ GeneralPage::GeneralPage(DefaultsController& defaults, std::function<QString()> 
     addRow(QString(), checkboxRompath);
     rompathNote = addNote(qtTrId("option_romfolderunused"));
     rompathNote->setObjectName(QStringLiteral("rompathNote"));
-    addStretch();
 
     bind(*launchusingPop, defaults, keys::Launchgamesusing);
     bind(*exeTextField, defaults, keys::ExecutionPath);
@@ -62,10 +60,30 @@ GeneralPage::GeneralPage(DefaultsController& defaults, std::function<QString()> 
     showNote();
 }
 
-void GeneralPage::setChooser(PathChooser& chooser)
+void GeneralPage::complete(PathChooser& chooser)
 {
+    addLine();
+    osxPath = makePath(textKey("option_osx"), "osxTextField", this);
+    osxTextField = osxPath->field();
+    addRow(qtTrId("option_osx"), osxPath);
+    appPath = makePath(textKey("option_application"), "appTextField", this);
+    appTextField = appPath->field();
+    addRow(qtTrId("option_application"), appPath);
+    addStretch();
+    bind(*osxTextField, m_defaults, keys::MameosxPath);
+    bind(*appTextField, m_defaults, keys::ApplicationPath);
+
     connect(exePath->chooseButton(), &QPushButton::clicked, &chooser, &PathChooser::selectExefile);
+    connect(osxPath->chooseButton(), &QPushButton::clicked, &chooser, &PathChooser::selectOSXfile);
+    connect(appPath->chooseButton(), &QPushButton::clicked, &chooser, &PathChooser::selectAppfile);
     connect(romsPath->chooseButton(), &QPushButton::clicked, &chooser, &PathChooser::selectROMfolder);
+    connect(romsPath->revealButton(), &QToolButton::clicked, &chooser, &PathChooser::openROMfolder);
+    int tag = 0;
+    for (const PathField* path : {exePath, osxPath, appPath}) {
+        connect(path->revealButton(), &QToolButton::clicked, &chooser,
+                [&chooser, tag] { chooser.show_file_in_finder(tag); });
+        ++tag;
+    }
 }
 
 QString GeneralPage::emulator() const

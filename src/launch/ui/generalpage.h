@@ -26,9 +26,6 @@ public:
     /// Where none was chosen, and none was found or its file has gone: one may have been installed since.
     void lookForEmulator();
 
-    /// The buttons beside the paths run the chooser's commands.
-    void setChooser(PathChooser& chooser);
-
     QComboBox* launchusingPop;
     PathField* exePath;
     QLineEdit* exeTextField;
@@ -36,6 +33,11 @@ public:
     QLineEdit* romsTextField;
     QCheckBox* checkboxRompath;
     QLabel* rompathNote;
+    // Once the page was shown:
+    PathField* osxPath = nullptr;
+    QLineEdit* osxTextField = nullptr;
+    PathField* appPath = nullptr;
+    QLineEdit* appTextField = nullptr;
 
 Q_SIGNALS:
     /// Another one than before, or none any more.
@@ -43,6 +45,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void complete(PathChooser& chooser) override;
 
 private:
     void showFoundEmulator();

@@ -1,19 +1,18 @@
 #include "launch/ui/launchcontroller.h"
 
-#include "core/atomicfile.h"
+#include "launch/aliasfile.h"
 #include "launch/argumentsarray.h"
 #include "launch/commandline.h"
 #include "launch/emulatortask.h"
+#include "launch/osxapplication.h"
 #include "launch/profilecache.h"
 #include "launch/storedoptions.h"
 #include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
-#include "launch/ui/logview.h"
-#include "launch/ui/logwindow.h"
 #include "launch/ui/pathchooser.h"
+#include "launch/ui/runcontroller.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
-#include "widgets/bringforward.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,22 +20,23 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QPushButton>
-
-#include <array>
 
 namespace tessera {
+
+namespace {
+
+// The launch modes by their positions.
+enum Mode { CommandLineMame, MameOsx, OtherApplication };
+
+} // namespace
 
 LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
 {
-    connect(&m_parts.task, &EmulatorTask::started, this, [this] { Q_EMIT started(m_game); });
-    connect(&m_parts.task, &EmulatorTask::output, this, &LaunchController::getData);
-    connect(&m_parts.task, &EmulatorTask::ended, this, &LaunchController::taskEnded);
-    connect(&m_parts.task, &EmulatorTask::failedToStart, this, &LaunchController::taskFailedToStart);
+    connect(&m_parts.runs, &RunController::runningChanged, this, &LaunchController::runningChanged);
+    connect(&m_parts.runs, &RunController::statusMessage, this, &LaunchController::statusMessage);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
-    connect(m_parts.logWindow.saveButton, &QPushButton::clicked, this, &LaunchController::saveLogAction);
     // The position has to be stored before the title is asked for, so this comes after the pop-up's own
     // binding.
     connect(m_parts.pages.general().launchusingPop, &QComboBox::activated, this,
@@ -64,6 +64,26 @@ bool LaunchController::romsfolder_FoundCheck() const
     return romsFolderExists(m_parts.pages.general().romsTextField->text());
 }
 
+// Empty where the emulator is left to its own.
+QString LaunchController::usedRomFolder() const
+{
+    const ArchiveFolders folders = archiveFolders();
+    return folders.usesRomFolder && romsfolder_FoundCheck() ? folders.romFolder : QString();
+}
+
+bool LaunchController::findsExecutable()
+{
+    m_parts.pages.general().lookForEmulator();
+    return QFileInfo::exists(executable());
+}
+
+ArchiveFolders LaunchController::archiveFolders() const
+{
+    const GeneralPage& general = m_parts.pages.general();
+    return {general.checkboxRompath->checkState() != Qt::Unchecked, general.romsTextField->text(),
+            executable()};
+}
+
 void LaunchController::prepareProfile()
 {
     m_parts.profiles.request(executable());
@@ -71,35 +91,81 @@ void LaunchController::prepareProfile()
 
 void LaunchController::Launchusing(const QString& game)
 {
+    // Only another start of the program can ask for a game while a command is waited for.
+    if (m_parts.task.isWaitedFor())
+        return m_parts.desktop.beep();
     if (isRunning())
         stopProcess();
     LaunchemuCheck();
     m_name = gameName(game);
     const QComboBox* mode = m_parts.pages.general().launchusingPop;
-    m_parts.logWindow.infomationTextView->replace(mode->currentText() + QStringLiteral(" :  ") + m_name
-                                                  + QStringLiteral("  Launch...\n\n"));
-    m_parts.logWindow.update();
-    if (mode->currentIndex() == 0)
-        LaunchTask_SDLMAME(game);
+    m_parts.runs.beginLog(mode->currentText() + QStringLiteral(" :  ") + m_name
+                          + QStringLiteral("  Launch...\n\n"));
+    switch (mode->currentIndex()) {
+    case CommandLineMame:
+        return LaunchTask_SDLMAME(game);
+    case MameOsx:
+        return LaunchTask_MAMEOSX(game);
+    case OtherApplication:
+        return LaunchTask_APPMAME(game);
+    default:
+        return;
+    }
+}
+
+LaunchOptions LaunchController::options() const
+{
+    const SelectionReaders& selection = m_parts.selection;
+    return liveOptions(m_parts.pages,
+                       {selection.tableViewSelectionROM(), selection.tableViewSelectionTitleE(),
+                        selection.tableViewSelectionTitleJ()});
 }
 
 LaunchController::Launch LaunchController::launchOf(const QString& game) const
 {
-    const SelectionReaders& selection = m_parts.selection;
-    const LaunchOptions options
-        = liveOptions(m_parts.pages,
-                      {selection.tableViewSelectionROM(), selection.tableViewSelectionTitleE(),
-                       selection.tableViewSelectionTitleJ()});
-    return {executable(), game, argumentsArray(options), ownOptions(m_parts.search_priorityOption(game))};
+    return {executable(), game, argumentsArray(options()), ownOptions(m_parts.search_priorityOption(game))};
+}
+
+ShownLine LaunchController::shownLine(const QString& game)
+{
+    ShownLine shown;
+    const int mode = m_parts.pages.general().launchusingPop->currentIndex();
+    if (mode == OtherApplication) {
+        const auto archive = userDataArchive(QDir::homePath(), game);
+        shown.executable = m_parts.defaults.text(keys::ApplicationPath);
+        shown.line.arguments << archive.value_or(game);
+    } else if (mode == MameOsx) {
+        shown.executable = bundleExecutable(m_parts.defaults.text(keys::MameosxPath));
+        shown.line.arguments = osxGameArguments(game, usedRomFolder()) + osxOptions();
+    } else {
+        const Launch launch = launchOf(game);
+        const auto answer = m_parts.profiles.remembered(launch.executable);
+        shown.executable = launch.executable;
+        shown.line = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
+    }
+    // Where none is selected there is no game to name.
+    if (game.isEmpty())
+        shown.line.arguments.removeAll(QString());
+    return shown;
 }
 
 QString LaunchController::shownCommandLine(const QString& game)
 {
-    const Launch launch = launchOf(game);
-    const auto answer = m_parts.profiles.remembered(launch.executable);
-    const CommandLine line
-        = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
-    return shellWords(QStringList{launch.executable} + line.arguments);
+    const ShownLine shown = shownLine(game);
+    return shellWords(QStringList{shown.executable} + shown.line.arguments);
+}
+
+QStringList LaunchController::shellOptions()
+{
+    const QStringList built = argumentsArray(options());
+    const auto answer = m_parts.profiles.remembered(executable());
+    return answer && answer->profile ? answer->profile->fit(built, EmulatorProfile::Quotes::Kept).arguments
+                                     : built;
+}
+
+QStringList LaunchController::osxOptions() const
+{
+    return argumentsArray2(options());
 }
 
 void LaunchController::LaunchTask_SDLMAME(const QString& game)
@@ -110,20 +176,38 @@ void LaunchController::LaunchTask_SDLMAME(const QString& game)
         profileAnswered(m_waiting->executable, *answer);
     else
         m_parts.profiles.request(m_waiting->executable);
-    Q_EMIT runningChanged(isRunning());
+    if (m_waiting)
+        Q_EMIT runningChanged(true);
 }
 
 void LaunchController::noteRecent(const QString& game)
 {
-    const GeneralPage& general = m_parts.pages.general();
-    const QString format = QStringLiteral("%1/%2.zip");
+    m_parts.paths.saveOpenRecent(QDir::isAbsolutePath(game) ? game : archivePath(archiveFolders(), game));
+}
+
+void LaunchController::LaunchTask_MAMEOSX(const QString& game)
+{
+    const QString used = usedRomFolder();
+    const auto folder = used.isEmpty() ? osxRomPath(QDir::homePath()) : used;
     if (QDir::isAbsolutePath(game))
         m_parts.paths.saveOpenRecent(game);
-    else if (general.checkboxRompath->checkState() != Qt::Unchecked && romsfolder_FoundCheck())
-        m_parts.paths.saveOpenRecent(format.arg(general.romsTextField->text(), game));
-    else
-        m_parts.paths.saveOpenRecent(
-            format.arg(QFileInfo(executable()).path() + QStringLiteral("/roms"), game));
+    else if (folder)
+        m_parts.paths.saveOpenRecent(*folder + QLatin1Char('/') + game + QStringLiteral(".zip"));
+    const QString application = m_parts.defaults.text(keys::MameosxPath);
+    m_parts.runs.start({m_name, bundleExecutable(application), QFileInfo(application).path(),
+                        osxGameArguments(game, used) + osxOptions(), game});
+}
+
+// Deliberate: an archive of any place is looked for by its bare name among the user data.
+void LaunchController::LaunchTask_APPMAME(const QString& game)
+{
+    const auto archive = userDataArchive(QDir::homePath(), gameName(game));
+    if (!archive)
+        return m_parts.paths.displayAlert4();
+    m_parts.paths.saveOpenRecent(*archive);
+    const QString application = m_parts.defaults.text(keys::ApplicationPath);
+    if (!m_parts.desktop.openWith(*archive, application))
+        Q_EMIT statusMessage(Failure{"launch_notopened", {*archive, application}}.text());
 }
 
 void LaunchController::profileAnswered(const QString& executable, const ProfileAnswer& answer)
@@ -139,20 +223,22 @@ void LaunchController::begin(const Launch& launch, const ProfileAnswer& answer)
 {
     const CommandLine line = commandLine(answer.profile, launch.game, launch.built, launch.own);
     if (!line.leftOut.isEmpty())
-        appendOutput(line.leftOutLine() + QLatin1Char('\n'));
-    Q_EMIT statusMessage(aboutGame(textKey("launch_running")));
-    m_game = launch.game;
-    m_parts.task.start(launch.executable, QFileInfo(launch.executable).path(), line.arguments);
+        m_parts.runs.appendOutput(line.leftOutLine() + QLatin1Char('\n'));
+    m_parts.runs.start({gameName(launch.game), launch.executable, QFileInfo(launch.executable).path(),
+                        line.arguments, launch.game});
 }
 
 void LaunchController::LaunchemuCheck()
 {
-    GeneralPage& general = m_parts.pages.general();
-    if (general.launchusingPop->currentIndex() != 0)
-        return;
-    general.lookForEmulator();
-    if (!QFileInfo::exists(executable()))
+    const auto isMissing
+        = [this](const ChosenKey& key) { return !QFileInfo::exists(m_parts.defaults.text(key)); };
+    const int mode = m_parts.pages.general().launchusingPop->currentIndex();
+    if (mode == CommandLineMame && !findsExecutable())
         m_parts.paths.displayAlert1();
+    else if (mode == MameOsx && isMissing(keys::MameosxPath))
+        m_parts.paths.displayAlert2();
+    else if (mode == OtherApplication && isMissing(keys::ApplicationPath))
+        m_parts.paths.displayAlert3();
 }
 
 void LaunchController::LaunchemuPopAction()
@@ -160,60 +246,30 @@ void LaunchController::LaunchemuPopAction()
     Q_EMIT launchModeChanged();
 }
 
-void LaunchController::getData(const QString& text)
+void LaunchController::MenuLaunchusing(const QString& title)
 {
-    appendOutput(text);
-}
-
-void LaunchController::appendOutput(const QString& text)
-{
-    m_parts.logWindow.infomationTextView->append(text,
-                                                 QColor(m_parts.defaults.text(keys::TableViewTextColor)));
+    QComboBox* mode = m_parts.pages.general().launchusingPop;
+    mode->setCurrentIndex(mode->findText(title));
+    m_parts.defaults.setIndex(keys::Launchgamesusing, mode->currentIndex());
+    Q_EMIT launchModeChanged();
 }
 
 void LaunchController::stopProcess()
 {
-    const bool wasRunning = isRunning();
+    if (!m_waiting)
+        return m_parts.runs.stopProcess();
     m_waiting.reset();
-    m_parts.task.stop();
-    if (!wasRunning)
-        return;
     Q_EMIT statusMessage(aboutGame(textKey("launch_stopped")));
     Q_EMIT runningChanged(false);
 }
 
-void LaunchController::taskEnded(int status)
-{
-    Q_EMIT runningChanged(false);
-    Q_EMIT statusMessage(status == 0
-                             ? aboutGame(textKey("launch_ended"))
-                             : Failure{"launch_endedbadly", {m_name, QString::number(status)}}.text());
-    if (status != 0)
-        errerAlert(QString::number(status));
-}
-
-void LaunchController::taskFailedToStart(const QString& reason)
-{
-    const QString text = Failure{"launch_notstarted", {executable(), reason}}.text();
-    appendOutput(text + QLatin1Char('\n'));
-    Q_EMIT runningChanged(false);
-    Q_EMIT statusMessage(text);
-}
-
-void LaunchController::errerAlert(const QString& statusText)
-{
-    m_parts.desktop.beep();
-    const Alert alert{qtTrId("errerAlert") + QLatin1Char(' ') + statusText,
-                      qtTrId("errerInfo"),
-                      {QStringLiteral("OK"), QStringLiteral("Log")},
-                      Alert::Style::Warning,
-                      0};
-    if (m_parts.desktop.runAlert(alert) == 1)
-        windowLog();
-}
-
 bool LaunchController::confirmQuit()
 {
+    // A command is waited for; it has a Stop of its own.
+    if (m_parts.task.isWaitedFor()) {
+        m_parts.desktop.beep();
+        return false;
+    }
     if (!isRunning())
         return true;
     const Alert alert{aboutGame(textKey("launch_quitmessage")),
@@ -222,38 +278,6 @@ bool LaunchController::confirmQuit()
                       Alert::Style::Warning};
     m_parts.desktop.beep();
     return m_parts.desktop.runAlert(alert) == 0;
-}
-
-void LaunchController::saveLogAction()
-{
-    const LogView& log = *m_parts.logWindow.infomationTextView;
-    if (log.isEmpty()) {
-        m_parts.desktop.beep();
-        return;
-    }
-    // The type code 'TEXT' that belongs to "txt" is no extension.
-    const auto path = m_parts.desktop.savePanel(
-        {qtTrId("log_save"), QStringLiteral("Log output"), {QStringLiteral("txt")}});
-    if (!path)
-        return;
-    const std::string text = log.text().toStdString();
-    const std::array<std::string_view, 1> pieces{text};
-    // Deliberate: no alert and no beep for a failure; the status line alone says it.
-    if (const auto written = writeAtomically(*path, pieces); !written)
-        Q_EMIT statusMessage(written.error().text());
-}
-
-void LaunchController::showLogWindow()
-{
-    if (m_parts.logWindow.isVisible())
-        m_parts.logWindow.close();
-    else
-        windowLog();
-}
-
-void LaunchController::windowLog()
-{
-    bringForward(m_parts.logWindow);
 }
 
 } // namespace tessera

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "launch/archivepath.h"
+#include "launch/commandline.h"
+#include "launch/launchoptions.h"
+
 #include <QObject>
 #include <QStringList>
 
@@ -12,9 +16,9 @@ class DefaultsController;
 class Desktop;
 class EmulatorTask;
 class LaunchPages;
-class LogWindow;
 class PathChooser;
 class ProfileCache;
+class RunController;
 struct ProfileAnswer;
 
 /// The readers of the game list's selection; each gives an empty text when nothing is selected.
@@ -30,15 +34,21 @@ struct LaunchParts {
     DefaultsController& defaults;
     LaunchPages& pages;
     PathChooser& paths;
-    LogWindow& logWindow;
     EmulatorTask& task;
+    RunController& runs;
     ProfileCache& profiles;
     SelectionReaders selection;
     /// The extra options of the favourite with that short name; empty where there is none.
     std::function<QString(const QString& name)> search_priorityOption;
 };
 
-/// Starts games, and shows what the emulator prints and how it ends.
+/// A program and what it is started with.
+struct ShownLine {
+    QString executable;
+    CommandLine line;
+};
+
+/// Starts games.
 class LaunchController : public QObject
 {
     Q_OBJECT
@@ -51,9 +61,21 @@ public:
     /// False when the user wants to go on playing. The game goes on in any case, until the program ends.
     bool confirmQuit();
     bool romsfolder_FoundCheck() const;
-    /// What would be started for a short name, as a shell would take it; the emulator's own wishes are respected
+    /// The one that launches and commands start: what is typed, or else what was found.
+    QString executable() const;
+    /// False where nothing exists at its path.
+    bool findsExecutable();
+    /// Where archives are expected with what is chosen now.
+    ArchiveFolders archiveFolders() const;
+    /// What would be started for a short name, or without a game; the emulator's own wishes are respected
     /// where it was asked already.
+    ShownLine shownLine(const QString& game);
+    /// The same as a shell would take it.
     QString shownCommandLine(const QString& game);
+    /// The command-line emulator's options as a shell is to read them, without what it would not understand
+    /// where it was asked already.
+    QStringList shellOptions();
+    QStringList osxOptions() const;
     /// Asks the emulator for its options now, so that no launch has to wait for it.
     void prepareProfile();
 
@@ -61,22 +83,18 @@ public Q_SLOTS:
     /// `game` is a short name or the absolute path of an archive.
     void Launchusing(const QString& game);
     void LaunchTask_SDLMAME(const QString& game);
+    void LaunchTask_MAMEOSX(const QString& game);
+    void LaunchTask_APPMAME(const QString& game);
     void LaunchemuCheck();
     void LaunchemuPopAction();
-    void getData(const QString& text);
-    void appendOutput(const QString& text);
+    /// The launch mode of this title was chosen in the menu.
+    void MenuLaunchusing(const QString& title);
     void stopProcess();
-    void errerAlert(const QString& statusText);
-    void saveLogAction();
-    void showLogWindow();
-    void windowLog();
 
 Q_SIGNALS:
     /// Another launch mode is selected: window titles name it.
     void launchModeChanged();
     void runningChanged(bool running);
-    /// The game runs, by the reference that it was started with.
-    void started(const QString& game);
     void statusMessage(const QString& text);
 
 private:
@@ -87,19 +105,17 @@ private:
         QStringList built;
         QStringList own;
     };
+    LaunchOptions options() const;
+    QString usedRomFolder() const;
     Launch launchOf(const QString& game) const;
     void begin(const Launch& launch, const ProfileAnswer& answer);
     void profileAnswered(const QString& executable, const ProfileAnswer& answer);
     void noteRecent(const QString& game);
-    void taskEnded(int status);
-    void taskFailedToStart(const QString& reason);
-    QString executable() const;
     QString aboutGame(const char* key) const;
 
     LaunchParts m_parts;
     std::optional<Launch> m_waiting;
     QString m_name; ///< of the game that was started last
-    QString m_game; ///< its reference
 };
 
 } // namespace tessera

@@ -125,6 +125,12 @@ LaunchPages::~LaunchPages()
     }
 }
 
+void LaunchPages::setChooser(PathChooser& chooser)
+{
+    for (OptionPage* page : all())
+        page->setChooser(chooser);
+}
+
 QList<OptionPage*> LaunchPages::all() const
 {
     return {m_general.data(), m_video.data(), m_effects.data(),

@@ -15,6 +15,7 @@ class GeneralPage;
 class InputPage;
 class MiscPage;
 class OptionPage;
+class PathChooser;
 class SoundPage;
 class VideoPage;
 
@@ -28,6 +29,7 @@ public:
     LaunchPages(const LaunchPages&) = delete;
     LaunchPages& operator=(const LaunchPages&) = delete;
 
+    void setChooser(PathChooser& chooser);
     /// In the order of the preferences window.
     QList<OptionPage*> all() const;
 

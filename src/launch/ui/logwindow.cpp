@@ -41,4 +41,17 @@ LogWindow::LogWindow(QWidget* parent)
     resize(firstSize);
 }
 
+void LogWindow::setCommands(QWidget* bar)
+{
+    qobject_cast<QVBoxLayout*>(layout())->insertWidget(0, bar);
+    // A layout shows what comes so late only after the window.
+    bar->show();
+}
+
+void LogWindow::showEvent(QShowEvent* event)
+{
+    Q_EMIT aboutToShow();
+    QWidget::showEvent(event);
+}
+
 } // namespace tessera

@@ -1,11 +1,13 @@
 #include "launch/ui/miscpage.h"
 
+#include "launch/ui/pathchooser.h"
 #include "widgets/boundcontrols.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace tessera {
 
@@ -73,6 +75,18 @@ void MiscPage::bindControls(DefaultsController& defaults)
     bind(*replayMatrix, defaults, keys::Replaymatrix);
     bind(*recordfilePop, defaults, keys::Recordfilepop);
     bind(*textfildPlayback, defaults, keys::Playbackfilename);
+}
+
+void MiscPage::complete(PathChooser& chooser)
+{
+    playbackButton = addChooseButton(textfildPlayback);
+    connect(playbackButton, &QPushButton::clicked, &chooser, &PathChooser::selectPlaybackfile);
+    int tag = 0;
+    for (QLineEdit* field : {wavnameTextField, mngnameTextField, avinameTextField}) {
+        ++tag;
+        connect(addChooseButton(field), &QPushButton::clicked, &chooser,
+                [&chooser, tag] { chooser.saveRecordfile(tag); });
+    }
 }
 
 void MiscPage::switchRecordingOff()

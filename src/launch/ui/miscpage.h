@@ -30,6 +30,11 @@ public:
     QComboBox* recordfilePop;
     QLineEdit* textfildPlayback;
 
+    QPushButton* playbackButton = nullptr; ///< once the page was shown
+
+protected:
+    void complete(PathChooser& chooser) override;
+
 private:
     void layOut();
     void bindControls(DefaultsController& defaults);

@@ -3,7 +3,9 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QBoxLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace tessera {
@@ -17,6 +19,26 @@ OptionPage::OptionPage(const char* titleKey, const QString& icon, QWidget* paren
     , m_title(qtTrId(titleKey))
     , m_icon(icon)
 {
+}
+
+void OptionPage::showEvent(QShowEvent* event)
+{
+    if (m_chooser && !std::exchange(m_isComplete, true))
+        complete(*m_chooser);
+    FormPage::showEvent(event);
+}
+
+void OptionPage::complete(PathChooser&) { }
+
+QPushButton* OptionPage::addChooseButton(QLineEdit* field)
+{
+    auto* button = new QPushButton(qtTrId("path_choose"));
+    button->setObjectName(field->objectName() + QStringLiteral("_choose"));
+    button->setAccessibleName(button->text() + QStringLiteral(": ") + field->accessibleName());
+    auto* row = qobject_cast<QBoxLayout*>(field->parentWidget()->layout());
+    row->insertWidget(row->indexOf(field) + 1, button);
+    setTabOrder(field, button);
+    return button;
 }
 
 QComboBox* OptionPage::makePopup(const char* name, std::span<const PopupItem> items)

@@ -1,23 +1,98 @@
 #include "launch/ui/pathchooser.h"
 
 #include "core/failure.h"
+#include "launch/ui/effectspage.h"
 #include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
+#include "launch/ui/miscpage.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace tessera {
+
+namespace {
+
+// A row of the chooser family.
+struct Member {
+    QLatin1StringView key;
+    bool isFolder;
+    const char* startsIn; ///< this folder beside the emulator, and then only the file's name is kept
+};
+
+// clang-format off
+constexpr std::array members{
+    Member{keys::ExecutionPath.name,    false, nullptr},
+    Member{keys::MameosxPath.name,      false, nullptr},
+    Member{keys::ApplicationPath.name,  false, nullptr},
+    Member{keys::RomsPath.name,         true,  nullptr},
+    Member{keys::SnapPath.name,         true,  nullptr},
+    Member{keys::TitlesnapPath.name,    true,  nullptr},
+    Member{keys::GameflyersPath.name,   true,  nullptr},
+    Member{keys::HistoryPath.name,      false, nullptr},
+    Member{keys::MameinfoPath.name,     false, nullptr},
+    Member{keys::Playbackfilename.name, false, "inp"},
+    Member{keys::Effectname.name,       false, "artwork"},
+};
+
+struct RecordFile {
+    const char* name; ///< proposed
+    QLatin1StringView key;
+};
+
+// By tag.
+constexpr std::array recordFiles{
+    RecordFile{"", {}},
+    RecordFile{"Sound_record.wav", keys::Wavfilename.name},
+    RecordFile{"Movie_record.mng", keys::Mngfilename.name},
+    RecordFile{"Movie_record.avi", keys::Avifilename.name},
+};
+
+using Select = void (PathChooser::*)();
+struct AlertRow {
+    const char* message;
+    const char* informative;
+    const char* otherButton; ///< nullptr where there is "OK" alone
+    Select select;
+};
+
+// By number, from 1. Deliberate: three share one informative text.
+constexpr std::array alertRows{
+    AlertRow{textKey("alert_Message1"), textKey("alert_Info1"), textKey("cancel"),  &PathChooser::exeSelect},
+    AlertRow{textKey("alert_Message2"), textKey("alert_Info1"), textKey("cancel"),  &PathChooser::osxSelect},
+    AlertRow{textKey("alert_Message3"), textKey("alert_Info1"), textKey("cancel"),  &PathChooser::appSelect},
+    AlertRow{textKey("alert_Message4"), textKey("alert_Info4"), nullptr,            nullptr},
+    AlertRow{textKey("alert_Message5"), textKey("alert_Info5"), textKey("disable"), &PathChooser::romfolSelect},
+};
+
+// By tag, and the first three by launch mode.
+constexpr std::array shownPaths{
+    keys::ExecutionPath.name, keys::MameosxPath.name, keys::ApplicationPath.name,
+    keys::HistoryPath.name,   keys::MameinfoPath.name,
+};
+// clang-format on
+
+// Deliberate: a starting place is a URL's text, so that a path with a blank in it gives none.
+QUrl startingPlace(const QString& text)
+{
+    const QUrl url(text, QUrl::StrictMode);
+    return url.isValid() && url.scheme().isEmpty() ? QUrl::fromLocalFile(url.path()) : url;
+}
+
+} // namespace
 
 PathChooser::PathChooser(Desktop& desktop, DefaultsController& defaults, const LaunchPages& pages,
                          QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_defaults(defaults)
-    , m_members{Member{keys::ExecutionPath, pages.general().exeTextField, true, false},
-                Member{keys::RomsPath, pages.general().romsTextField, false, true}}
+    , m_pages(pages)
 {
 }
 
@@ -26,55 +101,201 @@ QString PathChooser::openPanelpath(const PathRequest& request)
     OpenRequest panel;
     panel.files = request.chooseFile;
     panel.folders = request.chooseDirect;
-    panel.directory = QUrl(request.directory);
+    panel.directory = startingPlace(request.directory);
     return m_desktop.openPanel(panel).value_or(QString());
 }
 
-void PathChooser::select(Which which)
+// What the emulator's field shows counts, which may be one that was found and never chosen.
+QString PathChooser::pathAt(QLatin1StringView key) const
 {
-    const Member& member = m_members[which];
-    const QString path = openPanelpath({member.chooseFile, member.chooseDirect, QString()});
+    return key == keys::ExecutionPath.name ? m_pages.general().exeTextField->text()
+                                           : m_defaults.text(ChosenKey{key});
+}
+
+QString PathChooser::besideEmulator(const char* folder) const
+{
+    return QFileInfo(pathAt(keys::ExecutionPath.name)).path() + QLatin1Char('/') + QLatin1String(folder);
+}
+
+// Other rooms' fields follow the setting.
+QLineEdit* PathChooser::fieldOf(QLatin1StringView key) const
+{
+    const std::initializer_list<std::pair<QLatin1StringView, QLineEdit*>> fields{
+        {keys::ExecutionPath.name, m_pages.general().exeTextField},
+        {keys::MameosxPath.name, m_pages.general().osxTextField},
+        {keys::ApplicationPath.name, m_pages.general().appTextField},
+        {keys::RomsPath.name, m_pages.general().romsTextField},
+        {keys::Playbackfilename.name, m_pages.misc().textfildPlayback},
+        {keys::Effectname.name, m_pages.effects().effectTextField}};
+    for (const auto& [name, field] : fields) {
+        if (name == key)
+            return field;
+    }
+    return nullptr;
+}
+
+void PathChooser::select(QLatin1StringView key)
+{
+    const Member& member = *std::ranges::find(members, key, &Member::key);
+    const bool keepsName = member.startsIn != nullptr;
+    const QString path = openPanelpath(
+        {!member.isFolder, member.isFolder, keepsName ? besideEmulator(member.startsIn) : QString()});
     if (path.isEmpty())
         return;
-    member.field->setText(path);
-    m_defaults.setText(member.key, path);
+    store(key, keepsName ? QFileInfo(path).fileName() : path);
+}
+
+void PathChooser::store(QLatin1StringView key, const QString& path)
+{
+    // One that is being typed in does not follow the setting.
+    if (QLineEdit* field = fieldOf(key))
+        field->setText(path);
+    m_defaults.setText(ChosenKey{key}, path);
+    flush();
+    Q_EMIT chosen(key, path);
+}
+
+void PathChooser::flush()
+{
     UserDefaults& defaults = m_defaults.defaults();
     if (!defaults.synchronize())
         Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
-    Q_EMIT chosen(member.key.name, path);
 }
 
-void PathChooser::exeSelect()
+void PathChooser::saveRecordfile(int tag)
 {
-    select(Executable);
-}
-
-void PathChooser::romfolSelect()
-{
-    select(RomFolder);
-}
-
-void PathChooser::selectExefile()
-{
-    exeSelect();
-}
-
-void PathChooser::selectROMfolder()
-{
-    romfolSelect();
-}
-
-void PathChooser::displayAlert1()
-{
+    const bool isKnown = tag > 0 && tag < static_cast<int>(recordFiles.size());
+    const RecordFile& file = recordFiles[isKnown ? static_cast<std::size_t>(tag) : 0];
+    const auto path = m_desktop.savePanel({qtTrId("record_save"), QString::fromLatin1(file.name), {}});
+    if (!path)
+        return;
+    if (isKnown)
+        return store(file.key, *path);
     m_desktop.beep();
-    const Alert alert{qtTrId("alert_Message1"), qtTrId("alert_Info1"), {qtTrId("select"), qtTrId("cancel")}};
-    if (m_desktop.runAlert(alert) == 0)
-        exeSelect();
+    flush();
+}
+
+void PathChooser::openCurrentdir()
+{
+    const int mode = m_pages.general().launchusingPop->currentIndex();
+    if (mode < 0)
+        return m_desktop.beep();
+    const QString path = pathAt(shownPaths[static_cast<std::size_t>(mode)]);
+    if (path.isEmpty() || !m_desktop.openFolder(QFileInfo(path).path()))
+        m_desktop.beep();
+}
+
+void PathChooser::openROMfolder()
+{
+    const QString path = m_pages.general().romsTextField->text();
+    if (path.isEmpty() || !m_desktop.openFolder(path))
+        m_desktop.beep();
+}
+
+void PathChooser::show_file_in_finder(int tag)
+{
+    const bool isKnown = tag >= 0 && tag < static_cast<int>(shownPaths.size());
+    const QString path = isKnown ? pathAt(shownPaths[static_cast<std::size_t>(tag)]) : QString();
+    if (!QFileInfo::exists(path) || !m_desktop.reveal(path))
+        m_desktop.beep();
+}
+
+void PathChooser::displayAlert(int number)
+{
+    const AlertRow& row = alertRows[static_cast<std::size_t>(number - 1)];
+    Alert alert{qtTrId(row.message), qtTrId(row.informative), {QStringLiteral("OK")}};
+    if (row.otherButton != nullptr)
+        alert.buttons = {qtTrId("select"), qtTrId(row.otherButton)};
+    m_desktop.beep();
+    if (m_desktop.runAlert(alert) == 0 && row.select != nullptr)
+        (this->*row.select)();
 }
 
 void PathChooser::saveOpenRecent(const QString& path)
 {
     m_desktop.noteRecent(path);
+}
+
+// The families' members.
+
+void PathChooser::exeSelect()
+{
+    select(keys::ExecutionPath.name);
+}
+
+void PathChooser::osxSelect()
+{
+    select(keys::MameosxPath.name);
+}
+
+void PathChooser::appSelect()
+{
+    select(keys::ApplicationPath.name);
+}
+
+void PathChooser::romfolSelect()
+{
+    select(keys::RomsPath.name);
+}
+
+void PathChooser::snapfolSelect()
+{
+    select(keys::SnapPath.name);
+}
+
+void PathChooser::titlefolSelect()
+{
+    select(keys::TitlesnapPath.name);
+}
+
+void PathChooser::fryerfolSelect()
+{
+    select(keys::GameflyersPath.name);
+}
+
+void PathChooser::historybatSelect()
+{
+    select(keys::HistoryPath.name);
+}
+
+void PathChooser::mameinfobatSelect()
+{
+    select(keys::MameinfoPath.name);
+}
+
+void PathChooser::playbackfileSelect()
+{
+    select(keys::Playbackfilename.name);
+}
+
+void PathChooser::effectfileSelect()
+{
+    select(keys::Effectname.name);
+}
+
+void PathChooser::displayAlert1()
+{
+    displayAlert(1);
+}
+
+void PathChooser::displayAlert2()
+{
+    displayAlert(2);
+}
+
+void PathChooser::displayAlert3()
+{
+    displayAlert(3);
+}
+
+void PathChooser::displayAlert4()
+{
+    displayAlert(4);
+}
+
+void PathChooser::displayAlert5()
+{
+    displayAlert(5);
 }
 
 } // namespace tessera

@@ -4,8 +4,6 @@
 
 #include <QObject>
 
-#include <array>
-
 class QLineEdit;
 
 namespace tessera {
@@ -18,10 +16,11 @@ class LaunchPages;
 struct PathRequest {
     bool chooseFile = true;
     bool chooseDirect = false;
-    QString directory; ///< starting place as a URL; empty for none
+    QString directory; ///< starting place, read as a URL; empty for none
 };
 
-/// The choosers of emulator and folders, and the alerts that offer them.
+/// The choosers of emulators, folders and files, the alerts that offer them, and the commands that show what
+/// was chosen in the file manager.
 class PathChooser : public QObject
 {
     Q_OBJECT
@@ -34,14 +33,43 @@ public:
     QString openPanelpath(const PathRequest& request);
 
     void exeSelect();
+    void osxSelect();
+    void appSelect();
     void romfolSelect();
+    void snapfolSelect();
+    void titlefolSelect();
+    void fryerfolSelect();
+    void historybatSelect();
+    void mameinfobatSelect();
+    void playbackfileSelect();
+    void effectfileSelect();
     void displayAlert1();
+    void displayAlert2();
+    void displayAlert3();
+    void displayAlert4();
+    void displayAlert5();
     /// Notes a path among the recent documents, whether it exists or not.
     void saveOpenRecent(const QString& path);
 
 public Q_SLOTS:
-    void selectExefile();
-    void selectROMfolder();
+    void selectExefile() { exeSelect(); }
+    void selectOSXfile() { osxSelect(); }
+    void selectAppfile() { appSelect(); }
+    void selectROMfolder() { romfolSelect(); }
+    void selectSnapfolder() { snapfolSelect(); }
+    void selectTitlefolder() { titlefolSelect(); }
+    void selectFryerfolder() { fryerfolSelect(); }
+    void selectHistorybat() { historybatSelect(); }
+    void selectMameinfobat() { mameinfobatSelect(); }
+    void selectPlaybackfile() { playbackfileSelect(); }
+    void selectEffectfile() { effectfileSelect(); }
+    /// Where a recording goes: tag 1 sound, 2 and 3 movies.
+    void saveRecordfile(int tag);
+    /// The folder of the emulator that the launch mode starts.
+    void openCurrentdir();
+    void openROMfolder();
+    /// Tags 0 to 4: the three emulators, history and info file.
+    void show_file_in_finder(int tag);
 
 Q_SIGNALS:
     /// A path was chosen and stored under `key`.
@@ -49,19 +77,17 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
-    /// A row of the chooser family.
-    struct Member {
-        ChosenKey key;
-        QLineEdit* field;
-        bool chooseFile;
-        bool chooseDirect;
-    };
-    enum Which { Executable, RomFolder };
-    void select(Which which);
+    QString pathAt(QLatin1StringView key) const;
+    QString besideEmulator(const char* folder) const;
+    QLineEdit* fieldOf(QLatin1StringView key) const;
+    void select(QLatin1StringView key);
+    void store(QLatin1StringView key, const QString& path);
+    void displayAlert(int number);
+    void flush();
 
     Desktop& m_desktop;
     DefaultsController& m_defaults;
-    std::array<Member, 2> m_members;
+    const LaunchPages& m_pages;
 };
 
 } // namespace tessera

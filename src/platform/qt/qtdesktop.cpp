@@ -1,5 +1,6 @@
 #include "platform/qt/qtdesktop.h"
 
+#include "platform/desktopentry.h"
 #include "platform/qt/alertdialog.h"
 #include "platform/qt/colordialog.h"
 
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSoundEffect>
 
 #include <syslog.h>
@@ -123,6 +125,21 @@ bool QtDesktop::reveal(const QString& path)
         return false;
     return showInFileManager(path)
         || QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
+}
+
+bool QtDesktop::openFolder(const QString& path)
+{
+    return QFileInfo(path).isDir() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+bool QtDesktop::openWith(const QString& path, const QString& application)
+{
+    std::optional<QStringList> command(QStringList{application, path});
+    if (application.endsWith(QLatin1String(".desktop"))) {
+        QFile entry(application);
+        command = entry.open(QIODevice::ReadOnly) ? desktopEntryCommand(entry.readAll(), path) : std::nullopt;
+    }
+    return command && QProcess::startDetached(command->constFirst(), command->mid(1), QFileInfo(path).path());
 }
 
 void QtDesktop::noteRecent(const QString& path)

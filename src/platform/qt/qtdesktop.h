@@ -27,6 +27,8 @@ public:
     bool presentError(const QString& message, const QString& informative,
                       const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
+    bool openFolder(const QString& path) override;
+    bool openWith(const QString& path, const QString& application) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override;

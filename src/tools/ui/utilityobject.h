@@ -26,6 +26,7 @@ public:
     ~UtilityObject() override;
 
     UtilityWindow& utilityWindow() { return *m_window; }
+    Workbench& workbench() { return *m_workbench; }
     ExistenceTool& existence() { return *m_existence; }
     SeparationTool& separation() { return *m_separation; }
     VerificationTool& verification() { return *m_verification; }

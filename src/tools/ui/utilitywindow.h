@@ -11,6 +11,7 @@ namespace tessera {
 class ConversionPage;
 class DefaultsController;
 class ExistencePage;
+class ScriptPage;
 class SeparationPage;
 class UtilityFoot;
 class VerificationPage;
@@ -30,6 +31,7 @@ public:
     ExistencePage* existencePage;
     SeparationPage* separationPage;
     VerificationPage* verificationPage;
+    ScriptPage* scriptPage;
     UtilityFoot* foot;
 
 Q_SIGNALS:

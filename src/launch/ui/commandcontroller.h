@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+class QAbstractButton;
+
+namespace tessera {
+
+class CommandBar;
+class Desktop;
+class EmulatorTask;
+class LaunchController;
+class PathChooser;
+class RunController;
+
+/// What commands need; all of it outlives the controller.
+struct CommandParts {
+    Desktop& desktop;
+    CommandBar& bar;
+    EmulatorTask& task;
+    RunController& runs;
+    LaunchController& launches;
+    PathChooser& paths;
+    std::function<QString()> tableViewSelectionROM;
+};
+
+/// Runs the emulator's informational commands, and waits for them.
+class CommandController : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CommandController(CommandParts parts, QObject* parent = nullptr);
+
+    /// A button or a menu's action that stops the emulator; while a command is waited for it works as the
+    /// bar's own.
+    void leaveOpen(QObject& stop);
+
+public Q_SLOTS:
+    void commandAction();
+    void exportAction();
+    /// `tag` is the command's position; 0 is none.
+    void MiniAudit(int tag);
+
+private:
+    bool waitForExit();
+    void concludeExport(const QString& path, bool isWritable, bool hasEnded);
+
+    CommandParts m_parts;
+    QList<QPointer<QObject>> m_open;
+};
+
+} // namespace tessera

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <optional>
+
+namespace tessera {
+
+/// The command line that a desktop entry's text starts for a file: its Exec line, with the file where that
+/// says so, or at the end. Nothing where it starts nothing.
+std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QString& file);
+
+/// A desktop entry that starts a command in a folder.
+QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder);
+
+} // namespace tessera

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "tools/ui/toolpage.h"
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace tessera {
+
+class DefaultsController;
+
+/// A script that starts the selected game by itself.
+class ScriptPage : public ToolPage
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptPage(DefaultsController& defaults, QWidget* parent = nullptr);
+
+    QComboBox* formatPop;
+    QComboBox* emulatorPop;
+    QComboBox* filenamePop;
+    QComboBox* preoptionPop;
+    QLabel* scriptimageView;
+    QPushButton* button_make; ///< at the window's foot
+};
+
+} // namespace tessera

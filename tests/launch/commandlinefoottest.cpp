@@ -1,0 +1,60 @@
+#include "launch/ui/commandlinefoot.h"
+
+#include "support/testmain.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QTextCursor>
+#include <QTextEdit>
+
+using namespace tessera;
+
+class CommandLineFootTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatIsLeftOutIsStruckThroughAtTheEnd()
+    {
+        CommandLineFoot foot;
+        foot.showLine("/my apps/mame", {{"pong", "-window"}, {"-beam 1"}});
+        QCOMPARE(foot.text(), QStringLiteral("'/my apps/mame' pong -window"));
+        QTextCursor cursor(foot.commandLineText->document());
+        cursor.movePosition(QTextCursor::End);
+        QVERIFY(cursor.charFormat().fontStrikeOut());
+        cursor.setPosition(1);
+        QVERIFY(!cursor.charFormat().fontStrikeOut());
+        foot.showLine("mame", {{"pong"}, {}});
+        QCOMPARE(foot.commandLineText->toPlainText(), QStringLiteral("mame pong"));
+    }
+
+    void theButtonCopiesWhatIsStarted()
+    {
+        CommandLineFoot foot;
+        foot.showLine("mame", {{"pong", "-window"}, {"-beam 1"}});
+        foot.copyButton->click();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("mame pong -window"));
+    }
+
+    void aSelectionIsCopiedAsAShellTakesIt()
+    {
+        CommandLineFoot foot;
+        foot.showLine("mame", {{"pong", "-window"}, {"-beam 1"}});
+        foot.commandLineText->selectAll();
+        foot.commandLineText->copy();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("mame pong -window -beam 1"));
+    }
+
+    void aSelectionOutlastsWhatChangesNothing()
+    {
+        CommandLineFoot foot;
+        foot.showLine("mame", {{"pong"}, {"-beam 1"}});
+        foot.commandLineText->selectAll();
+        foot.showLine("mame", {{"pong"}, {"-beam 1"}});
+        QVERIFY(foot.commandLineText->textCursor().hasSelection());
+    }
+};
+
+TESSERA_TEST(CommandLineFootTest);
+#include "commandlinefoottest.moc"

@@ -1,0 +1,130 @@
+#include "tools/ui/scripttool.h"
+
+#include "tools/ui/scriptpage.h"
+#include "utilitystage.h"
+
+#include <QComboBox>
+
+using namespace tessera;
+
+namespace {
+
+struct Stage : test::UtilityStage {
+    QString game = QStringLiteral("pong");
+    ScriptPage& page = *window.scriptPage;
+    ScriptTool tool{page, utility.workbench(),
+                    ScriptSources{[this] { return game; }, [] { return QStringLiteral("Pong"); },
+                                  [] { return QString::fromUtf8("ポン"); },
+                                  [this](ScriptEmulator emulator) {
+                                      return path(QStringLiteral("apps/%1").arg(static_cast<int>(emulator)));
+                                  },
+                                  [] { return QStringList{QStringLiteral("-one")}; },
+                                  [] { return QStringList{QStringLiteral("-Two"), QStringLiteral("1")}; }}};
+};
+
+} // namespace
+
+class ScriptToolTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aScriptIsSaved_data()
+    {
+        QTest::addColumn<int>("emulator");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("command line") << 0 << "#!/bin/sh\n\ncd %1/apps\n./0 pong -one";
+        QTest::newRow("MAME OS X") << 1 << "#!/bin/sh\n\n\"%1/apps/1\" -Game pong -Two 1";
+    }
+
+    void aScriptIsSaved()
+    {
+        QFETCH(int, emulator);
+        QFETCH(QString, text);
+        Stage stage;
+        stage.controller.setIndex(keys::script_emu, emulator);
+        stage.controller.setIndex(keys::script_format, 1);
+        stage.desktop.answerSave("pong.sh", stage.path("out.sh"));
+        stage.press(stage.page.button_make);
+        QCOMPARE(QString::fromUtf8(stage.read("out.sh")), text.arg(stage.folder.path()));
+        QCOMPARE(stage.information(), QString("Saved a Script file."));
+        QCOMPARE(stage.desktop.transcript(), QStringList({"save pong.sh", "sound st_ovenbell"}));
+        QCOMPARE(stage.desktop.saveRequests.at(0).title, QString("Save Script file"));
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void optionsAndNameAreChosen()
+    {
+        Stage stage;
+        stage.controller.setIndex(keys::script_option, 1);
+        stage.controller.setIndex(keys::script_filename, 6);
+        stage.desktop.answerSave(QString::fromUtf8("SDL MAME_ポン.tool"), stage.path("out.tool"));
+        stage.press(stage.page.button_make);
+        QVERIFY(stage.read("out.tool").endsWith("\n./0 pong"));
+        QVERIFY(QFileInfo(stage.path("out.tool")).isExecutable());
+    }
+
+    void withoutAGameThereIsNothingToMake()
+    {
+        Stage stage;
+        stage.game.clear();
+        stage.press(stage.page.button_make);
+        QCOMPARE(stage.information(), QString("Game is not selected."));
+        QCOMPARE(stage.desktop.transcript(), QStringList({"beep"}));
+    }
+
+    void cancelIsSaid()
+    {
+        Stage stage;
+        stage.desktop.answerSave("pong.tool", std::nullopt);
+        stage.press(stage.page.button_make);
+        QCOMPARE(stage.information(), QString("Canceled."));
+        QCOMPARE(stage.desktop.transcript(), QStringList({"save pong.tool"}));
+        QVERIFY(!stage.isIndicatorRunning());
+    }
+
+    void aFailureIsSaidWithTheSameSound()
+    {
+        Stage stage;
+        const QString path = stage.path("no such folder/out.tool");
+        stage.desktop.answerSave("pong.tool", path);
+        stage.press(stage.page.button_make);
+        QVERIFY2(stage.information().startsWith("Error writing file at " + path + " - "),
+                 qPrintable(stage.information()));
+        QCOMPARE(stage.desktop.transcript().last(), QString("sound st_ovenbell"));
+    }
+
+    void theChoicesAreKept()
+    {
+        Stage stage;
+        const std::array<std::pair<QComboBox*, const Key<float>*>, 4> popups{
+            {{stage.page.formatPop, &keys::script_format},
+             {stage.page.emulatorPop, &keys::script_emu},
+             {stage.page.filenamePop, &keys::script_filename},
+             {stage.page.preoptionPop, &keys::script_option}}};
+        for (const auto& [popup, key] : popups) {
+            QCOMPARE(popup->currentIndex(), 0);
+            popup->setCurrentIndex(1);
+            Q_EMIT popup->activated(1);
+            QCOMPARE(stage.controller.index(*key), 1);
+            QVERIFY(!popup->accessibleName().isEmpty());
+        }
+        QCOMPARE(stage.page.filenamePop->count(), 7);
+        QCOMPARE(stage.page.emulatorPop->itemText(0), QString("SDL MAME"));
+    }
+
+    void thePictureIsTheFormats()
+    {
+        Stage stage;
+        const auto picture = [&] { return stage.page.scriptimageView->accessibleName(); };
+        QCOMPARE(picture(), QString("script_tool"));
+        stage.page.formatPop->setCurrentIndex(2);
+        QCOMPARE(picture(), QString("script_scpt"));
+        // Any other position changes nothing.
+        stage.page.formatPop->setCurrentIndex(-1);
+        QCOMPARE(picture(), QString("script_scpt"));
+    }
+};
+
+TESSERA_TEST(ScriptToolTest);
+#include "scripttooltest.moc"
