@@ -103,5 +103,10 @@
     <message id="menu_clearplayed"><source></source><translation>&amp;Clear What Was Played…</translation></message>
     <message id="menu_favorites"><source></source><translation>&amp;Favourites</translation></message>
     <message id="menu_mini"><source></source><translation>M&amp;ini Window</translation></message>
+    <message id="main_changes"><source></source><translation>What changed…</translation></message>
+    <message id="catalogue_used"><source></source><translation>The file is the catalogue now: %1 machines.</translation></message>
+    <message id="catalogue_use"><source></source><translation>Use it</translation></message>
+    <message id="catalogue_unsaved_message"><source></source><translation>The catalogue has edits that are not saved. Put the file in its place without them?</translation></message>
+    <message id="catalogue_unsaved_info"><source></source><translation>Every record is replaced. The file as it was last saved is kept under a dated name.</translation></message>
 </context>
 </TS>

@@ -103,5 +103,10 @@
     <message id="menu_clearplayed"><source></source><translation>プレイ記録を消去(&amp;C)…</translation></message>
     <message id="menu_favorites"><source></source><translation>お気に入り(&amp;F)</translation></message>
     <message id="menu_mini"><source></source><translation>ミニウインドウ(&amp;I)</translation></message>
+    <message id="main_changes"><source></source><translation>変更点…</translation></message>
+    <message id="catalogue_used"><source></source><translation>ファイルをカタログにしました（%1台）。</translation></message>
+    <message id="catalogue_use"><source></source><translation>使用</translation></message>
+    <message id="catalogue_unsaved_message"><source></source><translation>カタログに保存していない変更があります。破棄してファイルと置き換えますか?</translation></message>
+    <message id="catalogue_unsaved_info"><source></source><translation>すべてのレコードが置き換わります。最後に保存したファイルは日付付きの名前で残ります。</translation></message>
 </context>
 </TS>

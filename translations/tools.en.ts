@@ -85,5 +85,30 @@
     <message id="verdict_nfngd"><source></source><translation>A file is missing that nobody has a good dump of.</translation></message>
     <message id="verdict_nfbo"><source></source><translation>A file is missing that the set runs without.</translation></message>
     <message id="verdict_other"><source></source><translation>Lines with the word “Other”.</translation></message>
+    <message id="favourites_page"><source></source><translation>Old favourites</translation></message>
+    <message id="favourites_explanation"><source></source><translation>Turns a favourites file of the older form, which holds set names alone, into the present one. Each set is looked up in the game list as it is shown.</translation></message>
+    <message id="favourites_file"><source></source><translation>&amp;Old favourites</translation></message>
+    <message id="favourites_convert"><source></source><translation>&amp;Convert</translation></message>
+    <message id="favourites_hidden"><source></source><translation>The game list hides %1 machines now; a favourite among them would be left out.</translation></message>
+    <message id="favourites_showall"><source></source><translation>Show &amp;all</translation></message>
+    <message id="favourites_left_out"><source></source><translation>Not in the list, and so left out: %1.</translation></message>
+    <message id="favourites_unsaved_kept"><source></source><translation>The favourites that were not saved are in “%1”.</translation></message>
+    <message id="favourites_not_kept"><source></source><translation>The favourites could not be renamed to “%1”: %2.</translation></message>
+    <message id="alert_Info2"><source></source><translation>Convert the old favourites?</translation></message>
+    <message id="alert_Info3"><source></source><translation>They take the place of your present favourites, whose file is kept under a dated name. The old file goes to the Trash.</translation></message>
+    <message id="alert_Info6"><source></source><translation>There is no favourites file of the older form at this path.</translation></message>
+    <message id="changes_added"><source></source><translation>Added: %1</translation></message>
+    <message id="changes_gone"><source></source><translation>Gone: %1</translation></message>
+    <message id="changes_renamed"><source></source><translation>Renamed: %1</translation></message>
+    <message id="changes_status"><source></source><translation>Another status: %1</translation></message>
+    <message id="changes_favourites"><source></source><translation>Favourites among them: %1</translation></message>
+    <message id="changes_none"><source></source><translation>Every machine is as it was.</translation></message>
+    <message id="changes_summary"><source></source><translation>Added: %1, gone: %2, renamed: %3, another status: %4.</translation></message>
+    <message id="changes_summary_favourites"><source></source><translation> Favourites among them: %1.</translation></message>
+    <message id="changes_title"><source></source><translation>What changed in the catalogue</translation></message>
+    <message id="convert_use"><source></source><translation>&amp;Use as catalogue now</translation></message>
+    <message id="convert_changes"><source></source><translation>&amp;What changed…</translation></message>
+    <message id="convert_nothing_saved"><source></source><translation>Once it is saved, the file can take the present catalogue’s place at once.</translation></message>
+    <message id="convert_saved"><source></source><translation>Saved as “%1”.</translation></message>
 </context>
 </TS>

@@ -85,5 +85,30 @@
     <message id="verdict_nfngd"><source></source><translation>正しいダンプが知られておらず、見つからないファイルです。</translation></message>
     <message id="verdict_nfbo"><source></source><translation>見つからなくても動作に支障のないファイルです。</translation></message>
     <message id="verdict_other"><source></source><translation>“Other”を含む行です。</translation></message>
+    <message id="favourites_page"><source></source><translation>旧お気に入り</translation></message>
+    <message id="favourites_explanation"><source></source><translation>セット名だけを収めた旧形式のお気に入りファイルを、現在の形式に変換します。各セットは、いま表示されているゲームリストから探します。</translation></message>
+    <message id="favourites_file"><source></source><translation>旧お気に入り(&amp;O)</translation></message>
+    <message id="favourites_convert"><source></source><translation>変換(&amp;C)</translation></message>
+    <message id="favourites_hidden"><source></source><translation>ゲームリストで %1 台が非表示です。その中のお気に入りは変換されません。</translation></message>
+    <message id="favourites_showall"><source></source><translation>すべて表示(&amp;A)</translation></message>
+    <message id="favourites_left_out"><source></source><translation>リストになく、変換されなかった項目: %1。</translation></message>
+    <message id="favourites_unsaved_kept"><source></source><translation>保存していなかったお気に入りは“%1”にあります。</translation></message>
+    <message id="favourites_not_kept"><source></source><translation>お気に入りの名前を“%1”に変更できませんでした。%2。</translation></message>
+    <message id="alert_Info2"><source></source><translation>旧形式のお気に入りを変換しますか?</translation></message>
+    <message id="alert_Info3"><source></source><translation>現在のお気に入りと置き換わります。現在のファイルは日付付きの名前で残り、旧形式のファイルはゴミ箱に移ります。</translation></message>
+    <message id="alert_Info6"><source></source><translation>このパスに旧形式のお気に入りファイルがありません。</translation></message>
+    <message id="changes_added"><source></source><translation>追加: %1</translation></message>
+    <message id="changes_gone"><source></source><translation>削除: %1</translation></message>
+    <message id="changes_renamed"><source></source><translation>名前の変更: %1</translation></message>
+    <message id="changes_status"><source></source><translation>動作状況の変更: %1</translation></message>
+    <message id="changes_favourites"><source></source><translation>このうちお気に入り: %1</translation></message>
+    <message id="changes_none"><source></source><translation>マシンに変更はありません。</translation></message>
+    <message id="changes_summary"><source></source><translation>追加: %1、削除: %2、名前の変更: %3、動作状況の変更: %4。</translation></message>
+    <message id="changes_summary_favourites"><source></source><translation>このうちお気に入り: %1。</translation></message>
+    <message id="changes_title"><source></source><translation>カタログの変更点</translation></message>
+    <message id="convert_use"><source></source><translation>いますぐカタログとして使用(&amp;U)</translation></message>
+    <message id="convert_changes"><source></source><translation>変更点…(&amp;W)</translation></message>
+    <message id="convert_nothing_saved"><source></source><translation>保存すると、いまのカタログとすぐに置き換えられます。</translation></message>
+    <message id="convert_saved"><source></source><translation>“%1”に保存しました。</translation></message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/changesdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
@@ -13,6 +14,7 @@
 #include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
+#include "app/utilityjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
@@ -131,7 +133,9 @@ void Tessera_AppDelegate::loadInterface()
                                                     [this] { m_gameList->tableViewSelectionDidChange(); });
     m_rebuild = std::make_unique<CatalogueRebuild>(
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
-        [this] { m_chooser->exeSelect(); });
+        [this] { m_chooser->exeSelect(); }, [this] { return m_favorites->favourites().names(); });
+    m_changes = std::make_unique<ChangesDesk>(*m_mainWindow);
+    connect(m_rebuild.get(), &CatalogueRebuild::compared, m_changes.get(), &ChangesDesk::take);
     m_keyCommands
         = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     keepWindowPlaces();
@@ -253,7 +257,7 @@ void Tessera_AppDelegate::randomForMini()
 UtilityObject& Tessera_AppDelegate::utility()
 {
     if (!m_utility) {
-        m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+        m_utility = makeUtility(*this, m_desktop, m_defaults);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }
@@ -462,10 +466,15 @@ void Tessera_AppDelegate::openROMfile()
     m_gameList->openROMfile();
 }
 
-void Tessera_AppDelegate::rebuildCatalogue()
+void Tessera_AppDelegate::commitEditing()
 {
     m_gameList->commitEditing();
     m_editing->commitEditing();
+}
+
+void Tessera_AppDelegate::rebuildCatalogue()
+{
+    commitEditing();
     m_rebuild->rebuild();
 }
 

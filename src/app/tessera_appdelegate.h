@@ -13,6 +13,7 @@ class QAction;
 namespace tessera {
 
 class CatalogueRebuild;
+class ChangesDesk;
 class Desktop;
 class EmulatorTask;
 class FavoritesDesk;
@@ -65,12 +66,15 @@ public:
     RecordEditing& editing() { return *m_editing; }
     LaunchController& launcher() { return *m_launch; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
+    ChangesDesk& changes() { return *m_changes; }
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
     FavoritesDesk& favorites() { return *m_favorites; }
     MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
+    /// Takes over what stands in open editors of the catalogue.
+    void commitEditing();
     RecentDocuments& recentDocuments() { return m_recent; }
 
 public Q_SLOTS:
@@ -168,6 +172,7 @@ private:
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;
+    std::unique_ptr<ChangesDesk> m_changes;
     bool m_buildWanted = false;
 };
 

@@ -369,7 +369,7 @@ private Q_SLOTS:
         QCOMPARE(pages() - before, 7);
         // Those of the utility window are made with it.
         staged.app->utility();
-        QCOMPARE(pages() - before, 7 + 4);
+        QCOMPARE(pages() - before, 7 + 5);
         staged.app.reset();
         QCOMPARE(pages(), before);
     }

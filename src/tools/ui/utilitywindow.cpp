@@ -2,6 +2,7 @@
 
 #include "tools/ui/conversionpage.h"
 #include "tools/ui/existencepage.h"
+#include "tools/ui/favouritespage.h"
 #include "tools/ui/separationpage.h"
 #include "tools/ui/utilityfoot.h"
 #include "tools/ui/verificationpage.h"
@@ -31,6 +32,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     , existencePage(new ExistencePage(defaults, this))
     , separationPage(new SeparationPage(defaults, this))
     , verificationPage(new VerificationPage(defaults, this))
+    , favouritesPage(new FavouritesPage(defaults, this))
     , foot(new UtilityFoot(this))
 {
     setObjectName(QStringLiteral("utilityWindow"));
@@ -45,6 +47,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     addPage(separationPage, qtTrId("separation_page"),
             {separationPage->button_check1, separationPage->button_separete});
     addPage(verificationPage, qtTrId("verification_page"), {verificationPage->button_convert2});
+    addPage(favouritesPage, qtTrId("favourites_page"), {favouritesPage->button_convert3});
 
     auto* form = new QVBoxLayout;
     form->setSpacing(0);

@@ -11,6 +11,7 @@ namespace tessera {
 class ConversionPage;
 class DefaultsController;
 class ExistencePage;
+class FavouritesPage;
 class SeparationPage;
 class UtilityFoot;
 class VerificationPage;
@@ -30,6 +31,7 @@ public:
     ExistencePage* existencePage;
     SeparationPage* separationPage;
     VerificationPage* verificationPage;
+    FavouritesPage* favouritesPage;
     UtilityFoot* foot;
 
 Q_SIGNALS:

@@ -65,6 +65,9 @@ public:
     /// Sizes in bytes.
     void showProgress(qint64 done, qint64 all);
 
+    /// For a job that reads a file: takes from any thread how much more of it was read, and shows it.
+    std::function<void(qint64 more)> progressOf(const Job& job, const QString& path);
+
     /// The chosen path; empty after Cancel.
     QString openPanelpath(bool chooseFile, bool chooseDirect);
     /// Fills the field, stores the path and flushes; nothing after Cancel.
