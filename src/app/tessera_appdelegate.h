@@ -73,6 +73,8 @@ public:
     MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
+    /// The path of the emulator that is used; empty where none is chosen or found.
+    QString emulator();
     /// Takes over what stands in open editors of the catalogue.
     void commitEditing();
     RecentDocuments& recentDocuments() { return m_recent; }
@@ -144,7 +146,6 @@ private:
     void showCount();
     void actOnEmptyList();
     void showEmulator();
-    QString emulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
 

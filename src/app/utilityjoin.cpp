@@ -15,7 +15,23 @@ namespace tessera {
 
 namespace {
 
-UtilityHooks hooksOf(Tessera_AppDelegate& app)
+// Nothing that hides it stands in the way.
+bool openGame(Tessera_AppDelegate& app, const QString& name)
+{
+    if (!app.gameList().selectGame(name)) {
+        const auto records = app.catalogue().records();
+        const std::string bytes = name.toStdString();
+        if (std::ranges::none_of(records,
+                                 [&](const GameRecord& record) { return record[Field::Name] == bytes; }))
+            return false;
+        app.showAllGames();
+        app.gameList().selectGame(name);
+    }
+    app.windowMain();
+    return true;
+}
+
+UtilityHooks hooksOf(Tessera_AppDelegate& app, DefaultsController& defaults)
 {
     UtilityHooks hooks;
     hooks.search_arrangedObjects = [&app](const QStringList& names) {
@@ -26,6 +42,9 @@ UtilityHooks hooksOf(Tessera_AppDelegate& app)
         return all - std::min(all, app.gameList().list().size());
     };
     hooks.showAllRecords = [&app] { app.showAllGames(); };
+    hooks.openGame = [&app](const QString& name) { return openGame(app, name); };
+    hooks.emulator = [&app] { return app.emulator(); };
+    hooks.romFolder = [&defaults] { return defaults.text(keys::RomsPath); };
     hooks.useAsCatalogue = [&app](const QString& path) {
         app.commitEditing();
         return app.rebuild().useFile(path);
@@ -44,7 +63,7 @@ UtilityHooks hooksOf(Tessera_AppDelegate& app)
 std::unique_ptr<UtilityObject> makeUtility(Tessera_AppDelegate& app, Desktop& desktop,
                                            DefaultsController& defaults)
 {
-    auto utility = std::make_unique<UtilityObject>(desktop, defaults, hooksOf(app));
+    auto utility = std::make_unique<UtilityObject>(desktop, defaults, hooksOf(app, defaults));
     FavouritesTool* favourites = &utility->favourites();
     QObject::connect(&app.finding(), &Finding::changed, favourites, &FavouritesTool::showHidden);
     QObject::connect(&app.gameList(), &GameListController::countChanged, favourites,

@@ -52,6 +52,22 @@ std::expected<ExistenceList, Failure> Check::finish()
     return std::move(m_list);
 }
 
+// In quotes where it must be; a quote in it is written twice.
+void appendQuoted(std::string& csv, std::string_view value)
+{
+    if (value.find_first_of(",\"\r\n") == std::string_view::npos) {
+        csv += value;
+        return;
+    }
+    csv += '"';
+    for (const char c : value) {
+        if (c == '"')
+            csv += '"';
+        csv += c;
+    }
+    csv += '"';
+}
+
 } // namespace
 
 std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
@@ -72,6 +88,11 @@ std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, co
     return check.finish();
 }
 
+std::expected<ExistenceList, Failure> checkExistenceOf(std::string_view printed, const QString& roms)
+{
+    return existenceOf(firstWords(printed), FolderSets::read(roms));
+}
+
 QString existenceSummary(std::size_t count, int found, int notFound)
 {
     return QString(existencetexts::summary).arg(count).arg(found).arg(notFound);
@@ -88,6 +109,18 @@ std::string existenceReport(std::span<const ExistenceRow> rows, int found, int n
         report += '\n';
     }
     return report;
+}
+
+std::string existenceCsv(std::span<const ExistenceRow> rows)
+{
+    std::string csv = "Set,Existence\r\n";
+    for (const ExistenceRow& row : rows) {
+        appendQuoted(csv, row.romlistfull);
+        csv += ',';
+        appendQuoted(csv, row.existence());
+        csv += "\r\n";
+    }
+    return csv;
 }
 
 } // namespace tessera

@@ -322,9 +322,9 @@ private Q_SLOTS:
         Stage stage;
         stage.utility.utilityOrderFront();
         const QList<QStringList> buttons{{"button_convert"},
-                                         {"button_save", "button_check2"},
+                                         {"button_save", "button_ask2", "button_check2"},
                                          {"button_check1", "button_separete"},
-                                         {"button_convert2"},
+                                         {"button_ask3", "button_convert2"},
                                          {"button_convert3"}};
         QCOMPARE(stage.window.utilityTabView->count(), buttons.size());
         for (int page = 0; page < buttons.size(); ++page) {

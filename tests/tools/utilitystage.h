@@ -22,6 +22,8 @@ struct ScriptedRooms {
     QStringList games; ///< the list's set names, as they are shown
     std::size_t hidden = 0;
     QString favourites; ///< the path of their file
+    QString emulator; ///< its path
+    QString romFolder;
     std::optional<QString> changes; ///< what differs from the catalogue before
     std::expected<QString, Failure> unsaved; ///< where it is kept
     QStringList told;
@@ -39,6 +41,12 @@ struct ScriptedRooms {
         };
         hooks.hiddenRecords = [this] { return hidden; };
         hooks.showAllRecords = [this] { told << QStringLiteral("show all"); };
+        hooks.openGame = [this](const QString& name) {
+            told << QStringLiteral("open ") + name;
+            return games.contains(name);
+        };
+        hooks.emulator = [this] { return emulator; };
+        hooks.romFolder = [this] { return romFolder; };
         hooks.useAsCatalogue = [this](const QString& path) {
             told << QStringLiteral("use ") + path;
             return changes;
@@ -90,6 +98,14 @@ struct UtilityStage {
             || file.write(bytes) != bytes.size())
             QTest::qFail("no file", __FILE__, __LINE__);
         return file.fileName();
+    }
+
+    /// A program that plays the emulator.
+    QString script(const QByteArray& commands) const
+    {
+        const QString program = file("mame", "#!/bin/sh\n" + commands + '\n');
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return program;
     }
 
     QByteArray read(const QString& name) const

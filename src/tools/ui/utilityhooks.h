@@ -20,6 +20,16 @@ struct UtilityHooks {
     std::function<std::size_t()> hiddenRecords;
     std::function<void()> showAllRecords;
 
+    /// Selects a machine, also one that was hidden; false where there is none of that name.
+    std::function<bool(const QString& name)> openGame;
+
+    // The emulator
+    /// The path of the one to ask; empty where there is none.
+    std::function<QString()> emulator;
+
+    /// Where the user's ROMs are; empty for the emulator's own folders.
+    std::function<QString()> romFolder;
+
     // The catalogue
     /// Puts a file in its place, and says what differs from the old one; nothing where it was not replaced.
     std::function<std::optional<QString>(const QString& path)> useAsCatalogue;

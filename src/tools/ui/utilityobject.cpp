@@ -50,9 +50,9 @@ UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, con
     , m_window(std::make_unique<UtilityWindow>(defaults))
     , m_workbench(std::make_unique<Workbench>(desktop, defaults, *m_window->foot))
     , m_conversion(std::make_unique<ConversionTool>(*m_window->conversionPage, *m_workbench, hooks))
-    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench))
+    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench, hooks))
     , m_separation(std::make_unique<SeparationTool>(*m_window->separationPage, *m_workbench))
-    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench))
+    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench, hooks))
     , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, hooks))
 {
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);

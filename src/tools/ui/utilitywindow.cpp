@@ -43,10 +43,11 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     utilityTabView->setObjectName(QStringLiteral("utilityTabView"));
     addPage(conversionPage, qtTrId("convert_page"), {conversionPage->button_convert});
     addPage(existencePage, qtTrId("existence_page"),
-            {existencePage->button_save, existencePage->button_check2});
+            {existencePage->button_save, existencePage->button_ask2, existencePage->button_check2});
     addPage(separationPage, qtTrId("separation_page"),
             {separationPage->button_check1, separationPage->button_separete});
-    addPage(verificationPage, qtTrId("verification_page"), {verificationPage->button_convert2});
+    addPage(verificationPage, qtTrId("verification_page"),
+            {verificationPage->button_ask3, verificationPage->button_convert2});
     addPage(favouritesPage, qtTrId("favourites_page"), {favouritesPage->button_convert3});
 
     auto* form = new QVBoxLayout;

@@ -92,6 +92,12 @@ void Workbench::showProgress(qint64 done, qint64 all)
     m_foot.progressCount->setVisible(true);
 }
 
+void Workbench::showCount(const QString& text)
+{
+    m_foot.progressCount->setText(text);
+    m_foot.progressCount->setVisible(true);
+}
+
 std::function<void(qint64)> Workbench::progressOf(const Job& job, const QString& path)
 {
     // Of a pipe nobody knows how much will come.
@@ -115,8 +121,12 @@ QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect)
 void Workbench::choose(QLineEdit& field, const ChosenKey& key, Choice choice)
 {
     const QString path = openPanelpath(choice == Choice::File, choice == Choice::Folder);
-    if (path.isEmpty())
-        return;
+    if (!path.isEmpty())
+        take(field, key, path);
+}
+
+void Workbench::take(QLineEdit& field, const ChosenKey& key, const QString& path)
+{
     field.setText(path);
     m_defaults.setText(key, path);
     UserDefaults& defaults = m_defaults.defaults();
