@@ -258,7 +258,7 @@ QString stateOf(const VerifiedSet& set)
         words << qtTrId("state_missing").arg(number(missing));
     if (others > 0)
         words << qtTrId("state_wrong").arg(number(others));
-    return words.join(QStringLiteral("  ·  "));
+    return words.join(QStringLiteral(" · "));
 }
 
 } // namespace tessera

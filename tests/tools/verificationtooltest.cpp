@@ -173,12 +173,12 @@ private Q_SLOTS:
         stage.desktop.answerSave("verifyroms_convert", std::nullopt);
         stage.convert();
         stage.desktop.takeTranscript();
-        QCOMPARE(stage.sets(), QStringList({"a state_bad  ·  state_missing", "b state_good"}));
+        QCOMPARE(stage.sets(), QStringList({"a state_bad · state_missing", "b state_good"}));
         stage.page.setList->setCurrentIndex(stage.page.rows->index(0, 0));
-        QCOMPARE(stage.page.setDetails->toPlainText(), "a  ·  state_bad  ·  state_missing\nwrong_missing");
+        QCOMPARE(stage.page.setDetails->toPlainText(), "a · state_bad · state_missing\n\n• wrong_missing");
         stage.page.setList->sortByColumn(RowsModel::NameColumn, Qt::DescendingOrder);
         stage.page.setList->setCurrentIndex(stage.page.rows->index(0, 0));
-        QCOMPARE(stage.page.setDetails->toPlainText(), "b  ·  state_good");
+        QCOMPARE(stage.page.setDetails->toPlainText(), "b · state_good");
     }
 
     void theSetsAreListedWithoutABoxToo()

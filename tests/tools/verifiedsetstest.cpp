@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(stateOf(set), "state_good");
         set.verdict = Verdict::Bad;
         set.files = {{"a", 1, Problem::Missing, {}, {}}, {"b", 1, Problem::OtherContent, {}, {}}};
-        QCOMPARE(stateOf(set), "state_bad  ·  state_missing  ·  state_wrong");
+        QCOMPARE(stateOf(set), "state_bad · state_missing · state_wrong");
     }
 };
 

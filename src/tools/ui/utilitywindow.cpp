@@ -19,7 +19,7 @@ namespace tessera {
 
 namespace {
 
-constexpr QSize usualSize(920, 580);
+constexpr QSize usualSize(940, 640);
 constexpr int listWidth = 196;
 
 } // namespace

@@ -8,11 +8,11 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSplitter>
 #include <QToolButton>
 
 namespace tessera {
@@ -20,7 +20,8 @@ namespace tessera {
 namespace {
 
 constexpr int labelDrop = 4; // to the first box's line
-constexpr int stateWidth = 220;
+constexpr int stateWidth = 236;
+constexpr int gap = 12;
 constexpr int listShare = 3;
 constexpr int detailsShare = 2;
 
@@ -52,6 +53,7 @@ VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent
     QLabel* label = addRow(qtTrId("verification_verdicts"), makeBoxes(defaults));
     label->setContentsMargins(0, labelDrop, 0, 0);
     layout()->setAlignment(label, Qt::AlignRight | Qt::AlignTop);
+    addLine();
     addWide(makeSets(), 1);
     button_ask3->setObjectName(QStringLiteral("button_ask3"));
     button_ask3->setToolTip(qtTrId("verification_ask_tip"));
@@ -101,15 +103,15 @@ QWidget* VerificationPage::makeSets()
     setDetails->setPlaceholderText(qtTrId("verification_details"));
     setDetails->setReadOnly(true);
     setDetails->setTabChangesFocus(true);
-    auto* split = new QSplitter(this);
-    split->setChildrenCollapsible(false);
-    split->addWidget(setList);
-    split->addWidget(setDetails);
-    split->setStretchFactor(0, listShare);
-    split->setStretchFactor(1, detailsShare);
+    auto* sets = new QWidget(this);
+    auto* layout = new QHBoxLayout(sets);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(gap);
+    layout->addWidget(setList, listShare);
+    layout->addWidget(setDetails, detailsShare);
     connect(setList->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &VerificationPage::showDetails);
-    return split;
+    return sets;
 }
 
 void VerificationPage::showSets(std::vector<VerifiedSet> sets)
@@ -129,9 +131,11 @@ void VerificationPage::showDetails()
     if (!current.isValid())
         return setDetails->clear();
     const VerifiedSet& set = m_sets[rows->placeOf(static_cast<std::size_t>(current.row()))];
-    QStringList lines{QString::fromStdString(set.name) + QStringLiteral("  ·  ") + stateOf(set)};
+    QStringList lines{QString::fromStdString(set.name) + QStringLiteral(" · ") + stateOf(set)};
+    if (!set.files.empty())
+        lines << QString();
     for (const WrongFile& file : set.files)
-        lines << sentenceOf(set, file);
+        lines << QStringLiteral("• ") + sentenceOf(set, file);
     setDetails->setPlainText(lines.join(QLatin1Char('\n')));
 }
 
