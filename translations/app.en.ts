@@ -153,5 +153,10 @@
     <message id="menu_launcher"><source></source><translation>Save as &amp;Launcher…</translation></message>
     <message id="launcher_save"><source></source><translation>Save as launcher</translation></message>
     <message id="launcher_saved"><source></source><translation>The launcher was saved: %1</translation></message>
+    <message id="main_changes"><source></source><translation>What changed…</translation></message>
+    <message id="catalogue_used"><source></source><translation>The file is the catalogue now: %1 machines.</translation></message>
+    <message id="catalogue_use"><source></source><translation>Use it</translation></message>
+    <message id="catalogue_unsaved_message"><source></source><translation>The catalogue has edits that are not saved. Put the file in its place without them?</translation></message>
+    <message id="catalogue_unsaved_info"><source></source><translation>Every record is replaced. The file as it was last saved is kept under a dated name.</translation></message>
 </context>
 </TS>

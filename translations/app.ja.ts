@@ -153,5 +153,10 @@
     <message id="menu_launcher"><source></source><translation>ランチャーとして保存(&amp;L)…</translation></message>
     <message id="launcher_save"><source></source><translation>ランチャーとして保存</translation></message>
     <message id="launcher_saved"><source></source><translation>ランチャーを保存しました: %1</translation></message>
+    <message id="main_changes"><source></source><translation>変更点…</translation></message>
+    <message id="catalogue_used"><source></source><translation>ファイルをカタログにしました（%1台）。</translation></message>
+    <message id="catalogue_use"><source></source><translation>使用</translation></message>
+    <message id="catalogue_unsaved_message"><source></source><translation>カタログに保存していない変更があります。破棄してファイルと置き換えますか?</translation></message>
+    <message id="catalogue_unsaved_info"><source></source><translation>すべてのレコードが置き換わります。最後に保存したファイルは日付付きの名前で残ります。</translation></message>
 </context>
 </TS>

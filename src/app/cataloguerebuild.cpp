@@ -4,10 +4,14 @@
 #include "catalogue/catalogue.h"
 #include "launch/emulatoridentity.h"
 #include "platform/defaultscontroller.h"
+#include "catalogue/storereader.h"
+#include "core/atomicfile.h"
+#include "core/keptcopy.h"
 #include "platform/desktop.h"
 #include "tools/cataloguebuild.h"
-#include "core/keptcopy.h"
+#include "tools/cataloguecomparison.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -25,7 +29,8 @@ QString identityText(const QString& emulator)
 
 CatalogueRebuild::CatalogueRebuild(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
                                    RebuildStrip& strip, std::function<QString()> emulator,
-                                   std::function<void()> chooseEmulator, QObject* parent)
+                                   std::function<void()> chooseEmulator,
+                                   std::function<QStringList()> favourites, QObject* parent)
     : QObject(parent)
     , m_catalogue(catalogue)
     , m_desktop(desktop)
@@ -33,6 +38,7 @@ CatalogueRebuild::CatalogueRebuild(Catalogue& catalogue, Desktop& desktop, Defau
     , m_strip(strip)
     , m_emulator(std::move(emulator))
     , m_chooseEmulator(std::move(chooseEmulator))
+    , m_favourites(std::move(favourites))
 {
     connect(&m_strip, &RebuildStrip::cancelled, this, &CatalogueRebuild::cancel);
 }
@@ -115,8 +121,9 @@ void CatalogueRebuild::finish(int machines)
 {
     const std::optional<Failure> titlesFailure = m_build->titlesFailure();
     letGo();
-    if (const auto opened = m_catalogue.open(); !opened) {
-        m_desktop.presentError(opened.error().text(), QString(), {});
+    const auto changes = reopen();
+    if (!changes) {
+        m_desktop.presentError(changes.error().text(), QString(), {});
         return;
     }
     // In one message, as the next one takes its place.
@@ -127,7 +134,89 @@ void CatalogueRebuild::finish(int machines)
     UserDefaults& settings = m_defaults.defaults();
     if (!settings.synchronize())
         sentences << Failure{"failure_settings", {settings.path()}}.text();
+    if (!changes->isEmpty())
+        sentences << *changes;
     Q_EMIT statusMessage(sentences.join(QLatin1Char(' ')));
+}
+
+// What differs from the catalogue before; empty where that one was empty.
+std::expected<QString, Failure> CatalogueRebuild::reopen()
+{
+    // The old texts live until everybody has heard of the new ones.
+    const std::vector<GameRecord> before(m_catalogue.records().begin(), m_catalogue.records().end());
+    CatalogueComparison comparison;
+    const auto compare = connect(&m_catalogue, &Catalogue::replaced, this, [&] {
+        if (!before.empty())
+            comparison = compareCatalogues(before, m_catalogue.records(), m_favourites());
+    });
+    const auto opened = m_catalogue.open();
+    disconnect(compare);
+    if (!opened)
+        return std::unexpected(opened.error());
+    Q_EMIT compared(comparison);
+    return before.empty() ? QString() : comparisonSummary(comparison);
+}
+
+std::optional<QString> CatalogueRebuild::useFile(const QString& path)
+{
+    if (isRunning()) {
+        m_desktop.beep();
+        return std::nullopt;
+    }
+    if (!mayDropEdits())
+        return std::nullopt;
+    const auto placed = put(path);
+    const auto changes = placed ? reopen() : std::unexpected(placed.error());
+    if (!changes) {
+        m_desktop.presentError(changes.error().text(), QString(), {});
+        return std::nullopt;
+    }
+    // No emulator is known to have made it.
+    m_defaults.setText(keys::BuiltFrom, QString());
+    QStringList sentences{
+        qtTrId("catalogue_used")
+            .arg(QLocale().toString(static_cast<qulonglong>(m_catalogue.records().size())))};
+    if (!changes->isEmpty())
+        sentences << *changes;
+    UserDefaults& settings = m_defaults.defaults();
+    if (!settings.synchronize())
+        sentences << Failure{"failure_settings", {settings.path()}}.text();
+    Q_EMIT statusMessage(sentences.join(QLatin1Char(' ')));
+    return sentences.join(QLatin1Char(' '));
+}
+
+bool CatalogueRebuild::mayDropEdits()
+{
+    if (!m_catalogue.hasChanges())
+        return true;
+    Alert alert;
+    alert.style = Alert::Style::Warning;
+    alert.message = qtTrId("catalogue_unsaved_message");
+    alert.informative = qtTrId("catalogue_unsaved_info");
+    alert.buttons = {qtTrId("catalogue_use"), qtTrId("cancel")};
+    return m_desktop.runAlert(alert) == 0;
+}
+
+// Only a file that can be read takes the place; it may have been saved there already.
+std::expected<void, Failure> CatalogueRebuild::put(const QString& path)
+{
+    if (const auto stored = readStore(path); !stored)
+        return std::unexpected(stored.error());
+    if (QFileInfo(path).canonicalFilePath() == QFileInfo(m_catalogue.path()).canonicalFilePath())
+        return {};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::unexpected(Failure{"convert_not_read", {path, file.errorString()}});
+    const QByteArray bytes = file.readAll();
+    const auto kept = keepAs(m_catalogue.path(), datedName(m_catalogue.path(), m_desktop.now()));
+    if (!kept)
+        return std::unexpected(kept.error());
+    const auto written = writeAtomically(
+        m_catalogue.path(),
+        std::array{std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()))});
+    if (!written && !kept->isEmpty())
+        QFile::remove(*kept);
+    return written;
 }
 
 void CatalogueRebuild::fail(const Failure& failure)

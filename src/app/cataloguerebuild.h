@@ -4,8 +4,10 @@
 
 #include <QObject>
 
+#include <expected>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tessera {
 
@@ -14,6 +16,7 @@ class CatalogueBuild;
 class DefaultsController;
 class Desktop;
 class RebuildStrip;
+struct CatalogueComparison;
 
 /// The command that builds the catalogue from the emulator and puts it in place of the present one.
 class CatalogueRebuild : public QObject
@@ -22,15 +25,20 @@ class CatalogueRebuild : public QObject
 
 public:
     /// `emulator` gives the path of the emulator to ask, empty where there is none; `chooseEmulator` lets the
-    /// user choose one.
+    /// user choose one; `favourites` are set names, for what differs between two catalogues.
     CatalogueRebuild(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
                      RebuildStrip& strip, std::function<QString()> emulator,
-                     std::function<void()> chooseEmulator, QObject* parent = nullptr);
+                     std::function<void()> chooseEmulator, std::function<QStringList()> favourites,
+                     QObject* parent = nullptr);
     ~CatalogueRebuild() override;
 
     bool isRunning() const { return m_build != nullptr; }
     /// True where the catalogue was built from an emulator that is another one now.
     bool isOutdated() const;
+
+    /// Puts a file in the catalogue's place after asking about unsaved edits, and keeps the old one under a
+    /// dated name. Gives a sentence about what differs; nothing where it was not replaced.
+    std::optional<QString> useFile(const QString& path);
 
 public Q_SLOTS:
     /// As the menu's command: asks about unsaved edits, and when this emulator is the one already built from.
@@ -42,6 +50,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     void statusMessage(const QString& text);
     void runningChanged(bool running);
+    /// After a catalogue has taken the place of another.
+    void compared(const tessera::CatalogueComparison& comparison);
 
 private:
     bool mayReplace();
@@ -49,6 +59,9 @@ private:
     void finish(int machines);
     void fail(const Failure& failure);
     void letGo();
+    bool mayDropEdits();
+    std::expected<void, Failure> put(const QString& path);
+    std::expected<QString, Failure> reopen();
 
     Catalogue& m_catalogue;
     Desktop& m_desktop;
@@ -56,6 +69,7 @@ private:
     RebuildStrip& m_strip;
     std::function<QString()> m_emulator;
     std::function<void()> m_chooseEmulator;
+    std::function<QStringList()> m_favourites;
     std::unique_ptr<CatalogueBuild> m_build;
     QString m_identity; ///< of the emulator that is being asked
 };

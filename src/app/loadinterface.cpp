@@ -3,6 +3,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/changesdesk.h"
 #include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
@@ -19,6 +20,7 @@
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/scriptjoin.h"
+#include "app/utilityjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
@@ -94,7 +96,9 @@ void Tessera_AppDelegate::loadInterface()
         [this] { m_gameList->tableViewSelectionDidChange(); });
     m_rebuild = std::make_unique<CatalogueRebuild>(
         m_catalogue, m_desktop, m_defaults, *m_mainWindow->rebuildStrip, [this] { return emulator(); },
-        [this] { m_chooser->exeSelect(); });
+        [this] { m_chooser->exeSelect(); }, [this] { return m_favorites->favourites().names(); });
+    m_changes = std::make_unique<ChangesDesk>(*m_mainWindow);
+    connect(m_rebuild.get(), &CatalogueRebuild::compared, m_changes.get(), &ChangesDesk::take);
     m_keyCommands
         = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     joinRooms();
@@ -262,7 +266,7 @@ void Tessera_AppDelegate::joinMiniWindow()
 UtilityObject& Tessera_AppDelegate::utility()
 {
     if (!m_utility) {
-        m_utility = std::make_unique<UtilityObject>(m_desktop, m_defaults);
+        m_utility = makeUtility(*this, m_desktop, m_defaults);
         m_scripts = joinScripts(*m_utility, *m_gameList, *m_launch, m_defaults);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());

@@ -130,6 +130,10 @@ void MainWindow::makeStatusLine()
     showAllButton->setObjectName(QStringLiteral("showAllButton"));
     showAllButton->setProperty("role", QStringLiteral("link"));
     showAllButton->hide();
+    changesButton = new QPushButton(qtTrId("main_changes"));
+    changesButton->setObjectName(QStringLiteral("changesButton"));
+    changesButton->setProperty("role", QStringLiteral("link"));
+    changesButton->hide();
     progressIndicator = new QProgressBar;
     progressIndicator->setFixedWidth(96);
     progressIndicator->setTextVisible(false);
@@ -140,6 +144,7 @@ void MainWindow::makeStatusLine()
     statusBar()->addWidget(showAllButton);
     statusBar()->addWidget(m_message, 1);
     statusBar()->addPermanentWidget(progressIndicator);
+    statusBar()->addPermanentWidget(changesButton);
     statusBar()->addPermanentWidget(rebuildButton);
     statusBar()->addPermanentWidget(m_emulator);
 }

@@ -44,6 +44,7 @@ public:
     QToolButton* preferencesButton;
     QPushButton* rebuildButton;
     QPushButton* showAllButton;
+    QPushButton* changesButton;
     QProgressBar* progressIndicator;
 
     /// With what hides the others, each in a few words.

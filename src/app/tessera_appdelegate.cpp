@@ -1,6 +1,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/changesdesk.h"
 #include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
@@ -12,6 +13,7 @@
 #include "app/modemenu.h"
 #include "app/preferenceswindow.h"
 #include "app/scriptjoin.h"
+#include "app/utilityjoin.h"
 #include "app/windowswitching.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -284,10 +286,15 @@ void Tessera_AppDelegate::openROMfile()
     m_gameList->openROMfile();
 }
 
-void Tessera_AppDelegate::rebuildCatalogue()
+void Tessera_AppDelegate::commitEditing()
 {
     m_gameList->commitEditing();
     m_editing->commitEditing();
+}
+
+void Tessera_AppDelegate::rebuildCatalogue()
+{
+    commitEditing();
     m_rebuild->rebuild();
 }
 

@@ -14,6 +14,7 @@ class QAction;
 namespace tessera {
 
 class CatalogueRebuild;
+class ChangesDesk;
 class CommandsDesk;
 class Desktop;
 class EmulatorTask;
@@ -75,6 +76,7 @@ public:
     LaunchController& launcher() { return *m_launch; }
     CommandsDesk& commands() { return *m_commands; }
     CatalogueRebuild& rebuild() { return *m_rebuild; }
+    ChangesDesk& changes() { return *m_changes; }
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
     HelpWindow& helpWindow();
@@ -82,6 +84,10 @@ public:
     MiniDesk& mini() { return *m_mini; }
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
+    /// The path of the emulator that is used; empty where none is chosen or found.
+    QString emulator();
+    /// Takes over what stands in open editors of the catalogue.
+    void commitEditing();
     RecentDocuments& recentDocuments() { return m_recent; }
 
 public Q_SLOTS:
@@ -161,7 +167,6 @@ private:
     void showCount();
     void actOnEmptyList();
     void showEmulator();
-    QString emulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
     void forgetRecording();
@@ -195,6 +200,7 @@ private:
     std::unique_ptr<TableFont> m_tableFont;
     std::unique_ptr<RowColors> m_rowColors;
     std::unique_ptr<CatalogueRebuild> m_rebuild;
+    std::unique_ptr<ChangesDesk> m_changes;
     bool m_buildWanted = false;
 };
 

@@ -32,13 +32,19 @@ QString datedName(const QString& path, const QDateTime& when)
     return numbered(path, when.toString(QStringLiteral("yyyy-MM-dd HH-mm-ss")));
 }
 
+QString freeName(const QString& name)
+{
+    QString free = name;
+    for (int number = 2; QFileInfo::exists(free); ++number)
+        free = numbered(name, QString::number(number));
+    return free;
+}
+
 std::expected<QString, Failure> keepAs(const QString& path, const QString& name)
 {
     if (!QFileInfo(path).isFile())
         return QString();
-    QString free = name;
-    for (int number = 2; QFileInfo::exists(free); ++number)
-        free = numbered(name, QString::number(number));
+    const QString free = freeName(name);
     // Where the file system has no second names, as some that are shared with other systems, a copy does as
     // well.
     // A link is followed: what it leads to is what a new text replaces.

@@ -75,6 +75,16 @@ QString Favourites::value(std::uint32_t favourite, FavouriteKey key) const
     return m_entries[favourite].text(keyName(key)).value_or(QString());
 }
 
+QStringList Favourites::names() const
+{
+    QStringList names;
+    for (const GameRecord& record : m_records) {
+        if (record.has(Field::Name))
+            names << fieldText(record[Field::Name]);
+    }
+    return names;
+}
+
 void Favourites::append(const GameRecord& game)
 {
     m_undo.push(new AppendFavourite(*this, favouriteOf(game)));

@@ -35,6 +35,9 @@ public:
     /// Empty where the favourite has no such key.
     QString value(std::uint32_t favourite, FavouriteKey key) const;
 
+    /// The set names, as they stand in it.
+    QStringList names() const;
+
     // Undoable, each. Indexes into records().
     void append(const GameRecord& game);
     /// An empty `option` is none.

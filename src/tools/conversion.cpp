@@ -22,9 +22,10 @@ constexpr qint64 readAtOnce = qint64{128} * 1024;
 constexpr int mostParts = 4;
 
 // Feeds the file from where it stands to `end`, or to its own end.
-std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end)
+std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end,
+                                  const ConversionWatch& watch)
 {
-    while (file.isSequential() || file.pos() < end) {
+    while ((file.isSequential() || file.pos() < end) && !watch.stop.stop_requested()) {
         const std::span<char> room = converter.room(readAtOnce);
         const qint64 wanted = file.isSequential() ? readAtOnce : std::min(readAtOnce, end - file.pos());
         const qint64 count = file.read(room.data(), wanted);
@@ -34,26 +35,29 @@ std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint
             break;
         if (const auto taken = converter.extend(static_cast<std::size_t>(count)); !taken)
             return taken;
+        if (watch.progress)
+            watch.progress(count);
         if (converter.shouldBeginAgain() && !file.isSequential())
             break;
     }
     return {};
 }
 
-std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter& converter)
+std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter& converter,
+                                                   const ConversionWatch& watch)
 {
-    if (const auto fed = feed(converter, file, std::numeric_limits<qint64>::max()); !fed)
+    if (const auto fed = feed(converter, file, std::numeric_limits<qint64>::max(), watch); !fed)
         return std::unexpected(fed.error());
     return converter.finish();
 }
 
 // Nothing where the part cannot stand alone: it failed, or holds what concerns the whole text.
 std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint64 end,
-                                         ListxmlConverter& converter)
+                                         ListxmlConverter& converter, const ConversionWatch& watch)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || !file.seek(from)
-        || !feed(converter, file, end) || converter.shouldBeginAgain() || converter.needsRest())
+        || !feed(converter, file, end, watch) || converter.shouldBeginAgain() || converter.needsRest())
         return std::nullopt;
     auto list = converter.finish();
     return list && !converter.shouldBeginAgain() && !converter.needsRest() ? std::optional(std::move(*list))
@@ -62,14 +66,15 @@ std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint6
 
 // The parts beside each other, a thread each. Nothing where one of them cannot stand alone.
 std::optional<ConvertedList> convertParts(const QString& path, const ListxmlParts& parts,
-                                          const TitleTable& titles, ConversionOptions options)
+                                          const TitleTable& titles, ConversionOptions options,
+                                          const ConversionWatch& watch)
 {
     std::vector<std::future<std::optional<ConvertedList>>> converted;
     qint64 from = 0;
     for (const qint64 end : parts.ends) {
         converted.push_back(std::async(std::launch::async, [&, from, end] {
             ListxmlConverter converter(titles, options, parts.name);
-            return convertPart(path, from, end, converter);
+            return convertPart(path, from, end, converter, watch);
         }));
         from = end;
     }
@@ -107,34 +112,35 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
 }
 
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options, int threads)
+                                                  ConversionOptions options, const ConversionWatch& watch,
+                                                  int threads)
 {
     QFile file(listxml);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return std::unexpected(Failure{"convert_not_read", {listxml, file.errorString()}});
     const auto parts = partsOf(file, std::min(threads, mostParts));
     if (parts.ends.size() > 1) {
-        if (auto list = convertParts(listxml, parts, titles, options))
+        if (auto list = convertParts(listxml, parts, titles, options, watch))
             return std::move(*list);
     }
     // Where the file was looked into, it stands somewhere else now.
     if (!file.isSequential())
         file.seek(0);
     ListxmlConverter converter(titles, options);
-    auto converted = convertWhole(file, converter);
+    auto converted = convertWhole(file, converter, watch);
     if (!converter.shouldBeginAgain() || file.isSequential() || !file.seek(0))
         return converted;
     ListxmlConverter again(titles, options, ElementName::Game);
-    return convertWhole(file, again);
+    return convertWhole(file, again, watch);
 }
 
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options)
+                                                   ConversionOptions options, const ConversionWatch& watch)
 {
     const auto table = readTitles(titles);
     if (!table)
         return std::unexpected(table.error());
-    return convertFile(listxml, *table, options);
+    return convertFile(listxml, *table, options, watch);
 }
 
 } // namespace tessera

@@ -5,6 +5,10 @@
 #include <QString>
 #include <QThread>
 
+#include <cstdint>
+#include <functional>
+#include <stop_token>
+
 namespace tessera {
 
 /// What the information line says of a conversion; the same in every language.
@@ -19,6 +23,13 @@ inline constexpr QLatin1StringView logged("Search end.");
 
 QString conversionReport(std::size_t games);
 
+/// Who watches a conversion. Once somebody asks to stop, what comes is of no use.
+struct ConversionWatch {
+    std::stop_token stop;
+    /// So many bytes more of the list were read; told from any thread.
+    std::function<void(std::int64_t more)> progress;
+};
+
 /// The title list at a path.
 std::expected<TitleTable, Failure> readTitles(const QString& path);
 
@@ -27,10 +38,12 @@ std::expected<TitleTable, Failure> readTitles(const QString& path);
 /// beside each other, at most `threads`.
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
                                                   ConversionOptions options,
+                                                  const ConversionWatch& watch = {},
                                                   int threads = QThread::idealThreadCount());
 
 /// Both files in, the complete store out.
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options);
+                                                   ConversionOptions options,
+                                                   const ConversionWatch& watch = {});
 
 } // namespace tessera

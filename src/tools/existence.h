@@ -50,10 +50,16 @@ std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_vi
 /// The same of a file and a folder.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms);
 
+/// The same of what the emulator printed, and a folder.
+std::expected<ExistenceList, Failure> checkExistenceOf(std::string_view printed, const QString& roms);
+
 /// The information line's words. `count` may differ from the sum: it is the rows that are shown.
 QString existenceSummary(std::size_t count, int found, int notFound);
 
 /// The report's text, with the rows as they come.
 std::string existenceReport(std::span<const ExistenceRow> rows, int found, int notFound);
+
+/// The rows as comma-separated values with a line of titles, as RFC 4180 has it.
+std::string existenceCsv(std::span<const ExistenceRow> rows);
 
 } // namespace tessera

@@ -7,8 +7,10 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 
@@ -18,6 +20,7 @@ namespace {
 
 constexpr std::string_view archiveEnding = ".zip";
 constexpr std::size_t fewest = 64;
+constexpr std::size_t fetchedAtOnce = 16;
 
 std::size_t hashOf(std::string_view setName)
 {
@@ -85,8 +88,10 @@ FolderSets FolderSets::read(const QString& folder)
     }
     const int handle = ::dirfd(entries.get());
     // Who may look around but not enter sees names that do not exist for him.
-    if (::faccessat(handle, ".", X_OK, AT_EACCESS) != 0)
+    if (::faccessat(handle, ".", X_OK, AT_EACCESS) != 0) {
+        sets.makeRoom();
         return sets;
+    }
     std::string withLetters;
     while (const dirent* entry = ::readdir(entries.get())) {
         if (!exists(handle, *entry))
@@ -106,9 +111,41 @@ FolderSets FolderSets::read(const QString& folder)
 
 bool FolderSets::holds(std::string_view setName) const
 {
+    return holds(setName, hashOf(setName));
+}
+
+bool FolderSets::holds(std::string_view setName, std::size_t hash) const
+{
     if (!m_canTell || !isPlain(setName))
         return ask(setName);
-    return m_slots[slotOf(setName)].start != 0;
+    return m_slots[slotOf(setName, hash)].start != 0;
+}
+
+// Slots and names lie all over the memory: while one is looked at, others are fetched.
+std::vector<std::uint8_t> FolderSets::holdEach(std::span<const std::string_view> setNames) const
+{
+    std::vector<std::uint8_t> found(setNames.size());
+    std::array<std::size_t, fetchedAtOnce> hashes{};
+    std::array<std::size_t, fetchedAtOnce> places{};
+    for (std::size_t from = 0; from < setNames.size(); from += fetchedAtOnce) {
+        const auto some = setNames.subspan(from, std::min(fetchedAtOnce, setNames.size() - from));
+        for (std::size_t i = 0; i < some.size(); ++i) {
+            hashes[i] = hashOf(some[i]);
+            __builtin_prefetch(&m_slots[hashes[i] & (m_slots.size() - 1)]);
+        }
+        for (std::size_t i = 0; i < some.size(); ++i) {
+            places[i] = likelySlot(hashes[i]);
+            __builtin_prefetch(m_text.data() + m_slots[places[i]].start);
+        }
+        for (std::size_t i = 0; i < some.size(); ++i) {
+            const Slot slot = m_slots[places[i]];
+            if (!m_canTell || !isPlain(some[i]))
+                found[from + i] = ask(some[i]) ? 1 : 0;
+            else if (slot.start != 0)
+                found[from + i] = nameAt(slot.start) == some[i] || holds(some[i], hashes[i]) ? 1 : 0;
+        }
+    }
+    return found;
 }
 
 bool FolderSets::ask(std::string_view setName) const
@@ -125,24 +162,37 @@ void FolderSets::add(std::string_view setName)
 {
     m_text += static_cast<char>(setName.size());
     m_text += setName;
-    ++m_count;
+    m_hashes.push_back(hashOf(setName));
 }
 
 // A third of the slots or more stays free, so that a search ends soon; few fit into the cache.
 void FolderSets::makeRoom()
 {
-    m_slots.assign(std::max(fewest, std::bit_ceil(m_count + m_count / 2)), Slot{});
-    for (std::size_t start = 1; start < m_text.size();) {
+    const std::vector<std::size_t> hashes = std::exchange(m_hashes, {});
+    m_slots.assign(std::max(fewest, std::bit_ceil(hashes.size() + hashes.size() / 2)), Slot{});
+    std::size_t start = 1;
+    for (std::size_t i = 0; i < hashes.size(); ++i) {
+        const std::size_t ahead = hashes[std::min(i + fetchedAtOnce, hashes.size() - 1)];
+        __builtin_prefetch(m_slots.data() + (ahead & (m_slots.size() - 1)), 1);
         const std::string_view name = nameAt(start);
-        m_slots[slotOf(name)] = {otherHalf(hashOf(name)), static_cast<std::uint32_t>(start)};
+        m_slots[slotOf(name, hashes[i])] = {otherHalf(hashes[i]), static_cast<std::uint32_t>(start)};
         start += 1 + name.size();
     }
 }
 
-// Where a name is, or would be.
-std::size_t FolderSets::slotOf(std::string_view setName) const
+// By the hash alone: another name may have the same.
+std::size_t FolderSets::likelySlot(std::size_t hash) const
 {
-    const std::size_t hash = hashOf(setName);
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t slot = hash & mask;
+    while (m_slots[slot].start != 0 && m_slots[slot].hash != otherHalf(hash))
+        slot = (slot + 1) & mask;
+    return slot;
+}
+
+// Where a name is, or would be.
+std::size_t FolderSets::slotOf(std::string_view setName, std::size_t hash) const
+{
     const std::size_t mask = m_slots.size() - 1;
     std::size_t slot = hash & mask;
     while (m_slots[slot].start != 0

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,13 +18,17 @@ public:
     static FolderSets read(const QString& folder);
 
     bool holds(std::string_view setName) const;
+    /// The same of many at once, which takes less time for each.
+    std::vector<std::uint8_t> holdEach(std::span<const std::string_view> setNames) const;
 
 private:
     explicit FolderSets(QString folder);
     bool ask(std::string_view setName) const;
     void add(std::string_view setName);
     void makeRoom();
-    std::size_t slotOf(std::string_view setName) const;
+    bool holds(std::string_view setName, std::size_t hash) const;
+    std::size_t likelySlot(std::size_t hash) const;
+    std::size_t slotOf(std::string_view setName, std::size_t hash) const;
     std::string_view nameAt(std::size_t start) const;
 
     // The hash's other half spares most looks at names.
@@ -35,7 +40,7 @@ private:
     QString m_folder;
     bool m_canTell = false;
     std::string m_text{'\0'}; ///< a byte with its length before each name
-    std::size_t m_count = 0;
+    std::vector<std::size_t> m_hashes; ///< of the names, until they have their slots
     std::vector<Slot> m_slots; ///< a name stands at or behind its hash
 };
 

@@ -114,21 +114,27 @@ std::vector<std::string_view> firstWords(std::string_view text)
     return words;
 }
 
-std::expected<void, Failure> readFirstWords(const QString& path,
-                                            const std::function<void(std::string_view)>& take)
+std::expected<void, Failure>
+readFirstWords(const QString& path, const std::function<void(std::span<const std::string_view>)>& take)
 {
     std::string rest; // the line that the next piece goes on with
+    std::vector<std::string_view> words;
+    const auto handOn = [&](std::string_view lines) {
+        words.clear();
+        takeFirstWords(lines, [&](std::string_view word) { words.push_back(word); });
+        take(words);
+    };
     const auto read = readPieces(path, [&](std::string_view piece, std::size_t) {
         const std::size_t lines = piece.rfind('\n') + 1;
         rest += piece.substr(0, lines);
         if (lines > 0) {
-            takeFirstWords(rest, take);
+            handOn(rest);
             rest.clear();
         }
         rest += piece.substr(lines);
     });
     if (read)
-        takeFirstWords(rest, take);
+        handOn(rest);
     return read;
 }
 

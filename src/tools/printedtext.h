@@ -4,6 +4,7 @@
 
 #include <expected>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,8 @@ std::string_view withoutIndent(std::string_view text);
 /// Views of `text`.
 std::vector<std::string_view> firstWords(std::string_view text);
 
-/// The same of a file, handed on while it is read.
-std::expected<void, Failure> readFirstWords(const QString& path,
-                                            const std::function<void(std::string_view)>& take);
+/// The same of a file, handed on while it is read: some words at a time, which live as long as the call.
+std::expected<void, Failure>
+readFirstWords(const QString& path, const std::function<void(std::span<const std::string_view>)>& take);
 
 } // namespace tessera

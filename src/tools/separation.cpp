@@ -66,8 +66,10 @@ SupportedNames::SupportedNames(std::string_view listfull)
 SupportedNames SupportedNames::read(const QString& listfull)
 {
     SupportedNames names;
-    const auto read = readFirstWords(
-        listfull, [&](std::string_view word) { names.m_names.insert(printedText(std::string(word))); });
+    const auto read = readFirstWords(listfull, [&](std::span<const std::string_view> words) {
+        for (const std::string_view word : words)
+            names.m_names.insert(printedText(std::string(word)));
+    });
     return read ? names : SupportedNames();
 }
 

@@ -1,18 +1,22 @@
 #include "stagedapp.h"
 
 #include "app/cataloguerebuild.h"
+#include "app/changesdesk.h"
 #include "app/mainwindow.h"
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/storewriter.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
+#include "tools/ui/changeswindow.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -61,6 +65,16 @@ QString message(const StagedApp& staged)
 QStringList keptCopies(const StagedApp& staged)
 {
     return QDir(staged.path(QStringLiteral("data"))).entryList({QStringLiteral("Tessera *.xml")});
+}
+
+// A catalogue of one machine that the staged one has too.
+QString writeOther(const StagedApp& staged)
+{
+    const GameRecord pong{{"game", "pong", "pong", "Pong", "Pong", "1972", "Atari", "good", ""}};
+    const QString file = staged.path(QStringLiteral("other.xml"));
+    if (!writeStore(file, std::array{pong}))
+        qFatal("no store");
+    return file;
 }
 
 QLineEdit* editorOf(const StagedApp& staged)
@@ -141,6 +155,109 @@ private Q_SLOTS:
         QFile kept(staged.path(QStringLiteral("data/")) + keptCopies(staged).constFirst());
         QVERIFY(kept.open(QIODevice::ReadOnly));
         QCOMPARE(kept.readAll(), old);
+    }
+
+    void whatChangedIsSaidAndShown()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.useEmulator(makeEmulator(staged));
+        staged.start();
+        QPushButton* button = staged.app->mainWindow().changesButton;
+        QVERIFY(!button->isVisible());
+        CatalogueComparison comparison;
+        connect(&staged.app->rebuild(), &CatalogueRebuild::compared, this,
+                [&](const CatalogueComparison& changes) { comparison = changes; });
+        staged.app->rebuildCatalogue();
+        QTRY_VERIFY(!comparison.changes.empty());
+        QCOMPARE(comparison.count(MachineChange::Kind::Added), std::size_t(2));
+        QCOMPARE(comparison.count(MachineChange::Kind::Gone), std::size_t(4));
+        QVERIFY2(message(staged).endsWith("changes_summary"), qPrintable(message(staged)));
+        QVERIFY(button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+        ChangesWindow& window = staged.app->changes().window();
+        QVERIFY(window.isVisible());
+        QVERIFY(window.changes->toPlainText().contains("  pacman  Pac-Man\n"));
+        QVERIFY(window.changes->toPlainText().contains("  qix  Qix\n"));
+    }
+
+    void theFirstCatalogueIsComparedWithNothing()
+    {
+        StagedApp staged;
+        staged.useEmulator(makeEmulator(staged));
+        staged.expectMissingStore(0);
+        staged.start();
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(2));
+        QCOMPARE(message(staged), "rebuild_done");
+        QVERIFY(!staged.app->mainWindow().changesButton->isVisible());
+    }
+
+    void aFileTakesTheCataloguesPlace()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.defaults.setValue(keys::BuiltFrom.name, "an emulator");
+        staged.start();
+        const QByteArray old = staged.store();
+        const QString file = writeOther(staged);
+        const auto changes = staged.app->rebuild().useFile(file);
+        QVERIFY(changes);
+        QCOMPARE(*changes, "catalogue_used changes_summary");
+        QCOMPARE(message(staged), *changes);
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(1));
+        QCOMPARE(keptCopies(staged), QStringList{QStringLiteral("Tessera 2026-01-02 03-04-05.xml")});
+        QFile kept(staged.path(QStringLiteral("data/")) + keptCopies(staged).constFirst());
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), old);
+        QCOMPARE(staged.defaults.string(keys::BuiltFrom.name), QString());
+        QVERIFY(QFile::exists(file));
+    }
+
+    void aFileIsAskedAboutBeforeItDropsEdits()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        const QByteArray old = staged.store();
+        staged.app->catalogue().setValue(0, Field::Title, QStringLiteral("Edited"));
+        const QString file = writeOther(staged);
+        staged.desktop.answerAlert("catalogue_unsaved_message", 1);
+        QVERIFY(!staged.app->rebuild().useFile(file));
+        QCOMPARE(staged.store(), old);
+        QVERIFY(staged.app->catalogue().hasChanges());
+        staged.desktop.answerAlert("catalogue_unsaved_message", 0);
+        QVERIFY(staged.app->rebuild().useFile(file));
+        QVERIFY(!staged.app->catalogue().hasChanges());
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(1));
+    }
+
+    void aFileThatIsNoCatalogueTakesNoPlace()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        const QByteArray old = staged.store();
+        const QString file = staged.path("broken.xml");
+        QFile broken(file);
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write("no store");
+        broken.close();
+        staged.desktop.answerError(QString());
+        QVERIFY(!staged.app->rebuild().useFile(file));
+        QCOMPARE(staged.store(), old);
+        QVERIFY(keptCopies(staged).isEmpty());
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
+    }
+
+    void aFileThatWasSavedInPlaceIsReadAnew()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        QVERIFY(QFile::remove(staged.storePath()) && QFile::copy(writeOther(staged), staged.storePath()));
+        QVERIFY(staged.app->rebuild().useFile(staged.storePath()));
+        QVERIFY(keptCopies(staged).isEmpty());
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(1));
     }
 
     void unsavedEditsAreAskedAboutFirst()
@@ -363,13 +480,13 @@ private Q_SLOTS:
         staged.useEmulator(makeEmulator(staged));
         staged.app->rebuildCatalogue();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
-        QCOMPARE(message(staged), QStringLiteral("rebuild_done failure_settings"));
+        QCOMPARE(message(staged), QStringLiteral("rebuild_done failure_settings changes_summary"));
 
         QVERIFY(QDir().rmdir(staged.settingsPath()));
         staged.desktop.answerAlert(QStringLiteral("rebuild_same_message"), 0);
         staged.app->rebuildCatalogue();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
-        QCOMPARE(message(staged), QStringLiteral("rebuild_done"));
+        QCOMPARE(message(staged), QStringLiteral("rebuild_done changes_none"));
     }
 };
 

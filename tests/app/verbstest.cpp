@@ -99,6 +99,9 @@ private Q_SLOTS:
         row("an unknown setting", QStringLiteral("arguments --set Nonsense=1"));
         row("a flag that is none", QStringLiteral("arguments --set Maximize=perhaps"));
         row("a number that is none", QStringLiteral("arguments --set Videodriver=abc"));
+        row("convert-favourites without a file", QStringLiteral("convert-favourites"));
+        row("convert-favourites with two files", QStringLiteral("convert-favourites a b"));
+        row("diff with one file", QStringLiteral("diff a"));
         row("launch without a game", QStringLiteral("launch"));
         row("command without a position", QStringLiteral("command"));
         row("command with a word for a position", QStringLiteral("command help"));
@@ -340,6 +343,74 @@ private Q_SLOTS:
         expectRefusal({QStringLiteral("verify"), path(QStringLiteral("verifyroms.txt")), QStringLiteral("-o"),
                        path(QStringLiteral("none/report.txt"))},
                       "Error writing file at ");
+    }
+
+    void convertFavouritesDoesWhatTheWindowDoes()
+    {
+        writeCatalogue();
+        // The Trash is a home's own only where there is a home.
+        QVERIFY(QDir().mkpath(path(QStringLiteral("HOME"))));
+        writeOldFavourites({"pong", "gone"});
+        const QStringList arguments{QStringLiteral("convert-favourites"), path(QStringLiteral("old.xml"))};
+        Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.out, QByteArray("File conversion is now complete.\n"));
+        QCOMPARE(outcome.err, QByteArray("gone は見つかりませんでした\n"));
+        QCOMPARE(outcome.status, 0);
+        const QString favourites
+            = QStringLiteral("XDG_DATA_HOME/Plover.Tessera/jp.Plover.Tessera_Favorites.xml");
+        const QByteArray first = read(favourites);
+        QVERIFY(first.contains("<string>pong</string>") && !first.contains("gone"));
+        QVERIFY(QFile::exists(path(QStringLiteral("XDG_DATA_HOME/Trash/files/old.xml"))));
+        QVERIFY(!QFile::exists(path(QStringLiteral("old.xml"))));
+
+        writeOldFavourites({"qix"});
+        outcome = tessera(arguments + QStringList{QStringLiteral("--keep-old")});
+        QCOMPARE(outcome.err, QByteArray("Backup files are copied successfully\n"));
+        QVERIFY(read(favourites).contains("<string>qix</string>"));
+        QVERIFY(QFile::exists(path(QStringLiteral("old.xml"))));
+        const QDir folder(path(QStringLiteral("XDG_DATA_HOME/Plover.Tessera")));
+        const QStringList kept = folder.entryList({QStringLiteral("jp.Plover.Tessera_Favorites_*.xml")});
+        QCOMPARE(kept.size(), 1);
+        QCOMPARE(read(QStringLiteral("XDG_DATA_HOME/Plover.Tessera/") + kept.constFirst()), first);
+    }
+
+    void convertFavouritesSaysWhatIsMissing()
+    {
+        const QStringList arguments{QStringLiteral("convert-favourites"), path(QStringLiteral("old.xml"))};
+        expectRefusal(arguments, "Old Favorites.xml file is not found.");
+        writeOldFavourites({"unknown"});
+        expectRefusal(arguments, "Tessera.xml");
+        writeCatalogue();
+        const Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 1);
+        QVERIFY(outcome.err.endsWith("tessera: Conversion data not found.\n"));
+        QVERIFY(QFile::exists(path(QStringLiteral("old.xml"))));
+        write(QStringLiteral("old.xml"), "no list");
+        QCOMPARE(tessera(arguments).status, 1);
+    }
+
+    void diffSaysWhatIsAnother()
+    {
+        writeStoreOf(QStringLiteral("old.store"), {"pong", "qix"});
+        writeStoreOf(QStringLiteral("new.store"), {"galaga", "pong"});
+        QStringList arguments{QStringLiteral("diff"), path(QStringLiteral("old.store")),
+                              path(QStringLiteral("new.store"))};
+        Outcome outcome = tessera(arguments);
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out,
+                 QByteArray("Added: 1, gone: 1, renamed: 0, another status: 0.\n\n"
+                            "Added: 1\n  galaga  Title of galaga\n\nGone: 1\n  qix  Title of qix\n"));
+        write(
+            QStringLiteral("favourites.xml"),
+            "<plist version=\"1.0\"><array><dict><key>name</key><string>qix</string></dict></array></plist>");
+        arguments << QStringLiteral("--favourites") << path(QStringLiteral("favourites.xml"));
+        outcome = tessera(arguments);
+        QVERIFY2(outcome.out.contains("Favourites among them: 1.\n\nFavourites among them: 1\n  qix"),
+                 outcome.out);
+        arguments[2] = arguments[1];
+        QCOMPARE(tessera(arguments).out, QByteArray("Every machine is as it was.\n"));
+        arguments[1] = path(QStringLiteral("none"));
+        expectRefusal(arguments, "does not exist");
     }
 
     void listPrintsNineFieldsInOrder()
@@ -626,6 +697,38 @@ private:
         QFile file(path(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    // Where the program itself looks for one.
+    void writeCatalogue() const
+    {
+        const QString folder = path(QStringLiteral("XDG_DATA_HOME/Tessera"));
+        QVERIFY(QDir().mkpath(folder));
+        writeStoreOf(QStringLiteral("XDG_DATA_HOME/Tessera/Tessera.xml"), {"pong", "qix"});
+    }
+
+    void writeStoreOf(const QString& name, const std::vector<std::string>& sets) const
+    {
+        std::vector<GameRecord> games;
+        std::vector<std::string> titles;
+        for (const std::string& set : sets)
+            titles.push_back("Title of " + set);
+        for (std::size_t i = 0; i < sets.size(); ++i) {
+            GameRecord game;
+            game.values.fill("a");
+            game[Field::Name] = sets[i];
+            game[Field::Title] = titles[i];
+            games.push_back(game);
+        }
+        QVERIFY(writeStore(path(name), games));
+    }
+
+    void writeOldFavourites(const QByteArrayList& names) const
+    {
+        QByteArray list = "<plist version=\"1.0\"><array>";
+        for (const QByteArray& name : names)
+            list += "<dict><key>romid</key><string>" + name + "</string></dict>";
+        write(QStringLiteral("old.xml"), list + "</array></plist>");
     }
 
     QByteArray read(const QString& name) const

@@ -117,8 +117,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, text);
         const QString path = file("parts.xml", text);
-        const auto whole = convertFile(path, TitleTable("m7\tseven\n"), {}, 1);
-        const auto parts = convertFile(path, TitleTable("m7\tseven\n"), {}, 3);
+        const auto whole = convertFile(path, TitleTable("m7\tseven\n"), {}, {}, 1);
+        const auto parts = convertFile(path, TitleTable("m7\tseven\n"), {}, {}, 3);
         QCOMPARE(parts.has_value(), whole.has_value());
         if (!whole) {
             QCOMPARE(QByteArray(parts.error().key), QByteArray(whole.error().key));

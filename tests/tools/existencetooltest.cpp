@@ -1,6 +1,7 @@
 #include "tools/ui/existencetool.h"
 
 #include "tools/ui/existencepage.h"
+#include "tools/ui/foundbar.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "tools/utilitystage.h"
@@ -28,6 +29,9 @@ struct Stage : test::UtilityStage {
         page.rompathTextField2->setText(path("roms"));
     }
 
+    // What an emulator prints is kept in here.
+    void useCache() const { qputenv("XDG_CACHE_HOME", QFile::encodeName(path("cache"))); }
+
     void check() { press(page.button_check2); }
 
     QStringList rows() const
@@ -48,6 +52,8 @@ class ExistenceToolTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
+
     void listsTheFoundFirst()
     {
         Stage stage;
@@ -283,6 +289,134 @@ private Q_SLOTS:
         QCOMPARE(stage.rows(), QStringList());
         QVERIFY(!stage.isIndicatorRunning());
         QCOMPARE(stage.desktop.transcript(), QStringList());
+    }
+
+    void asksTheEmulatorItself()
+    {
+        Stage stage;
+        stage.fill("");
+        stage.useCache();
+        stage.rooms.emulator
+            = stage.script("[ \"$*\" = -listfull ] || exit 1\nprintf 'Name: D:\\nz x\\nd x\\n'");
+        stage.press(stage.page.button_ask2);
+        QTRY_VERIFY(!stage.isIndicatorRunning());
+        QCOMPARE(stage.rows(), QStringList({"d Found", "Name: Not found", "z Not found"}));
+        QCOMPARE(stage.information(), "3 ROMs ( Found: 1 / Not found: 2 )");
+        // For the separation, and for the next time.
+        QCOMPARE(stage.page.listfullTextField2->text(), stage.path("cache/Tessera/printed/listfull.txt"));
+        QCOMPARE(stage.defaults.string(keys::listfullPath.name), stage.page.listfullTextField2->text());
+        QCOMPARE(stage.read("cache/Tessera/printed/listfull.txt"), QByteArray("Name: D:\nz x\nd x\n"));
+        stage.desktop.takeTranscript();
+    }
+
+    void anEmulatorThatDoesNotAnswerIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("commands");
+        QTest::addColumn<QString>("information");
+        QTest::newRow("none") << QByteArray() << "failure_no_emulator";
+        QTest::newRow("it fails") << QByteArray("echo half; exit 3") << "emulator_status";
+        QTest::newRow("it is silent") << QByteArray("exit 0") << "emulator_silent";
+        QTest::newRow("no header") << QByteArray("echo pong") << "Now Checking...";
+    }
+
+    void anEmulatorThatDoesNotAnswerIsNamed()
+    {
+        QFETCH(QByteArray, commands);
+        QFETCH(QString, information);
+        Stage stage;
+        stage.fill("");
+        stage.useCache();
+        if (!commands.isEmpty())
+            stage.rooms.emulator = stage.script(commands);
+        stage.press(stage.page.button_ask2);
+        QTRY_COMPARE(stage.information(), information);
+        QCOMPARE(stage.page.rows->size(), std::size_t(0));
+        stage.desktop.takeTranscript();
+    }
+
+    void cancellingEndsTheEmulator()
+    {
+        Stage stage;
+        stage.fill("");
+        stage.useCache();
+        stage.rooms.emulator = stage.script("echo Name:; sleep 100");
+        QTest::mouseClick(stage.page.button_ask2, Qt::LeftButton);
+        QVERIFY(stage.isBusy());
+        QTest::qWait(100);
+        stage.press(stage.foot.button_cancel);
+        QCOMPARE(stage.information(), "Cancel.");
+        QVERIFY(!QFile::exists(stage.path("cache/Tessera/printed/listfull.txt")));
+        QVERIFY(stage.page.listfullTextField2->text() != stage.path("cache/Tessera/printed/listfull.txt"));
+    }
+
+    void aFilterHidesRowsButNotFromTheReport()
+    {
+        Stage stage;
+        stage.fill(listfull);
+        stage.check();
+        stage.page.filterField->setText("NAMES");
+        QCOMPARE(stage.page.rows->rowCount(), 0);
+        stage.page.filterField->setText(" B ");
+        QCOMPARE(stage.page.rows->rowCount(), 1);
+        QCOMPARE(stage.page.rows->visible(0).name, std::string("b"));
+        stage.desktop.answerSave("ROM Existence Report", stage.path("report.txt"));
+        QTest::mouseClick(stage.page.button_save, Qt::LeftButton);
+        QCOMPARE(stage.read("report.txt").count("\t\t"), 5);
+        stage.page.filterField->clear();
+        QCOMPARE(stage.page.rows->rowCount(), 5);
+        stage.page.filterField->setText("b");
+        stage.check();
+        QCOMPARE(stage.page.rows->rowCount(), 5);
+        stage.desktop.takeTranscript();
+    }
+
+    void aRowOpensItsGame()
+    {
+        Stage stage;
+        stage.rooms.games = QStringList{"b"};
+        stage.fill(listfull);
+        stage.check();
+        stage.desktop.takeTranscript();
+        for (const int row : {1, 0}) {
+            const QModelIndex index = stage.page.rows->index(row, 0);
+            stage.page.reportList->setCurrentIndex(index);
+            QTest::keyClick(stage.page.reportList, Qt::Key_Return);
+        }
+        QCOMPARE(stage.rooms.told, QStringList({"open b", "open d"}));
+        QCOMPARE(stage.desktop.transcript(), {"beep"});
+    }
+
+    void theBarHasBothNumbers()
+    {
+        Stage stage;
+        stage.fill(listfull);
+        QVERIFY(!stage.page.foundBar->isVisible());
+        stage.check();
+        QVERIFY(stage.page.foundBar->isVisible());
+        QCOMPARE(stage.page.foundBar->part(), 0.4);
+        stage.window.close();
+        QVERIFY(stage.page.foundBar->isHidden());
+        stage.desktop.takeTranscript();
+    }
+
+    void valuesAreExported()
+    {
+        Stage stage;
+        stage.fill("Name: D\nd x\na\"b,c x\n");
+        QTest::mouseClick(stage.page.button_csv, Qt::LeftButton);
+        QCOMPARE(stage.information(), "No Report file.");
+        stage.check();
+        stage.desktop.takeTranscript();
+        stage.desktop.answerSave("ROM Existence Report", stage.path("report.csv"));
+        QTest::mouseClick(stage.page.button_csv, Qt::LeftButton);
+        QCOMPARE(stage.desktop.saveRequests.front().extensions, {"csv"});
+        QCOMPARE(stage.read("report.csv"),
+                 QByteArray("Set,Existence\r\nd,Found\r\nName:,Not found\r\n\"a\"\"b,c\",Not found\r\n"));
+        QCOMPARE(stage.information(), "existence_csv_saved");
+        stage.desktop.answerSave("ROM Existence Report", stage.path("none/report.csv"));
+        QTest::mouseClick(stage.page.button_csv, Qt::LeftButton);
+        QCOMPARE(stage.information(), "failure_write");
+        stage.desktop.takeTranscript();
     }
 };
 

@@ -112,12 +112,14 @@ private Q_SLOTS:
             file.write(text.data(), static_cast<qint64>(text.size()));
             file.close();
             std::vector<std::string> words;
-            QVERIFY(
-                readFirstWords(file.fileName(), [&](std::string_view word) { words.emplace_back(word); }));
+            QVERIFY(readFirstWords(file.fileName(), [&](std::span<const std::string_view> some) {
+                words.insert(words.end(), some.begin(), some.end());
+            }));
             const auto expected = firstWords(text);
             QVERIFY(std::ranges::equal(words, expected));
         }
-        QCOMPARE(readFirstWords(folder.path(), [](std::string_view) { }).error().key, "convert_not_read");
+        QCOMPARE(readFirstWords(folder.path(), [](std::span<const std::string_view>) { }).error().key,
+                 "convert_not_read");
     }
 
     void whatCannotBeReadIsAFailure()

@@ -2,6 +2,7 @@
 #include "tools/plainverification.h"
 #include "tools/printedtext.h"
 #include "tools/verification.h"
+#include "tools/verifiedsets.h"
 
 #include <QDir>
 
@@ -42,6 +43,24 @@ private Q_SLOTS:
             const std::string report = verificationReport(*text, ChosenVerdicts().set(i));
             QVERIFY2(report.ends_with(": " + std::to_string(counts[i]) + ")\n\n"), report.c_str());
         }
+    }
+
+    void everyLineOfAKnownTextIsUnderstood()
+    {
+        const auto text = readPrinted(QStringLiteral(TESSERA_REAL_DATA "/verifyroms/mame0251.txt"));
+        QVERIFY(text.has_value());
+        const std::vector<VerifiedSet> sets = verifiedSets(*text);
+        QCOMPARE(sets.size(), std::size_t(252));
+        std::array<int, VerifiedSet::verdictCount> counted{};
+        std::size_t files = 0;
+        for (const VerifiedSet& set : sets) {
+            ++counted[static_cast<std::size_t>(set.verdict)];
+            files += set.files.size();
+            for (const WrongFile& file : set.files)
+                QVERIFY2(!file.name.empty() && file.bytes, set.name.c_str());
+        }
+        QCOMPARE(counted, (std::array<int, VerifiedSet::verdictCount>{3, 197, 52, 0, 0}));
+        QCOMPARE(files, std::size_t(390 + 354 + 178 + 83 + 85 + 5 + 1));
     }
 };
 

@@ -48,6 +48,28 @@ private Q_SLOTS:
         QVERIFY(!third.isValid());
     }
 
+    void aFilterLeavesNamesThatHoldItsText()
+    {
+        RowsModel model({"Name", "State"});
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setRows({{"pacman", "2"}, {"Ms. Pac", "1"}, {"galaga", "1"}});
+        model.setFilter(" PAC ");
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(model.size(), std::size_t(3));
+        QCOMPARE(shown(model), QStringList({"pacman", "Ms. Pac", "galaga"}));
+        const QPersistentModelIndex second = model.index(1, 0);
+        model.sort(1, Qt::AscendingOrder);
+        QCOMPARE(model.visible(0).name, std::string("Ms. Pac"));
+        QCOMPARE(second.row(), 0);
+        model.setState(0, "new");
+        QCOMPARE(model.index(1, 1).data().toString(), "new");
+        model.setRows({{"qix", "1"}});
+        QCOMPARE(model.rowCount(), 0);
+        model.setState(0, "newer");
+        model.setFilter({});
+        QCOMPARE(model.index(0, 1).data().toString(), "newer");
+    }
+
     void namesAreShownOnOneLine()
     {
         RowsModel model({"Name", "State"});

@@ -25,7 +25,7 @@ struct Stage : test::UtilityStage {
         page.mame32jpTextField->setText(file("titles.lst", "a\tB\n"));
     }
 
-    void convert() { QTest::mouseClick(page.button_convert, Qt::LeftButton); }
+    void convert() { press(page.button_convert); }
 };
 
 } // namespace
@@ -176,6 +176,7 @@ private Q_SLOTS:
         row("button_rompath1", "rompathTextField1", "romsfolderPath", true);
         row("button_movepath", "movepathTextField", "movefolderPath", true);
         row("button_verifyroms", "verifyromsTextField", "verifyromsText", false);
+        row("button_favorites", "favoritesTextField", "listxmlPath", false);
     }
 
     void choosersFillStoreAndFlush()
@@ -239,6 +240,7 @@ private Q_SLOTS:
         row(6, "listxmlTextField", "reveal_listxml");
         row(7, "mame32jpTextField", "reveal_mame32jp");
         row(8, "verifyromsTextField", "reveal_verifyroms");
+        row(9, "favoritesTextField", "reveal_favorites");
         row(0, "", "");
         row(10, "", "");
         row(-1, "", "");
@@ -320,10 +322,11 @@ private Q_SLOTS:
         Stage stage;
         stage.utility.utilityOrderFront();
         const QList<QStringList> buttons{{"button_convert"},
-                                         {"button_save", "button_check2"},
+                                         {"button_save", "button_ask2", "button_check2"},
                                          {"button_check1", "button_separete"},
-                                         {"button_convert2"},
-                                         {"button_make"}};
+                                          {"button_ask3", "button_convert2"},
+                                          {"button_convert3"},
+                                          {"button_make"}};
         QCOMPARE(stage.window.utilityTabView->count(), buttons.size());
         for (int page = 0; page < buttons.size(); ++page) {
             stage.window.pageList->setCurrentRow(page);

@@ -4,6 +4,7 @@
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
 #include "tools/ui/utilityfoot.h"
+#include "tools/ui/utilityhooks.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 
@@ -16,6 +17,64 @@
 
 namespace tessera::test {
 
+/// What the rest of the program would answer to the tools, and what it was told.
+struct ScriptedRooms {
+    QStringList games; ///< the list's set names, as they are shown
+    std::size_t hidden = 0;
+    QString favourites; ///< the path of their file
+    QString emulator; ///< its path
+    QString romFolder;
+    std::optional<QString> changes; ///< what differs from the catalogue before
+    std::expected<QString, Failure> unsaved; ///< where it is kept
+    QStringList told;
+
+    UtilityHooks hooks()
+    {
+        UtilityHooks hooks;
+        hooks.search_arrangedObjects = [this](const QStringList& names) {
+            QList<RecordDictionary> found;
+            for (const QString& name : names) {
+                if (games.contains(name))
+                    found << record(name);
+            }
+            return found;
+        };
+        hooks.hiddenRecords = [this] { return hidden; };
+        hooks.showAllRecords = [this] { told << QStringLiteral("show all"); };
+        hooks.openGame = [this](const QString& name) {
+            told << QStringLiteral("open ") + name;
+            return games.contains(name);
+        };
+        hooks.emulator = [this] { return emulator; };
+        hooks.romFolder = [this] { return romFolder; };
+        hooks.useAsCatalogue = [this](const QString& path) {
+            told << QStringLiteral("use ") + path;
+            return changes;
+        };
+        hooks.showChanges = [this] { told << QStringLiteral("show changes"); };
+        hooks.pathOfDataFile = [this] { return favourites; };
+        hooks.dir_make = [this](const QString& path) {
+            told << QStringLiteral("make ") + path;
+            QDir().mkpath(path);
+        };
+        hooks.set_favorites = [this] { told << QStringLiteral("read favourites"); };
+        hooks.keepUnsavedFavorites = [this] {
+            told << QStringLiteral("keep unsaved");
+            return unsaved;
+        };
+        return hooks;
+    }
+
+    static RecordDictionary record(const QString& name)
+    {
+        RecordDictionary record;
+        for (const std::string_view field : fieldNames)
+            record.insert(fieldText(field), name + QLatin1Char(' ') + fieldText(field));
+        record[QStringLiteral("name")] = name;
+        return record;
+    }
+};
+
 /// The utility window on a desktop that answers from a script.
 struct UtilityStage {
     QTemporaryDir folder;
@@ -25,7 +84,8 @@ struct UtilityStage {
     /// Before the window: its boxes show them.
     bool hasInitialValues
         = (controller.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home")), true);
-    UtilityObject utility{desktop, controller};
+    ScriptedRooms rooms;
+    UtilityObject utility{desktop, controller, rooms.hooks()};
     UtilityWindow& window = utility.utilityWindow();
     UtilityFoot& foot = *window.foot;
 
@@ -38,6 +98,14 @@ struct UtilityStage {
             || file.write(bytes) != bytes.size())
             QTest::qFail("no file", __FILE__, __LINE__);
         return file.fileName();
+    }
+
+    /// A program that plays the emulator.
+    QString script(const QByteArray& commands) const
+    {
+        const QString program = file("mame", "#!/bin/sh\n" + commands + '\n');
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return program;
     }
 
     QByteArray read(const QString& name) const

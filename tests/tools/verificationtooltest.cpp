@@ -1,12 +1,15 @@
 #include "tools/ui/verificationtool.h"
 
 #include "tools/plainverification.h"
+#include "tools/ui/rowslist.h"
+#include "tools/ui/rowsmodel.h"
 #include "tools/ui/verificationpage.h"
 #include "tools/utilitystage.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 
 using namespace tessera;
 
@@ -21,6 +24,7 @@ struct Stage : test::UtilityStage {
     {
         window.pageList->setCurrentRow(3);
         window.show();
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(path("cache")));
         page.verifyromsTextField->setText(file("verifyroms.txt", bytes));
     }
 
@@ -28,6 +32,14 @@ struct Stage : test::UtilityStage {
     {
         for (std::size_t i = 0; i < verdicts.size(); ++i)
             page.boxes[i]->setChecked(endings.contains(verdicts[i].ending()));
+    }
+
+    QStringList sets() const
+    {
+        QStringList list;
+        for (std::size_t i = 0; i < page.rows->size(); ++i)
+            list << QString::fromStdString(page.rows->shown(i).name) + ' ' + page.rows->shown(i).state;
+        return list;
     }
 
     void convert() { press(page.button_convert2); }
@@ -40,6 +52,8 @@ class VerificationToolTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
+
     void savesTheReportOfBadSetsAtFirst()
     {
         Stage stage;
@@ -151,6 +165,100 @@ private Q_SLOTS:
         stage.press(stage.foot.button_cancel);
         QCOMPARE(stage.information(), "Cancel.");
         QCOMPARE(stage.desktop.transcript(), QStringList());
+    }
+
+    void theSetsOfAFileAreListed()
+    {
+        Stage stage("a : x (4 bytes) - NOT FOUND\nromset a [p] is bad\nromset b is good\n");
+        stage.desktop.answerSave("verifyroms_convert", std::nullopt);
+        stage.convert();
+        stage.desktop.takeTranscript();
+        QCOMPARE(stage.sets(), QStringList({"a state_bad · state_missing", "b state_good"}));
+        stage.page.setList->setCurrentIndex(stage.page.rows->index(0, 0));
+        QCOMPARE(stage.page.setDetails->toPlainText(), "a · state_bad · state_missing\n\n• wrong_missing");
+        stage.page.setList->sortByColumn(RowsModel::NameColumn, Qt::DescendingOrder);
+        stage.page.setList->setCurrentIndex(stage.page.rows->index(0, 0));
+        QCOMPARE(stage.page.setDetails->toPlainText(), "b · state_good");
+    }
+
+    void theSetsAreListedWithoutABoxToo()
+    {
+        Stage stage;
+        stage.choose({});
+        stage.convert();
+        QCOMPARE(stage.sets().size(), 3);
+        stage.desktop.takeTranscript();
+    }
+
+    void letsTheEmulatorVerify()
+    {
+        Stage stage;
+        stage.rooms.romFolder = "/my roms";
+        stage.rooms.emulator = stage.script("echo \"$@\" > '" + stage.path("arguments").toUtf8()
+                                            + "'; echo romset a is bad; echo romset b is good; exit 2");
+        stage.press(stage.page.button_ask3);
+        QCOMPARE(stage.read("arguments"), QByteArray("-verifyroms -rompath /my roms\n"));
+        QCOMPARE(stage.information(), "verification_verified");
+        QCOMPARE(stage.sets(), QStringList({"a state_bad", "b state_good"}));
+        QCOMPARE(stage.desktop.takeTranscript(), {"sound st_ovenbell"});
+        // The report is made of the same text.
+        QCOMPARE(stage.page.verifyromsTextField->text(), stage.path("cache/Tessera/printed/verifyroms.txt"));
+        stage.desktop.answerSave("verifyroms_convert", stage.path("report.txt"));
+        stage.convert();
+        QCOMPARE(stage.read("report.txt"), "romset a is bad\n\n(is bad: 1)\n\n");
+        stage.desktop.takeTranscript();
+    }
+
+    void withoutARomFolderTheEmulatorHasItsOwn()
+    {
+        Stage stage;
+        stage.rooms.emulator
+            = stage.script("echo \"$@\" > '" + stage.path("arguments").toUtf8() + "'; echo romset a is good");
+        stage.press(stage.page.button_ask3);
+        QCOMPARE(stage.read("arguments"), QByteArray("-verifyroms\n"));
+        stage.desktop.takeTranscript();
+    }
+
+    void theSetsAreCountedWhileItVerifies()
+    {
+        Stage stage;
+        stage.rooms.emulator = stage.script("echo romset a is good; echo romset b is good; sleep 100");
+        QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
+        QTRY_VERIFY(stage.foot.progressCount->isVisible());
+        QCOMPARE(stage.foot.progressCount->text(), "verification_count");
+        QVERIFY(stage.isIndicatorRunning());
+        stage.press(stage.foot.button_cancel);
+        QCOMPARE(stage.information(), "Cancel.");
+        QVERIFY(!QFile::exists(stage.path("cache/Tessera/printed/verifyroms.txt")));
+        QVERIFY(stage.sets().isEmpty());
+    }
+
+    void closingTheWindowEndsTheEmulator()
+    {
+        const QTemporaryDir folder;
+        const QString mark = folder.filePath("ended");
+        {
+            Stage stage;
+            stage.rooms.emulator
+                = stage.script("echo romset a is good; sleep 1; touch '" + mark.toUtf8() + "'");
+            QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
+            QTRY_VERIFY(stage.foot.progressCount->isVisible());
+            stage.window.close();
+            QVERIFY(!stage.isBusy());
+        }
+        QTest::qWait(1200);
+        QVERIFY(!QFile::exists(mark));
+    }
+
+    void anEmulatorThatCannotVerifyIsNamed()
+    {
+        Stage stage;
+        stage.press(stage.page.button_ask3);
+        QCOMPARE(stage.information(), "failure_no_emulator");
+        stage.rooms.emulator = stage.script("kill -SEGV $$");
+        stage.press(stage.page.button_ask3);
+        QCOMPARE(stage.information(), "emulator_crashed");
+        QCOMPARE(stage.desktop.transcript(), QStringList({"beep", "beep"}));
     }
 };
 

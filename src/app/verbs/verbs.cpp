@@ -24,6 +24,13 @@ constexpr std::array table{
         &runCommand},
     Verb{"convert", "LISTXML TITLES -o FILE [--without-bios] [--without-mechanical] [--without-devices]",
          "Make a catalogue file from a saved -listxml text and a list of Japanese titles.", &runConvert},
+    Verb{"convert-favourites", "OLD [--catalogue FILE] [-o FILE] [--keep-old]",
+         "Turn a favourites file of the older form into the present one; the present file is kept under a "
+         "dated name, the old one goes to the Trash.",
+         &runConvertFavourites},
+    Verb{"diff", "OLD NEW [--favourites FILE]",
+         "Say what differs between two catalogue files: machines added, gone, renamed, with another status.",
+         &runDiff},
     Verb{"existence", "LISTFULL ROMS -o REPORT",
          "Report which sets of a saved -listfull text have an archive or a folder among the ROMs.",
          &runExistence},
@@ -92,7 +99,7 @@ QString overview()
                                   "Without a verb the windows open; a FILE is started in the emulator.\n\n");
     for (const Verb& verb : table)
         page
-            += QStringLiteral("  %1%2\n").arg(QLatin1String(verb.name), -11).arg(QLatin1String(verb.summary));
+            += QStringLiteral("  %1%2\n").arg(QLatin1String(verb.name), -20).arg(QLatin1String(verb.summary));
     return page + QStringLiteral("\n\"tessera VERB --help\" tells more.");
 }
 

@@ -48,6 +48,8 @@ int runArguments(const Verb& verb, const QStringList& arguments);
 int runBuild(const Verb& verb, const QStringList& arguments);
 int runCommand(const Verb& verb, const QStringList& arguments);
 int runConvert(const Verb& verb, const QStringList& arguments);
+int runConvertFavourites(const Verb& verb, const QStringList& arguments);
+int runDiff(const Verb& verb, const QStringList& arguments);
 int runExistence(const Verb& verb, const QStringList& arguments);
 int runExport(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);

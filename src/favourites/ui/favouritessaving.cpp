@@ -2,6 +2,8 @@
 
 #include "favourites/ui/ucappcontroller.h"
 
+#include "core/atomicfile.h"
+#include "core/keptcopy.h"
 #include "favourites/ui/favouritestable.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
@@ -73,6 +75,21 @@ std::expected<void, Failure> UCAppController::writeFile()
     }
     dir_make(QFileInfo(pathOfDataFile()).path());
     return m_parts.favourites.write(*text);
+}
+
+std::expected<QString, Failure> UCAppController::keepUnsaved()
+{
+    commitEditing();
+    if (m_parts.favourites.undoStack().isClean())
+        return QString();
+    const auto text = m_parts.favourites.text();
+    if (!text)
+        return std::unexpected(text.error());
+    const QString path = freeName(datedName(pathOfDataFile(), m_parts.desktop.now()));
+    dir_make(QFileInfo(path).path());
+    if (const auto written = writeAtomically(path, std::array{std::string_view(*text)}); !written)
+        return std::unexpected(written.error());
+    return path;
 }
 
 void UCAppController::dir_make(const QString& path)

@@ -58,6 +58,9 @@ public:
     void dir_make(const QString& path);
     /// Takes over what stands in open editors.
     void commitEditing();
+    /// Writes what is not saved yet into a dated file of its own beside the other, and gives its path; an
+    /// empty one where everything is saved.
+    std::expected<QString, Failure> keepUnsaved();
     void addFavoritesTable(const GameRecord& game);
     /// Only what was played in the last days, or everything.
     void showRecentlyPlayed(bool only);

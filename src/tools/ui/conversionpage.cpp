@@ -4,6 +4,7 @@
 #include "widgets/pathfield.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -30,7 +31,15 @@ ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     button_ismechanical = makeBox(qtTrId("convert_mechanical"), QStringLiteral("button_ismechanical"));
     button_isdevice = makeBox(qtTrId("convert_devices"), QStringLiteral("button_isdevice"));
     addRow(qtTrId("convert_leave_out"), {button_isbios, button_ismechanical, button_isdevice});
+    addLine();
+    savedText = addNote();
+    savedText->setObjectName(QStringLiteral("savedText"));
+    savedText->setTextFormat(Qt::PlainText);
+    button_useNow = makeButton(qtTrId("convert_use"), QStringLiteral("button_useNow"));
+    button_changes = makeButton(qtTrId("convert_changes"), QStringLiteral("button_changes"));
+    addRow(QString(), {button_useNow, button_changes});
     addStretch();
+    showSaved({});
     button_convert->setObjectName(QStringLiteral("button_convert"));
 
     bind(*listxmlTextField, defaults, keys::listxmlPath);
@@ -42,6 +51,27 @@ QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)
     auto* box = new QCheckBox(label, this);
     box->setObjectName(name);
     return box;
+}
+
+QPushButton* ConversionPage::makeButton(const QString& label, const QString& name)
+{
+    auto* button = new QPushButton(label, this);
+    button->setObjectName(name);
+    return button;
+}
+
+void ConversionPage::showSaved(const QString& path)
+{
+    savedText->setText(path.isEmpty() ? qtTrId("convert_nothing_saved") : qtTrId("convert_saved").arg(path));
+    button_useNow->setEnabled(!path.isEmpty());
+    button_changes->hide();
+}
+
+void ConversionPage::showUsed(const QString& changes)
+{
+    savedText->setText(changes);
+    button_useNow->setEnabled(false);
+    button_changes->show();
 }
 
 } // namespace tessera

@@ -3,6 +3,7 @@
 #include "tools/ui/toolpage.h"
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -19,6 +20,11 @@ class ConversionPage : public ToolPage
 public:
     explicit ConversionPage(DefaultsController& defaults, QWidget* parent = nullptr);
 
+    /// Offers the file that was saved; nothing for an empty path.
+    void showSaved(const QString& path);
+    /// The offered file is the catalogue now; what differs from the old one.
+    void showUsed(const QString& changes);
+
     QLineEdit* listxmlTextField;
     QLineEdit* mame32jpTextField;
     QPushButton* button_listxml;
@@ -28,10 +34,14 @@ public:
     QCheckBox* button_isbios;
     QCheckBox* button_ismechanical;
     QCheckBox* button_isdevice;
+    QLabel* savedText;
+    QPushButton* button_useNow;
+    QPushButton* button_changes;
     QPushButton* button_convert; ///< at the window's foot
 
 private:
     QCheckBox* makeBox(const QString& label, const QString& name);
+    QPushButton* makeButton(const QString& label, const QString& name);
 };
 
 } // namespace tessera

@@ -9,6 +9,7 @@ class QToolButton;
 namespace tessera {
 
 class DefaultsController;
+class FoundBar;
 class RowsList;
 class RowsModel;
 
@@ -26,8 +27,12 @@ public:
     QPushButton* button_rompath2;
     QToolButton* reveal_listfull2;
     QToolButton* reveal_rompath2;
-    QPushButton* button_check2; ///< at the window's foot, like the next one
+    QPushButton* button_csv;
+    QPushButton* button_ask2; ///< at the window's foot, like the next two
+    QPushButton* button_check2;
     QPushButton* button_save;
+    QLineEdit* filterField;
+    FoundBar* foundBar;
     RowsModel* rows;
     RowsList* reportList;
 };

@@ -2,7 +2,9 @@
 
 #include "core/atomicfile.h"
 #include "platform/desktop.h"
+#include "tools/emulatorrun.h"
 #include "tools/ui/existencepage.h"
+#include "tools/ui/foundbar.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "tools/ui/workbench.h"
@@ -16,6 +18,8 @@ namespace tessera {
 
 namespace {
 
+constexpr QLatin1StringView listfullName("listfull.txt");
+
 QString text(std::string_view existence)
 {
     return QString::fromLatin1(existence.data(), static_cast<qsizetype>(existence.size()));
@@ -23,11 +27,18 @@ QString text(std::string_view existence)
 
 } // namespace
 
-ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, QObject* parent)
+ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
+    , m_hooks(std::move(hooks))
 {
+    connect(m_page.button_ask2, &QPushButton::clicked, this, &ExistenceTool::askEmulator);
+    connect(m_page.button_csv, &QPushButton::clicked, this, &ExistenceTool::exportCsv);
+    connect(m_page.reportList, &RowsList::opened, this, [this](const QString& name) {
+        if (!m_hooks.openGame(name))
+            m_workbench.desktop().beep();
+    });
     connect(m_page.button_check2, &QPushButton::clicked, this, &ExistenceTool::romlistup);
     connect(m_page.button_save, &QPushButton::clicked, this, &ExistenceTool::saveAction);
     connect(m_page.button_listfull2, &QPushButton::clicked, this, &ExistenceTool::selectListfull2);
@@ -45,13 +56,57 @@ void ExistenceTool::romlistup()
         return m_workbench.refuse(existencetexts::noListfull);
     if (!QFileInfo::exists(roms))
         return m_workbench.refuse(existencetexts::noRoms);
+    begin();
+    m_workbench.run([listfull, roms](const Job&) { return checkExistence(listfull, roms); },
+                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
+                        show(std::move(list), isCancelled);
+                    });
+}
+
+void ExistenceTool::begin()
+{
     m_workbench.indicator_start();
     clear_reportController();
     m_found = 0;
     m_notFound = 0;
-    m_workbench.run([listfull, roms](const Job&) { return checkExistence(listfull, roms); },
-                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
-                        show(std::move(list), isCancelled);
+}
+
+// What the emulator lists goes to the field as a file, for the separation too.
+void ExistenceTool::askEmulator()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    m_workbench.inform(existencetexts::started);
+    const QString emulator = m_hooks.emulator();
+    if (emulator.isEmpty())
+        return m_workbench.refuse(Failure{"failure_no_emulator", {}}.text());
+    if (!QFileInfo::exists(m_page.rompathTextField2->text()))
+        return m_workbench.refuse(existencetexts::noRoms);
+    begin();
+    m_workbench.run(
+        [emulator](const Job& job) -> std::expected<std::string, Failure> {
+            auto printed = printedBy(emulator, {QStringLiteral("-listfull")}, false, {job.stop(), {}});
+            if (!printed || job.stop().stop_requested())
+                return printed;
+            if (const auto kept = keepPrinted(listfullName, *printed); !kept)
+                return std::unexpected(kept.error());
+            return printed;
+        },
+        [this](const std::expected<std::string, Failure>& printed, bool isCancelled) {
+            takePrinted(printed, isCancelled);
+        });
+}
+
+void ExistenceTool::takePrinted(const std::expected<std::string, Failure>& printed, bool isCancelled)
+{
+    if (isCancelled || !printed)
+        return show(printed ? std::expected<ExistenceList, Failure>() : std::unexpected(printed.error()),
+                    isCancelled);
+    m_workbench.take(*m_page.listfullTextField2, keys::listfullPath, printedPath(listfullName));
+    m_workbench.run([text = *printed, roms = m_page.rompathTextField2->text()](
+                        const Job&) { return checkExistenceOf(text, roms); },
+                    [this](std::expected<ExistenceList, Failure> list, bool wasCancelled) {
+                        show(std::move(list), wasCancelled);
                     });
 }
 
@@ -73,6 +128,7 @@ void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCanc
     m_found = list->found;
     m_notFound = list->notFound;
     m_page.rows->setRows(std::move(rows));
+    m_page.foundBar->setCounts(m_found, m_notFound);
     m_page.reportList->sortByColumn(RowsModel::StateColumn, Qt::AscendingOrder);
     m_workbench.conclude(existenceSummary(m_page.rows->size(), m_found, m_notFound));
 }
@@ -94,17 +150,37 @@ QString ExistenceTool::existscheck(const QString& setName)
     return text(isFound ? existencetexts::found : existencetexts::notFound);
 }
 
-void ExistenceTool::saveAction()
+// In the order shown, and also those that a filter hides.
+std::vector<ExistenceRow> ExistenceTool::rows() const
 {
-    if (m_page.rows->size() == 0)
-        return m_workbench.refuse(existencetexts::noReport);
     std::vector<ExistenceRow> rows;
     rows.reserve(m_page.rows->size());
     for (std::size_t i = 0; i < m_page.rows->size(); ++i) {
         const RowsModel::Row& row = m_page.rows->shown(i);
         rows.push_back({row.name, row.state == text(existencetexts::found)});
     }
-    m_report = existenceReport(rows, m_found, m_notFound);
+    return rows;
+}
+
+void ExistenceTool::exportCsv()
+{
+    if (m_page.rows->size() == 0)
+        return m_workbench.refuse(existencetexts::noReport);
+    const auto path = m_workbench.desktop().savePanel(
+        {qtTrId("existence_csv_title"), QStringLiteral("ROM Existence Report"), {QStringLiteral("csv")}});
+    if (!path)
+        return;
+    const std::string csv = existenceCsv(rows());
+    if (const auto written = writeAtomically(*path, std::array{std::string_view(csv)}); !written)
+        return m_workbench.refuse(written.error().text());
+    m_workbench.inform(qtTrId("existence_csv_saved").arg(*path));
+}
+
+void ExistenceTool::saveAction()
+{
+    if (m_page.rows->size() == 0)
+        return m_workbench.refuse(existencetexts::noReport);
+    m_report = existenceReport(rows(), m_found, m_notFound);
     if (const auto path = m_workbench.desktop().savePanel({QStringLiteral("Save Report file"),
                                                            QStringLiteral("ROM Existence Report"),
                                                            {QStringLiteral("txt")}}))
@@ -133,6 +209,8 @@ void ExistenceTool::clear_reportController()
 {
     m_page.reportList->dropSort();
     m_page.rows->clear();
+    m_page.filterField->clear();
+    m_page.foundBar->setCounts(0, 0);
     m_page.reportList->setEmptyText(qtTrId("existence_empty"));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/existence.h"
+#include "tools/ui/utilityhooks.h"
 
 #include <QObject>
 
@@ -15,7 +16,7 @@ class ExistenceTool : public QObject
     Q_OBJECT
 
 public:
-    ExistenceTool(ExistencePage& page, Workbench& workbench, QObject* parent = nullptr);
+    ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent = nullptr);
 
     /// "Found" or "Not found"; counted.
     QString existscheck(const QString& setName);
@@ -26,7 +27,10 @@ public:
 
 public Q_SLOTS:
     void romlistup();
+    /// The same with what the emulator lists now.
+    void askEmulator();
     void saveAction();
+    void exportCsv();
     void selectListfull2();
     void selectROMsfolder2();
     void clear_reportController();
@@ -35,12 +39,16 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
+    void begin();
+    void takePrinted(const std::expected<std::string, Failure>& printed, bool isCancelled);
+    std::vector<ExistenceRow> rows() const;
     void show(std::expected<ExistenceList, Failure> list, bool isCancelled);
     void stopWithoutHeader(const Failure& failure);
     void write(const QString& path);
 
     ExistencePage& m_page;
     Workbench& m_workbench;
+    UtilityHooks m_hooks;
     int m_found = 0;
     int m_notFound = 0;
     std::string m_report;

@@ -46,6 +46,9 @@ RowsList::RowsList(RowsModel& model, const QString& name, QWidget* parent)
     m_empty->setWordWrap(true);
     m_empty->setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(&model, &QAbstractItemModel::modelReset, this, &RowsList::showEmptyText);
+    connect(this, &QTableView::activated, this, [this, &model](const QModelIndex& index) {
+        Q_EMIT opened(QString::fromStdString(model.visible(index.row()).name));
+    });
 }
 
 void RowsList::setEmptyText(const QString& text)
@@ -58,6 +61,11 @@ QString RowsList::emptyText() const
     return m_empty->text();
 }
 
+void RowsList::setStateWidth(int width)
+{
+    setColumnWidth(RowsModel::StateColumn, width);
+}
+
 void RowsList::dropSort()
 {
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -65,7 +73,7 @@ void RowsList::dropSort()
 
 void RowsList::showEmptyText()
 {
-    m_empty->setVisible(model()->rowCount() == 0);
+    m_empty->setVisible(static_cast<const RowsModel*>(model())->size() == 0);
 }
 
 void RowsList::resizeEvent(QResizeEvent* event)

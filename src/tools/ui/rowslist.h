@@ -18,8 +18,13 @@ public:
 
     void setEmptyText(const QString& text);
     QString emptyText() const;
+    void setStateWidth(int width);
     /// Sorted by no column any more.
     void dropSort();
+
+Q_SIGNALS:
+    /// A row was opened by a double click or by Return.
+    void opened(const QString& name);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -8,7 +8,7 @@
 
 namespace tessera {
 
-/// The list of a tool: a name, and what became of it, in two columns that can be sorted.
+/// The list of a tool: a name, and what became of it, in two columns that can be sorted and filtered.
 class RowsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,6 +32,10 @@ public:
     /// Of the row at a position now; the place that it keeps however the list is sorted.
     std::size_t placeOf(std::size_t position) const { return m_order[position]; }
     void setState(std::size_t place, const QString& state);
+    /// Only rows whose name holds this text are in the table; shown() still has all of them.
+    void setFilter(const QString& text);
+    /// Of a row of the table.
+    const Row& visible(int row) const { return m_rows[m_visible[static_cast<std::size_t>(row)]]; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,10 +46,14 @@ public:
 
 private:
     void arrange();
+    void sortRows();
+    void filter();
 
     std::array<QString, 2> m_titles;
     std::vector<Row> m_rows;
-    std::vector<std::size_t> m_order;
+    std::vector<std::size_t> m_order; ///< of all rows
+    std::vector<std::size_t> m_visible; ///< those of them that are in the table
+    std::string m_filter; ///< in lower case
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

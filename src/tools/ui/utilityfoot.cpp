@@ -93,7 +93,7 @@ void UtilityFoot::setBusy(bool isBusy)
         m_focused->setFocus();
 }
 
-// Laid out at once, since a conversion keeps the event loop waiting.
+// Laid out at once: what follows may keep the event loop waiting.
 void UtilityFoot::showIndicator(bool isShown)
 {
     progressInd->setVisible(isShown);

@@ -2,20 +2,17 @@
 
 #include "catalogue/storelayout.h"
 #include "platform/desktop.h"
-#include "tools/conversion.h"
-#include "tools/titletable.h"
-#include "tools/ui/conversionpage.h"
+#include "tools/ui/conversiontool.h"
 #include "tools/ui/existencetool.h"
+#include "tools/ui/favouritestool.h"
 #include "tools/ui/separationtool.h"
 #include "tools/ui/utilitywindow.h"
 #include "tools/ui/verificationtool.h"
 #include "tools/ui/workbench.h"
 #include "widgets/bringforward.h"
 
-#include <QCheckBox>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QToolButton>
 
 #include <algorithm>
@@ -24,10 +21,6 @@
 namespace tessera {
 
 namespace {
-
-// The fields' tags; those in between belong to other pages.
-constexpr int listxmlTag = 6;
-constexpr int titlesTag = 7;
 
 // A path field of the window, and the button that shows it in the file manager.
 struct TaggedField {
@@ -42,27 +35,27 @@ constexpr std::array fields{
     TaggedField{3, "rompathTextField1", "reveal_rompath1"},
     TaggedField{4, "listfullTextField1", "reveal_listfull1"},
     TaggedField{5, "movepathTextField", "reveal_movepath"},
-    TaggedField{listxmlTag, "listxmlTextField", "reveal_listxml"},
-    TaggedField{titlesTag, "mame32jpTextField", "reveal_mame32jp"},
+    TaggedField{6, "listxmlTextField", "reveal_listxml"},
+    TaggedField{7, "mame32jpTextField", "reveal_mame32jp"},
     TaggedField{8, "verifyromsTextField", "reveal_verifyroms"},
+    TaggedField{9, "favoritesTextField", "reveal_favorites"},
 };
 
 } // namespace
 
-UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, QObject* parent)
+UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, const UtilityHooks& hooks,
+                             QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_window(std::make_unique<UtilityWindow>(defaults))
     , m_workbench(std::make_unique<Workbench>(desktop, defaults, *m_window->foot))
-    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench))
+    , m_conversion(std::make_unique<ConversionTool>(*m_window->conversionPage, *m_workbench, hooks))
+    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench, hooks))
     , m_separation(std::make_unique<SeparationTool>(*m_window->separationPage, *m_workbench))
-    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench))
+    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench, hooks))
+    , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, hooks))
 {
-    const ConversionPage& page = *m_window->conversionPage;
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
-    connect(page.button_convert, &QPushButton::clicked, this, &UtilityObject::xmloutputAction);
-    connect(page.button_listxml, &QPushButton::clicked, this, &UtilityObject::selectlistxml);
-    connect(page.button_mame32jp, &QPushButton::clicked, this, &UtilityObject::selectlocalize);
     connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
     connect(m_existence.get(), &ExistenceTool::statusMessage, this, &UtilityObject::statusMessage);
     connectReveals();
@@ -80,42 +73,12 @@ void UtilityObject::connectReveals()
 
 void UtilityObject::xmloutputAction()
 {
-    m_workbench->inform(conversiontexts::started);
-    if (!QFileInfo::exists(pathOf(listxmlTag)))
-        return m_workbench->refuse(conversiontexts::noListxml);
-    if (!QFileInfo::exists(pathOf(titlesTag)))
-        return m_workbench->refuse(conversiontexts::noTitles);
-    indicator_start();
-    outputAction();
-    indicator_stop();
+    m_conversion->xmloutputAction();
 }
 
 void UtilityObject::outputAction()
 {
-    const ConversionPage& page = *m_window->conversionPage;
-    const ConversionOptions options{page.button_isbios->isChecked(), page.button_ismechanical->isChecked(),
-                                    page.button_isdevice->isChecked()};
-    const auto list = convertFiles(pathOf(listxmlTag), pathOf(titlesTag), options);
-    if (!list)
-        return m_workbench->refuse(list.error().text());
-    m_desktop.log(conversiontexts::logged);
-    save(*list);
-}
-
-// After Cancel the information line stays as it is: deliberate, as nothing was written.
-void UtilityObject::save(const ConvertedList& list)
-{
-    const auto path = m_desktop.savePanel(
-        {QStringLiteral("Save XMLlist file"), QStringLiteral("Tessera"), {QStringLiteral("xml")}});
-    if (!path)
-        return;
-    if (const auto written = list.text.save(*path); !written) {
-        m_desktop.beep();
-        m_workbench->inform(
-            QString(conversiontexts::notWritten).arg(*path, written.error().arguments.last()));
-        return;
-    }
-    m_workbench->conclude(conversionReport(list.games));
+    m_conversion->outputAction();
 }
 
 QString UtilityObject::issueuuid() const
@@ -140,14 +103,12 @@ QString UtilityObject::openPanelpath(bool chooseFile, bool chooseDirect)
 
 void UtilityObject::selectlistxml()
 {
-    m_workbench->choose(*m_window->conversionPage->listxmlTextField, keys::listxmlPath,
-                        Workbench::Choice::File);
+    m_conversion->selectlistxml();
 }
 
 void UtilityObject::selectlocalize()
 {
-    m_workbench->choose(*m_window->conversionPage->mame32jpTextField, keys::localizePath,
-                        Workbench::Choice::File);
+    m_conversion->selectlocalize();
 }
 
 QString UtilityObject::pathOf(int tag) const

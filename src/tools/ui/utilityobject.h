@@ -6,23 +6,25 @@
 
 namespace tessera {
 
+class ConversionTool;
 class DefaultsController;
 class Desktop;
 class ExistenceTool;
+class FavouritesTool;
 class SeparationTool;
 class UtilityWindow;
 class VerificationTool;
 class Workbench;
-struct ConvertedList;
+struct UtilityHooks;
 
-/// The commands of the utility window as a whole, and of its first page; the other pages have tools of their
-/// own.
+/// The commands of the utility window as a whole; its pages have tools of their own.
 class UtilityObject : public QObject
 {
     Q_OBJECT
 
 public:
-    UtilityObject(Desktop& desktop, DefaultsController& defaults, QObject* parent = nullptr);
+    UtilityObject(Desktop& desktop, DefaultsController& defaults, const UtilityHooks& hooks,
+                  QObject* parent = nullptr);
     ~UtilityObject() override;
 
     UtilityWindow& utilityWindow() { return *m_window; }
@@ -30,6 +32,7 @@ public:
     ExistenceTool& existence() { return *m_existence; }
     SeparationTool& separation() { return *m_separation; }
     VerificationTool& verification() { return *m_verification; }
+    FavouritesTool& favourites() { return *m_favourites; }
 
     /// A new one in its standard form.
     QString issueuuid() const;
@@ -55,14 +58,15 @@ Q_SIGNALS:
 private:
     void connectReveals();
     QString pathOf(int tag) const;
-    void save(const ConvertedList& list);
 
     Desktop& m_desktop;
     std::unique_ptr<UtilityWindow> m_window;
     std::unique_ptr<Workbench> m_workbench;
+    std::unique_ptr<ConversionTool> m_conversion;
     std::unique_ptr<ExistenceTool> m_existence;
     std::unique_ptr<SeparationTool> m_separation;
     std::unique_ptr<VerificationTool> m_verification;
+    std::unique_ptr<FavouritesTool> m_favourites;
 };
 
 } // namespace tessera

@@ -2,6 +2,7 @@
 
 #include "tools/ui/conversionpage.h"
 #include "tools/ui/existencepage.h"
+#include "tools/ui/favouritespage.h"
 #include "tools/ui/scriptpage.h"
 #include "tools/ui/separationpage.h"
 #include "tools/ui/utilityfoot.h"
@@ -19,7 +20,7 @@ namespace tessera {
 
 namespace {
 
-constexpr QSize usualSize(920, 580);
+constexpr QSize usualSize(940, 640);
 constexpr int listWidth = 196;
 
 } // namespace
@@ -32,6 +33,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     , existencePage(new ExistencePage(defaults, this))
     , separationPage(new SeparationPage(defaults, this))
     , verificationPage(new VerificationPage(defaults, this))
+    , favouritesPage(new FavouritesPage(defaults, this))
     , scriptPage(new ScriptPage(defaults, this))
     , foot(new UtilityFoot(this))
 {
@@ -43,10 +45,12 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     utilityTabView->setObjectName(QStringLiteral("utilityTabView"));
     addPage(conversionPage, qtTrId("convert_page"), {conversionPage->button_convert});
     addPage(existencePage, qtTrId("existence_page"),
-            {existencePage->button_save, existencePage->button_check2});
+            {existencePage->button_save, existencePage->button_ask2, existencePage->button_check2});
     addPage(separationPage, qtTrId("separation_page"),
             {separationPage->button_check1, separationPage->button_separete});
-    addPage(verificationPage, qtTrId("verification_page"), {verificationPage->button_convert2});
+    addPage(verificationPage, qtTrId("verification_page"),
+            {verificationPage->button_ask3, verificationPage->button_convert2});
+    addPage(favouritesPage, qtTrId("favourites_page"), {favouritesPage->button_convert3});
     addPage(scriptPage, qtTrId("script_page"), {scriptPage->button_make});
 
     auto* form = new QVBoxLayout;

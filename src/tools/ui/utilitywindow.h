@@ -11,6 +11,7 @@ namespace tessera {
 class ConversionPage;
 class DefaultsController;
 class ExistencePage;
+class FavouritesPage;
 class ScriptPage;
 class SeparationPage;
 class UtilityFoot;
@@ -31,6 +32,7 @@ public:
     ExistencePage* existencePage;
     SeparationPage* separationPage;
     VerificationPage* verificationPage;
+    FavouritesPage* favouritesPage;
     ScriptPage* scriptPage;
     UtilityFoot* foot;
 

@@ -1,13 +1,17 @@
 #include "tools/ui/verificationpage.h"
 
 #include "core/failure.h"
+#include "tools/ui/rowslist.h"
+#include "tools/ui/rowsmodel.h"
 #include "widgets/boundcontrols.h"
 #include "widgets/pathfield.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -16,6 +20,10 @@ namespace tessera {
 namespace {
 
 constexpr int labelDrop = 4; // to the first box's line
+constexpr int stateWidth = 236;
+constexpr int gap = 12;
+constexpr int listShare = 3;
+constexpr int detailsShare = 2;
 
 // What the emulator's words mean, in the verdicts' order.
 constexpr std::array<const char*, verdicts.size()> meanings{
@@ -28,6 +36,10 @@ constexpr std::array<const char*, verdicts.size()> meanings{
 
 VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
+    , rows(new RowsModel({qtTrId("existence_set"), qtTrId("verification_state")}, this))
+    , setList(new RowsList(*rows, QStringLiteral("setList"), this))
+    , setDetails(new QPlainTextEdit(this))
+    , button_ask3(new QPushButton(qtTrId("tool_from_mame"), this))
     , button_convert2(new QPushButton(qtTrId("verification_convert"), this))
 {
     addHeading(qtTrId("verification_page"), qtTrId("verification_explanation"));
@@ -41,7 +53,10 @@ VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent
     QLabel* label = addRow(qtTrId("verification_verdicts"), makeBoxes(defaults));
     label->setContentsMargins(0, labelDrop, 0, 0);
     layout()->setAlignment(label, Qt::AlignRight | Qt::AlignTop);
-    addStretch();
+    addLine();
+    addWide(makeSets(), 1);
+    button_ask3->setObjectName(QStringLiteral("button_ask3"));
+    button_ask3->setToolTip(qtTrId("verification_ask_tip"));
     bind(*verifyromsTextField, defaults, keys::verifyromsText);
 }
 
@@ -76,6 +91,52 @@ ChosenVerdicts VerificationPage::chosen() const
     for (std::size_t i = 0; i < boxes.size(); ++i)
         chosen[i] = boxes[i]->isChecked();
     return chosen;
+}
+
+QWidget* VerificationPage::makeSets()
+{
+    setList->setAccessibleName(qtTrId("verification_sets"));
+    setList->setEmptyText(qtTrId("verification_empty"));
+    setList->setStateWidth(stateWidth);
+    setDetails->setObjectName(QStringLiteral("setDetails"));
+    setDetails->setAccessibleName(qtTrId("verification_details"));
+    setDetails->setPlaceholderText(qtTrId("verification_details"));
+    setDetails->setReadOnly(true);
+    setDetails->setTabChangesFocus(true);
+    auto* sets = new QWidget(this);
+    auto* layout = new QHBoxLayout(sets);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(gap);
+    layout->addWidget(setList, listShare);
+    layout->addWidget(setDetails, detailsShare);
+    connect(setList->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &VerificationPage::showDetails);
+    return sets;
+}
+
+void VerificationPage::showSets(std::vector<VerifiedSet> sets)
+{
+    m_sets = std::move(sets);
+    std::vector<RowsModel::Row> shown;
+    shown.reserve(m_sets.size());
+    for (const VerifiedSet& set : m_sets)
+        shown.push_back({set.name, stateOf(set)});
+    setDetails->clear();
+    rows->setRows(std::move(shown));
+}
+
+void VerificationPage::showDetails()
+{
+    const QModelIndex current = setList->currentIndex();
+    if (!current.isValid())
+        return setDetails->clear();
+    const VerifiedSet& set = m_sets[rows->placeOf(static_cast<std::size_t>(current.row()))];
+    QStringList lines{QString::fromStdString(set.name) + QStringLiteral(" · ") + stateOf(set)};
+    if (!set.files.empty())
+        lines << QString();
+    for (const WrongFile& file : set.files)
+        lines << QStringLiteral("• ") + sentenceOf(set, file);
+    setDetails->setPlainText(lines.join(QLatin1Char('\n')));
 }
 
 } // namespace tessera

@@ -2,15 +2,19 @@
 
 #include "tools/ui/toolpage.h"
 #include "tools/verification.h"
+#include "tools/verifiedsets.h"
 
 class QCheckBox;
 class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
 class QToolButton;
 
 namespace tessera {
 
 class DefaultsController;
+class RowsList;
+class RowsModel;
 
 /// What of an emulator's words about its ROMs goes into a report.
 class VerificationPage : public ToolPage
@@ -21,15 +25,25 @@ public:
     explicit VerificationPage(DefaultsController& defaults, QWidget* parent = nullptr);
 
     ChosenVerdicts chosen() const;
+    /// The sets of a text; the list is for looking, not for the report.
+    void showSets(std::vector<VerifiedSet> sets);
 
     QLineEdit* verifyromsTextField;
     QPushButton* button_verifyroms;
     QToolButton* reveal_verifyroms;
     std::array<QCheckBox*, verdicts.size()> boxes; ///< in the verdicts' order
-    QPushButton* button_convert2; ///< at the window's foot
+    RowsModel* rows;
+    RowsList* setList;
+    QPlainTextEdit* setDetails; ///< of the selected set, what is wrong and where it belongs
+    QPushButton* button_ask3; ///< at the window's foot, like the next one
+    QPushButton* button_convert2;
 
 private:
     QWidget* makeBoxes(DefaultsController& defaults);
+    QWidget* makeSets();
+    void showDetails();
+
+    std::vector<VerifiedSet> m_sets;
 };
 
 } // namespace tessera

@@ -2,21 +2,32 @@
 
 #include "core/atomicfile.h"
 #include "platform/desktop.h"
+#include "tools/emulatorrun.h"
 #include "tools/printedtext.h"
 #include "tools/ui/verificationpage.h"
 #include "tools/ui/workbench.h"
 
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace tessera {
 
-VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench, QObject* parent)
+namespace {
+constexpr QLatin1StringView verifyromsName("verifyroms.txt");
+} // namespace
+
+VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHooks hooks,
+                                   QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
+    , m_hooks(std::move(hooks))
 {
+    connect(m_page.button_ask3, &QPushButton::clicked, this, &VerificationTool::askEmulator);
     connect(m_page.button_convert2, &QPushButton::clicked, this, &VerificationTool::converter2Action);
     connect(m_page.button_verifyroms, &QPushButton::clicked, this, &VerificationTool::selectVerifytxt);
 }
@@ -31,33 +42,36 @@ void VerificationTool::converter2Action()
         return m_workbench.refuse(verificationtexts::noFile);
     m_workbench.indicator_start();
     const auto condense
-        = [path, chosen = m_page.chosen()](const Job& job) -> std::expected<std::string, Failure> {
+        = [path, chosen = m_page.chosen()](const Job& job) -> std::expected<Condensed, Failure> {
         const auto printed = readPrinted(path);
         if (!printed)
             return std::unexpected(printed.error());
-        return verificationReport(*printed, chosen, job.stop());
+        return Condensed{verificationReport(*printed, chosen, job.stop()),
+                         verifiedSets(*printed, job.stop())};
     };
-    m_workbench.run(condense, [this](std::expected<std::string, Failure> report, bool isCancelled) {
-        offer(std::move(report), isCancelled);
+    m_workbench.run(condense, [this](std::expected<Condensed, Failure> condensed, bool isCancelled) {
+        offer(std::move(condensed), isCancelled);
     });
 }
 
-void VerificationTool::offer(std::expected<std::string, Failure> report, bool isCancelled)
+void VerificationTool::offer(std::expected<Condensed, Failure> condensed, bool isCancelled)
 {
     const auto end = [this] { m_workbench.indicator_stop(); };
     if (isCancelled) {
         m_workbench.inform(verificationtexts::cancelled);
         return end();
     }
-    if (!report || report->empty()) {
-        m_workbench.refuse(report ? QString(verificationtexts::nothingChosen) : report.error().text());
+    if (condensed)
+        m_page.showSets(std::move(condensed->sets));
+    if (!condensed || condensed->report.empty()) {
+        m_workbench.refuse(condensed ? QString(verificationtexts::nothingChosen) : condensed.error().text());
         return end();
     }
     const auto path = m_workbench.desktop().savePanel({QStringLiteral("Save Verifyroms text"),
                                                        QStringLiteral("verifyroms_convert"),
                                                        {QStringLiteral("txt")}});
     if (path)
-        return save(*path, std::move(*report));
+        return save(*path, std::move(condensed->report));
     m_workbench.inform(verificationtexts::cancelled);
     end();
 }
@@ -78,6 +92,67 @@ void VerificationTool::conclude(const std::expected<void, Failure>& written)
         m_workbench.inform(QString(verificationtexts::notWritten)
                                .arg(written.error().arguments[0], written.error().arguments[1]));
     m_workbench.indicator_stop();
+}
+
+void VerificationTool::askEmulator()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    const QString emulator = m_hooks.emulator();
+    if (emulator.isEmpty())
+        return m_workbench.refuse(Failure{"failure_no_emulator", {}}.text());
+    m_workbench.inform(qtTrId("verification_asking"));
+    m_workbench.indicator_start();
+    QStringList arguments{QStringLiteral("-verifyroms")};
+    if (const QString roms = m_hooks.romFolder(); !roms.isEmpty())
+        arguments << QStringLiteral("-rompath") << roms;
+    const auto verify
+        = [this, emulator, arguments](const Job& job) -> std::expected<std::vector<VerifiedSet>, Failure> {
+        std::size_t count = 0;
+        const auto printing = [&](std::string_view piece) {
+            count += verdictLines(piece);
+            job.post([this, count] { showCount(count); });
+        };
+        // Whatever is bad or missing makes its status another one than 0.
+        const auto printed = printedBy(emulator, arguments, true, {job.stop(), printing});
+        if (!printed)
+            return std::unexpected(printed.error());
+        if (job.stop().stop_requested())
+            return {};
+        if (const auto kept = keepPrinted(verifyromsName, *printed); !kept)
+            return std::unexpected(kept.error());
+        return verifiedSets(*printed, job.stop());
+    };
+    m_workbench.run(verify, [this](std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled) {
+        takeVerified(std::move(sets), isCancelled);
+    });
+}
+
+void VerificationTool::showCount(std::size_t sets)
+{
+    m_workbench.showCount(
+        qtTrId("verification_count").arg(QLocale().toString(static_cast<qulonglong>(sets))));
+}
+
+void VerificationTool::takeVerified(std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled)
+{
+    m_workbench.indicator_stop();
+    if (isCancelled)
+        return m_workbench.inform(verificationtexts::cancelled);
+    if (!sets)
+        return m_workbench.refuse(sets.error().text());
+    m_workbench.take(*m_page.verifyromsTextField, keys::verifyromsText, printedPath(verifyromsName));
+    const QLocale locale;
+    const auto count = [&](VerifiedSet::Verdict verdict) {
+        return locale.toString(
+            static_cast<qlonglong>(std::ranges::count(*sets, verdict, &VerifiedSet::verdict)));
+    };
+    const QString summary
+        = qtTrId("verification_verified")
+              .arg(locale.toString(static_cast<qulonglong>(sets->size())), count(VerifiedSet::Verdict::Good),
+                   count(VerifiedSet::Verdict::BestAvailable), count(VerifiedSet::Verdict::Bad));
+    m_page.showSets(std::move(*sets));
+    m_workbench.conclude(summary);
 }
 
 void VerificationTool::selectVerifytxt()

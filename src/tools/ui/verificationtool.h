@@ -1,6 +1,8 @@
 #pragma once
 
 #include "core/failure.h"
+#include "tools/ui/utilityhooks.h"
+#include "tools/verifiedsets.h"
 
 #include <QObject>
 
@@ -18,19 +20,31 @@ class VerificationTool : public QObject
     Q_OBJECT
 
 public:
-    VerificationTool(VerificationPage& page, Workbench& workbench, QObject* parent = nullptr);
+    VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHooks hooks,
+                     QObject* parent = nullptr);
 
 public Q_SLOTS:
     void converter2Action();
     void selectVerifytxt();
+    /// Lets the emulator verify its ROMs now; what it prints goes to the field as a file.
+    void askEmulator();
 
 private:
-    void offer(std::expected<std::string, Failure> report, bool isCancelled);
+    /// What a text comes to.
+    struct Condensed {
+        std::string report;
+        std::vector<VerifiedSet> sets;
+    };
+
+    void offer(std::expected<Condensed, Failure> condensed, bool isCancelled);
+    void showCount(std::size_t sets);
+    void takeVerified(std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled);
     void save(const QString& path, std::string report);
     void conclude(const std::expected<void, Failure>& written);
 
     VerificationPage& m_page;
     Workbench& m_workbench;
+    UtilityHooks m_hooks;
 };
 
 } // namespace tessera

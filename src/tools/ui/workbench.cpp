@@ -5,16 +5,20 @@
 #include "platform/desktop.h"
 #include "tools/ui/utilityfoot.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <atomic>
+
 namespace tessera {
 
 namespace {
 constexpr int wholeIndicator = 1000;
+constexpr qint64 progressSteps = 100;
 } // namespace
 
 void Job::post(std::function<void()> call) const
@@ -44,7 +48,7 @@ Workbench::~Workbench()
     m_stop.request_stop();
 }
 
-// Painted at once, since a conversion keeps the event loop waiting.
+// Painted at once: what follows may keep the event loop waiting.
 void Workbench::inform(const QString& text)
 {
     m_foot.infoTextField->setText(text);
@@ -88,6 +92,27 @@ void Workbench::showProgress(qint64 done, qint64 all)
     m_foot.progressCount->setVisible(true);
 }
 
+void Workbench::showCount(const QString& text)
+{
+    m_foot.progressCount->setText(text);
+    m_foot.progressCount->setVisible(true);
+}
+
+std::function<void(qint64)> Workbench::progressOf(const Job& job, const QString& path)
+{
+    // Of a pipe nobody knows how much will come.
+    const qint64 all = QFileInfo(path).size();
+    auto done = std::make_shared<std::atomic<qint64>>(0);
+    auto shown = std::make_shared<std::atomic<qint64>>(0);
+    return [this, job, all, done, shown](qint64 more) {
+        const qint64 now = done->fetch_add(more) + more;
+        qint64 before = shown->load();
+        if (all == 0 || now - before < all / progressSteps || !shown->compare_exchange_strong(before, now))
+            return;
+        job.post([this, now, all] { showProgress(std::min(now, all), all); });
+    };
+}
+
 QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect)
 {
     return m_desktop.openPanel({chooseFile, chooseDirect, {}, {}}).value_or(QString());
@@ -96,8 +121,12 @@ QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect)
 void Workbench::choose(QLineEdit& field, const ChosenKey& key, Choice choice)
 {
     const QString path = openPanelpath(choice == Choice::File, choice == Choice::Folder);
-    if (path.isEmpty())
-        return;
+    if (!path.isEmpty())
+        take(field, key, path);
+}
+
+void Workbench::take(QLineEdit& field, const ChosenKey& key, const QString& path)
+{
     field.setText(path);
     m_defaults.setText(key, path);
     UserDefaults& defaults = m_defaults.defaults();

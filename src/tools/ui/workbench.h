@@ -65,10 +65,17 @@ public:
     /// Sizes in bytes.
     void showProgress(qint64 done, qint64 all);
 
+    /// How many of something are done, where nobody knows how many there will be.
+    void showCount(const QString& text);
+    /// For a job that reads a file: takes from any thread how much more of it was read, and shows it.
+    std::function<void(qint64 more)> progressOf(const Job& job, const QString& path);
+
     /// The chosen path; empty after Cancel.
     QString openPanelpath(bool chooseFile, bool chooseDirect);
     /// Fills the field, stores the path and flushes; nothing after Cancel.
     void choose(QLineEdit& field, const ChosenKey& key, Choice choice);
+    /// The same with a path that is known.
+    void take(QLineEdit& field, const ChosenKey& key, const QString& path);
 
     bool isBusy() const { return m_isBusy; }
     /// Runs `work` (of a Job) on another thread and hands what it gave, and whether it was cancelled, to

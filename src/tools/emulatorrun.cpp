@@ -1,0 +1,113 @@
+#include "tools/emulatorrun.h"
+
+#include "core/atomicfile.h"
+#include "launch/emulatoridentity.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <array>
+
+#include <csignal>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+namespace tessera {
+
+namespace {
+
+constexpr int lookEvery = 50; // milliseconds, whether somebody asks to stop
+constexpr qsizetype errorsKept = 2000; // bytes
+
+void prepare(QProcess& process, const QString& emulator, const QStringList& arguments)
+{
+    process.setProgram(emulator);
+    process.setArguments(arguments);
+    process.setWorkingDirectory(QFileInfo(emulator).path());
+    process.setProcessEnvironment(emulatorEnvironment());
+    process.setStandardInputFile(QProcess::nullDevice());
+    // A group of its own: one kill reaches what a start script has started. An emulator does not go on by
+    // itself when we are killed.
+    process.setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    });
+}
+
+void handOver(QProcess& process, const EmulatorRunWatch& watch)
+{
+    const QByteArray bytes = process.readAllStandardOutput();
+    if (watch.printed && !bytes.isEmpty())
+        watch.printed({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+QString lastWords(QProcess& process)
+{
+    return QString::fromUtf8(process.readAllStandardError().right(errorsKept)).trimmed();
+}
+
+} // namespace
+
+std::expected<int, Failure> runEmulator(const QString& emulator, const QStringList& arguments,
+                                        const EmulatorRunWatch& watch)
+{
+    QProcess process;
+    prepare(process, emulator, arguments);
+    process.start(QIODevice::ReadOnly);
+    if (!process.waitForStarted())
+        return std::unexpected(Failure{"build_not_started", {emulator, process.errorString()}});
+    const auto group = static_cast<pid_t>(process.processId());
+    while (process.state() != QProcess::NotRunning && !watch.stop.stop_requested()) {
+        process.waitForReadyRead(lookEvery);
+        handOver(process, watch);
+    }
+    if (process.state() != QProcess::NotRunning) {
+        ::kill(-group, SIGKILL);
+        process.waitForFinished();
+        return 0;
+    }
+    handOver(process, watch);
+    if (process.exitStatus() == QProcess::CrashExit)
+        return std::unexpected(
+            Failure{"emulator_crashed", {emulator, QString::number(process.exitCode()), lastWords(process)}});
+    return process.exitCode();
+}
+
+std::expected<std::string, Failure> printedBy(const QString& emulator, const QStringList& arguments,
+                                              bool mayFail, const EmulatorRunWatch& watch)
+{
+    std::string text;
+    const EmulatorRunWatch collecting{watch.stop, [&](std::string_view piece) {
+                                          text += piece;
+                                          if (watch.printed)
+                                              watch.printed(piece);
+                                      }};
+    const auto status = runEmulator(emulator, arguments, collecting);
+    if (!status)
+        return std::unexpected(status.error());
+    if (watch.stop.stop_requested())
+        return text;
+    const QString words = arguments.join(QLatin1Char(' '));
+    if (*status != 0 && !mayFail)
+        return std::unexpected(Failure{"emulator_status", {emulator, words, QString::number(*status)}});
+    if (text.empty())
+        return std::unexpected(Failure{"emulator_silent", {emulator, words}});
+    return text;
+}
+
+QString printedPath(const QString& name)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
+        + QStringLiteral("/Tessera/printed/") + name;
+}
+
+std::expected<void, Failure> keepPrinted(const QString& name, std::string_view text)
+{
+    const QString path = printedPath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    return writeAtomically(path, std::array{text});
+}
+
+} // namespace tessera

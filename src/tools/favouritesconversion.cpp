@@ -1,0 +1,71 @@
+#include "tools/favouritesconversion.h"
+
+#include "core/propertylist.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace tessera {
+
+namespace {
+
+constexpr char setKey[] = "romid";
+
+// As a favourite's are written.
+constexpr std::array writtenOrder{Field::Name,  Field::Cloneof, Field::Title, Field::Titlejp, Field::Year,
+                                  Field::Maker, Field::Status,  Field::Type,  Field::Device};
+static_assert(writtenOrder.size() == fieldCount);
+
+PropertyList entryOf(const RecordDictionary& record)
+{
+    PropertyList entry = PropertyList::dictionary();
+    for (const Field field : writtenOrder) {
+        const auto value = record.constFind(fieldText(fieldName(field)));
+        if (value != record.cend())
+            entry.setText(fieldName(field).data(), *value);
+    }
+    return entry;
+}
+
+} // namespace
+
+std::expected<QStringList, Failure> oldFavourites(const QString& path)
+{
+    const auto list = readPropertyList(path);
+    if (!list)
+        return std::unexpected(list.error());
+    if (list->kind() != PropertyList::Kind::Array)
+        return std::unexpected(Failure{"failure_favourites_foreign", {path}});
+    QStringList names;
+    for (const PropertyList& entry : list->items()) {
+        if (entry.kind() != PropertyList::Kind::Dictionary)
+            continue;
+        if (const auto name = entry.text(setKey))
+            names << *name;
+    }
+    return names;
+}
+
+std::expected<QByteArray, Failure> favouritesText(const QList<RecordDictionary>& records)
+{
+    PropertyList list = PropertyList::array();
+    for (const RecordDictionary& record : records)
+        list.append(entryOf(record));
+    return list.xml();
+}
+
+QString favouritesBackup(const QString& favourites, const QDateTime& when)
+{
+    return QFileInfo(favourites).path() + QStringLiteral("/jp.Plover.Tessera_Favorites_")
+        + when.toString(QStringLiteral("yyyy-MM-dd_HHmmss")) + QStringLiteral(".xml");
+}
+
+std::expected<void, Failure> moveToBackup(const QString& favourites, const QString& backup)
+{
+    QFile file(favourites);
+    if (file.rename(backup))
+        return {};
+    return std::unexpected(Failure{"favourites_not_kept", {backup, file.errorString()}});
+}
+
+} // namespace tessera

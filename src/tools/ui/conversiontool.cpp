@@ -1,0 +1,120 @@
+#include "tools/ui/conversiontool.h"
+
+#include "platform/desktop.h"
+#include "tools/conversion.h"
+#include "tools/ui/conversionpage.h"
+#include "tools/ui/workbench.h"
+#include "tools/verification.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace tessera {
+
+ConversionTool::ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHooks hooks,
+                               QObject* parent)
+    : QObject(parent)
+    , m_page(page)
+    , m_workbench(workbench)
+    , m_hooks(std::move(hooks))
+{
+    connect(m_page.button_convert, &QPushButton::clicked, this, &ConversionTool::xmloutputAction);
+    connect(m_page.button_listxml, &QPushButton::clicked, this, &ConversionTool::selectlistxml);
+    connect(m_page.button_mame32jp, &QPushButton::clicked, this, &ConversionTool::selectlocalize);
+    connect(m_page.button_useNow, &QPushButton::clicked, this, &ConversionTool::useAsCatalogue);
+    connect(m_page.button_changes, &QPushButton::clicked, this, [this] { m_hooks.showChanges(); });
+}
+
+void ConversionTool::xmloutputAction()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    m_workbench.inform(conversiontexts::started);
+    if (!QFileInfo::exists(m_page.listxmlTextField->text()))
+        return m_workbench.refuse(conversiontexts::noListxml);
+    if (!QFileInfo::exists(m_page.mame32jpTextField->text()))
+        return m_workbench.refuse(conversiontexts::noTitles);
+    outputAction();
+}
+
+void ConversionTool::outputAction()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    const ConversionOptions options{m_page.button_isbios->isChecked(),
+                                    m_page.button_ismechanical->isChecked(),
+                                    m_page.button_isdevice->isChecked()};
+    m_page.showSaved({});
+    m_workbench.indicator_start();
+    m_workbench.run(
+        [this, options, listxml = m_page.listxmlTextField->text(),
+         titles = m_page.mame32jpTextField->text()](const Job& job) {
+            return convertFiles(listxml, titles, options, {job.stop(), m_workbench.progressOf(job, listxml)});
+        },
+        [this](std::expected<ConvertedList, Failure> list, bool isCancelled) {
+            offer(std::move(list), isCancelled);
+        });
+}
+
+// After Cancel in the panel the information line stays as it is: deliberate, as nothing was written.
+void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCancelled)
+{
+    const auto end = [this] { m_workbench.indicator_stop(); };
+    if (isCancelled) {
+        m_workbench.inform(verificationtexts::cancelled);
+        return end();
+    }
+    if (!list) {
+        m_workbench.refuse(list.error().text());
+        return end();
+    }
+    m_workbench.desktop().log(conversiontexts::logged);
+    const auto path = m_workbench.desktop().savePanel(
+        {QStringLiteral("Save XMLlist file"), QStringLiteral("Tessera"), {QStringLiteral("xml")}});
+    if (path)
+        return save(*path, std::move(*list));
+    end();
+}
+
+void ConversionTool::save(const QString& path, ConvertedList list)
+{
+    m_saved = path;
+    // What a job holds is copied; a list is not.
+    auto held = std::make_shared<ConvertedList>(std::move(list));
+    const std::size_t games = held->games;
+    m_workbench.run(
+        [path, held](const Job&) { return held->text.save(path); },
+        [this, games](const std::expected<void, Failure>& written, bool) { conclude(written, games); });
+}
+
+void ConversionTool::conclude(const std::expected<void, Failure>& written, std::size_t games)
+{
+    m_workbench.indicator_stop();
+    if (!written)
+        return m_workbench.refuse(
+            QString(conversiontexts::notWritten).arg(m_saved, written.error().arguments.last()));
+    m_page.showSaved(m_saved);
+    m_workbench.conclude(conversionReport(games));
+}
+
+void ConversionTool::useAsCatalogue()
+{
+    if (m_workbench.isBusy())
+        return m_workbench.desktop().beep();
+    if (const auto changes = m_hooks.useAsCatalogue(m_saved))
+        m_page.showUsed(*changes);
+}
+
+void ConversionTool::selectlistxml()
+{
+    m_workbench.choose(*m_page.listxmlTextField, keys::listxmlPath, Workbench::Choice::File);
+}
+
+void ConversionTool::selectlocalize()
+{
+    m_workbench.choose(*m_page.mame32jpTextField, keys::localizePath, Workbench::Choice::File);
+}
+
+} // namespace tessera

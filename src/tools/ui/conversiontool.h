@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tools/listxmlconverter.h"
+#include "tools/ui/utilityhooks.h"
+
+#include <QObject>
+
+namespace tessera {
+
+class ConversionPage;
+class Workbench;
+
+/// The commands of the catalogue conversion.
+class ConversionTool : public QObject
+{
+    Q_OBJECT
+
+public:
+    ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent = nullptr);
+
+public Q_SLOTS:
+    void xmloutputAction();
+    /// Without looking whether the files are there.
+    void outputAction();
+    void selectlistxml();
+    void selectlocalize();
+    /// What was saved last takes the catalogue's place.
+    void useAsCatalogue();
+
+private:
+    void offer(std::expected<ConvertedList, Failure> list, bool isCancelled);
+    void save(const QString& path, ConvertedList list);
+    void conclude(const std::expected<void, Failure>& written, std::size_t games);
+
+    ConversionPage& m_page;
+    Workbench& m_workbench;
+    UtilityHooks m_hooks;
+    QString m_saved;
+};
+
+} // namespace tessera
