@@ -6,7 +6,7 @@
 namespace tessera {
 
 /// What `tessera` takes for a verb; anything else opens the windows.
-inline constexpr std::array<std::string_view, 8> verbNames{"arguments", "build", "convert",  "existence",
-                                                           "launch",    "list",  "separate", "verify"};
+inline constexpr std::array<std::string_view, 9> verbNames{
+    "arguments", "build", "convert", "existence", "history", "launch", "list", "separate", "verify"};
 
 } // namespace tessera

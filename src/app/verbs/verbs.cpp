@@ -20,6 +20,10 @@ constexpr std::array table{
     Verb{"existence", "LISTFULL ROMS -o REPORT",
          "Report which sets of a saved -listfull text have an archive or a folder among the ROMs.",
          &runExistence},
+    Verb{"history", "NAME [--history FILE] [--mameinfo FILE]",
+         "Print what history.dat (or history.xml) and mameinfo.dat tell about a set, as the history window "
+         "shows it.",
+         &runHistory},
     Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",

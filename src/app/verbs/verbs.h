@@ -48,6 +48,7 @@ int runArguments(const Verb& verb, const QStringList& arguments);
 int runBuild(const Verb& verb, const QStringList& arguments);
 int runConvert(const Verb& verb, const QStringList& arguments);
 int runExistence(const Verb& verb, const QStringList& arguments);
+int runHistory(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
 int runSeparate(const Verb& verb, const QStringList& arguments);
