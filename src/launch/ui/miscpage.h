@@ -32,6 +32,7 @@ public:
 
 private:
     void layOut();
+    void showLearntBios(const DefaultsController& defaults);
     void bindControls(DefaultsController& defaults);
 };
 
