@@ -103,5 +103,9 @@
     <message id="menu_clearplayed"><source></source><translation>&amp;Clear What Was Played…</translation></message>
     <message id="menu_favorites"><source></source><translation>&amp;Favourites</translation></message>
     <message id="menu_mini"><source></source><translation>M&amp;ini Window</translation></message>
+    <message id="menu_history"><source></source><translation>History and &amp;Info</translation></message>
+    <message id="menu_rominfo"><source></source><translation>Information Pa&amp;ge</translation></message>
+    <message id="menu_historywindow"><source></source><translation>&amp;History and Info</translation></message>
+    <message id="menu_bioslist"><source></source><translation>&amp;BIOS List</translation></message>
 </context>
 </TS>

@@ -103,5 +103,9 @@
     <message id="menu_clearplayed"><source></source><translation>プレイ記録を消去(&amp;C)…</translation></message>
     <message id="menu_favorites"><source></source><translation>お気に入り(&amp;F)</translation></message>
     <message id="menu_mini"><source></source><translation>ミニウインドウ(&amp;I)</translation></message>
+    <message id="menu_history"><source></source><translation>履歴と情報(&amp;I)</translation></message>
+    <message id="menu_rominfo"><source></source><translation>情報ページ(&amp;G)</translation></message>
+    <message id="menu_historywindow"><source></source><translation>履歴と情報(&amp;H)</translation></message>
+    <message id="menu_bioslist"><source></source><translation>BIOS リスト(&amp;B)</translation></message>
 </context>
 </TS>

@@ -16,6 +16,12 @@ KeyCommands::KeyCommands(std::vector<Row> rows, std::function<void(const QString
     connect(&m_keyWindow, &KeyWindow::changed, this, &KeyCommands::keyWindowChanged);
 }
 
+void KeyCommands::add(Row row)
+{
+    m_keyWindow.watch(*row.widget, row.window);
+    m_rows.push_back(std::move(row));
+}
+
 const KeyCommands::Row* KeyCommands::row() const
 {
     const auto row = std::ranges::find(m_rows, m_keyWindow.kind(), &Row::window);

@@ -34,6 +34,9 @@ public:
     KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run,
                 QObject* parent = nullptr);
 
+    /// A window that is made later.
+    void add(Row row);
+
     KeyWindow::Kind keyWindow() const { return m_keyWindow.kind(); }
     /// Nothing to undo in a window without edits of its own: the catalogue's, which is the first row's.
     QUndoStack* undoStack() const;

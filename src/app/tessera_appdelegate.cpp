@@ -1,10 +1,14 @@
 #include "app/tessera_appdelegate.h"
 
+#include "app/biosdesk.h"
 #include "app/cataloguerebuild.h"
+#include "bios/ui/bioslist.h"
+#include "bios/ui/biospanel.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
 #include "app/finding.h"
+#include "app/infodesk.h"
 #include "app/keycommands.h"
 #include "app/keytable.h"
 #include "app/mainmenu.h"
@@ -25,6 +29,8 @@
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
 #include "favourites/ui/favouriteeditor.h"
+#include "info/ui/historyobject.h"
+#include "info/ui/historywindow.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -51,6 +57,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -137,6 +144,7 @@ void Tessera_AppDelegate::loadInterface()
     keepWindowPlaces();
     joinRooms();
     joinViews();
+    joinInfo();
     openCatalogue();
 }
 
@@ -233,6 +241,41 @@ void Tessera_AppDelegate::joinViews()
         connect(stack, &QUndoStack::canRedoChanged, keys, follow);
     }
     followUndo();
+}
+
+void Tessera_AppDelegate::joinInfo()
+{
+    m_info = std::make_unique<InfoDesk>(*this, m_desktop, m_defaults,
+                                        [this](HistoryWindow& window) { takeHistoryWindow(window); });
+    m_info->addContextMenus();
+    connect(m_info.get(), &InfoDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
+    m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
+}
+
+void Tessera_AppDelegate::takeHistoryWindow(HistoryWindow& window)
+{
+    m_places.keep(window, keys::HistoryWindowGeometry.name.data());
+    carryMenuKeys(*m_mainWindow->menuBar(), window);
+    m_keyCommands->add(historyRow(*this, window));
+}
+
+BiosParts Tessera_AppDelegate::takeBiosPanel(BiosPanel& panel)
+{
+    m_places.keep(panel, keys::BiosPanelGeometry.name.data());
+    carryMenuKeys(*m_mainWindow->menuBar(), panel);
+    return {m_desktop,
+            m_defaults,
+            panel,
+            *m_pages->misc().biosPop,
+            applicationSupportFolder() + QStringLiteral("/bioslist.xml"),
+            [this] { return emulator(); },
+            [this] { return m_gameList->tableViewSelectionROM(); }};
+}
+
+KeyWindow::Kind Tessera_AppDelegate::keyWindow() const
+{
+    return m_keyCommands->keyWindow();
 }
 
 // Undo and Redo are dim while there is nothing to undo or redo in the key window.
@@ -419,7 +462,10 @@ void Tessera_AppDelegate::showPredicatePanel()
 
 void Tessera_AppDelegate::focusSearch()
 {
-    m_finding->focusSearch();
+    if (m_info->isKey())
+        m_info->window().findField->setFocus(Qt::ShortcutFocusReason);
+    else
+        m_finding->focusSearch();
 }
 
 void Tessera_AppDelegate::showAllGames()
@@ -563,6 +609,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
+    m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }
 
@@ -571,14 +618,40 @@ void Tessera_AppDelegate::utilityOrderFront()
     utility().utilityOrderFront();
 }
 
+void Tessera_AppDelegate::showHistoryinfo()
+{
+    m_info->showHistoryinfo();
+}
+
+void Tessera_AppDelegate::searchHistoryinfo()
+{
+    m_info->searchHistoryinfo();
+}
+
+void Tessera_AppDelegate::openROMinfo()
+{
+    m_info->openROMinfo();
+}
+
+void Tessera_AppDelegate::ViewBiosList()
+{
+    m_bios->list().ViewBiosList();
+}
+
 void Tessera_AppDelegate::makeTextBigger()
 {
-    m_tableFont->makeTextBigger();
+    if (m_info->isKey())
+        m_info->history().makeTextBigger();
+    else
+        m_tableFont->makeTextBigger();
 }
 
 void Tessera_AppDelegate::makeTextSmaller()
 {
-    m_tableFont->makeTextSmaller();
+    if (m_info->isKey())
+        m_info->history().makeTextSmaller();
+    else
+        m_tableFont->makeTextSmaller();
 }
 
 void Tessera_AppDelegate::showFontPanel1()

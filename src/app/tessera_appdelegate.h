@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/keywindow.h"
 #include "app/windowplaces.h"
 #include "catalogue/catalogue.h"
 #include "platform/defaultscontroller.h"
@@ -12,12 +13,17 @@ class QAction;
 
 namespace tessera {
 
+class BiosDesk;
+class BiosPanel;
+struct BiosParts;
 class CatalogueRebuild;
 class Desktop;
 class EmulatorTask;
 class FavoritesDesk;
 class GameListController;
 class Finding;
+class HistoryWindow;
+class InfoDesk;
 class KeyCommands;
 class LaunchController;
 class LaunchPages;
@@ -68,7 +74,10 @@ public:
     /// Made when it is asked for first: a start of the program needs none of its pages.
     UtilityObject& utility();
     FavoritesDesk& favorites() { return *m_favorites; }
+    BiosDesk& bios() { return *m_bios; }
+    InfoDesk& info() { return *m_info; }
     MiniDesk& mini() { return *m_mini; }
+    KeyWindow::Kind keyWindow() const;
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     RecentDocuments& recentDocuments() { return m_recent; }
@@ -110,6 +119,10 @@ public Q_SLOTS:
     void windowLog();
     void showPrefsWindow();
     void utilityOrderFront();
+    void showHistoryinfo();
+    void searchHistoryinfo();
+    void openROMinfo();
+    void ViewBiosList();
     void makeTextBigger();
     void makeTextSmaller();
     void showFontPanel1();
@@ -131,6 +144,9 @@ private:
     void joinRooms();
     void joinViews();
     void keepWindowPlaces();
+    void joinInfo();
+    void takeHistoryWindow(HistoryWindow& window);
+    BiosParts takeBiosPanel(BiosPanel& panel);
     void followUndo();
     void runGame(const QString& game);
     void openCatalogue();
@@ -158,6 +174,8 @@ private:
     std::unique_ptr<MiniDesk> m_mini;
     std::unique_ptr<WindowSwitching> m_switching;
     std::unique_ptr<KeyCommands> m_keyCommands;
+    std::unique_ptr<InfoDesk> m_info;
+    std::unique_ptr<BiosDesk> m_bios;
     WindowPlaces m_places;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;

@@ -72,6 +72,8 @@ public:
         = 0;
     /// Shows the item selected in the file manager; false where that was not possible.
     virtual bool reveal(const QString& path) = 0;
+    /// Opens a web page in the user's browser; false where that was not possible.
+    virtual bool openUrl(const QUrl& url) = 0;
     virtual void noteRecent(const QString& path) = 0;
     /// A line in the system log.
     virtual void log(const QString& line) = 0;

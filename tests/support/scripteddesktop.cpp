@@ -108,6 +108,12 @@ bool ScriptedDesktop::reveal(const QString& path)
     return QFileInfo::exists(path);
 }
 
+bool ScriptedDesktop::openUrl(const QUrl& url)
+{
+    m_transcript << QStringLiteral("url ") + url.toString(QUrl::FullyEncoded);
+    return hasBrowser;
+}
+
 void ScriptedDesktop::noteRecent(const QString& path)
 {
     m_transcript << QStringLiteral("recent ") + path;

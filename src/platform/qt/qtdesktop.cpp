@@ -125,6 +125,11 @@ bool QtDesktop::reveal(const QString& path)
         || QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
 }
 
+bool QtDesktop::openUrl(const QUrl& url)
+{
+    return QDesktopServices::openUrl(url);
+}
+
 void QtDesktop::noteRecent(const QString& path)
 {
     m_recent.note(path);

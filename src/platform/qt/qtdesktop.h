@@ -27,6 +27,7 @@ public:
     bool presentError(const QString& message, const QString& informative,
                       const std::vector<Recovery>& recoveries) override;
     bool reveal(const QString& path) override;
+    bool openUrl(const QUrl& url) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override;
