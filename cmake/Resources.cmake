@@ -3,7 +3,7 @@ function(tessera_look target)
   set(root ${PROJECT_SOURCE_DIR}/resources)
   file(GLOB icons CONFIGURE_DEPENDS ${root}/icons/*.svg)
   file(GLOB sounds CONFIGURE_DEPENDS ${root}/sounds/*.wav)
-  qt_add_resources(${target} look PREFIX / BASE ${root} FILES ${root}/theme.qss ${icons} ${sounds})
+  qt_add_resources(${target} look PREFIX / BASE ${root} FILES ${root}/theme.qss ${root}/bioslist.xml ${icons} ${sounds})
 endfunction()
 
 function(tessera_texts target)

@@ -158,5 +158,9 @@
     <message id="catalogue_use"><source></source><translation>Use it</translation></message>
     <message id="catalogue_unsaved_message"><source></source><translation>The catalogue has edits that are not saved. Put the file in its place without them?</translation></message>
     <message id="catalogue_unsaved_info"><source></source><translation>Every record is replaced. The file as it was last saved is kept under a dated name.</translation></message>
+    <message id="menu_history"><source></source><translation>History and &amp;Info</translation></message>
+    <message id="menu_rominfo"><source></source><translation>Information Pa&amp;ge</translation></message>
+    <message id="menu_historywindow"><source></source><translation>&amp;History and Info</translation></message>
+    <message id="menu_bioslist"><source></source><translation>&amp;BIOS List</translation></message>
 </context>
 </TS>

@@ -158,5 +158,9 @@
     <message id="catalogue_use"><source></source><translation>使用</translation></message>
     <message id="catalogue_unsaved_message"><source></source><translation>カタログに保存していない変更があります。破棄してファイルと置き換えますか?</translation></message>
     <message id="catalogue_unsaved_info"><source></source><translation>すべてのレコードが置き換わります。最後に保存したファイルは日付付きの名前で残ります。</translation></message>
+    <message id="menu_history"><source></source><translation>履歴と情報(&amp;I)</translation></message>
+    <message id="menu_rominfo"><source></source><translation>情報ページ(&amp;G)</translation></message>
+    <message id="menu_historywindow"><source></source><translation>履歴と情報(&amp;H)</translation></message>
+    <message id="menu_bioslist"><source></source><translation>BIOS リスト(&amp;B)</translation></message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "app/tessera_appdelegate.h"
 
+#include "app/biosdesk.h"
 #include "app/cataloguerebuild.h"
 #include "app/changesdesk.h"
 #include "app/commandsdesk.h"
@@ -10,6 +11,7 @@
 #include "app/favoriteswindow.h"
 #include "app/finding.h"
 #include "app/helpwindow.h"
+#include "app/infodesk.h"
 #include "app/keycommands.h"
 #include "app/keytable.h"
 #include "app/mainmenu.h"
@@ -22,6 +24,8 @@
 #include "app/scriptjoin.h"
 #include "app/utilityjoin.h"
 #include "app/windowswitching.h"
+#include "bios/ui/bioslist.h"
+#include "bios/ui/biospanel.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/filterpanel.h"
@@ -32,6 +36,8 @@
 #include "catalogue/ui/recordeditor.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
+#include "info/ui/historyobject.h"
+#include "info/ui/historywindow.h"
 #include "launch/emulatorfinder.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
@@ -39,6 +45,7 @@
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/launchpages.h"
 #include "launch/ui/logwindow.h"
+#include "launch/ui/miscpage.h"
 #include "launch/ui/optionpage.h"
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"
@@ -105,6 +112,7 @@ void Tessera_AppDelegate::loadInterface()
     joinViews();
     joinWindows();
     joinCommands();
+    joinInfo();
     openCatalogue();
 }
 
@@ -214,6 +222,40 @@ void Tessera_AppDelegate::joinCommands()
             &CommandsDesk::showLine);
     connect(m_commands.get(), &CommandsDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     m_commands->addAuditsTo(*bar.findChild<QMenu*>(QStringLiteral("menu_game")));
+}
+
+void Tessera_AppDelegate::joinInfo()
+{
+    m_info = std::make_unique<InfoDesk>(*this, m_desktop, m_defaults,
+                                        [this](HistoryWindow& window) { takeHistoryWindow(window); });
+    m_info->addContextMenus();
+    connect(m_info.get(), &InfoDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
+    m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
+}
+
+void Tessera_AppDelegate::takeHistoryWindow(HistoryWindow& window)
+{
+    carryMenuKeys(*m_mainWindow->menuBar(), window);
+    joinWindow(window, KeyWindow::Kind::History, keys::HistoryWindowGeometry.name.data());
+}
+
+BiosParts Tessera_AppDelegate::takeBiosPanel(BiosPanel& panel)
+{
+    m_places.keep(panel, keys::BiosPanelGeometry.name.data());
+    carryMenuKeys(*m_mainWindow->menuBar(), panel);
+    return {m_desktop,
+            m_defaults,
+            panel,
+            *m_pages->misc().biosPop,
+            applicationSupportFolder() + QStringLiteral("/bioslist.xml"),
+            [this] { return emulator(); },
+            [this] { return m_gameList->tableViewSelectionROM(); }};
+}
+
+KeyWindow::Kind Tessera_AppDelegate::keyWindow() const
+{
+    return m_keyCommands->keyWindow();
 }
 
 // What every window needs that is a key window of its own and comes back where it was left.

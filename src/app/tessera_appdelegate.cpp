@@ -1,5 +1,6 @@
 #include "app/tessera_appdelegate.h"
 
+#include "app/biosdesk.h"
 #include "app/cataloguerebuild.h"
 #include "app/changesdesk.h"
 #include "app/commandsdesk.h"
@@ -7,6 +8,7 @@
 #include "app/favoritesdesk.h"
 #include "app/finding.h"
 #include "app/helpwindow.h"
+#include "app/infodesk.h"
 #include "app/keycommands.h"
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
@@ -15,12 +17,16 @@
 #include "app/scriptjoin.h"
 #include "app/utilityjoin.h"
 #include "app/windowswitching.h"
+#include "bios/ui/bioslist.h"
+#include "bios/ui/biospanel.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
+#include "info/ui/historyobject.h"
+#include "info/ui/historywindow.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
 #include "launch/ui/generalpage.h"
@@ -46,6 +52,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTimer>
@@ -243,7 +250,10 @@ void Tessera_AppDelegate::showPredicatePanel()
 
 void Tessera_AppDelegate::focusSearch()
 {
-    m_finding->focusSearch();
+    if (m_info->isKey())
+        m_info->window().findField->setFocus(Qt::ShortcutFocusReason);
+    else
+        m_finding->focusSearch();
 }
 
 void Tessera_AppDelegate::showAllGames()
@@ -412,6 +422,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
+    m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }
 
@@ -428,14 +439,40 @@ void Tessera_AppDelegate::utilityOrderFront()
     utility().utilityOrderFront();
 }
 
+void Tessera_AppDelegate::showHistoryinfo()
+{
+    m_info->showHistoryinfo();
+}
+
+void Tessera_AppDelegate::searchHistoryinfo()
+{
+    m_info->searchHistoryinfo();
+}
+
+void Tessera_AppDelegate::openROMinfo()
+{
+    m_info->openROMinfo();
+}
+
+void Tessera_AppDelegate::ViewBiosList()
+{
+    m_bios->list().ViewBiosList();
+}
+
 void Tessera_AppDelegate::makeTextBigger()
 {
-    m_tableFont->makeTextBigger();
+    if (m_info->isKey())
+        m_info->history().makeTextBigger();
+    else
+        m_tableFont->makeTextBigger();
 }
 
 void Tessera_AppDelegate::makeTextSmaller()
 {
-    m_tableFont->makeTextSmaller();
+    if (m_info->isKey())
+        m_info->history().makeTextSmaller();
+    else
+        m_tableFont->makeTextSmaller();
 }
 
 void Tessera_AppDelegate::showFontPanel1()

@@ -13,6 +13,9 @@ class QAction;
 
 namespace tessera {
 
+class BiosDesk;
+class BiosPanel;
+struct BiosParts;
 class CatalogueRebuild;
 class ChangesDesk;
 class CommandsDesk;
@@ -22,6 +25,8 @@ class FavoritesDesk;
 class GameListController;
 class Finding;
 class HelpWindow;
+class HistoryWindow;
+class InfoDesk;
 class KeyCommands;
 class LaunchController;
 class LaunchPages;
@@ -81,7 +86,10 @@ public:
     UtilityObject& utility();
     HelpWindow& helpWindow();
     FavoritesDesk& favorites() { return *m_favorites; }
+    BiosDesk& bios() { return *m_bios; }
+    InfoDesk& info() { return *m_info; }
     MiniDesk& mini() { return *m_mini; }
+    KeyWindow::Kind keyWindow() const;
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     /// The path of the emulator that is used; empty where none is chosen or found.
@@ -133,6 +141,10 @@ public Q_SLOTS:
     void showPrefsWindow();
     void showHelpWindow();
     void utilityOrderFront();
+    void showHistoryinfo();
+    void searchHistoryinfo();
+    void openROMinfo();
+    void ViewBiosList();
     void makeTextBigger();
     void makeTextSmaller();
     void showFontPanel1();
@@ -158,6 +170,9 @@ private:
     void joinWindows();
     void joinFavoritesWindow();
     void joinMiniWindow();
+    void joinInfo();
+    void takeHistoryWindow(HistoryWindow& window);
+    BiosParts takeBiosPanel(BiosPanel& panel);
     void followUndo();
     void runGame(const QString& game);
     void openCatalogue();
@@ -185,6 +200,8 @@ private:
     std::unique_ptr<MiniDesk> m_mini;
     std::unique_ptr<WindowSwitching> m_switching;
     std::unique_ptr<KeyCommands> m_keyCommands;
+    std::unique_ptr<InfoDesk> m_info;
+    std::unique_ptr<BiosDesk> m_bios;
     WindowPlaces m_places;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;

@@ -174,6 +174,17 @@ void PropertyList::setText(const char* key, const QString& text)
     plist_dict_set_item(m_node.get(), key, plist_new_string(text.toUtf8().constData()));
 }
 
+std::optional<PropertyList> PropertyList::value(const char* key) const
+{
+    const plist_t value = plist_dict_get_item(m_node.get(), key);
+    return value == nullptr ? std::nullopt : std::optional(PropertyList(Node(plist_copy(value))));
+}
+
+void PropertyList::set(const char* key, PropertyList value)
+{
+    plist_dict_set_item(m_node.get(), key, value.m_node.release());
+}
+
 void PropertyList::remove(const char* key)
 {
     plist_dict_remove_item(m_node.get(), key);

@@ -36,6 +36,9 @@ public:
     /// is written out. Nothing where there is no such key, or no text for its value.
     std::optional<QString> text(const char* key) const;
     void setText(const char* key, const QString& text);
+    /// A copy of what a dictionary holds under a key.
+    std::optional<PropertyList> value(const char* key) const;
+    void set(const char* key, PropertyList value);
     void remove(const char* key);
 
     /// As an XML file, version 1.0, which parsePropertyList() reads again. Characters that XML cannot hold

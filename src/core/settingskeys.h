@@ -172,6 +172,13 @@ TESSERA_CHOSEN(localizePath);
 TESSERA_CHOSEN(verifyromsText);
 
 // Tessera's own
+TESSERA_CHOSEN(InfositeHost1);
+TESSERA_CHOSEN(InfositeHost2);
+TESSERA_CHOSEN(InfositeHost3);
+TESSERA_CHOSEN(InfositeHost4);
+TESSERA_CHOSEN(InfositeHost5);
+TESSERA_CHOSEN(InfositeHost6);
+TESSERA_CHOSEN(InfositeHost7);
 TESSERA_CHOSEN(RecentDocuments);
 TESSERA_CHOSEN(BuiltFrom);
 TESSERA_CHOSEN(MainWindowGeometry);
@@ -186,7 +193,11 @@ TESSERA_CHOSEN(MiniWindowGeometry);
 TESSERA_CHOSEN(MiniWindowAbove);
 TESSERA_CHOSEN(LogWindowGeometry);
 TESSERA_CHOSEN(HelpWindowGeometry);
+TESSERA_CHOSEN(HistoryWindowGeometry);
+TESSERA_CHOSEN(HistoryFollows);
 TESSERA_CHOSEN(UtilityWindowGeometry);
+TESSERA_CHOSEN(BiosPanelGeometry);
+TESSERA_CHOSEN(LearntBiosTitles);
 TESSERA_CHOSEN(RecordEditorGeometry);
 TESSERA_CHOSEN(FavoritesEditorGeometry);
 TESSERA_CHOSEN(FilterPanelGeometry);

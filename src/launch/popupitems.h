@@ -74,6 +74,15 @@ inline constexpr std::array<PopupItem, 7> logOutputs{{
 }};
 inline constexpr auto recordNames
     = detail::labels(textKey("recordname_short"), textKey("recordname_title"), textKey("recordname_titlejp"));
-inline constexpr auto biosSets = detail::labels(textKey("bios_none"));
+// Every BIOS of resources/bioslist.xml, once, in its order. What the user's games have besides is learnt and
+// stands behind; see launch/biostitles.h.
+// clang-format off
+inline constexpr std::array<PopupItem, 26> biosSets{{
+    {nullptr, textKey("bios_none")},
+    {"euro"}, {"us"}, {"japan"}, {"japan-s2"}, {"unibios40"}, {"unibios33"}, {"unibios23"}, {"v2"}, {"v1"},
+    {"jp"}, {"a"}, {"b"}, {"bios0"}, {"bios1"}, {"dual"}, {"single"}, {"ver1"}, {"europe"},
+    {"asia"}, {"usa"}, {"export"}, {"korea"}, {"std"}, {"v201"}, {"onep300"},
+}};
+// clang-format on
 
 } // namespace tessera

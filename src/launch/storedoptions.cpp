@@ -1,5 +1,6 @@
 #include "launch/storedoptions.h"
 
+#include "launch/biostitles.h"
 #include "launch/popupitems.h"
 #include "platform/defaultscontroller.h"
 
@@ -80,6 +81,16 @@ void readSound(LaunchOptions& options, const Reader& read)
     options.checkboxSoundsamples = read.box(keys::Soundsmples);
 }
 
+PopupState biosState(const Reader& read)
+{
+    const QStringList learnt = learntBiosTitles(read.defaults);
+    const int index
+        = read.position(keys::Biostype, biosSets.size() + static_cast<std::size_t>(learnt.size()));
+    if (index < static_cast<int>(biosSets.size()))
+        return read.titled(keys::Biostype, biosSets);
+    return {index, learnt[index - static_cast<int>(biosSets.size())]};
+}
+
 void readRecording(LaunchOptions& options, const Reader& read)
 {
     options.checkMovierecord = read.box(keys::Movierecord);
@@ -88,7 +99,7 @@ void readRecording(LaunchOptions& options, const Reader& read)
     options.mngnameTextField = read.defaults.text(keys::Mngfilename);
     options.avinameTextField = read.defaults.text(keys::Avifilename);
     // Position 0 has a label only; the builders send words of their own for it.
-    options.biosPop.index = read.popup(keys::Biostype, biosSets);
+    options.biosPop = biosState(read);
     options.checkBoxReplay = read.box(keys::Replaymove);
     options.replayMatrix = read.position(keys::Replaymatrix, replayRows);
     options.recordfilePop = read.popup(keys::Recordfilepop, recordNames);

@@ -77,6 +77,8 @@ public:
     /// Opens a file with a program, an executable or a desktop entry, which goes on by itself; false where it
     /// could not be started.
     virtual bool openWith(const QString& path, const QString& application) = 0;
+    /// Opens a web page in the user's browser; false where that was not possible.
+    virtual bool openUrl(const QUrl& url) = 0;
     virtual void noteRecent(const QString& path) = 0;
     /// A line in the system log.
     virtual void log(const QString& line) = 0;

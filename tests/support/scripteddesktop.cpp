@@ -120,6 +120,12 @@ bool ScriptedDesktop::openWith(const QString& path, const QString& application)
     return QFileInfo::exists(application);
 }
 
+bool ScriptedDesktop::openUrl(const QUrl& url)
+{
+    m_transcript << QStringLiteral("url ") + url.toString(QUrl::FullyEncoded);
+    return hasBrowser;
+}
+
 void ScriptedDesktop::noteRecent(const QString& path)
 {
     m_transcript << QStringLiteral("recent ") + path;

@@ -25,7 +25,7 @@ public:
     void answerColor(const QString& from, const std::optional<QString>& color);
 
     /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "color FROM", "error MESSAGE", "reveal
-    /// PATH", "folder PATH", "with APPLICATION PATH", "recent PATH", "log LINE", in order.
+    /// PATH", "folder PATH", "with APPLICATION PATH", "url ADDRESS", "recent PATH", "log LINE", in order.
     QStringList transcript() const { return m_transcript; }
     /// The first line of this text is taken out.
     void forget(const QString& line) { m_transcript.removeOne(line); }
@@ -35,6 +35,8 @@ public:
     std::vector<OpenRequest> openRequests;
     std::vector<SaveRequest> saveRequests;
     std::vector<ColorRequest> colorRequests;
+    /// What openUrl() answers.
+    bool hasBrowser = true;
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5));
 
     void beep() override;
@@ -48,6 +50,7 @@ public:
     bool reveal(const QString& path) override;
     bool openFolder(const QString& path) override;
     bool openWith(const QString& path, const QString& application) override;
+    bool openUrl(const QUrl& url) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override { return clock; }

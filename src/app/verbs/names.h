@@ -6,8 +6,8 @@
 namespace tessera {
 
 /// What `tessera` takes for a verb; anything else opens the windows.
-inline constexpr std::array<std::string_view, 13> verbNames{
-    "arguments", "build", "command", "convert", "convert-favourites", "diff",   "existence",
-    "export",    "launch", "list",   "script",  "separate",           "verify"};
+inline constexpr std::array<std::string_view, 14> verbNames{
+    "arguments", "build",  "command", "convert", "convert-favourites", "diff",  "existence", "export",
+    "history",   "launch", "list",    "script",  "separate",           "verify"};
 
 } // namespace tessera

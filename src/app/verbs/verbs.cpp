@@ -40,6 +40,10 @@ constexpr std::array table{
          "-, listsource, listclones, listbrothers, listcrc, listroms, listsamples, -, verifyroms (10), "
          "verifysamples, -, listdevices (13), listslots; 15 to 19 verify ROMs or samples again.",
          &runExport},
+    Verb{"history", "NAME [--history FILE] [--mameinfo FILE]",
+         "Print what history.dat (or history.xml) and mameinfo.dat tell about a set, as the history window "
+         "shows it.",
+         &runHistory},
     Verb{"launch", "GAME", "Start a game; the emulator's output goes to stdout and its status is ours.",
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",

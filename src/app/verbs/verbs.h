@@ -52,6 +52,7 @@ int runConvertFavourites(const Verb& verb, const QStringList& arguments);
 int runDiff(const Verb& verb, const QStringList& arguments);
 int runExistence(const Verb& verb, const QStringList& arguments);
 int runExport(const Verb& verb, const QStringList& arguments);
+int runHistory(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
 int runScript(const Verb& verb, const QStringList& arguments);

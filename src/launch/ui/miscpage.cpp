@@ -1,5 +1,6 @@
 #include "launch/ui/miscpage.h"
 
+#include "launch/biostitles.h"
 #include "launch/ui/pathchooser.h"
 #include "widgets/boundcontrols.h"
 
@@ -35,7 +36,20 @@ MiscPage::MiscPage(DefaultsController& defaults, QWidget* parent)
 {
     recordfilePop->setAccessibleName(qtTrId("replay_recordname"));
     layOut();
+    // Before it is bound: the setting may be a position among them.
+    showLearntBios(defaults);
     bindControls(defaults);
+    connect(&defaults, &DefaultsController::changed, this, [this, &defaults](const QString& name) {
+        if (name.isEmpty() || name == keys::LearntBiosTitles.name)
+            showLearntBios(defaults);
+    });
+}
+
+// They are only ever appended.
+void MiscPage::showLearntBios(const DefaultsController& defaults)
+{
+    const auto shown = static_cast<qsizetype>(biosPop->count()) - static_cast<qsizetype>(biosSets.size());
+    biosPop->addItems(learntBiosTitles(defaults).mid(shown));
 }
 
 void MiscPage::layOut()

@@ -37,6 +37,7 @@ protected:
 
 private:
     void layOut();
+    void showLearntBios(const DefaultsController& defaults);
     void bindControls(DefaultsController& defaults);
 };
 

@@ -142,6 +142,11 @@ bool QtDesktop::openWith(const QString& path, const QString& application)
     return command && QProcess::startDetached(command->constFirst(), command->mid(1), QFileInfo(path).path());
 }
 
+bool QtDesktop::openUrl(const QUrl& url)
+{
+    return QDesktopServices::openUrl(url);
+}
+
 void QtDesktop::noteRecent(const QString& path)
 {
     m_recent.note(path);

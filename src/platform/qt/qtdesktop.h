@@ -29,6 +29,7 @@ public:
     bool reveal(const QString& path) override;
     bool openFolder(const QString& path) override;
     bool openWith(const QString& path, const QString& application) override;
+    bool openUrl(const QUrl& url) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override;

@@ -1,0 +1,210 @@
+#include "app/infodesk.h"
+
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/preferenceswindow.h"
+#include "app/tessera_appdelegate.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "favourites/ui/favouritestable.h"
+#include "info/ui/historyobject.h"
+#include "info/ui/historywindow.h"
+#include "info/ui/infopage.h"
+#include "info/ui/infosites.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+#include "widgets/bringforward.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+using Kind = KeyWindow::Kind;
+
+// What stands for the parent of a name that was typed.
+constexpr QLatin1StringView unknownParent("????");
+
+struct ListMenu {
+    int tag;
+    Kind list;
+};
+
+constexpr std::array listMenus{ListMenu{2, Kind::Main}, ListMenu{3, Kind::Favorites}};
+
+void addToMenu(QAbstractItemView& list, InfoDesk& desk, int tag)
+{
+    auto* history = new QAction(qtTrId("menu_history"), &list);
+    QObject::connect(history, &QAction::triggered, &desk, [&desk, tag] { desk.searchHistoryinfo_menu(tag); });
+    auto* page = new QAction(qtTrId("menu_rominfo"), &list);
+    QObject::connect(page, &QAction::triggered, &desk, &InfoDesk::openROMinfo);
+    list.addActions({history, page});
+    list.setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+} // namespace
+
+InfoDesk::InfoDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
+                   std::function<void(HistoryWindow& window)> made, QObject* parent)
+    : QObject(parent)
+    , m_hub(hub)
+    , m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_made(std::move(made))
+    , m_subjects(subjects())
+{
+    connect(&hub.gameList(), &GameListController::selectionChanged, this, [this] { follow(Kind::Main); });
+    connect(&hub.favorites().controller(), &UCAppController::selectionChanged, this,
+            [this] { follow(Kind::Favorites); });
+}
+
+InfoDesk::~InfoDesk() = default;
+
+std::vector<InfoDesk::Subject> InfoDesk::subjects()
+{
+    GameListController& list = m_hub.gameList();
+    UCAppController& favorites = m_hub.favorites().controller();
+    MiniDesk& mini = m_hub.mini();
+    const Reader game = [&list] { return list.tableViewSelectionROM(); };
+    const Reader parent = [&list] { return list.tableViewSelectionParentROM(); };
+    const Reader favorite = [&favorites] { return favorites.tableViewSelectionROM2(); };
+    const Reader favoriteParent = [&favorites] { return favorites.tableViewSelectionCloneof(); };
+    const Reader typed = [&mini] { return mini.game(); };
+    // Deliberate: the record editor shows the game list's name, and looks up the favourites' parent.
+    // clang-format off
+    return {
+        {Kind::Main,            game,     parent,         game},
+        {Kind::Favorites,       favorite, favoriteParent, favorite},
+        {Kind::FavoritesEditor, favorite, favoriteParent, nullptr},
+        {Kind::Mini,            typed,    typed,          typed},
+        {Kind::Editor,          game,     favoriteParent, game},
+    };
+    // clang-format on
+}
+
+const InfoDesk::Subject* InfoDesk::subject() const
+{
+    const auto found = std::ranges::find(m_subjects, m_hub.keyWindow(), &Subject::window);
+    return found == m_subjects.end() ? nullptr : &*found;
+}
+
+HistoryWindow& InfoDesk::window()
+{
+    if (!m_window) {
+        m_window = std::make_unique<HistoryWindow>();
+        m_history = std::make_unique<HistoryObject>(m_desktop, m_defaults, *m_window);
+        connect(m_history.get(), &HistoryObject::statusMessage, this, &InfoDesk::statusMessage);
+        m_made(*m_window);
+        m_history->awakeFromNib();
+    }
+    return *m_window;
+}
+
+HistoryObject& InfoDesk::history()
+{
+    window();
+    return *m_history;
+}
+
+InfoSites& InfoDesk::sites()
+{
+    if (!m_sites)
+        m_sites = std::make_unique<InfoSites>(m_desktop, m_defaults);
+    return *m_sites;
+}
+
+void InfoDesk::addPage(PreferencesWindow& preferences)
+{
+    if (!std::exchange(m_hasPage, true))
+        preferences.addPage(sites().makePage(), qtTrId("page_information"), QStringLiteral("information"));
+}
+
+void InfoDesk::addContextMenus()
+{
+    addToMenu(*m_hub.mainWindow().gameTable, *this, listMenus[0].tag);
+    addToMenu(*m_hub.favorites().window().favoritesTable, *this, listMenus[1].tag);
+}
+
+// What was never loaded is read when its window is first asked for.
+void InfoDesk::pathChosen(const QString& key)
+{
+    if (!m_history)
+        return;
+    if (key == keys::HistoryPath.name)
+        m_history->set_histryString();
+    else if (key == keys::MameinfoPath.name)
+        m_history->set_infoString();
+}
+
+void InfoDesk::showHistoryinfo()
+{
+    if (window().isVisible())
+        window().close();
+    else
+        bringForward(window());
+}
+
+void InfoDesk::searchHistoryinfo()
+{
+    const Subject* asked = subject();
+    if (asked == nullptr)
+        return;
+    show(asked->name(), asked->key());
+    if (asked->window == Kind::Mini && !asked->key().isEmpty())
+        m_window->showParent(unknownParent);
+}
+
+void InfoDesk::searchHistoryinfo_menu(int tag)
+{
+    const auto* menu = std::ranges::find(listMenus, tag, &ListMenu::tag);
+    if (menu == listMenus.end())
+        return;
+    const auto asked = std::ranges::find(m_subjects, menu->list, &Subject::window);
+    show(asked->name(), asked->key());
+}
+
+// To the front, but the list stays key.
+void InfoDesk::show(const QString& name, const QString& key)
+{
+    if (key.isEmpty())
+        return;
+    HistoryWindow& shown = window();
+    shown.historySearchField->setText(name);
+    shown.showParent(key);
+    m_history->searchHistoryInfo(key);
+    if (shown.isVisible())
+        return;
+    shown.setAttribute(Qt::WA_ShowWithoutActivating);
+    shown.show();
+    shown.raise();
+    shown.setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+void InfoDesk::follow(KeyWindow::Kind list)
+{
+    if (!m_window || !m_window->isVisible() || !m_defaults.defaults().flag(keys::HistoryFollows.name))
+        return;
+    const auto asked = std::ranges::find(m_subjects, list, &Subject::window);
+    m_history->followTo(asked->name(), asked->key());
+}
+
+// No set is meant in any other window.
+void InfoDesk::openROMinfo()
+{
+    const Subject* asked = subject();
+    sites().openROMinfo(asked != nullptr && asked->site ? asked->site() : QString());
+}
+
+bool InfoDesk::isKey() const
+{
+    return m_window && m_hub.keyWindow() == Kind::History;
+}
+
+} // namespace tessera

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "app/keywindow.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QMenuBar;
+
+namespace tessera {
+
+class DefaultsController;
+class Desktop;
+class HistoryObject;
+class HistoryWindow;
+class InfoSites;
+class PreferencesWindow;
+class Tessera_AppDelegate;
+
+/// Which set is meant when its history or its page is asked for: one table of key windows. The window, its
+/// files and the sites are made when they are first asked for.
+class InfoDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `made` gets the history window once, to give it a place, keys and a row among the key windows.
+    InfoDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
+             std::function<void(HistoryWindow& window)> made, QObject* parent = nullptr);
+    ~InfoDesk() override;
+
+    HistoryWindow& window();
+    HistoryObject& history();
+    InfoSites& sites();
+    /// Puts the page of the sites into the preferences, once.
+    void addPage(PreferencesWindow& preferences);
+    /// The lists' own menus.
+    void addContextMenus();
+    /// A file was chosen anew.
+    void pathChosen(const QString& key);
+
+    void showHistoryinfo();
+    void searchHistoryinfo();
+    /// For the list whose menu was used: 2 the game list, 3 the favourites; any other tag, nothing.
+    void searchHistoryinfo_menu(int tag);
+    void openROMinfo();
+    /// Where the history window is key, what else has the same key.
+    bool isKey() const;
+
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
+private:
+    using Reader = std::function<QString()>;
+    struct Subject {
+        KeyWindow::Kind window;
+        Reader name; ///< that is shown
+        Reader key; ///< that is looked up
+        Reader site; ///< whose page is opened; none
+    };
+
+    std::vector<Subject> subjects();
+    const Subject* subject() const;
+    void show(const QString& name, const QString& key);
+    void follow(KeyWindow::Kind list);
+
+    Tessera_AppDelegate& m_hub;
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    std::function<void(HistoryWindow& window)> m_made;
+    std::vector<Subject> m_subjects;
+    std::unique_ptr<HistoryWindow> m_window;
+    std::unique_ptr<HistoryObject> m_history;
+    std::unique_ptr<InfoSites> m_sites;
+    bool m_hasPage = false;
+};
+
+} // namespace tessera

@@ -1,0 +1,68 @@
+#include "bios/biosquestion.h"
+
+#include <QProcessEnvironment>
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+constexpr int patience = 2000; // milliseconds
+}
+
+bool isSetName(const QString& name)
+{
+    return !name.isEmpty() && std::ranges::all_of(name, [](QChar c) {
+        return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') || c == u'_';
+    });
+}
+
+BiosQuestion::BiosQuestion(const QString& emulator, const QString& set, QObject* parent)
+    : QObject(parent)
+    , m_emulator(emulator)
+    , m_set(set)
+    , m_sets(set.isEmpty() ? BiosSets::Machines::BiosOnly : BiosSets::Machines::All)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // A comma as decimal sign would not be what other versions print.
+    environment.insert(QStringLiteral("LC_NUMERIC"), QStringLiteral("C"));
+    m_process.setProcessEnvironment(environment);
+    m_process.setStandardInputFile(QProcess::nullDevice());
+    m_process.setStandardErrorFile(QProcess::nullDevice());
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, [this] {
+        const QByteArray piece = m_process.readAllStandardOutput();
+        m_sets.take({piece.constData(), static_cast<std::size_t>(piece.size())});
+    });
+    connect(&m_process, &QProcess::finished, this, &BiosQuestion::end);
+    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            Q_EMIT failed(Failure{"bios_not_started", {m_emulator, m_process.errorString()}});
+    });
+}
+
+BiosQuestion::~BiosQuestion()
+{
+    m_process.disconnect(this);
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.kill();
+    m_process.waitForFinished(patience);
+}
+
+void BiosQuestion::ask()
+{
+    QStringList arguments{QStringLiteral("-listxml")};
+    if (!m_set.isEmpty())
+        arguments << m_set;
+    m_process.start(m_emulator, arguments);
+}
+
+void BiosQuestion::end(int status, QProcess::ExitStatus how)
+{
+    if (how != QProcess::NormalExit || status != 0)
+        Q_EMIT failed(Failure{"bios_no_answer", {m_emulator}});
+    else
+        Q_EMIT answered();
+}
+
+} // namespace tessera

@@ -1,0 +1,224 @@
+#include "bios/ui/bioslist.h"
+
+#include "bios/biosquestion.h"
+#include "bios/ui/biosmodel.h"
+#include "bios/ui/biospanel.h"
+#include "core/atomicfile.h"
+#include "launch/biostitles.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+#include "widgets/bringforward.h"
+#include "widgets/theme.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeView>
+
+namespace tessera {
+
+namespace {
+
+const QString shippedFile = QStringLiteral(":/bioslist.xml");
+constexpr int iconSize = 32;
+
+// What the panel says; the same in every language.
+constexpr QLatin1StringView exists("This file exist");
+constexpr QLatin1StringView missing("This file does not exist");
+constexpr std::array<QLatin1StringView, fixedRows> fixedTexts{QLatin1StringView("Bios is blank"),
+                                                              QLatin1StringView("Use the default BIOS")};
+constexpr QLatin1StringView changed("Changed the BIOS setting to \"%1\"");
+
+} // namespace
+
+Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
+    : QObject(parent)
+    , m_parts(parts)
+{
+    BiosPanel& panel = m_parts.panel;
+    connect(panel.biosView, &QTreeView::doubleClicked, this, &Bioslist::tableViewDoubleAction);
+    connect(panel.biosView, &QTreeView::activated, this, [this](const QModelIndex&) {
+        // Return; a double click has its own signal.
+        if (QGuiApplication::mouseButtons() == Qt::NoButton)
+            tableViewDoubleAction();
+    });
+    connect(panel.biosView->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &Bioslist::outlineViewSelectionDidChange);
+    connect(panel.treeController_list, &BiosModel::edited, this, &Bioslist::saveAction);
+    connect(panel.treeController_list, &BiosModel::dataChanged, this,
+            &Bioslist::outlineViewSelectionDidChange);
+    connect(panel.treeController_list, &BiosModel::modelReset, this,
+            &Bioslist::outlineViewSelectionDidChange);
+    connect(panel.addButton, &QToolButton::clicked, this, &Bioslist::addEntry);
+    connect(panel.removeButton, &QToolButton::clicked, this, &Bioslist::removeEntry);
+    connect(panel.gameButton, &QPushButton::clicked, this, &Bioslist::addOfGame);
+    connect(panel.rebuildButton, &QPushButton::clicked, this, &Bioslist::rebuild);
+}
+
+Bioslist::~Bioslist() = default;
+
+QString Bioslist::pathOfDataFile() const
+{
+    return QFileInfo::exists(m_parts.ownFile) ? m_parts.ownFile : shippedFile;
+}
+
+void Bioslist::awakeFromNib()
+{
+    const QString path = pathOfDataFile();
+    if (!QFileInfo::exists(path)) {
+        m_parts.desktop.log(QStringLiteral("bioslist.xml not found"));
+    } else if (const auto entries = readBiosEntries(path)) {
+        m_parts.panel.treeController_list->setEntries(*entries);
+    } else {
+        m_parts.desktop.log(entries.error().text());
+    }
+    m_parts.panel.expandAll();
+    outlineViewSelectionDidChange();
+}
+
+void Bioslist::ViewBiosList()
+{
+    if (m_parts.panel.isVisible())
+        m_parts.panel.close();
+    else
+        bringForward(m_parts.panel);
+}
+
+void Bioslist::showIcon(const QIcon& icon)
+{
+    m_parts.panel.image_icon->setPixmap(
+        icon.pixmap(QSize(iconSize, iconSize), m_parts.panel.devicePixelRatioF()));
+}
+
+// The platform's own, where it has one.
+QIcon Bioslist::iconOf(const BiosEntry& entry) const
+{
+    const QString archive = m_parts.defaults.text(keys::RomsPath) + u'/' + entry.rom + QStringLiteral(".zip");
+    const QIcon icon = QFileIconProvider().icon(QFileInfo(archive));
+    return icon.isNull() ? theme::icon(QStringLiteral("romfile")) : icon;
+}
+
+void Bioslist::outlineViewSelectionDidChange()
+{
+    const BiosModel& list = *m_parts.panel.treeController_list;
+    const QModelIndex current = m_parts.panel.biosView->currentIndex();
+    const auto entry = list.entry(current);
+    const auto fixed = list.fixedRow(current);
+    QLabel& text = *m_parts.panel.text_infomation;
+    m_parts.panel.removeButton->setEnabled(entry && !fixed);
+    if (entry && !fixed) {
+        const bool isThere = hasArchive(m_parts.defaults.text(keys::RomsPath), entry->rom);
+        showIcon(isThere ? iconOf(*entry) : theme::icon(QStringLiteral("no_romfile"), "faint"));
+        text.setText(isThere ? exists : missing);
+        return;
+    }
+    showIcon(theme::icon(QStringLiteral("romfile")));
+    text.setText(fixed ? QString(fixedTexts[static_cast<std::size_t>(*fixed)]) : QString());
+}
+
+void Bioslist::tableViewDoubleAction()
+{
+    const auto entry = m_parts.panel.treeController_list->entry(m_parts.panel.biosView->currentIndex());
+    if (!entry)
+        return;
+    QComboBox& popup = m_parts.popup_bios;
+    const int titled = entry->bios == defaultBios
+        ? 0
+        : popup.findText(entry->bios, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (titled >= 0)
+        popup.setCurrentIndex(titled);
+    m_parts.defaults.setIndex(keys::Biostype, popup.currentIndex());
+    m_parts.desktop.playSound(QStringLiteral("Pop"));
+    m_parts.panel.text_infomation->setText(QString(changed).arg(entry->bios));
+}
+
+void Bioslist::saveAction()
+{
+    const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries());
+    if (!xml) {
+        m_parts.desktop.log(xml.error().text());
+        return;
+    }
+    QDir().mkpath(QFileInfo(m_parts.ownFile).absolutePath());
+    const std::array pieces{std::string_view(xml->constData(), static_cast<std::size_t>(xml->size()))};
+    if (const auto written = writeAtomically(m_parts.ownFile, pieces); !written)
+        m_parts.desktop.log(written.error().text());
+}
+
+void Bioslist::addEntry()
+{
+    const QModelIndex added = m_parts.panel.treeController_list->add({});
+    m_parts.panel.biosView->setCurrentIndex(added);
+    m_parts.panel.biosView->edit(added);
+}
+
+void Bioslist::removeEntry()
+{
+    if (!m_parts.panel.treeController_list->remove(m_parts.panel.biosView->currentIndex()))
+        m_parts.desktop.beep();
+}
+
+void Bioslist::rebuild()
+{
+    m_askedGame.clear();
+    ask(QString());
+}
+
+void Bioslist::addOfGame()
+{
+    m_askedGame = m_parts.game();
+    if (isSetName(m_askedGame))
+        ask(m_askedGame);
+    else
+        m_parts.desktop.beep();
+}
+
+void Bioslist::ask(const QString& set)
+{
+    const QString emulator = m_parts.emulator();
+    if (isAsking() || emulator.isEmpty()) {
+        m_parts.desktop.beep();
+        return;
+    }
+    m_question = std::make_unique<BiosQuestion>(emulator, set);
+    connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::take);
+    connect(m_question.get(), &BiosQuestion::failed, this, &Bioslist::fail);
+    m_parts.panel.setAsking(true);
+    m_parts.panel.text_infomation->setText(qtTrId("bios_asking"));
+    m_question->ask();
+}
+
+// Nobody's own entries get lost, and what was known stays where it was.
+void Bioslist::take()
+{
+    BiosModel& list = *m_parts.panel.treeController_list;
+    const BiosEntries found = m_question->entries();
+    m_question.release()->deleteLater();
+    const BiosEntries known = list.entries();
+    const BiosEntries merged = mergedBiosEntries(known, found);
+    list.setEntries(merged);
+    m_parts.panel.expandAll();
+    saveAction();
+    if (!m_askedGame.isEmpty())
+        learnBiosTitles(m_parts.defaults, biosNames(found));
+    m_parts.panel.setAsking(false);
+    const auto sets = static_cast<int>(merged.size() - known.size());
+    m_parts.panel.text_infomation->setText(
+        found.empty() ? qtTrId("bios_none_found") : qtTrId("bios_added").arg(QLocale().toString(sets)));
+    Q_EMIT asked();
+}
+
+void Bioslist::fail(const Failure& failure)
+{
+    m_question.release()->deleteLater();
+    m_parts.panel.setAsking(false);
+    m_parts.panel.text_infomation->setText(failure.text());
+    m_parts.desktop.beep();
+    Q_EMIT asked();
+}
+
+} // namespace tessera

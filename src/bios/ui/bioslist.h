@@ -1,0 +1,75 @@
+#pragma once
+
+#include "bios/biosentry.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QIcon;
+
+namespace tessera {
+
+class BiosPanel;
+class BiosQuestion;
+class DefaultsController;
+class Desktop;
+
+/// What the BIOS list needs; all of it outlives the controller.
+struct BiosParts {
+    Desktop& desktop;
+    DefaultsController& defaults;
+    BiosPanel& panel;
+    QComboBox& popup_bios; ///< of the launch options
+    QString ownFile; ///< the user's copy of the list
+    std::function<QString()> emulator; ///< its path, empty where there is none
+    std::function<QString()> game; ///< the selected game's set name
+};
+
+/// The commands of the BIOS panel.
+class Bioslist : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Bioslist(const BiosParts& parts, QObject* parent = nullptr);
+    ~Bioslist() override;
+
+    /// Loads the list and shows all of it.
+    void awakeFromNib();
+    /// The user's copy, or the list that is shipped.
+    QString pathOfDataFile() const;
+    bool isAsking() const { return m_question != nullptr; }
+
+public Q_SLOTS:
+    void ViewBiosList();
+    void outlineViewSelectionDidChange();
+    void tableViewDoubleAction();
+    /// Writes the list to the user's copy.
+    void saveAction();
+    /// Adds what the user's emulator knows.
+    void rebuild();
+    /// Adds what the selected game can choose from, and its names to the pop-up.
+    void addOfGame();
+    void addEntry();
+    void removeEntry();
+
+Q_SIGNALS:
+    /// Asking an emulator is over.
+    void asked();
+
+private:
+    void ask(const QString& set);
+    void take();
+    void fail(const Failure& failure);
+    void showIcon(const QIcon& icon);
+    QIcon iconOf(const BiosEntry& entry) const;
+
+    BiosParts m_parts;
+    std::unique_ptr<BiosQuestion> m_question;
+    QString m_askedGame;
+};
+
+} // namespace tessera

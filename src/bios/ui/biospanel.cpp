@@ -1,0 +1,117 @@
+#include "bios/ui/biospanel.h"
+
+#include "bios/ui/biosmodel.h"
+#include "widgets/closekeys.h"
+#include "widgets/myscrollers.h"
+#include "widgets/toolbutton.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+constexpr QSize firstSize(560, 620);
+constexpr int iconSize = 32;
+constexpr int nameWidth = 300;
+constexpr int biosWidth = 110;
+} // namespace
+
+BiosPanel::BiosPanel(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , treeController_list(new BiosModel(this))
+    , biosView(new QTreeView)
+{
+    setObjectName(QStringLiteral("panel_bios"));
+    setWindowTitle(qtTrId("bios_title"));
+    biosView->setObjectName(QStringLiteral("biosView"));
+    biosView->setAccessibleName(qtTrId("bios_title"));
+    biosView->setModel(treeController_list);
+    biosView->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    // A double click chooses.
+    biosView->setExpandsOnDoubleClick(false);
+    biosView->setUniformRowHeights(true);
+    biosView->setVerticalScrollBar(new MyScrollers(Qt::Vertical));
+    biosView->header()->resizeSection(BiosModel::Name, nameWidth);
+    biosView->header()->resizeSection(BiosModel::Bios, biosWidth);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeToolRow());
+    layout->addWidget(biosView, 1);
+    layout->addWidget(makeFoot());
+    closeByKeyboard(*this);
+    resize(firstSize);
+}
+
+QWidget* BiosPanel::makeToolRow()
+{
+    auto* row = new QWidget;
+    row->setProperty("role", QStringLiteral("toolbar"));
+    row->setAttribute(Qt::WA_StyledBackground);
+    addButton = toolButton(QStringLiteral("add"), qtTrId("bios_add"));
+    removeButton = toolButton(QStringLiteral("remove"), qtTrId("bios_remove"));
+    gameButton = new QPushButton(qtTrId("bios_of_game"));
+    gameButton->setObjectName(QStringLiteral("gameButton"));
+    gameButton->setToolTip(qtTrId("bios_of_game_tip"));
+    rebuildButton = new QPushButton(qtTrId("bios_rebuild"));
+    rebuildButton->setObjectName(QStringLiteral("rebuildBiosButton"));
+    rebuildButton->setToolTip(qtTrId("bios_rebuild_tip"));
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(12, 10, 12, 10);
+    layout->setSpacing(8);
+    layout->addWidget(addButton);
+    layout->addWidget(removeButton);
+    layout->addStretch(1);
+    layout->addWidget(gameButton);
+    layout->addWidget(rebuildButton);
+    return row;
+}
+
+QWidget* BiosPanel::makeFoot()
+{
+    auto* foot = new QWidget;
+    foot->setProperty("role", QStringLiteral("foot"));
+    foot->setAttribute(Qt::WA_StyledBackground);
+    image_icon = new QLabel;
+    image_icon->setObjectName(QStringLiteral("image_icon"));
+    image_icon->setFixedSize(iconSize, iconSize);
+    image_icon->setAlignment(Qt::AlignCenter);
+    text_infomation = new QLabel;
+    text_infomation->setObjectName(QStringLiteral("text_infomation"));
+    text_infomation->setTextFormat(Qt::PlainText);
+    text_infomation->setProperty("role", QStringLiteral("dim"));
+    text_infomation->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(16, 10, 16, 10);
+    layout->setSpacing(12);
+    layout->addWidget(image_icon);
+    layout->addWidget(text_infomation, 1);
+    return foot;
+}
+
+void BiosPanel::expandAll()
+{
+    biosView->expandAll();
+    biosView->scrollToTop();
+}
+
+void BiosPanel::setAsking(bool asking)
+{
+    gameButton->setEnabled(!asking);
+    rebuildButton->setEnabled(!asking);
+}
+
+void BiosPanel::showEvent(QShowEvent* event)
+{
+    biosView->setFocus();
+    QWidget::showEvent(event);
+}
+
+} // namespace tessera

@@ -1,0 +1,216 @@
+#include "info/ui/historyobject.h"
+
+#include "info/ui/historywindow.h"
+#include "launch/ui/logview.h"
+#include "platform/defaultscontroller.h"
+#include "platform/desktop.h"
+#include "widgets/boundcontrols.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+
+// Milliseconds without another selection, so that running through a list searches nothing.
+constexpr int settled = 120;
+constexpr int smallestSize = 4;
+constexpr int largestSize = 200;
+
+} // namespace
+
+HistoryObject::HistoryObject(Desktop& desktop, DefaultsController& defaults, HistoryWindow& window,
+                             QObject* parent)
+    : QObject(parent)
+    , m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_window(window)
+    , m_finder(*window.historyinfoTextView, *window.findField, *window.findCount)
+    , m_history{{keys::HistoryPath, historytexts::historyMissing, historytexts::historyFailed}, {}}
+    , m_info{{keys::MameinfoPath, historytexts::infoMissing, historytexts::infoFailed}, {}}
+    , m_following(new QTimer(this))
+{
+    m_following->setSingleShot(true);
+    m_following->setInterval(settled);
+    connect(m_following, &QTimer::timeout, this, [this] { search(m_next); });
+    connect(window.historySearchField, &QLineEdit::returnPressed, this, &HistoryObject::searchAction);
+    connect(window.filedButton, &QPushButton::clicked, this, &HistoryObject::showFiled);
+    connect(window.smallerButton, &QToolButton::clicked, this, &HistoryObject::makeTextSmaller);
+    connect(window.biggerButton, &QToolButton::clicked, this, &HistoryObject::makeTextBigger);
+    connect(window.historyButton, &QPushButton::clicked, this, &HistoryObject::chooseHistory);
+    connect(window.mameinfoButton, &QPushButton::clicked, this, &HistoryObject::chooseMameinfo);
+    bind(*window.followBox, defaults, keys::HistoryFollows);
+    connect(&defaults, &DefaultsController::changed, this, &HistoryObject::settingChanged);
+    settingChanged(QString());
+}
+
+HistoryObject::~HistoryObject() = default;
+
+void HistoryObject::awakeFromNib()
+{
+    m_text.clear();
+    set_histryString();
+    set_infoString();
+}
+
+void HistoryObject::set_histryString()
+{
+    load(m_history);
+}
+
+void HistoryObject::set_infoString()
+{
+    load(m_info);
+}
+
+void HistoryObject::load(Loaded& which)
+{
+    const QString path = m_defaults.text(which.kind.key);
+    if (!QFileInfo::exists(path)) {
+        showText(m_text + which.kind.missing);
+        return;
+    }
+    which.isLoading = true;
+    m_window.showLoading(true);
+    m_pool.start([this, &which, path, load = ++which.load] {
+        const auto read = std::make_shared<std::expected<InfoFile, Failure>>(InfoFile::read(path));
+        QMetaObject::invokeMethod(
+            this, [this, &which, load, read] { take(which, load, read); }, Qt::QueuedConnection);
+    });
+}
+
+void HistoryObject::take(Loaded& which, int load,
+                         const std::shared_ptr<std::expected<InfoFile, Failure>>& read)
+{
+    if (load != which.load)
+        return;
+    which.isLoading = false;
+    which.file = *read ? std::make_unique<const InfoFile>(*std::move(*read)) : nullptr;
+    if (!*read)
+        m_desktop.log(QString(which.kind.failed).arg(read->error().text()));
+    if (isLoading())
+        return;
+    m_window.showLoading(false);
+    if (m_waiting)
+        showFound(*std::exchange(m_waiting, std::nullopt));
+    Q_EMIT loaded();
+}
+
+void HistoryObject::chooseHistory()
+{
+    choose(m_history);
+}
+
+void HistoryObject::chooseMameinfo()
+{
+    choose(m_info);
+}
+
+void HistoryObject::choose(Loaded& which)
+{
+    const auto path = m_desktop.openPanel({});
+    if (!path || path->isEmpty())
+        return;
+    m_defaults.setText(which.kind.key, *path);
+    if (!m_defaults.defaults().synchronize())
+        Q_EMIT statusMessage(Failure{"failure_settings", {m_defaults.defaults().path()}}.text());
+    load(which);
+}
+
+void HistoryObject::searchHistoryInfo(const QString& name)
+{
+    search({name});
+}
+
+void HistoryObject::searchAction()
+{
+    search({m_window.historySearchField->text()});
+    m_window.showParent(QString());
+}
+
+void HistoryObject::showFiled()
+{
+    search({m_shownName, FiledEntries::Show});
+}
+
+void HistoryObject::followTo(const QString& name, const QString& key)
+{
+    if (key.isEmpty())
+        return;
+    m_window.historySearchField->setText(name);
+    m_window.showParent(key);
+    m_next = {key, FiledEntries::LeaveOut, false};
+    m_following->start();
+}
+
+void HistoryObject::search(const Wanted& wanted)
+{
+    m_following->stop();
+    if (wanted.name.isEmpty()) {
+        m_waiting.reset();
+        m_window.showFiled(QString());
+        showText(historytexts::noName);
+        m_window.showParent(QString());
+        return;
+    }
+    if (isLoading()) {
+        m_waiting = wanted;
+        return;
+    }
+    showFound(wanted);
+}
+
+void HistoryObject::showFound(const Wanted& wanted)
+{
+    m_shownName = wanted.name;
+    const HistoryText found
+        = historyText({m_history.file.get(), m_info.file.get()}, wanted.name.toStdString(), wanted.filed);
+    m_window.showFiled(QString::fromStdString(found.filedUnder.value_or("")));
+    showText(QString::fromStdString(found.text));
+    if (wanted.withSound)
+        m_desktop.playSound(QStringLiteral("sound_page"));
+}
+
+void HistoryObject::showText(const QString& text)
+{
+    m_text = text;
+    m_window.historyinfoTextView->replace(text);
+    m_window.historyinfoTextView->moveCursor(QTextCursor::Start);
+    m_finder.findAgain();
+}
+
+void HistoryObject::settingChanged(const QString& name)
+{
+    if (name.isEmpty() || name == keys::History_fontsize.name)
+        m_window.setFontSize(qBound(smallestSize, m_defaults.index(keys::History_fontsize), largestSize));
+    if (name.isEmpty() || name == keys::HistoryPath.name || name == keys::MameinfoPath.name)
+        m_window.showPaths(m_defaults.text(keys::HistoryPath), m_defaults.text(keys::MameinfoPath));
+}
+
+// The same limits as those of the game list; each way is open from where the other one can lead.
+void HistoryObject::makeTextBigger()
+{
+    step(1, 9, 27);
+}
+
+void HistoryObject::makeTextSmaller()
+{
+    step(-1, 10, 28);
+}
+
+void HistoryObject::step(int by, int smallest, int largest)
+{
+    const int size = m_defaults.index(keys::History_fontsize);
+    if (size < smallest || size > largest)
+        m_desktop.beep();
+    else
+        m_defaults.setIndex(keys::History_fontsize, size + by);
+}
+
+} // namespace tessera

@@ -1,0 +1,164 @@
+#include "info/ui/historywindow.h"
+
+#include "launch/ui/logview.h"
+#include "widgets/closekeys.h"
+#include "widgets/theme.h"
+#include "widgets/toolbutton.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+
+constexpr QSize firstSize(720, 620);
+constexpr int nameWidth = 170;
+constexpr int findWidth = 150;
+
+QLineEdit* searchField(const char* name, const QString& says, int width)
+{
+    auto* field = new QLineEdit;
+    field->setObjectName(QLatin1String(name));
+    field->setPlaceholderText(says);
+    field->setAccessibleName(says);
+    field->setClearButtonEnabled(true);
+    field->addAction(theme::icon(QStringLiteral("search"), "faint"), QLineEdit::LeadingPosition);
+    field->setFixedWidth(width);
+    return field;
+}
+
+// Names and paths come from files.
+QLabel* plainLabel(const char* role)
+{
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("role", QLatin1String(role));
+    return label;
+}
+
+QPushButton* link(const char* name, const QString& text)
+{
+    auto* button = new QPushButton(text);
+    button->setObjectName(QLatin1String(name));
+    button->setProperty("role", QStringLiteral("link"));
+    return button;
+}
+
+QString escaped(QString text)
+{
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
+HistoryWindow::HistoryWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , historyinfoTextView(new LogView(this))
+{
+    setObjectName(QStringLiteral("historyWindow"));
+    setWindowTitle(qtTrId("history_title"));
+    historyinfoTextView->setObjectName(QStringLiteral("historyinfoTextView"));
+    historyinfoTextView->setAccessibleName(qtTrId("history_title"));
+    historyinfoTextView->setProperty("role", QStringLiteral("reading"));
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeToolRow());
+    layout->addWidget(historyinfoTextView, 1);
+    layout->addWidget(makeFoot());
+    closeByKeyboard(*this);
+    resize(firstSize);
+}
+
+QWidget* HistoryWindow::makeToolRow()
+{
+    auto* row = new QWidget;
+    row->setProperty("role", QStringLiteral("toolbar"));
+    row->setAttribute(Qt::WA_StyledBackground);
+    historySearchField = searchField("historySearchField", qtTrId("history_set"), nameWidth);
+    m_parentName = plainLabel("faint");
+    m_parentName->setText(qtTrId("history_parent"));
+    parentTextField = plainLabel("dim");
+    parentTextField->setObjectName(QStringLiteral("parentTextField"));
+    filedButton = link("filedButton", QString());
+    findField = searchField("findField", qtTrId("history_find"), findWidth);
+    findCount = plainLabel("faint");
+    findCount->setObjectName(QStringLiteral("findCount"));
+    smallerButton = toolButton(QStringLiteral("smaller"), qtTrId("history_smaller"));
+    biggerButton = toolButton(QStringLiteral("bigger"), qtTrId("history_bigger"));
+
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(12, 10, 12, 10);
+    layout->setSpacing(8);
+    layout->addWidget(historySearchField);
+    layout->addWidget(m_parentName);
+    layout->addWidget(parentTextField);
+    layout->addWidget(filedButton);
+    layout->addStretch(1);
+    layout->addWidget(findCount);
+    layout->addWidget(findField);
+    layout->addWidget(smallerButton);
+    layout->addWidget(biggerButton);
+    showParent(QString());
+    showFiled(QString());
+    return row;
+}
+
+QWidget* HistoryWindow::makeFoot()
+{
+    auto* foot = new QWidget;
+    foot->setProperty("role", QStringLiteral("foot"));
+    foot->setAttribute(Qt::WA_StyledBackground);
+    historyButton = link("historyButton", qtTrId("history_choose"));
+    mameinfoButton = link("mameinfoButton", qtTrId("mameinfo_choose"));
+    followBox = new QCheckBox(qtTrId("history_follow"));
+    followBox->setObjectName(QStringLiteral("followBox"));
+    auto* layout = new QHBoxLayout(foot);
+    layout->setContentsMargins(10, 8, 16, 8);
+    layout->setSpacing(8);
+    layout->addWidget(historyButton);
+    layout->addWidget(mameinfoButton);
+    layout->addStretch(1);
+    layout->addWidget(followBox);
+    return foot;
+}
+
+void HistoryWindow::showParent(const QString& parent)
+{
+    parentTextField->setText(parent);
+    m_parentName->setVisible(!parent.isEmpty());
+    parentTextField->setVisible(!parent.isEmpty());
+}
+
+void HistoryWindow::showFiled(const QString& name)
+{
+    filedButton->setText(qtTrId("history_filed_under").arg(escaped(name)));
+    filedButton->setVisible(!name.isEmpty());
+}
+
+void HistoryWindow::setFontSize(int size)
+{
+    QFont font = historyinfoTextView->font();
+    font.setPixelSize(size);
+    historyinfoTextView->setFont(font);
+}
+
+void HistoryWindow::showLoading(bool loading)
+{
+    historyinfoTextView->setPlaceholderText(loading ? qtTrId("history_loading") : QString());
+}
+
+void HistoryWindow::showPaths(const QString& history, const QString& mameinfo)
+{
+    historyButton->setToolTip(history.toHtmlEscaped());
+    mameinfoButton->setToolTip(mameinfo.toHtmlEscaped());
+}
+
+} // namespace tessera

@@ -1,0 +1,62 @@
+#include "info/ui/infopage.h"
+
+#include "info/informationsites.h"
+#include "widgets/boundcontrols.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace tessera {
+
+namespace {
+
+QLineEdit* makeField(const char* objectName, const QString& name)
+{
+    auto* field = new QLineEdit;
+    field->setObjectName(QLatin1String(objectName));
+    field->setAccessibleName(name);
+    return field;
+}
+
+} // namespace
+
+InfoPage::InfoPage(DefaultsController& defaults, QWidget* parent)
+    : FormPage(parent)
+    , infositePop(new QComboBox)
+    , hostField(makeField("hostField", qtTrId("infosite_host")))
+    , rominfoTextField(makeField("rominfoTextField", qtTrId("infosite_template")))
+    , urlTextField(makeField("urlTextField", qtTrId("infosite_url")))
+    , openButton(new QPushButton(qtTrId("infosite_open")))
+{
+    infositePop->setObjectName(QStringLiteral("infositePop"));
+    for (const InformationSite& site : informationSites)
+        infositePop->addItem(qtTrId("infosite_number").arg(site.number));
+    // Its position is the one that keeps the template; nobody can choose it.
+    infositePop->insertSeparator(keptSite);
+    infositePop->addItem(ownSite);
+    openButton->setObjectName(QStringLiteral("openURLButton"));
+    openButton->setAutoDefault(false);
+
+    addHeading(qtTrId("infosite_heading"), qtTrId("infosite_explanation"));
+    addRow(qtTrId("infosite_site"), infositePop);
+    addRow(qtTrId("infosite_host"), hostField);
+    addRow(qtTrId("infosite_template"), rominfoTextField);
+    addNote(qtTrId("infosite_note"));
+    addLine();
+    auto* address = new QWidget;
+    auto* row = new QHBoxLayout(address);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    row->addWidget(urlTextField, 1);
+    row->addWidget(openButton);
+    address->setFocusProxy(urlTextField);
+    addRow(qtTrId("infosite_url"), address);
+    addStretch();
+
+    bind(*infositePop, defaults, keys::Rominfosite);
+    bind(*urlTextField, defaults, keys::VisitedURLPath);
+}
+
+} // namespace tessera

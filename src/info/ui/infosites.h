@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+namespace tessera {
+
+class DefaultsController;
+class Desktop;
+class InfoPage;
+
+/// The commands on information sites. The page with their controls is made when it is first shown; until then
+/// the settings stand for them.
+class InfoSites : public QObject
+{
+    Q_OBJECT
+
+public:
+    InfoSites(Desktop& desktop, DefaultsController& defaults, QObject* parent = nullptr);
+
+    /// A new page, for a window to take over.
+    InfoPage* makePage();
+    /// The template in use.
+    QString rominfo() const { return m_template; }
+    /// Opens the chosen site's page for a set in the web browser; beeps where there is none.
+    void openROMinfo(const QString& name);
+
+public Q_SLOTS:
+    /// Takes the template of the chosen site.
+    void infositeAction();
+    /// Opens the address in the URL field.
+    void openURL();
+
+private:
+    bool isOwnSite() const;
+    void showTemplate();
+    void storeHost(const QString& host);
+    void storeTemplate(const QString& text);
+    void settingChanged(const QString& name);
+
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    QPointer<InfoPage> m_page;
+    QString m_template;
+};
+
+} // namespace tessera

@@ -1,0 +1,281 @@
+#include "stagedapp.h"
+
+#include "app/biosdesk.h"
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/infodesk.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
+#include "app/preferenceswindow.h"
+#include "bios/ui/biospanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/recordeditor.h"
+#include "favourites/ui/favouritestable.h"
+#include "info/ui/historyobject.h"
+#include "info/ui/historywindow.h"
+#include "info/ui/infopage.h"
+#include "info/ui/infosites.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/pathchooser.h"
+#include "support/testmain.h"
+#include "widgets/bringforward.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScrollBar>
+
+using namespace tessera;
+using test::StagedApp;
+
+/// Which set is meant when its history or its page is asked for.
+class InfoDeskTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staged = std::make_unique<StagedApp>();
+        m_staged->writeCatalogue();
+        write("history.dat",
+              "$info=galaxian\r\n$bio\r\nAliens.\r\n$end\r\n$info=pong\r\n$bio\r\nBats.\r\n$end\r\n"
+              "$info=qix\r\n$bio\r\nLines.\r\n$end\r\n");
+        m_staged->defaults.setValue(keys::HistoryPath.name, m_staged->path("history.dat"));
+        m_staged->defaults.setValue(keys::InfositeHost3.name, QStringLiteral("a.test"));
+        m_staged->defaults.setValue(keys::Rominfosite.name, 2.0);
+        m_staged->start();
+        m_staged->desktop.takeTranscript();
+    }
+
+    void cleanup() { m_staged.reset(); }
+
+    void aStartMakesNothingOfIt()
+    {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            QVERIFY(qobject_cast<const HistoryWindow*>(window) == nullptr);
+            QVERIFY(qobject_cast<const BiosPanel*>(window) == nullptr);
+            QVERIFY(qobject_cast<const InfoPage*>(window) == nullptr);
+        }
+    }
+
+    void aCloneIsLookedUpUnderItsParent()
+    {
+        m_staged->app->gameList().selectGame("galaga");
+        const QString parent = m_staged->app->gameList().tableViewSelectionParentROM();
+        QVERIFY(!parent.isEmpty() && parent != "galaga");
+        m_staged->app->searchHistoryinfo();
+        QVERIFY(history().isVisible());
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("galaga"));
+        QCOMPARE(history().parentTextField->text(), parent);
+    }
+
+    void theListStaysKey()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        QTRY_VERIFY(m_staged->app->mainWindow().isActiveWindow());
+        m_staged->app->searchHistoryinfo();
+        shows("Bats.");
+        QVERIFY(m_staged->app->mainWindow().isActiveWindow());
+        QVERIFY(m_staged->desktop.takeTranscript().contains("sound sound_page"));
+    }
+
+    void nothingSelectedShowsNothing()
+    {
+        m_staged->app->mainWindow().gameTable->clearSelection();
+        m_staged->app->searchHistoryinfo();
+        m_staged->app->info().searchHistoryinfo_menu(2);
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            QVERIFY(qobject_cast<const HistoryWindow*>(window) == nullptr);
+    }
+
+    void theFavouritesHaveTheirOwnSelection()
+    {
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->windowFavorites();
+        QTRY_VERIFY(m_staged->app->favorites().window().isActiveWindow());
+        m_staged->app->favorites().window().favoritesTable->selectRow(0);
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
+        m_staged->app->searchHistoryinfo();
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
+        shows("Lines.");
+        m_staged->app->openROMinfo();
+        QVERIFY(m_staged->desktop.takeTranscript().contains("url http://a.test/game/qix"));
+    }
+
+    void eachListsMenuIsAboutThatList()
+    {
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->favorites().window().favoritesTable->selectRow(0);
+        m_staged->app->info().searchHistoryinfo_menu(3);
+        shows("Lines.");
+        m_staged->app->info().searchHistoryinfo_menu(2);
+        shows("Bats.");
+        m_staged->app->info().searchHistoryinfo_menu(1);
+        shows("Bats.");
+        // The first two of the table's own menu.
+        const QList<QAction*> actions = m_staged->app->favorites().window().favoritesTable->actions();
+        QVERIFY(actions.size() >= 2);
+        actions[0]->trigger();
+        shows("Lines.");
+    }
+
+    void theMiniWindowsNameIsTakenAsItIsTyped()
+    {
+        m_staged->app->windowMini();
+        MiniWindow& mini = m_staged->app->mini().window();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Mini);
+        mini.setnameTextField2->setText("galaxian");
+        m_staged->app->searchHistoryinfo();
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("galaxian"));
+        QCOMPARE(history().parentTextField->text(), QStringLiteral("????"));
+        shows("Aliens.");
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Mini);
+        mini.setnameTextField2->setText("nosuchset");
+        m_staged->desktop.takeTranscript();
+        m_staged->app->openROMinfo();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"url http://a.test/game/nosuchset"});
+    }
+
+    void theRecordEditorLooksUpTheFavouritesParent()
+    {
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->favorites().window().favoritesTable->selectRow(0);
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->editing().editRecord();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Editor);
+        m_staged->app->searchHistoryinfo();
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
+        QCOMPARE(history().parentTextField->text(), QStringLiteral("qix"));
+        m_staged->desktop.takeTranscript();
+        m_staged->app->openROMinfo();
+        QVERIFY(m_staged->desktop.takeTranscript().contains("url http://a.test/game/pong"));
+    }
+
+    void inAnyOtherWindowNoSetIsMeant()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->showHistoryinfo();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::History);
+        const QString text = m_staged->app->info().history().mstr_Mameinfo();
+        m_staged->app->searchHistoryinfo();
+        QCOMPARE(m_staged->app->info().history().mstr_Mameinfo(), text);
+        m_staged->desktop.takeTranscript();
+        m_staged->app->openROMinfo();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"beep"});
+    }
+
+    void theHistoryWindowOpensAndCloses()
+    {
+        m_staged->app->showHistoryinfo();
+        QVERIFY(history().isVisible());
+        m_staged->app->showHistoryinfo();
+        QVERIFY(!history().isVisible());
+    }
+
+    void whereItIsKeyFindAndSizeAreItsOwn()
+    {
+        m_staged->app->showHistoryinfo();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::History);
+        m_staged->app->focusSearch();
+        QTRY_VERIFY(history().findField->hasFocus());
+        m_staged->app->makeTextBigger();
+        QCOMPARE(m_staged->defaults.value(keys::History_fontsize.name)->toDouble(), 13.0);
+        QVERIFY(!m_staged->defaults.value(keys::fontSize.name));
+        m_staged->app->makeTextSmaller();
+        QCOMPARE(m_staged->defaults.value(keys::History_fontsize.name)->toDouble(), 12.0);
+    }
+
+    void homeAndEndMoveItByOnePage()
+    {
+        write("history.dat", "$info=pong\r\n$bio\r\n" + QByteArray("line\n").repeated(400) + "$end\r\n");
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->searchHistoryinfo();
+        QTRY_VERIFY(!m_staged->app->info().history().isLoading());
+        bringForward(history());
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::History);
+        QScrollBar& bar = *history().historyinfoTextView->verticalScrollBar();
+        QTRY_VERIFY(bar.maximum() > 2 * bar.pageStep());
+        m_staged->app->scrollsEndAction();
+        QCOMPARE(bar.value(), bar.pageStep());
+        m_staged->app->scrollsHomeAction();
+        QCOMPARE(bar.value(), 0);
+    }
+
+    void itFollowsTheSelectionWhereThatIsWanted()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->searchHistoryinfo();
+        shows("Bats.");
+        m_staged->app->gameList().selectGame("qix");
+        QTest::qWait(200);
+        shows("Bats.");
+        history().followBox->click();
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->gameList().selectGame("qix");
+        shows("Lines.");
+    }
+
+    void aChosenFileIsReadAnew()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->searchHistoryinfo();
+        shows("Bats.");
+        write("history.dat", "$info=pong\r\n$bio\r\nTwo bats.\r\n$end\r\n");
+        m_staged->app->info().pathChosen(keys::HistoryPath.name);
+        QTRY_VERIFY(!m_staged->app->info().history().isLoading());
+        m_staged->app->searchHistoryinfo();
+        shows("Two bats.");
+    }
+
+    void thePreferencesGetTheirPageWhenTheyAreShown()
+    {
+        m_staged->app->showPrefsWindow();
+        auto* page = m_staged->app->preferencesWindow().findChild<InfoPage*>();
+        QVERIFY(page != nullptr);
+        QCOMPARE(page->rominfoTextField->text(), QStringLiteral("http://a.test/game/{$gamename}"));
+        m_staged->app->showPrefsWindow();
+        m_staged->app->showPrefsWindow();
+        QCOMPARE(m_staged->app->preferencesWindow().findChildren<InfoPage*>().size(), 1);
+    }
+
+    void theBiosPanelOpensAndCloses()
+    {
+        m_staged->app->ViewBiosList();
+        QVERIFY(m_staged->app->bios().panel().isVisible());
+        m_staged->app->ViewBiosList();
+        QVERIFY(!m_staged->app->bios().panel().isVisible());
+    }
+
+private:
+    HistoryWindow& history() { return m_staged->app->info().window(); }
+
+    void shows(const char* words)
+    {
+        QTRY_VERIFY2(m_staged->app->info().history().mstr_Mameinfo().contains(QString::fromLatin1(words)),
+                     qPrintable(m_staged->app->info().history().mstr_Mameinfo()));
+    }
+
+    void write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(m_staged->path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+
+    std::unique_ptr<StagedApp> m_staged;
+};
+
+TESSERA_TEST(InfoDeskTest);
+#include "infodesktest.moc"

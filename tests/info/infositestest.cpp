@@ -1,0 +1,154 @@
+#include "info/ui/infosites.h"
+
+#include "info/informationsites.h"
+#include "info/ui/infopage.h"
+#include "platform/defaultscontroller.h"
+#include "support/scripteddesktop.h"
+#include "support/testmain.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+class InfoSitesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_desktop = std::make_unique<test::ScriptedDesktop>();
+        m_stored = std::make_unique<UserDefaults>(m_folder->filePath("settings.ini"));
+        m_defaults = std::make_unique<DefaultsController>(*m_stored);
+        m_defaults->setInitialValues(QString(), QString());
+        m_defaults->setText(keys::InfositeHost1, QStringLiteral("one.test"));
+        m_defaults->setText(keys::InfositeHost3, QStringLiteral("three.test"));
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_sites.reset();
+    }
+
+    void theSavedSiteIsTakenAtTheStart()
+    {
+        m_defaults->setIndex(keys::Rominfosite, 2);
+        make();
+        QCOMPARE(m_sites->rominfo(), QStringLiteral("http://three.test/game/{$gamename}"));
+        QCOMPARE(m_page->rominfoTextField->text(), m_sites->rominfo());
+        QVERIFY(!m_page->rominfoTextField->isEnabled());
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("three.test"));
+    }
+
+    void theSavedSiteServesWithoutAPageToo()
+    {
+        m_defaults->setIndex(keys::Rominfosite, 9);
+        m_defaults->setText(keys::VisitedRomPath, QStringLiteral("https://mine.test/{$gamename}"));
+        InfoSites sites(*m_desktop, *m_defaults);
+        sites.openROMinfo("pong");
+        QCOMPARE(m_desktop->takeTranscript(), QStringList{"url https://mine.test/pong"});
+    }
+
+    void theSeventhPositionIsTheFirstSiteAgain()
+    {
+        make();
+        choose(7);
+        QCOMPARE(m_sites->rominfo(), QStringLiteral("http://one.test/index.php?p=roms&jeu={$gamename}"));
+    }
+
+    void theEighthPositionKeepsTheTemplate()
+    {
+        make();
+        choose(2);
+        m_defaults->setIndex(keys::Rominfosite, 8);
+        QCOMPARE(m_sites->rominfo(), QStringLiteral("http://three.test/game/{$gamename}"));
+        // It is no item that could be chosen.
+        QVERIFY(!m_page->infositePop->model()
+                     ->flags(m_page->infositePop->model()->index(8, 0))
+                     .testFlag(Qt::ItemIsSelectable));
+    }
+
+    void theOtherSiteIsTheUsersOwn()
+    {
+        make();
+        choose(m_page->infositePop->findText(ownSite));
+        QVERIFY(m_page->rominfoTextField->isEnabled());
+        QVERIFY(!m_page->hostField->isEnabled());
+        QCOMPARE(m_page->rominfoTextField->text(), QString());
+        QTest::keyClicks(m_page->rominfoTextField, "https://mine.test/all");
+        QCOMPARE(m_stored->string(keys::VisitedRomPath.name), QStringLiteral("https://mine.test/all"));
+        // Without the placeholder every game has the same page.
+        m_sites->openROMinfo("pong");
+        m_sites->openROMinfo("qix");
+        QCOMPARE(m_desktop->takeTranscript(),
+                 (QStringList{"url https://mine.test/all", "url https://mine.test/all"}));
+        choose(2);
+        QCOMPARE(m_page->rominfoTextField->text(), QStringLiteral("http://three.test/game/{$gamename}"));
+        choose(9);
+        QCOMPARE(m_page->rominfoTextField->text(), QStringLiteral("https://mine.test/all"));
+    }
+
+    void aHostIsTypedForTheChosenSite()
+    {
+        make();
+        choose(3);
+        QCOMPARE(m_sites->rominfo(), QString());
+        QTest::keyClicks(m_page->hostField, "four.test");
+        QCOMPARE(m_sites->rominfo(), QStringLiteral("http://four.test/r/{$gamename}"));
+        QCOMPARE(m_stored->string(keys::InfositeHost4.name), QStringLiteral("four.test"));
+        QCOMPARE(m_stored->string(keys::InfositeHost3.name), QStringLiteral("three.test"));
+    }
+
+    void everyFailureIsABeep()
+    {
+        make();
+        m_sites->openROMinfo(QString());
+        choose(3);
+        m_sites->openROMinfo("pong");
+        choose(2);
+        m_desktop->hasBrowser = false;
+        m_sites->openROMinfo("pong");
+        QCOMPARE(m_desktop->takeTranscript(),
+                 (QStringList{"beep", "beep", "url http://three.test/game/pong", "beep"}));
+    }
+
+    void theAddressIsOpenedAsItStands()
+    {
+        make();
+        QTest::mouseClick(m_page->openButton, Qt::LeftButton);
+        QCOMPARE(m_desktop->takeTranscript(), QStringList{"url https://www.mamedev.org/"});
+        for (const char* wrong : {"", "www.mamedev.org", "file:///etc/passwd", "http://"}) {
+            m_page->urlTextField->setText(QString::fromLatin1(wrong));
+            QTest::keyClick(m_page->urlTextField, Qt::Key_Return);
+            QCOMPARE(m_desktop->takeTranscript(), QStringList{"beep"});
+        }
+    }
+
+private:
+    void make()
+    {
+        m_sites = std::make_unique<InfoSites>(*m_desktop, *m_defaults);
+        m_page.reset(m_sites->makePage());
+    }
+
+    void choose(int index)
+    {
+        m_page->infositePop->setCurrentIndex(index);
+        Q_EMIT m_page->infositePop->activated(index);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<test::ScriptedDesktop> m_desktop;
+    std::unique_ptr<UserDefaults> m_stored;
+    std::unique_ptr<DefaultsController> m_defaults;
+    std::unique_ptr<InfoSites> m_sites;
+    std::unique_ptr<InfoPage> m_page;
+};
+
+TESSERA_TEST(InfoSitesTest);
+#include "infositestest.moc"
