@@ -34,7 +34,7 @@ constexpr QLatin1StringView unknownParent("????");
 
 struct ListMenu {
     int tag;
-    Kind list;
+    Kind window;
 };
 
 constexpr std::array listMenus{ListMenu{2, Kind::Main}, ListMenu{3, Kind::Favorites}};
@@ -126,10 +126,10 @@ void InfoDesk::addPage(PreferencesWindow& preferences)
         preferences.addPage(sites().makePage(), qtTrId("page_information"), QStringLiteral("information"));
 }
 
-void InfoDesk::addContextMenus()
+void InfoDesk::addContextMenu(QAbstractItemView& list, Kind window)
 {
-    addToMenu(*m_hub.mainWindow().gameTable, *this, listMenus[0].tag);
-    addToMenu(*m_hub.favorites().window().favoritesTable, *this, listMenus[1].tag);
+    if (const auto menu = std::ranges::find(listMenus, window, &ListMenu::window); menu != listMenus.end())
+        addToMenu(list, *this, menu->tag);
 }
 
 // What was never loaded is read when its window is first asked for.

@@ -35,8 +35,8 @@ public:
     InfoSites& sites();
     /// Puts the page of the sites into the preferences, once.
     void addPage(PreferencesWindow& preferences);
-    /// The lists' own menus.
-    void addContextMenus();
+    /// A list's own menu; `window` is the one that it stands in.
+    void addContextMenu(QAbstractItemView& list, KeyWindow::Kind window);
     /// A file was chosen anew.
     void pathChosen(const QString& key);
 

@@ -36,6 +36,7 @@
 #include "catalogue/ui/recordeditor.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
+#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "launch/emulatorfinder.h"
@@ -228,7 +229,7 @@ void Tessera_AppDelegate::joinInfo()
 {
     m_info = std::make_unique<InfoDesk>(*this, m_desktop, m_defaults,
                                         [this](HistoryWindow& window) { takeHistoryWindow(window); });
-    m_info->addContextMenus();
+    m_info->addContextMenu(*m_mainWindow->gameTable, KeyWindow::Kind::Main);
     connect(m_info.get(), &InfoDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
     m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
@@ -288,6 +289,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     window.takeMenus(*m_mainWindow->menuBar());
     window.setRunning(m_launch->isRunning());
     m_commands->leaveOpen(*window.stopButton);
+    m_info->addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
     connect(window.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_launch.get(), &LaunchController::runningChanged, &window, &FavoritesWindow::setRunning);
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
