@@ -14,7 +14,7 @@
 namespace tessera {
 
 namespace {
-constexpr QSize firstSize(760, 620);
+constexpr QSize firstSize(760, 680);
 } // namespace
 
 PreferencesWindow::PreferencesWindow(QWidget* parent)
