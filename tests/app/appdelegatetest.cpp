@@ -336,7 +336,7 @@ private Q_SLOTS:
                  QStringLiteral("Open &Recent"));
     }
 
-    void theAppearancePageIsTheLast()
+    void thePreferencesHaveTheirPagesInOrder()
     {
         StagedApp staged;
         staged.writeCatalogue();
@@ -351,7 +351,7 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("page_general"), QStringLiteral("page_video"),
                               QStringLiteral("page_effects"), QStringLiteral("page_sound"),
                               QStringLiteral("page_input"), QStringLiteral("page_misc"),
-                              QStringLiteral("page_appearance")}));
+                              QStringLiteral("page_appearance"), QStringLiteral("page_information")}));
         QVERIFY(staged.app->preferencesWindow().findChild<AppearancePage*>() != nullptr);
     }
 
