@@ -166,7 +166,7 @@ void InfoDesk::searchHistoryinfo_menu(int tag)
     const auto* menu = std::ranges::find(listMenus, tag, &ListMenu::tag);
     if (menu == listMenus.end())
         return;
-    const auto asked = std::ranges::find(m_subjects, menu->list, &Subject::window);
+    const auto asked = std::ranges::find(m_subjects, menu->window, &Subject::window);
     show(asked->name(), asked->key());
 }
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-class QMenuBar;
+class QAbstractItemView;
 
 namespace tessera {
 
