@@ -18,7 +18,7 @@
     <message id="menu_quit"><source></source><translation>&amp;Quit</translation></message>
     <message id="menu_undo"><source></source><translation>&amp;Undo</translation></message>
     <message id="menu_redo"><source></source><translation>&amp;Redo</translation></message>
-    <message id="menu_editcell"><source></source><translation>Edit &amp;Field (F2)</translation></message>
+    <message id="menu_editcell"><source></source><translation>E&amp;dit Field (F2)</translation></message>
     <message id="menu_preferences"><source></source><translation>&amp;Preferences</translation></message>
     <message id="menu_reset"><source></source><translation>Reset All Settings</translation></message>
     <message id="menu_play"><source></source><translation>&amp;Play</translation></message>
@@ -62,7 +62,7 @@
     <message id="failure_exec"><source></source><translation>“%1” could not be started: %2.</translation></message>
     <message id="rebuild_offer"><source></source><translation>Tessera can ask the MAME on this computer for every machine that it knows, and build the catalogue from that.</translation></message>
     <message id="empty_rebuilding"><source></source><translation>The machines appear here as soon as the catalogue is complete.</translation></message>
-    <message id="menu_logfront"><source></source><translation>Bring Log to &amp;Front</translation></message>
+    <message id="menu_logfront"><source></source><translation>&amp;Bring Log to Front</translation></message>
     <message id="menu_view"><source></source><translation>&amp;View</translation></message>
     <message id="menu_copy"><source></source><translation>&amp;Copy</translation></message>
     <message id="menu_editrecord"><source></source><translation>&amp;Edit Record…</translation></message>
@@ -162,5 +162,7 @@
     <message id="menu_rominfo"><source></source><translation>Information Pa&amp;ge</translation></message>
     <message id="menu_historywindow"><source></source><translation>&amp;History and Info</translation></message>
     <message id="menu_bioslist"><source></source><translation>&amp;BIOS List</translation></message>
+    <message id="empty_noroms"><source></source><translation>No ROM folder was chosen, and MAME’s own folders hold no ROMs.</translation></message>
+    <message id="empty_chooseroms"><source></source><translation>Choose ROM Folder…</translation></message>
 </context>
 </TS>

@@ -18,7 +18,7 @@
     <message id="menu_quit"><source></source><translation>終了(&amp;Q)</translation></message>
     <message id="menu_undo"><source></source><translation>取り消す(&amp;U)</translation></message>
     <message id="menu_redo"><source></source><translation>やり直す(&amp;R)</translation></message>
-    <message id="menu_editcell"><source></source><translation>項目を編集(&amp;F) (F2)</translation></message>
+    <message id="menu_editcell"><source></source><translation>項目を編集(&amp;D) (F2)</translation></message>
     <message id="menu_preferences"><source></source><translation>環境設定(&amp;P)</translation></message>
     <message id="menu_reset"><source></source><translation>すべての設定を初期値に戻す</translation></message>
     <message id="menu_play"><source></source><translation>プレイ(&amp;P)</translation></message>
@@ -62,7 +62,7 @@
     <message id="failure_exec"><source></source><translation>“%1”を起動できませんでした: %2</translation></message>
     <message id="rebuild_offer"><source></source><translation>このコンピュータの MAME に、知っているすべてのマシンを問い合わせて、カタログを作成できます。</translation></message>
     <message id="empty_rebuilding"><source></source><translation>カタログができあがると、ここにマシンが並びます。</translation></message>
-    <message id="menu_logfront"><source></source><translation>ログを最前面に(&amp;F)</translation></message>
+    <message id="menu_logfront"><source></source><translation>ログを最前面に(&amp;B)</translation></message>
     <message id="menu_view"><source></source><translation>表示(&amp;V)</translation></message>
     <message id="menu_copy"><source></source><translation>コピー(&amp;C)</translation></message>
     <message id="menu_editrecord"><source></source><translation>レコードを編集(&amp;E)…</translation></message>
@@ -162,5 +162,7 @@
     <message id="menu_rominfo"><source></source><translation>情報ページ(&amp;G)</translation></message>
     <message id="menu_historywindow"><source></source><translation>履歴と情報(&amp;H)</translation></message>
     <message id="menu_bioslist"><source></source><translation>BIOS リスト(&amp;B)</translation></message>
+    <message id="empty_noroms"><source></source><translation>ROMフォルダが選択されておらず、MAME自身のフォルダにもROMがありません。</translation></message>
+    <message id="empty_chooseroms"><source></source><translation>ROMフォルダを選択…</translation></message>
 </context>
 </TS>

@@ -8,8 +8,8 @@
     <message id="chip_favorites"><source></source><translation>お気に入り</translation></message>
     <message id="chip_games"><source></source><translation>ゲーム</translation></message>
     <message id="chip_have_rom"><source></source><translation>ROMあり</translation></message>
-    <message id="chip_parents"><source></source><translation>親セット</translation></message>
-    <message id="chip_working"><source></source><translation>動作良好</translation></message>
+    <message id="chip_parents"><source></source><translation>親</translation></message>
+    <message id="chip_working"><source></source><translation>動作可</translation></message>
     <message id="failure_store_binary"><source></source><translation>“%1”はカタログではありません。バイナリデータが含まれています。</translation></message>
     <message id="failure_store_empty"><source></source><translation>“%1”は空のファイルです。</translation></message>
     <message id="failure_store_encoding"><source></source><translation>“%1”に%2として正しくない文字が含まれています。</translation></message>

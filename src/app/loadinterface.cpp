@@ -37,6 +37,7 @@
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
 #include "favourites/ui/favouritestable.h"
+#include "favourites/ui/favouriteeditor.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "launch/emulatorfinder.h"
@@ -143,6 +144,10 @@ void Tessera_AppDelegate::joinRooms()
     connect(&m_pages->general(), &GeneralPage::emulatorFound, m_launch.get(),
             &LaunchController::prepareProfile);
     connect(&m_pages->general(), &GeneralPage::emulatorFound, this, &Tessera_AppDelegate::showEmulator);
+    connect(m_profiles.get(), &ProfileCache::answered, this, [this] {
+        if (m_favorites->editing().isMade())
+            offerKnownOptions();
+    });
     connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::runningChanged, m_mainWindow.get(),
@@ -259,6 +264,19 @@ KeyWindow::Kind Tessera_AppDelegate::keyWindow() const
     return m_keyCommands->keyWindow();
 }
 
+// What the emulator in use lists; before it has answered everything is taken as it is typed.
+void Tessera_AppDelegate::offerKnownOptions()
+{
+    const auto answer = m_profiles->remembered(m_pages->general().emulator());
+    if (!answer || !answer->profile)
+        return;
+    KnownOptions known;
+    for (const EmulatorProfile::Option& option : answer->profile->options())
+        known.options << KnownOption{option.name, option.description};
+    known.lists = [profile = *answer->profile](QStringView option) { return profile.lists(option); };
+    m_favorites->editing().editor().setKnownOptions(std::move(known));
+}
+
 // What every window needs that is a key window of its own and comes back where it was left.
 void Tessera_AppDelegate::joinWindow(QWidget& window, KeyWindow::Kind kind, const char* place)
 {
@@ -278,6 +296,7 @@ void Tessera_AppDelegate::joinWindows()
     });
     connect(&m_favorites->editing(), &FavouriteEditing::windowMade, this, [this](QWidget& editor) {
         joinWindow(editor, Kind::FavoritesEditor, keys::FavoritesEditorGeometry.name.data());
+        offerKnownOptions();
     });
     connect(m_finding.get(), &Finding::windowMade, this,
             [this](QWidget& panel) { m_places.keep(panel, keys::FilterPanelGeometry.name.data()); });

@@ -195,7 +195,9 @@ void MainWindow::setRebuilding(bool rebuilding)
 
 void MainWindow::sayWhatToDo(bool rebuilding)
 {
-    if (m_isFiltered)
+    if (m_isFiltered && m_romsMissing)
+        emptyState->say(qtTrId("empty_noroms"), qtTrId("empty_chooseroms"));
+    else if (m_isFiltered)
         emptyState->say(qtTrId("empty_filtered"), qtTrId("main_showall"));
     else if (rebuilding)
         emptyState->say(qtTrId("empty_rebuilding"), QString());

@@ -47,6 +47,8 @@ public:
     QPushButton* changesButton;
     QProgressBar* progressIndicator;
 
+    /// Why a list may be empty, beside that nothing passes its filters: nobody has chosen a ROM folder.
+    void setRomsMissing(bool missing) { m_romsMissing = missing; }
     /// With what hides the others, each in a few words.
     void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
     /// Says a thing once in the status line; it stays until the next one.
@@ -76,6 +78,7 @@ private:
     void sayWhatToDo(bool rebuilding);
 
     DefaultsController& m_defaults;
+    bool m_romsMissing = false;
     bool m_isFiltered = false;
     bool m_isRebuilding = false;
     QSplitter* m_split;

@@ -98,6 +98,9 @@ void PreferencesWindow::showEvent(QShowEvent* event)
         m_pages->addWidget(scroll);
     }
     m_pages->setCurrentIndex(m_buttons->checkedId());
+    // Never the reset button, which the toolkit would choose.
+    if (focusWidget() == nullptr && m_buttons->checkedButton() != nullptr)
+        m_buttons->checkedButton()->setFocus();
     QWidget::showEvent(event);
 }
 

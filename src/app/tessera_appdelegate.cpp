@@ -24,6 +24,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/rowcolors.h"
+#include "catalogue/ui/searchfield.h"
 #include "catalogue/ui/tablefont.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
@@ -169,8 +170,16 @@ void Tessera_AppDelegate::showSelection()
 
 void Tessera_AppDelegate::showCount()
 {
+    m_mainWindow->setRomsMissing(romsMissing());
     m_mainWindow->showCount(m_gameList->list().size(), m_catalogue.records().size(),
                             m_finding->finder().reasons());
+}
+
+// What was asked for is in no folder, as nobody has chosen one.
+bool Tessera_AppDelegate::romsMissing()
+{
+    return m_finding->finder().chip() == Chip::HaveRom && m_mainWindow->searchField->text().isEmpty()
+        && m_defaults.defaults().string(keys::RomsPath.name).isEmpty();
 }
 
 // An empty catalogue is built, an empty list shows everything again.
@@ -178,6 +187,8 @@ void Tessera_AppDelegate::actOnEmptyList()
 {
     if (m_catalogue.records().empty())
         rebuildCatalogue();
+    else if (romsMissing())
+        selectROMfolder();
     else
         showAllGames();
 }

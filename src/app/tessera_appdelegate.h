@@ -168,6 +168,7 @@ private:
     void joinCommands();
     void joinWindow(QWidget& window, KeyWindow::Kind kind, const char* place);
     void joinWindows();
+    void offerKnownOptions();
     void joinFavoritesWindow();
     void joinMiniWindow();
     void joinInfo();
@@ -180,6 +181,7 @@ private:
     void applicationDidFinishLaunching();
     void showSelection();
     void showCount();
+    bool romsMissing();
     void actOnEmptyList();
     void showEmulator();
     void settingChanged(const QString& name);

@@ -74,10 +74,12 @@ void EmulatorProfile::readOption(QStringView line)
 {
     const qsizetype blank = line.indexOf(QLatin1Char(' '));
     const QStringView name = line.first(blank < 0 ? line.size() : blank).mid(1).trimmed();
-    if (name.size() >= nameColumn)
+    if (name.size() >= nameColumn) {
         m_overlong << name.toString();
-    else if (!name.isEmpty())
+    } else if (!name.isEmpty()) {
         m_names.insert(name.toString());
+        m_options << Option{u'-' + name.toString(), line.mid(1 + name.size()).trimmed().toString()};
+    }
     // Until 0.153 sound was a switch ("enable sound output"); since then it names an output.
     if (name == QLatin1String("sound"))
         m_soundTakesValue = !line.mid(1 + name.size()).trimmed().startsWith(QLatin1String("enable"));

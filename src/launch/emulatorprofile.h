@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,13 @@ public:
     /// From its -showusage text, with its -showconfig text behind it or not. Nothing where the text is not an
     /// emulator's.
     static std::optional<EmulatorProfile> fromUsage(QByteArrayView usage);
+
+    struct Option {
+        QString name; ///< "-rompath"
+        QString description; ///< in the program's own words
+    };
+    /// What can be offered, in the program's order. A name that runs into its description is none of it.
+    const QList<Option>& options() const { return m_options; }
 
     /// True where the program takes `option` ("-rotate"), or its opposite ("-norotate").
     bool lists(QStringView option) const;
@@ -48,6 +56,7 @@ private:
     void fitValue(QString option, const QString& value, Quotes quotes, Fitted& fitted) const;
 
     QSet<QString> m_names;
+    QList<Option> m_options;
     QStringList m_overlong; ///< names with the first word of their description behind them
     QString m_romFolders;
     QString m_iniFolders;

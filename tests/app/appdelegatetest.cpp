@@ -355,6 +355,17 @@ private Q_SLOTS:
         QVERIFY(staged.app->preferencesWindow().findChild<AppearancePage*>() != nullptr);
     }
 
+    void thePreferencesNeverBeginAtTheResetButton()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->showPrefsWindow();
+        const PreferencesWindow& preferences = staged.app->preferencesWindow();
+        QVERIFY(preferences.focusWidget() != nullptr);
+        QVERIFY(preferences.focusWidget() != preferences.resetButton);
+    }
+
     void pagesThatWereNeverSeenGoWithTheWindow()
     {
         const auto pages = [] {
@@ -369,7 +380,7 @@ private Q_SLOTS:
         QCOMPARE(pages() - before, 7);
         // Those of the utility window are made with it.
         staged.app->utility();
-        QCOMPARE(pages() - before, 7 + 5);
+        QCOMPARE(pages() - before, 7 + 6);
         staged.app.reset();
         QCOMPARE(pages(), before);
     }

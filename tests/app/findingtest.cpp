@@ -327,6 +327,23 @@ private Q_SLOTS:
         QCOMPARE(have->text(), QStringLiteral("have_in_parent"));
     }
 
+    void withoutARomFolderTheEmptyListOffersToChooseOne()
+    {
+        const QString roms = m_staged->path(QStringLiteral("roms"));
+        QVERIFY(QDir().mkpath(roms));
+        touch(QDir(roms).filePath(QStringLiteral("jp.zip")));
+        click(Chip::HaveRom);
+        QTRY_COMPARE(shown(), QString());
+        auto* button = window().emptyState->findChild<QPushButton*>();
+        QCOMPARE(button->text(), QStringLiteral("empty_chooseroms"));
+        m_staged->desktop.answerOpen(roms);
+        button->click();
+        QTRY_COMPARE(shown(), QStringLiteral("jp"));
+        click(Chip::Bios);
+        search(QStringLiteral("zork"));
+        QCOMPARE(button->text(), QStringLiteral("main_showall"));
+    }
+
     void anEditIsFoundAtOnce()
     {
         search(QStringLiteral("zork"));

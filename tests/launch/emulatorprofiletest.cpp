@@ -54,6 +54,22 @@ private Q_SLOTS:
             QVERIFY2(!profile.lists(QString::fromLatin1(option)), option);
     }
 
+    void offersOptionsInTheProgramsWords()
+    {
+        const auto profile = EmulatorProfile::fromUsage("Options:\r\n\r\n# PATHS\r\n"
+                                                        "-rompath             path to ROM sets\r\n"
+                                                        "-cheat               enable cheat subsystem\r\n"
+                                                        "-a_name_as_long_as_that_description\r\n"
+                                                        "-bench\r\n");
+        QVERIFY(profile.has_value());
+        QStringList offered;
+        for (const EmulatorProfile::Option& option : profile->options())
+            offered << option.name + u'=' + option.description;
+        QCOMPARE(offered,
+                 (QStringList{QStringLiteral("-rompath=path to ROM sets"),
+                              QStringLiteral("-cheat=enable cheat subsystem"), QStringLiteral("-bench=")}));
+    }
+
     void takesLineEndsOfWindows()
     {
         const auto profile

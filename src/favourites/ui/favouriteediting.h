@@ -26,6 +26,7 @@ public:
 
     /// Made when it is first asked for.
     FavouriteEditor& editor();
+    bool isMade() const { return m_editor != nullptr; }
     void commitEditing();
 
 public Q_SLOTS:
