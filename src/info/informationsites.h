@@ -1,9 +1,7 @@
 #pragma once
 
 #include "core/settingskeys.h"
-
-#include <QString>
-#include <QUrl>
+#include "core/urltemplate.h"
 
 #include <array>
 #include <functional>
@@ -35,7 +33,6 @@ inline constexpr std::array<InformationSite, 8> informationSites{{
 
 /// At this position the template stays as it is; behind it the user's own site follows.
 inline constexpr int keptSite = 8;
-inline constexpr QLatin1StringView ownSite("Other site");
 
 /// `hostOf` gives a setting's text. A site without a host has an empty template, like every position behind
 /// the table; nothing where the template is kept.
@@ -43,8 +40,5 @@ std::optional<QString> siteTemplate(int index, const std::function<QString(const
 
 /// The page for a set: each "{$gamename}" is its name. Nothing where that is no address of a web page.
 std::optional<QUrl> gamePage(const QString& siteTemplate, const QString& name);
-
-/// Nothing where the text is no address of a web page.
-std::optional<QUrl> webAddress(const QString& text);
 
 } // namespace tessera

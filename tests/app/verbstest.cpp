@@ -110,6 +110,9 @@ private Q_SLOTS:
         row("command without its game", QStringLiteral("command 7"));
         row("export without -o", QStringLiteral("export 1"));
         row("export with a negative position", QStringLiteral("export -o file -- -1"));
+        row("picture without a name", QStringLiteral("picture --folder a"));
+        row("picture without a folder", QStringLiteral("picture pong"));
+        row("picture of two names", QStringLiteral("picture pong qix --folder a"));
         row("script without a format", QStringLiteral("script pong -o file"));
         row("script in an unknown format", QStringLiteral("script pong --format bat -o file"));
         row("script for an unknown emulator", QStringLiteral("script pong --format sh --emulator 3 -o file"));
@@ -450,6 +453,28 @@ private Q_SLOTS:
         expectRefusal({"history", "pong", "--history", path("none")}, "history.dat  is not found. (");
         expectRefusal({"history", "pong", "--mameinfo", path("none")}, "mameinfo.dat  is not found. (");
         expectRefusal({"history", "pong", "--history", m_folder->path()}, m_folder->path().toUtf8());
+    }
+
+    void pictureSaysWhereItLies()
+    {
+        write("puckman.png", "");
+        const QStringList asked{"picture", "pacman", "--folder", m_folder->path()};
+        expectRefusal(asked, "There is no picture of \u201cpacman\u201d in ");
+        Outcome outcome = tessera(asked + QStringList{"--parent", "puckman"});
+        QCOMPARE(outcome.out, path("puckman.png").toUtf8() + '\n');
+        QCOMPARE(outcome.status, 0);
+        expectRefusal(asked + QStringList{"--parent", "puckman", "--no-parent"}, "no picture");
+        write("pacman.png", "");
+        outcome = tessera(asked + QStringList{"--parent", "puckman"});
+        QCOMPARE(outcome.out, path("pacman.png").toUtf8() + '\n');
+    }
+
+    void pictureStaysInItsFolder()
+    {
+        write("secret.png", "");
+        QVERIFY(QDir().mkpath(path("art")));
+        expectRefusal({"picture", "../secret", "--folder", path("art")}, "no picture");
+        expectRefusal({"picture", "pong", "--folder", path("art"), "--parent", "../secret"}, "no picture");
     }
 
     void listPrintsNineFieldsInOrder()

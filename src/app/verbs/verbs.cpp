@@ -50,6 +50,11 @@ constexpr std::array table{
          "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
          "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
          &runList},
+    Verb{"picture", "NAME --folder DIR [--parent NAME] [--no-parent]",
+         "Print the path of the picture that a folder has of a set: NAME/0000.png, or NAME.png, or the same "
+         "of "
+         "its parent, which --parent names.",
+         &runPicture},
     Verb{"script", "GAME --format tool|sh|scpt [--emulator 0|1|2] [--no-options] -o FILE",
          "Write a script that starts a game: with the command-line emulator (0), the MAME OS X application "
          "(1) "

@@ -55,6 +55,7 @@ int runExport(const Verb& verb, const QStringList& arguments);
 int runHistory(const Verb& verb, const QStringList& arguments);
 int runLaunch(const Verb& verb, const QStringList& arguments);
 int runList(const Verb& verb, const QStringList& arguments);
+int runPicture(const Verb& verb, const QStringList& arguments);
 int runScript(const Verb& verb, const QStringList& arguments);
 int runSeparate(const Verb& verb, const QStringList& arguments);
 int runVerify(const Verb& verb, const QStringList& arguments);

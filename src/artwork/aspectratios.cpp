@@ -1,0 +1,55 @@
+#include "artwork/aspectratios.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+bool isPortrait(QSizeF picture)
+{
+    return picture.height() > picture.width();
+}
+
+// The largest size of this shape that fits.
+QSizeF fitted(QSizeF shape, QSizeF into)
+{
+    if (shape.height() / shape.width() <= into.height() / into.width())
+        return {into.width(), into.width() * shape.height() / shape.width()};
+    return {into.height() * shape.width() / shape.height(), into.height()};
+}
+
+} // namespace
+
+AspectRatio aspectRatio(int position, QSizeF picture)
+{
+    if (position < 0 || position >= static_cast<int>(aspectRatios.size()))
+        return {1, 1};
+    const auto& ratio = aspectRatios[static_cast<std::size_t>(position)];
+    const auto [shorter, longer] = std::minmax({picture.width(), picture.height()});
+    return ratio.value_or(AspectRatio{1, shorter / longer});
+}
+
+QRectF PicturePlace::rectangle(QSizeF picture) const
+{
+    return {x, y, picture.width() * static_cast<double>(scaleX),
+            picture.height() * static_cast<double>(scaleY)};
+}
+
+std::optional<PicturePlace> picturePlace(QSizeF picture, const QRectF& view, int position)
+{
+    if (picture.isEmpty() || view.isEmpty())
+        return std::nullopt;
+    const AspectRatio ratio = aspectRatio(position, picture);
+    const QSizeF shape(ratio.longSide, ratio.shortSide);
+    const QSizeF target = fitted(isPortrait(picture) ? shape.transposed() : shape, view.size());
+    PicturePlace place{0, 0, static_cast<float>(target.width() / picture.width()),
+                       static_cast<float>(target.height() / picture.height())};
+    QRectF drawn = place.rectangle(picture);
+    drawn.moveCenter(view.center());
+    place.x = drawn.x();
+    place.y = drawn.y();
+    return place;
+}
+
+} // namespace tessera

@@ -1,0 +1,49 @@
+#include "artwork/picturelookup.h"
+
+#include <QFileInfo>
+
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+// What follows the folder; %1 is the set.
+constexpr std::array places{"/%1/0000.png", "/%1.png"};
+
+std::optional<QString> pictureOf(const QString& name, const QString& folder, const PictureFolders& folders)
+{
+    if (folder.isEmpty() || !isPlainFileName(name))
+        return std::nullopt;
+    for (const char* place : places) {
+        const QString path = folder + QString::fromLatin1(place).arg(name);
+        if (folders.hasFile(path))
+            return path;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+bool FoldersOnDisk::hasFile(const QString& path) const
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isDir();
+}
+
+std::optional<FoundPicture> findPicture(const WantedPicture& wanted, const PictureFolders& folders)
+{
+    if (const auto own = pictureOf(wanted.name, wanted.folder, folders))
+        return FoundPicture{*own, false};
+    if (!wanted.parent || !isPlainFileName(wanted.name))
+        return std::nullopt;
+    const auto parents = pictureOf(*wanted.parent, wanted.folder, folders);
+    return parents ? std::optional(FoundPicture{*parents, true}) : std::nullopt;
+}
+
+bool isPlainFileName(const QString& name)
+{
+    return !name.isEmpty() && !name.startsWith(u'.') && !name.contains(u'/') && !name.contains(QChar(0));
+}
+
+} // namespace tessera

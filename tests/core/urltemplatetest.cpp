@@ -1,0 +1,43 @@
+#include "core/urltemplate.h"
+
+#include "support/testmain.h"
+
+using namespace tessera;
+
+class UrlTemplateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aHostMayNameItsScheme_data()
+    {
+        QTest::addColumn<QString>("host");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("alone") << "a.test" << "http://a.test/snap/{$gamename}";
+        QTest::newRow("scheme") << "https://a.test" << "https://a.test/snap/{$gamename}";
+        QTest::newRow("slashes") << "https://a.test//" << "https://a.test/snap/{$gamename}";
+        QTest::newRow("port") << "a.test:8080" << "http://a.test:8080/snap/{$gamename}";
+        QTest::newRow("blanks") << " a.test " << "http://a.test/snap/{$gamename}";
+        QTest::newRow("none") << "" << "";
+        QTest::newRow("blank") << "  " << "";
+    }
+
+    void aHostMayNameItsScheme()
+    {
+        QFETCH(QString, host);
+        QFETCH(QString, text);
+        QCOMPARE(templateAt(host, QLatin1StringView("snap/{$gamename}")), text);
+    }
+
+    void everyPlaceholderIsTheName()
+    {
+        QCOMPARE(withGameName(QStringLiteral("a/{$gamename}?q={$gamename}"), QStringLiteral("pong")),
+                 QStringLiteral("a/pong?q=pong"));
+        QCOMPARE(withGameName(QStringLiteral("a/{$gamename}"), QStringLiteral("../{$gamename}")),
+                 QStringLiteral("a/..%2F%7B%24gamename%7D"));
+        QCOMPARE(withGameName(QString(), QStringLiteral("pong")), QString());
+    }
+};
+
+TESSERA_TEST(UrlTemplateTest);
+#include "urltemplatetest.moc"
