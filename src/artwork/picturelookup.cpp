@@ -16,7 +16,7 @@ std::optional<QString> pictureOf(const QString& name, const QString& folder, con
     if (folder.isEmpty() || !isPlainFileName(name))
         return std::nullopt;
     for (const char* place : places) {
-        const QString path = folder + QString::fromLatin1(place).arg(name);
+        QString path = folder + QString::fromLatin1(place).arg(name);
         if (folders.hasFile(path))
             return path;
     }
