@@ -32,6 +32,9 @@ std::string joined(std::initializer_list<std::string_view> pieces)
 // character, which the price of an old game may be.
 std::size_t behind(std::string_view file, std::string_view words, std::size_t from = 0)
 {
+    // A text that was never read has no address to search at.
+    if (from >= file.size())
+        return npos;
     const void* hit = ::memmem(file.data() + from, file.size() - from, words.data(), words.size());
     if (hit == nullptr)
         return npos;
