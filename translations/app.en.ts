@@ -128,12 +128,15 @@
 &lt;p&gt;Whatever hides rows is named beside the count, with &lt;b&gt;Show all&lt;/b&gt;.&lt;/p&gt;</translation></message>
     <message id="help_launch"><source></source><translation>&lt;p&gt;A double click, the Return key or &lt;b&gt;Play&lt;/b&gt; starts the selected game. What MAME prints goes into the log window (&lt;b&gt;Ctrl+L&lt;/b&gt;), together with the command line. &lt;b&gt;Stop&lt;/b&gt; (&lt;b&gt;Ctrl+.&lt;/b&gt;) ends a running game.&lt;/p&gt;
 &lt;p&gt;How games are started is set in the &lt;b&gt;preferences&lt;/b&gt; (&lt;b&gt;Ctrl+,&lt;/b&gt;). Options that your MAME does not know are left out; the log names them in one line. A favourite may have options of its own, which come last and so win.&lt;/p&gt;
-&lt;p&gt;When MAME ends with an error, Tessera says so, and the log shows why: mostly a file is missing from an archive, or the archive is of another MAME version.&lt;/p&gt;</translation></message>
+&lt;p&gt;When MAME ends with an error, Tessera says so, and the log shows why: mostly a file is missing from an archive, or the archive is of another MAME version.&lt;/p&gt;
+&lt;p&gt;The log window also asks MAME itself: a command for the selected game or for all of them, or a listing into a file. &lt;b&gt;Ctrl+I&lt;/b&gt; shows what is told of a game, &lt;b&gt;Ctrl+B&lt;/b&gt; lists the BIOSes to choose from.&lt;/p&gt;</translation></message>
     <message id="help_tools"><source></source><translation>&lt;p&gt;&lt;i&gt;File › Catalogue Tools&lt;/i&gt; (&lt;b&gt;Ctrl+T&lt;/b&gt;) opens a window with a page for each job:&lt;/p&gt;
-&lt;ul&gt;&lt;li&gt;&lt;b&gt;Conversion&lt;/b&gt; makes a catalogue from a saved listing of MAME and a list of titles.&lt;/li&gt;
+&lt;ul&gt;&lt;li&gt;&lt;b&gt;Build catalogue&lt;/b&gt; makes a catalogue from a saved listing of MAME and a list of titles.&lt;/li&gt;
 &lt;li&gt;&lt;b&gt;ROM existence&lt;/b&gt; compares a list of names with a folder, and reports what is there and what is missing.&lt;/li&gt;
-&lt;li&gt;&lt;b&gt;ROM separation&lt;/b&gt; copies the archives of some games into another folder. It never replaces and never deletes.&lt;/li&gt;
-&lt;li&gt;&lt;b&gt;Verification&lt;/b&gt; sorts the report of MAME's own check by its verdicts.&lt;/li&gt;&lt;/ul&gt;
+&lt;li&gt;&lt;b&gt;ROM separation&lt;/b&gt; copies what MAME no longer lists into another folder. It never replaces and never deletes.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;Verification report&lt;/b&gt; sorts what MAME's own check says by its verdicts.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;Old favourites&lt;/b&gt; turns a favourites file of the older form into the present one, and keeps the one before.&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;Launch script&lt;/b&gt; saves a small script that starts the selected game without Tessera.&lt;/li&gt;&lt;/ul&gt;
 &lt;p&gt;Each job can be cancelled. Most of them can also be run without windows: &lt;i&gt;tessera --help&lt;/i&gt; in a terminal names the commands.&lt;/p&gt;</translation></message>
     <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt; adds the selected game to the favourites; &lt;b&gt;Ctrl+2&lt;/b&gt; shows them in the same place, &lt;b&gt;Ctrl+1&lt;/b&gt; goes back. Each favourite may have options of its own; &lt;i&gt;Edit record&lt;/i&gt; completes them from what your MAME lists, and shows the whole command line.&lt;/p&gt;
 &lt;p&gt;Favourites that were added or removed are saved when you quit. An edit alone is saved by &lt;b&gt;Ctrl+S&lt;/b&gt; in the favourites window, which also says when something is not saved yet.&lt;/p&gt;

@@ -128,12 +128,15 @@
 &lt;p&gt;隠れている行があるときは、その理由が件数の横に出ます。&lt;b&gt;すべて表示&lt;/b&gt;で元に戻ります。&lt;/p&gt;</translation></message>
     <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で実行中のゲームを終えます。&lt;/p&gt;
 &lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは省かれ、ログの一行に示されます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
-&lt;p&gt;MAMEがエラーで終わると、Tesseraが知らせます。理由はログで分かります。多くは、アーカイブにファイルが足りないか、アーカイブが別のバージョンのMAME用です。&lt;/p&gt;</translation></message>
+&lt;p&gt;MAMEがエラーで終わると、Tesseraが知らせます。理由はログで分かります。多くは、アーカイブにファイルが足りないか、アーカイブが別のバージョンのMAME用です。&lt;/p&gt;
+&lt;p&gt;ログウインドウからは、MAME自身に問い合わせることもできます。選択したゲームまたは全体についてのコマンドと、ファイルへの書き出しがあります。&lt;b&gt;Ctrl+I&lt;/b&gt;でゲームの解説を、&lt;b&gt;Ctrl+B&lt;/b&gt;で選べるBIOSの一覧を表示します。&lt;/p&gt;</translation></message>
     <message id="help_tools"><source></source><translation>&lt;p&gt;「ファイル › カタログツール」（&lt;b&gt;Ctrl+T&lt;/b&gt;）で、作業ごとのページがあるウインドウが開きます。&lt;/p&gt;
-&lt;ul&gt;&lt;li&gt;&lt;b&gt;変換&lt;/b&gt;は、保存したMAMEの一覧とタイトル一覧からカタログを作ります。&lt;/li&gt;
-&lt;li&gt;&lt;b&gt;ROMの有無&lt;/b&gt;は、名前の一覧とフォルダを比べ、あるものとないものを報告します。&lt;/li&gt;
-&lt;li&gt;&lt;b&gt;ROMの分離&lt;/b&gt;は、ゲームのアーカイブを別のフォルダにコピーします。置き換えたり消したりはしません。&lt;/li&gt;
-&lt;li&gt;&lt;b&gt;検証&lt;/b&gt;は、MAME自身の検査結果を判定ごとに整理します。&lt;/li&gt;&lt;/ul&gt;
+&lt;ul&gt;&lt;li&gt;&lt;b&gt;カタログの作成&lt;/b&gt;は、保存したMAMEの一覧とタイトル一覧からカタログを作ります。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROM の有無&lt;/b&gt;は、名前の一覧とフォルダを比べ、あるものとないものを報告します。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;ROM の仕分け&lt;/b&gt;は、MAMEの一覧にないものを別のフォルダにコピーします。置き換えたり消したりはしません。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;検証レポート&lt;/b&gt;は、MAME自身の検査結果を判定ごとに整理します。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;旧お気に入り&lt;/b&gt;は、古い形式のお気に入りを今の形式に変換し、それまでのものを残します。&lt;/li&gt;
+&lt;li&gt;&lt;b&gt;起動スクリプト&lt;/b&gt;は、選択したゲームをTesseraなしで起動する小さなスクリプトを保存します。&lt;/li&gt;&lt;/ul&gt;
 &lt;p&gt;どの作業も取り消せます。多くはウインドウなしでも実行できます。ターミナルで「tessera --help」と入力すると、コマンドの一覧が出ます。&lt;/p&gt;</translation></message>
     <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt;で、選択したゲームがお気に入りに加わります。&lt;b&gt;Ctrl+2&lt;/b&gt;で同じ場所にお気に入りが開き、&lt;b&gt;Ctrl+1&lt;/b&gt;で戻ります。お気に入りにはそれぞれ独自のオプションを付けられます。「項目を編集」では、お使いのMAMEのオプションが補完され、コマンドライン全体が見られます。&lt;/p&gt;
 &lt;p&gt;追加や削除は終了時に保存されます。編集だけのときは、お気に入りウインドウで&lt;b&gt;Ctrl+S&lt;/b&gt;を押すと保存されます。保存していない変更があるときは、そこに表示されます。&lt;/p&gt;

@@ -53,6 +53,7 @@ void CommandsDesk::make()
     m_controller = std::make_unique<CommandController>(CommandParts{m_parts.desktop, *m_bar, m_parts.task,
                                                                     m_parts.runs, m_parts.launches,
                                                                     m_parts.paths, m_parts.selectedGame});
+    connect(m_controller.get(), &CommandController::statusMessage, this, &CommandsDesk::statusMessage);
     for (QObject* stop : m_parts.stops)
         m_controller->leaveOpen(*stop);
 }

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimer>
 
 using namespace tessera;
@@ -314,13 +315,16 @@ private Q_SLOTS:
         QCOMPARE(QDir(room.folder.path()).entryList(QDir::Files), QStringList({"mame"}));
     }
 
-    void aFileThatCannotBeWrittenIsNotCalledSaved()
+    void aFileThatCannotBeWrittenIsToldInTheStatusLineOnly()
     {
         qputenv("FAKE_COMMAND", "print");
         Room room;
+        QSignalSpy said(&room.commands, &CommandController::statusMessage);
         room.exported(1, "/no such folder/out");
-        QVERIFY(room.text().contains("command_unwritable"));
-        QVERIFY(!room.text().contains(exportCompleted));
+        QCOMPARE(said.size(), 1);
+        QVERIFY(said[0][0].toString().contains("command_unwritable"));
+        QVERIFY(!room.text().contains("command_unwritable"));
+        QVERIFY(room.text().endsWith(exportCompleted));
         QVERIFY(room.bar.exportButton->isEnabled());
     }
 

@@ -102,10 +102,11 @@ void CommandController::concludeExport(const QString& path, bool isWritable, boo
     if (hasEnded)
         m_parts.desktop.playSound(QStringLiteral("Pop"));
     m_parts.runs.windowLog();
-    if (!isWritable)
-        m_parts.runs.appendOutput(Failure{"command_unwritable", {path}}.text() + QLatin1Char('\n'));
-    else if (hasEnded)
+    // Deliberate: the log says so whatever the emulator wrote, and wherever it went.
+    if (hasEnded)
         m_parts.runs.appendOutput(exportCompleted);
+    if (!isWritable)
+        Q_EMIT statusMessage(Failure{"command_unwritable", {path}}.text());
 }
 
 bool CommandController::waitForExit()

@@ -46,6 +46,9 @@ public Q_SLOTS:
     /// `tag` is the command's position; 0 is none.
     void MiniAudit(int tag);
 
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
 private:
     bool waitForExit();
     void concludeExport(const QString& path, bool isWritable, bool hasEnded);
