@@ -91,7 +91,7 @@ int main(int argc, char* argv[])
     QtDesktop desktop(recent);
     theme::apply(application);
     QTranslator texts;
-    installTexts(texts);
+    installTexts(texts, QString());
     Tessera_AppDelegate delegate(desktop, defaults, recent, store);
     delegate.run(QString());
     MainWindow& window = delegate.mainWindow();
