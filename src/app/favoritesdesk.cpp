@@ -68,10 +68,8 @@ FavoritesWindow& FavoritesDesk::window()
 NameSet FavoritesDesk::names() const
 {
     NameSet names;
-    for (const GameRecord& favourite : m_favourites.records()) {
-        if (!favourite[Field::Name].empty())
-            names.emplace(favourite[Field::Name]);
-    }
+    for (const QString& name : m_favourites.names())
+        names.insert(name.toStdString());
     return names;
 }
 

@@ -3,7 +3,6 @@
 #include <QWidget>
 
 class QComboBox;
-class QLabel;
 class QMenuBar;
 class QTabWidget;
 class QTextBrowser;

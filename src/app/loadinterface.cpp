@@ -190,6 +190,8 @@ void Tessera_AppDelegate::joinViews()
             [this] { m_finding->finder().setFavorites(m_favorites->names()); });
     connect(m_favorites.get(), &FavoritesDesk::launchRequested, m_launch.get(),
             &LaunchController::Launchusing);
+    // The favourites can be saved from any window.
+    connect(m_favorites.get(), &FavoritesDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_favorites.get(), &FavoritesDesk::mainWanted, this, &Tessera_AppDelegate::windowMain);
     connect(m_favorites.get(), &FavoritesDesk::miniWanted, this, &Tessera_AppDelegate::windowMini);
     connect(m_mainWindow->favoritesButton, &QToolButton::clicked, this,
@@ -268,12 +270,12 @@ KeyWindow::Kind Tessera_AppDelegate::keyWindow() const
 void Tessera_AppDelegate::offerKnownOptions()
 {
     const auto answer = m_profiles->remembered(m_pages->general().emulator());
-    if (!answer || !answer->profile)
-        return;
     KnownOptions known;
-    for (const EmulatorProfile::Option& option : answer->profile->options())
-        known.options << KnownOption{option.name, option.description};
-    known.lists = [profile = *answer->profile](QStringView option) { return profile.lists(option); };
+    if (answer && answer->profile) {
+        for (const EmulatorProfile::Option& option : answer->profile->options())
+            known.options << KnownOption{option.name, option.description};
+        known.lists = [profile = *answer->profile](QStringView option) { return profile.lists(option); };
+    }
     m_favorites->editing().editor().setKnownOptions(std::move(known));
 }
 

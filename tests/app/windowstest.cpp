@@ -104,6 +104,14 @@ private Q_SLOTS:
         QCOMPARE(m_staged->app->gameList().list()[0][Field::Name], std::string_view("pong"));
     }
 
+    void savingTheFavouritesIsToldInTheMainWindowToo()
+    {
+        add("pong");
+        m_staged->app->saveFavoritesNow();
+        QCOMPARE(main().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
+                 QStringLiteral("favourites_saved"));
+    }
+
     void theFavouritesTakeTheMainWindowsPlaceAndGiveItBack()
     {
         main().setGeometry(40, 50, 900, 600);
