@@ -167,5 +167,21 @@
     <message id="menu_bioslist"><source></source><translation>&amp;BIOS List</translation></message>
     <message id="empty_noroms"><source></source><translation>No ROM folder was chosen, and MAME’s own folders hold no ROMs.</translation></message>
     <message id="empty_chooseroms"><source></source><translation>Choose ROM Folder…</translation></message>
+    <message id="menu_artwork"><source></source><translation>&amp;Artwork</translation></message>
+    <message id="menu_showpicture"><source></source><translation>&amp;Show Picture</translation></message>
+    <message id="menu_nextkind"><source></source><translation>&amp;Next Kind of Picture</translation></message>
+    <message id="menu_kinds"><source></source><translation>&amp;Kind of Picture</translation></message>
+    <message id="menu_downloadpicture"><source></source><translation>&amp;Download Picture</translation></message>
+    <message id="menu_revealpicture"><source></source><translation>Show Picture &amp;File in the File Manager</translation></message>
+    <message id="menu_revealrom"><source></source><translation>Show &amp;ROM in the File Manager</translation></message>
+    <message id="menu_picturefolders"><source></source><translation>&amp;Open Picture Folder</translation></message>
+    <message id="menu_snapfolder"><source></source><translation>&amp;Snapshots</translation></message>
+    <message id="menu_titlefolder"><source></source><translation>&amp;Title Snapshots</translation></message>
+    <message id="menu_flyerfolder"><source></source><translation>&amp;Game Flyers</translation></message>
+    <message id="page_pictures"><source></source><translation>Pictures</translation></message>
+    <message id="side_history"><source></source><translation>History</translation></message>
+    <message id="side_page"><source></source><translation>Web page</translation></message>
+    <message id="side_verify"><source></source><translation>Verify ROM</translation></message>
+    <message id="side_reveal"><source></source><translation>Show ROM file</translation></message>
 </context>
 </TS>

@@ -167,5 +167,21 @@
     <message id="menu_bioslist"><source></source><translation>BIOS リスト(&amp;B)</translation></message>
     <message id="empty_noroms"><source></source><translation>ROMフォルダが選択されておらず、MAME自身のフォルダにもROMがありません。</translation></message>
     <message id="empty_chooseroms"><source></source><translation>ROMフォルダを選択…</translation></message>
+    <message id="menu_artwork"><source></source><translation>アートワーク(&amp;A)</translation></message>
+    <message id="menu_showpicture"><source></source><translation>画像を表示(&amp;S)</translation></message>
+    <message id="menu_nextkind"><source></source><translation>次の種類の画像(&amp;N)</translation></message>
+    <message id="menu_kinds"><source></source><translation>画像の種類(&amp;K)</translation></message>
+    <message id="menu_downloadpicture"><source></source><translation>画像をダウンロード(&amp;D)</translation></message>
+    <message id="menu_revealpicture"><source></source><translation>画像ファイルをファイルマネージャで表示(&amp;F)</translation></message>
+    <message id="menu_revealrom"><source></source><translation>ROMをファイルマネージャで表示(&amp;R)</translation></message>
+    <message id="menu_picturefolders"><source></source><translation>画像フォルダを開く(&amp;O)</translation></message>
+    <message id="menu_snapfolder"><source></source><translation>スナップショット(&amp;S)</translation></message>
+    <message id="menu_titlefolder"><source></source><translation>タイトル画面(&amp;T)</translation></message>
+    <message id="menu_flyerfolder"><source></source><translation>フライヤー(&amp;G)</translation></message>
+    <message id="page_pictures"><source></source><translation>画像</translation></message>
+    <message id="side_history"><source></source><translation>履歴</translation></message>
+    <message id="side_page"><source></source><translation>ウェブページ</translation></message>
+    <message id="side_verify"><source></source><translation>ROMを検査</translation></message>
+    <message id="side_reveal"><source></source><translation>ROMを表示</translation></message>
 </context>
 </TS>

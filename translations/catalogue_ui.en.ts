@@ -16,7 +16,6 @@
     <message id="fact_year"><source></source><translation>Year</translation></message>
     <message id="fact_device"><source></source><translation>Device</translation></message>
     <message id="fact_status"><source></source><translation>Driver</translation></message>
-    <message id="facts_picture"><source></source><translation>Picture of the game</translation></message>
     <message id="facts_several"><source></source><translation>%1 machines selected</translation></message>
     <message id="facts_none"><source></source><translation>No machine selected</translation></message>
     <message id="fact_rom"><source></source><translation>ROM</translation></message>

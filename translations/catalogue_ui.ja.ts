@@ -16,7 +16,6 @@
     <message id="fact_year"><source></source><translation>年</translation></message>
     <message id="fact_device"><source></source><translation>デバイス</translation></message>
     <message id="fact_status"><source></source><translation>ドライバ</translation></message>
-    <message id="facts_picture"><source></source><translation>ゲームの画像</translation></message>
     <message id="facts_several"><source></source><translation>%1 台を選択中</translation></message>
     <message id="facts_none"><source></source><translation>何も選択されていません</translation></message>
     <message id="fact_rom"><source></source><translation>ROM</translation></message>

@@ -76,6 +76,11 @@ void CommandsDesk::addAuditsTo(QMenu& menu)
     connect(&menu, &QMenu::aboutToShow, this, [this, &menu] { addAudits(menu); }, once);
 }
 
+void CommandsDesk::verifySelected()
+{
+    controller().MiniAudit(audits.front().tag);
+}
+
 void CommandsDesk::addLineTo(PreferencesWindow& preferences)
 {
     connect(&preferences, &PreferencesWindow::aboutToShow, this, [this, &preferences] {

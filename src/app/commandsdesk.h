@@ -48,6 +48,8 @@ public:
     CommandController& controller();
     /// The quick audits of the selected game are added to the menu when it is first opened.
     void addAuditsTo(QMenu& menu);
+    /// The first of them.
+    void verifySelected();
     /// The command line of the selected game at the preferences' foot, while they are shown.
     void addLineTo(PreferencesWindow& preferences);
     void showLine();

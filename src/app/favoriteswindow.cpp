@@ -1,6 +1,7 @@
 #include "app/favoriteswindow.h"
 
 #include "app/emptystate.h"
+#include "app/sidepanel.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "favourites/ui/favouritestable.h"
@@ -46,7 +47,8 @@ constexpr std::array columnWidths{
 
 FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     : favoritesTable(new FavouritesTable(defaults))
-    , factsPanel(new FactsPanel)
+    , sidePanel(new SidePanel(defaults, QStringLiteral("SecondSplitView2")))
+    , factsPanel(sidePanel->factsPanel)
     , emptyState(new EmptyState)
     , m_defaults(defaults)
     , m_split(new SplitView_custom(this))
@@ -66,9 +68,10 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     auto* split = new QSplitter;
     split->setObjectName(QStringLiteral("MainSplitView2"));
     split->setHandleWidth(1);
-    split->addWidget(factsPanel);
+    split->addWidget(sidePanel);
     split->addWidget(m_pages);
     m_split->setSplitView(split);
+    m_split->setSplitView2(sidePanel->splitView);
 
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -175,6 +178,8 @@ void FavoritesWindow::restore()
     m_split->splitView()->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
     if (const auto split = stored.value(keys::FavoritesWindowSplit.name))
         m_split->splitView()->restoreState(split->toByteArray());
+    if (const auto split = stored.value(keys::FavoritesWindowSplit2.name))
+        m_split->splitView2()->restoreState(split->toByteArray());
     for (const ColumnWidth& each : columnWidths)
         favoritesTable->setColumnWidth(static_cast<int>(each.column), each.width);
     if (const auto columns = stored.value(keys::FavoritesWindowColumns.name))
@@ -186,6 +191,7 @@ void FavoritesWindow::remember()
 {
     UserDefaults& stored = m_defaults.defaults();
     stored.setValue(keys::FavoritesWindowSplit.name, m_split->splitView()->saveState());
+    stored.setValue(keys::FavoritesWindowSplit2.name, m_split->splitView2()->saveState());
     stored.setValue(keys::FavoritesWindowColumns.name, favoritesTable->horizontalHeader()->saveState());
 }
 

@@ -17,6 +17,7 @@ class DefaultsController;
 class EmptyState;
 class FactsPanel;
 class FavouritesTable;
+class SidePanel;
 class SplitView_custom;
 
 /// The favourites with their side panel. It takes the main window's place.
@@ -28,7 +29,8 @@ public:
     explicit FavoritesWindow(DefaultsController& defaults);
 
     FavouritesTable* favoritesTable;
-    FactsPanel* factsPanel;
+    SidePanel* sidePanel;
+    FactsPanel* factsPanel; ///< in the side panel
     EmptyState* emptyState;
     QPushButton* playButton;
     QToolButton* stopButton;

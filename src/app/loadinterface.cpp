@@ -2,6 +2,7 @@
 
 #include "app/tessera_appdelegate.h"
 
+#include "app/artworkdesk.h"
 #include "app/biosdesk.h"
 #include "app/cataloguerebuild.h"
 #include "app/changesdesk.h"
@@ -22,8 +23,10 @@
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/scriptjoin.h"
+#include "app/sidepanel.h"
 #include "app/utilityjoin.h"
 #include "app/windowswitching.h"
+#include "artwork/ui/imagewindow.h"
 #include "bios/ui/bioslist.h"
 #include "bios/ui/biospanel.h"
 #include "catalogue/ui/appearancepage.h"
@@ -115,6 +118,7 @@ void Tessera_AppDelegate::loadInterface()
     joinWindows();
     joinCommands();
     joinInfo();
+    joinArtwork();
     openCatalogue();
 }
 
@@ -242,6 +246,28 @@ void Tessera_AppDelegate::joinInfo()
     m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
 }
 
+void Tessera_AppDelegate::joinArtwork()
+{
+    m_artwork = std::make_unique<ArtworkDesk>(*this, m_desktop, m_defaults, [this](QWidget& window) {
+        carryMenuKeys(*m_mainWindow->menuBar(), window);
+        const bool isImage = qobject_cast<ImageWindow*>(&window) != nullptr;
+        m_places.keep(window, (isImage ? keys::ImageWindowGeometry : keys::DownloadPanelGeometry).name.data());
+    });
+    m_artwork->fillMenu(*m_mainWindow->menuBar());
+    m_artwork->addContextMenu(*m_mainWindow->gameTable);
+    joinSidePanel(*m_mainWindow->sidePanel);
+    connect(m_artwork.get(), &ArtworkDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_chooser.get(), &PathChooser::chosen, m_artwork.get(), &ArtworkDesk::pathChosen);
+}
+
+void Tessera_AppDelegate::joinSidePanel(SidePanel& panel)
+{
+    connect(panel.historyButton, &QPushButton::clicked, this, &Tessera_AppDelegate::searchHistoryinfo);
+    connect(panel.pageButton, &QPushButton::clicked, this, &Tessera_AppDelegate::openROMinfo);
+    connect(panel.revealButton, &QPushButton::clicked, this, &Tessera_AppDelegate::display_rom_Finder);
+    connect(panel.verifyButton, &QPushButton::clicked, this, [this] { m_commands->verifySelected(); });
+}
+
 void Tessera_AppDelegate::takeHistoryWindow(HistoryWindow& window)
 {
     carryMenuKeys(*m_mainWindow->menuBar(), window);
@@ -311,6 +337,11 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     window.setRunning(m_launch->isRunning());
     m_commands->leaveOpen(*window.stopButton);
     m_info->addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
+    m_artwork->addContextMenu(*window.favoritesTable);
+    m_artwork->joinFavorites(window);
+    connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &FavoritesWindow::say);
+    window.sidePanel->verifyButton->hide();
+    joinSidePanel(*window.sidePanel);
     connect(window.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_launch.get(), &LaunchController::runningChanged, &window, &FavoritesWindow::setRunning);
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
@@ -324,6 +355,7 @@ void Tessera_AppDelegate::joinMiniWindow()
     connect(window.randomButton, &QToolButton::clicked, this, &Tessera_AppDelegate::randomForMini);
     connect(window.mainButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowMain);
     connect(&window, &TransparentWindow::orderedOut, this, &Tessera_AppDelegate::windowMain);
+    m_artwork->joinMini(window);
     carryMenuKeys(*m_mainWindow->menuBar(), window);
     joinWindow(window, KeyWindow::Kind::Mini, keys::MiniWindowGeometry.name.data());
 }

@@ -31,6 +31,7 @@ constexpr const char* edit = textKey("menu_edit");
 constexpr const char* view = textKey("menu_view");
 constexpr const char* game = textKey("menu_game");
 constexpr const char* emulator = textKey("menu_emulator");
+constexpr const char* artwork = textKey("menu_artwork");
 constexpr const char* window = textKey("menu_window");
 constexpr const char* help = textKey("menu_help");
 
@@ -80,6 +81,13 @@ constexpr std::array rows{
     MenuRow{emulator, textKey("menu_openroms"),    nullptr,        &Hub::openROMfolder},
     MenuRow{emulator, nullptr,                     nullptr,        nullptr},
     MenuRow{emulator, textKey("menu_bioslist"),    "Ctrl+B",       &Hub::ViewBiosList},
+    MenuRow{artwork,  textKey("menu_showpicture"), "Ctrl+P",       &Hub::snappreview},
+    MenuRow{artwork,  textKey("menu_nextkind"),    "Ctrl+K",       &Hub::ChangesnapPop},
+    MenuRow{artwork,  textKey("menu_downloadpicture"), "Ctrl+Shift+D", &Hub::snapdownload},
+    MenuRow{artwork,  nullptr,                     nullptr,        nullptr},
+    MenuRow{artwork,  textKey("menu_revealpicture"), nullptr,      &Hub::display_image_Finder},
+    MenuRow{artwork,  textKey("menu_revealrom"),   nullptr,        &Hub::display_rom_Finder},
+    MenuRow{artwork,  nullptr,                     nullptr,        nullptr},
     MenuRow{window,   textKey("menu_main"),        "Ctrl+1",       &Hub::windowMain},
     MenuRow{window,   textKey("menu_favorites"),   "Ctrl+2",       &Hub::windowFavorites},
     MenuRow{window,   textKey("menu_mini"),        "Ctrl+3",       &Hub::windowMini},

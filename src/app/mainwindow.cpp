@@ -2,6 +2,7 @@
 
 #include "app/emptystate.h"
 #include "app/rebuildstrip.h"
+#include "app/sidepanel.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gametablemodel.h"
@@ -37,7 +38,8 @@ constexpr std::array columnWidths{128, 240, 172, 56, 112, 76}; // the last colum
 
 MainWindow::MainWindow(DefaultsController& defaults)
     : gameTable(new GameTableView)
-    , factsPanel(new FactsPanel)
+    , sidePanel(new SidePanel(defaults, QStringLiteral("SecondSplitView")))
+    , factsPanel(sidePanel->factsPanel)
     , rebuildStrip(new RebuildStrip)
     , chipBar(new ChipBar)
     , searchField(new SearchField)
@@ -64,11 +66,12 @@ MainWindow::MainWindow(DefaultsController& defaults)
     listLayout->addWidget(chipBar);
     listLayout->addWidget(m_pages, 1);
 
-    m_split->addWidget(factsPanel);
+    m_split->addWidget(sidePanel);
     m_split->addWidget(listSide);
     m_split->setObjectName(QStringLiteral("MainSplitView"));
     m_split->setHandleWidth(1);
     m_splitLimits->setSplitView(m_split);
+    m_splitLimits->setSplitView2(sidePanel->splitView);
 
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
@@ -227,6 +230,8 @@ void MainWindow::restore()
     m_split->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
     if (const auto split = stored.value(keys::MainWindowSplit.name))
         m_split->restoreState(split->toByteArray());
+    if (const auto split = stored.value(keys::MainWindowSplit2.name))
+        sidePanel->splitView->restoreState(split->toByteArray());
     for (std::size_t i = 0; i < columnWidths.size(); ++i)
         gameTable->setColumnWidth(static_cast<int>(i), columnWidths[i]);
     for (std::size_t i = 0; i < GameTableModel::columns.size(); ++i) {
@@ -244,6 +249,7 @@ void MainWindow::remember()
     UserDefaults& stored = m_defaults.defaults();
     stored.setValue(keys::MainWindowGeometry.name, saveGeometry());
     stored.setValue(keys::MainWindowSplit.name, m_split->saveState());
+    stored.setValue(keys::MainWindowSplit2.name, sidePanel->splitView->saveState());
     stored.setValue(keys::MainWindowColumns.name, gameTable->horizontalHeader()->saveState());
 }
 

@@ -18,6 +18,7 @@ class FactsPanel;
 class GameTableView;
 class RebuildStrip;
 class SearchField;
+class SidePanel;
 class SplitView_custom;
 
 /// The game list with its side panel, tool row and status line. Closing it asks for the end of the program.
@@ -29,7 +30,8 @@ public:
     explicit MainWindow(DefaultsController& defaults);
 
     GameTableView* gameTable;
-    FactsPanel* factsPanel;
+    SidePanel* sidePanel;
+    FactsPanel* factsPanel; ///< in the side panel
     RebuildStrip* rebuildStrip;
     ChipBar* chipBar;
     SearchField* searchField;

@@ -33,7 +33,7 @@ MiniWindow& MiniDesk::window()
 {
     if (m_window)
         return *m_window;
-    m_window = std::make_unique<MiniWindow>();
+    m_window = std::make_unique<MiniWindow>(m_defaults);
     connect(m_window->setnameTextField2, &QLineEdit::textEdited, this, &MiniDesk::suggest);
     connect(m_window->setnameTextField2, &QLineEdit::textChanged, this, &MiniDesk::showTitle);
     connect(m_window->aboveButton, &QToolButton::clicked, this, &MiniDesk::setAbove);

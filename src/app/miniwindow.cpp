@@ -1,7 +1,7 @@
 #include "app/miniwindow.h"
 
+#include "artwork/ui/aspectview.h"
 #include "widgets/rounded_view2.h"
-#include "widgets/theme.h"
 #include "widgets/toolbutton.h"
 
 #include <QCompleter>
@@ -16,32 +16,27 @@ namespace tessera {
 
 namespace {
 
-constexpr QSize pictureSize(132, 99);
+constexpr QSize pictureSize(112, 84);
 constexpr QSize firstSize(500, 150);
 constexpr SizeLimits ownLimits{400, 150, 0, 0};
 constexpr int setRole = Qt::UserRole;
 
 } // namespace
 
-MiniWindow::MiniWindow(QWidget* parent)
+MiniWindow::MiniWindow(DefaultsController& defaults, QWidget* parent)
     : TransparentWindow(parent)
+    , imageView(new AspectView(defaults))
+    , shotTextField2(new QLabel)
     , emulatorLabel(new QLabel)
     , setnameTextField2(new QLineEdit)
     , randomButton(toolButton(QStringLiteral("random"), qtTrId("main_random")))
     , playButton(accentButton(QStringLiteral("play"), qtTrId("main_play")))
     , aboveButton(toolButton(QStringLiteral("above"), qtTrId("mini_above")))
     , mainButton(toolButton(QStringLiteral("list"), qtTrId("mini_main")))
-    , m_picture(new QLabel)
     , m_title(new QLabel)
     , m_suggestions(new QStandardItemModel(this))
 {
     setObjectName(QStringLiteral("window2"));
-    m_picture->setProperty("role", QStringLiteral("picture"));
-    m_picture->setFixedSize(pictureSize);
-    m_picture->setAlignment(Qt::AlignCenter);
-    m_picture->setAccessibleName(qtTrId("mini_picture"));
-    m_picture->setPixmap(
-        theme::icon(QStringLiteral("empty")).pixmap(QSize(28, 28), devicePixelRatioF(), QIcon::Disabled));
     m_title->setTextFormat(Qt::PlainText);
     m_title->setWordWrap(true);
     m_title->setProperty("role", QStringLiteral("dim"));
@@ -57,11 +52,27 @@ MiniWindow::MiniWindow(QWidget* parent)
     auto* layout = new QHBoxLayout(panel());
     layout->setContentsMargins(14, 34, 14, 14);
     layout->setSpacing(12);
-    layout->addWidget(m_picture, 0, Qt::AlignTop);
+    layout->addLayout(makePicture());
     layout->addLayout(side, 1);
     setLimits(ownLimits);
     setnameTextField2->setFocus();
     resize(firstSize + 2 * QSize(shadowWidth, shadowWidth));
+}
+
+QLayout* MiniWindow::makePicture()
+{
+    imageView->setObjectName(QStringLiteral("miniImageView"));
+    imageView->setAccessibleName(qtTrId("mini_picture"));
+    imageView->setFixedSize(pictureSize);
+    shotTextField2->setObjectName(QStringLiteral("shotTextField2"));
+    shotTextField2->setProperty("role", QStringLiteral("caption"));
+    shotTextField2->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* picture = new QVBoxLayout;
+    picture->setSpacing(2);
+    picture->addWidget(imageView);
+    picture->addWidget(shotTextField2);
+    picture->addStretch(1);
+    return picture;
 }
 
 QLayout* MiniWindow::makeHead()

@@ -10,14 +10,19 @@ class QToolButton;
 
 namespace tessera {
 
+class AspectView;
+class DefaultsController;
+
 /// A small launcher: a set name with suggestions, random, play. It may stay above all other windows.
 class MiniWindow : public TransparentWindow
 {
     Q_OBJECT
 
 public:
-    explicit MiniWindow(QWidget* parent = nullptr);
+    explicit MiniWindow(DefaultsController& defaults, QWidget* parent = nullptr);
 
+    AspectView* imageView;
+    QLabel* shotTextField2; ///< the kind of its picture
     QLabel* emulatorLabel;
     QLineEdit* setnameTextField2;
     QToolButton* randomButton;
@@ -41,10 +46,10 @@ Q_SIGNALS:
     void playRequested();
 
 private:
+    QLayout* makePicture();
     QLayout* makeHead();
     QLayout* makeLauncher();
 
-    QLabel* m_picture;
     QLabel* m_title;
     QStandardItemModel* m_suggestions;
 };

@@ -1,5 +1,6 @@
 #include "app/tessera_appdelegate.h"
 
+#include "app/artworkdesk.h"
 #include "app/biosdesk.h"
 #include "app/cataloguerebuild.h"
 #include "app/changesdesk.h"
@@ -119,8 +120,10 @@ void Tessera_AppDelegate::awakeFromNib()
     m_pages->misc().switchRecordingOff();
     m_launch->LaunchemuPopAction();
     m_mainWindow->restore();
+    m_artwork->folder().Setsnapfolder();
     m_gameList->main_tableViewSort();
     m_favorites->awakeFromNib();
+    m_artwork->aspect().snapviewAction();
 }
 
 void Tessera_AppDelegate::applicationDidFinishLaunching()
@@ -433,6 +436,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
+    m_artwork->addPage(*m_preferencesWindow, *m_chooser);
     m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }
@@ -470,6 +474,31 @@ void Tessera_AppDelegate::ViewBiosList()
     m_bios->list().ViewBiosList();
 }
 
+void Tessera_AppDelegate::snappreview()
+{
+    m_artwork->snappreview();
+}
+
+void Tessera_AppDelegate::ChangesnapPop()
+{
+    m_artwork->folder().ChangesnapPop();
+}
+
+void Tessera_AppDelegate::snapdownload()
+{
+    m_artwork->snapdownload();
+}
+
+void Tessera_AppDelegate::display_image_Finder()
+{
+    m_artwork->display_image_Finder();
+}
+
+void Tessera_AppDelegate::display_rom_Finder()
+{
+    m_artwork->display_rom_Finder();
+}
+
 void Tessera_AppDelegate::makeTextBigger()
 {
     if (m_info->isKey())
@@ -497,6 +526,7 @@ void Tessera_AppDelegate::DefaultAction()
     m_defaults.revertToInitialValues();
     Q_EMIT defaultAction();
     m_launch->LaunchemuPopAction();
+    m_artwork->aspect().snapviewAction();
     m_logWindow->infomationTextView->replace(qtTrId("preferences_ini"));
     m_mainWindow->setBusy(false);
     m_desktop.playSound(QStringLiteral("Tink"));

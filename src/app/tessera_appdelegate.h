@@ -13,6 +13,7 @@ class QAction;
 
 namespace tessera {
 
+class ArtworkDesk;
 class BiosDesk;
 class BiosPanel;
 struct BiosParts;
@@ -42,6 +43,7 @@ class RecordEditing;
 class RowColors;
 class RunController;
 class ScriptTool;
+class SidePanel;
 class TableFont;
 class UtilityObject;
 class WindowSwitching;
@@ -88,6 +90,7 @@ public:
     FavoritesDesk& favorites() { return *m_favorites; }
     BiosDesk& bios() { return *m_bios; }
     InfoDesk& info() { return *m_info; }
+    ArtworkDesk& artwork() { return *m_artwork; }
     MiniDesk& mini() { return *m_mini; }
     KeyWindow::Kind keyWindow() const;
     TableFont& tableFont() { return *m_tableFont; }
@@ -145,6 +148,11 @@ public Q_SLOTS:
     void searchHistoryinfo();
     void openROMinfo();
     void ViewBiosList();
+    void snappreview();
+    void ChangesnapPop();
+    void snapdownload();
+    void display_image_Finder();
+    void display_rom_Finder();
     void makeTextBigger();
     void makeTextSmaller();
     void showFontPanel1();
@@ -172,6 +180,8 @@ private:
     void joinFavoritesWindow();
     void joinMiniWindow();
     void joinInfo();
+    void joinArtwork();
+    void joinSidePanel(SidePanel& panel);
     void takeHistoryWindow(HistoryWindow& window);
     BiosParts takeBiosPanel(BiosPanel& panel);
     void followUndo();
@@ -204,6 +214,7 @@ private:
     std::unique_ptr<KeyCommands> m_keyCommands;
     std::unique_ptr<InfoDesk> m_info;
     std::unique_ptr<BiosDesk> m_bios;
+    std::unique_ptr<ArtworkDesk> m_artwork;
     WindowPlaces m_places;
     std::unique_ptr<LaunchPages> m_pages;
     std::unique_ptr<PathChooser> m_chooser;

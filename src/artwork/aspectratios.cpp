@@ -1,6 +1,7 @@
 #include "artwork/aspectratios.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessera {
 
@@ -17,6 +18,15 @@ QSizeF fitted(QSizeF shape, QSizeF into)
     if (shape.height() / shape.width() <= into.height() / into.width())
         return {into.width(), into.width() * shape.height() / shape.width()};
     return {into.height() * shape.width() / shape.height(), into.height()};
+}
+
+PicturePlace centred(PicturePlace place, QSizeF picture, QPointF centre)
+{
+    QRectF drawn = place.rectangle(picture);
+    drawn.moveCenter(centre);
+    place.x = drawn.x();
+    place.y = drawn.y();
+    return place;
 }
 
 } // namespace
@@ -43,13 +53,20 @@ std::optional<PicturePlace> picturePlace(QSizeF picture, const QRectF& view, int
     const AspectRatio ratio = aspectRatio(position, picture);
     const QSizeF shape(ratio.longSide, ratio.shortSide);
     const QSizeF target = fitted(isPortrait(picture) ? shape.transposed() : shape, view.size());
-    PicturePlace place{0, 0, static_cast<float>(target.width() / picture.width()),
-                       static_cast<float>(target.height() / picture.height())};
-    QRectF drawn = place.rectangle(picture);
-    drawn.moveCenter(view.center());
-    place.x = drawn.x();
-    place.y = drawn.y();
-    return place;
+    return centred({0, 0, static_cast<float>(target.width() / picture.width()),
+                    static_cast<float>(target.height() / picture.height())},
+                   picture, view.center());
+}
+
+PicturePlace inWholeSteps(const PicturePlace& place, QSizeF picture)
+{
+    const float least = std::min(place.scaleX, place.scaleY);
+    // A hair below a whole number is that number.
+    const float whole = std::floor(least + 0.001F);
+    if (whole < 1)
+        return place;
+    return centred({0, 0, place.scaleX * whole / least, place.scaleY * whole / least}, picture,
+                   place.rectangle(picture).center());
 }
 
 } // namespace tessera

@@ -46,4 +46,8 @@ struct PicturePlace {
 /// In the middle of the view, filling it along one side. Nothing where the picture or the view is empty.
 std::optional<PicturePlace> picturePlace(QSizeF picture, const QRectF& view, int position);
 
+/// Each pixel of the picture a whole number of the view's along the side that grows least, where it grows at
+/// all: smaller than the view, but evenly sharp.
+PicturePlace inWholeSteps(const PicturePlace& place, QSizeF picture);
+
 } // namespace tessera

@@ -187,10 +187,12 @@ TESSERA_CHOSEN(BuiltFrom);
 TESSERA_CHOSEN(MainWindowGeometry);
 TESSERA_CHOSEN(MainWindowColumns);
 TESSERA_CHOSEN(MainWindowSplit);
+TESSERA_CHOSEN(MainWindowSplit2);
 TESSERA_CHOSEN(GameListChip);
 TESSERA_CHOSEN(GameListFamilies);
 TESSERA_CHOSEN(FavoritesWindowColumns);
 TESSERA_CHOSEN(FavoritesWindowSplit);
+TESSERA_CHOSEN(FavoritesWindowSplit2);
 TESSERA_CHOSEN(FavoritesWindowGeometry);
 TESSERA_CHOSEN(MiniWindowGeometry);
 TESSERA_CHOSEN(MiniWindowAbove);
@@ -205,6 +207,9 @@ TESSERA_CHOSEN(RecordEditorGeometry);
 TESSERA_CHOSEN(FavoritesEditorGeometry);
 TESSERA_CHOSEN(FilterPanelGeometry);
 TESSERA_CHOSEN(PlayedIsOff);
+TESSERA_CHOSEN(PictureWholeSteps);
+TESSERA_CHOSEN(DownloadPanelGeometry);
+TESSERA_CHOSEN(ImageWindowGeometry);
 TESSERA_CHOSEN(Language);
 
 #undef TESSERA_FLAG

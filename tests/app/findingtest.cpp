@@ -5,6 +5,7 @@
 #include "app/mainwindow.h"
 #include "catalogue/storewriter.h"
 #include "catalogue/ui/chipbar.h"
+#include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
@@ -487,6 +488,17 @@ private Q_SLOTS:
         QTRY_COMPARE(finder().haveOf(1), std::optional(Have::Here));
     }
 
+    void theFactsStayWithTheSelectionWhenTheRowsChange()
+    {
+        QTest::keyClicks(field(), QStringLiteral("gradius3"));
+        const QStringList told = texts(*window().factsPanel);
+        QVERIFY(told.contains(QStringLiteral("Gradius III (World)")));
+        QTest::keyClick(field(), Qt::Key_Escape);
+        QCOMPARE(shown(), all);
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+        QCOMPARE(texts(*window().factsPanel), told);
+    }
+
     void theFactsMarkFollowsAnEdit()
     {
         QVERIFY(list().selectGame(QStringLiteral("jp")));
@@ -547,6 +559,16 @@ private Q_SLOTS:
     }
 
 private:
+    static QStringList texts(const QWidget& panel)
+    {
+        QStringList texts;
+        for (const QLabel* label : panel.findChildren<QLabel*>()) {
+            if (!label->isHidden())
+                texts << label->text();
+        }
+        return texts;
+    }
+
     void start()
     {
         m_staged->start();

@@ -70,6 +70,31 @@ private Q_SLOTS:
         QVERIFY(qAbs(rectangle.center().y() - view.center().y()) < 1e-9);
     }
 
+    void wholeStepsGrowEvenly_data()
+    {
+        QTest::addColumn<QSizeF>("picture");
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QRectF>("drawn");
+        QTest::newRow("2.67 is 2") << QSizeF(150, 100) << 0 << QRectF(50, 100, 300, 200);
+        QTest::newRow("2 is 2") << QSizeF(200, 150) << 0 << QRectF(0, 50, 400, 300);
+        QTest::newRow("smaller than itself") << QSizeF(800, 400) << 0 << QRectF(0, 100, 400, 200);
+        // The height grows 1.5 times, the width twice: the least goes down to 1, the other with it.
+        QTest::newRow("squeezed") << QSizeF(200, 150) << 4 << QRectF(66.6667, 125, 266.6667, 150);
+    }
+
+    void wholeStepsGrowEvenly()
+    {
+        QFETCH(QSizeF, picture);
+        QFETCH(int, position);
+        QFETCH(QRectF, drawn);
+        const auto place = picturePlace(picture, {0, 0, 400, 400}, position);
+        QVERIFY(place);
+        const QRectF rectangle = inWholeSteps(*place, picture).rectangle(picture);
+        for (const double distance : {rectangle.x() - drawn.x(), rectangle.y() - drawn.y(),
+                                      rectangle.width() - drawn.width(), rectangle.height() - drawn.height()})
+            QVERIFY2(qAbs(distance) < 1e-3, qPrintable(QString::number(distance)));
+    }
+
     void theScaleIsHeldInSinglePrecision()
     {
         const auto place = picturePlace({3, 3}, {0, 0, 1, 1}, 0);

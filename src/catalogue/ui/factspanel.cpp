@@ -28,7 +28,6 @@ constexpr std::array factRows{
 };
 
 constexpr int markSize = 12;
-constexpr int pictureHeight = 206;
 
 QLabel* selectable(QLabel* label)
 {
@@ -48,19 +47,9 @@ FactsPanel::FactsPanel(QWidget* parent)
     , m_factsBox(new QWidget(this))
     , m_kind(new QLabel(this))
 {
-    setProperty("role", QStringLiteral("panel"));
-    setAttribute(Qt::WA_StyledBackground);
     m_title->setProperty("role", QStringLiteral("heading"));
     m_titlejp->setProperty("role", QStringLiteral("dim"));
     m_kind->setProperty("role", QStringLiteral("faint"));
-
-    auto* picture = new QLabel(this);
-    picture->setProperty("role", QStringLiteral("picture"));
-    picture->setFixedHeight(pictureHeight);
-    picture->setAlignment(Qt::AlignCenter);
-    picture->setPixmap(
-        theme::icon(QStringLiteral("empty")).pixmap(QSize(40, 40), devicePixelRatioF(), QIcon::Disabled));
-    picture->setAccessibleName(qtTrId("facts_picture"));
 
     m_facts = new QGridLayout(m_factsBox);
     m_facts->setContentsMargins(0, 4, 0, 0);
@@ -89,15 +78,12 @@ FactsPanel::FactsPanel(QWidget* parent)
     m_haveName = addFact(textKey("fact_rom"), m_have);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setContentsMargins(12, 8, 12, 12);
     layout->setSpacing(6);
-    layout->addWidget(picture);
-    layout->addSpacing(8);
     layout->addLayout(titleRow);
     layout->addWidget(m_titlejp);
     layout->addWidget(m_kind);
     layout->addWidget(m_factsBox);
-    layout->addStretch();
     showRecord(nullptr, 0);
     showHave(std::nullopt, nullptr);
 }

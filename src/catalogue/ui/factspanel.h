@@ -12,8 +12,7 @@ class QLabel;
 
 namespace tessera {
 
-/// What is known of the selected machine: an empty picture frame until artwork comes, its titles and its
-/// facts.
+/// What is known of the selected machine: its titles and its facts.
 class FactsPanel : public QWidget
 {
     Q_OBJECT

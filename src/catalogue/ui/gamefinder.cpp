@@ -184,7 +184,7 @@ void GameFinder::setQuery(const QString& text)
 {
     m_query = Query(text);
     m_ranks = true;
-    m_list.rearrange([this] { find(); });
+    refresh();
     if (m_list.list().isRanked())
         m_list.selectRow(0);
 }
@@ -196,10 +196,11 @@ void GameFinder::setChip(Chip chip)
     refresh();
 }
 
-// What the user has selected stays so, and where it stands.
+// What the user has selected stays so, and where it stands. Others hear of it when it is selected again.
 void GameFinder::refresh()
 {
     m_list.rearrange([this] { find(); });
+    Q_EMIT changed();
 }
 
 // Before the ROM folders are known nobody can be told to have nothing.
@@ -247,7 +248,6 @@ void GameFinder::find()
         search().keep(chip, records.records);
         m_list.list().setFound(std::move(records));
     }
-    Q_EMIT changed();
 }
 
 void GameFinder::tellCounts()

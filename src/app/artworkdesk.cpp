@@ -1,0 +1,245 @@
+#include "app/artworkdesk.h"
+
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
+#include "app/preferenceswindow.h"
+#include "app/sidepanel.h"
+#include "app/tessera_appdelegate.h"
+#include "artwork/ui/aspectview.h"
+#include "artwork/ui/downloadpanel.h"
+#include "artwork/ui/downloadprocessing.h"
+#include "artwork/ui/imagewindow.h"
+#include "artwork/ui/picturepane.h"
+#include "artwork/ui/picturespage.h"
+#include "artwork/ui/snapsites.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "launch/ui/pathchooser.h"
+#include "platform/defaultscontroller.h"
+#include "widgets/bringforward.h"
+#include "widgets/pathfield.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace tessera {
+
+ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
+                         std::function<void(QWidget& window)> made, QObject* parent)
+    : QObject(parent)
+    , m_hub(hub)
+    , m_desktop(desktop)
+    , m_defaults(defaults)
+    , m_made(std::move(made))
+    , m_folder(desktop, defaults)
+    , m_aspect(defaults)
+{
+    GameListController& list = hub.gameList();
+    PicturePane& pane = *hub.mainWindow().sidePanel->picturePane;
+    m_aspect.setPopup(*pane.aspectPop);
+    show(
+        m_main, pane, [&list] { return list.tableViewSelectionROM(); },
+        [&list] { return list.tableViewSelectionParentROM(); });
+    connect(&list, &GameListController::selectionChanged, m_main.controller.get(),
+            &SnapshotController::showSelection);
+    connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);
+    connect(&m_preview, &PictureLoader::loaded, this,
+            [this](const QString&, const QImage& image) { imageWindow().show(image, m_previewName); });
+    connect(&m_preview, &PictureLoader::failed, this,
+            [this](const QString&, const QString& reason) { Q_EMIT statusMessage(reason); });
+}
+
+ArtworkDesk::~ArtworkDesk() = default;
+
+void ArtworkDesk::show(Shown& shown, PicturePane& pane, std::function<QString()> name,
+                       std::function<QString()> parent)
+{
+    fillKinds(*pane.buttonShot->menu());
+    connect(pane.buttonShot, &QToolButton::clicked, &m_folder, &SnapFolder::ChangesnapPop);
+    connect(&m_folder, &SnapFolder::labelChanged, pane.shotTextField, &QLabel::setText);
+    show(shown, *pane.imageView, std::move(name), std::move(parent));
+}
+
+void ArtworkDesk::show(Shown& shown, AspectView& view, std::function<QString()> name,
+                       std::function<QString()> parent)
+{
+    shown.name = name;
+    shown.controller = std::make_unique<SnapshotController>(
+        SnapshotParts{m_desktop, m_defaults, m_folder, view, std::move(name), std::move(parent)});
+    connect(shown.controller.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
+    connect(shown.controller.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
+}
+
+void ArtworkDesk::joinFavorites(FavoritesWindow& window)
+{
+    UCAppController& favorites = m_hub.favorites().controller();
+    PicturePane& pane = *window.sidePanel->picturePane;
+    m_aspect.addPopup(*pane.aspectPop);
+    show(
+        m_favorites, pane, [&favorites] { return favorites.tableViewSelectionROM2(); },
+        [&favorites] { return favorites.tableViewSelectionCloneof(); });
+    connect(&favorites, &UCAppController::selectionChanged, m_favorites.controller.get(),
+            &SnapshotController::showSelection);
+    m_folder.Setsnapfolder();
+}
+
+void ArtworkDesk::joinMini(MiniWindow& window)
+{
+    MiniDesk& mini = m_hub.mini();
+    connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
+    show(
+        m_mini, *window.imageView, [&mini] { return mini.game(); },
+        [this, &mini] { return parentOf(mini.game()); });
+    connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.controller.get(),
+            &SnapshotController::showSelection);
+    m_folder.Setsnapfolder();
+}
+
+// Of a set that was typed.
+QString ArtworkDesk::parentOf(const QString& name) const
+{
+    const std::string set = name.toStdString();
+    const auto records = m_hub.catalogue().records();
+    const auto game = std::ranges::find_if(
+        records, [&](const GameRecord& each) { return !set.empty() && each[Field::Name] == set; });
+    return game == records.end() ? QString() : fieldText((*game)[Field::Cloneof]);
+}
+
+ArtworkDesk::Shown& ArtworkDesk::shown()
+{
+    using Kind = KeyWindow::Kind;
+    const Kind key = m_hub.keyWindow();
+    if (m_favorites.controller && (key == Kind::Favorites || key == Kind::FavoritesEditor))
+        return m_favorites;
+    return m_mini.controller && key == Kind::Mini ? m_mini : m_main;
+}
+
+SnapshotController& ArtworkDesk::snapshot()
+{
+    return *shown().controller;
+}
+
+void ArtworkDesk::snap_change()
+{
+    m_hub.gameList().tableViewSelectionDidChange();
+    m_hub.favorites().controller().tableViewSelectionDidChange();
+    if (m_mini.controller)
+        m_mini.controller->showSelection();
+}
+
+void ArtworkDesk::snappreview()
+{
+    snapshot().snappreview();
+}
+
+void ArtworkDesk::display_rom_Finder()
+{
+    snapshot().display_rom_Finder();
+}
+
+void ArtworkDesk::display_image_Finder()
+{
+    snapshot().display_image_Finder();
+}
+
+void ArtworkDesk::snapdownload()
+{
+    download().snapdownload_url(shown().name());
+}
+
+// Read beside the windows; the one that was asked for last is shown.
+void ArtworkDesk::imagepreview(const ImagePreview& preview)
+{
+    m_previewName = preview.image_name;
+    m_preview.load(preview.image_path);
+}
+
+ImageWindow& ArtworkDesk::imageWindow()
+{
+    if (!m_imageWindow) {
+        m_imageWindow = std::make_unique<ImageWindow>();
+        m_made(*m_imageWindow);
+    }
+    return *m_imageWindow;
+}
+
+SnapSites& ArtworkDesk::sites()
+{
+    if (!m_sites)
+        m_sites = std::make_unique<SnapSites>(m_defaults);
+    return *m_sites;
+}
+
+DownloadProcessing& ArtworkDesk::download()
+{
+    if (!m_download) {
+        m_download = std::make_unique<DownloadProcessing>(
+            m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
+        connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
+        connect(m_download.get(), &DownloadProcessing::began, this, [this] { bringForward(downloadPanel()); });
+    }
+    return *m_download;
+}
+
+DownloadPanel& ArtworkDesk::downloadPanel()
+{
+    if (!m_downloadPanel) {
+        m_downloadPanel = std::make_unique<DownloadPanel>();
+        connect(m_downloadPanel->cancelButton, &QPushButton::clicked, m_download.get(),
+                &DownloadProcessing::cancel);
+        m_made(*m_downloadPanel);
+    }
+    return *m_downloadPanel;
+}
+
+void ArtworkDesk::addPage(PreferencesWindow& preferences, PathChooser& chooser)
+{
+    if (m_page != nullptr)
+        return;
+    m_page = new PicturesPage(m_defaults);
+    sites().setPage(*m_page);
+    using Choose = void (PathChooser::*)();
+    constexpr std::array<Choose, artworkKinds.size()> chooseFolder{
+        &PathChooser::selectSnapfolder, &PathChooser::selectTitlefolder, &PathChooser::selectFryerfolder};
+    constexpr std::array tags{1, 2, 3};
+    for (std::size_t kind = 0; kind < artworkKinds.size(); ++kind) {
+        const PathField& field = *m_page->folderFields[kind];
+        connect(field.chooseButton(), &QPushButton::clicked, &chooser, chooseFolder[kind]);
+        connect(field.revealButton(), &QToolButton::clicked, &m_folder,
+                [this, tag = tags[kind]] { m_folder.openSnapfolder(tag); });
+    }
+    connect(m_page->mameFolderButton, &QPushButton::clicked, this, [this] {
+        m_defaults.setText(keys::SnapPath, m_proposed);
+        proposeSnapFolder(m_proposed);
+    });
+    proposeSnapFolder(m_proposed);
+    preferences.addPage(m_page, qtTrId("page_pictures"), QStringLiteral("pictures"));
+}
+
+void ArtworkDesk::pathChosen(const QString& key)
+{
+    const bool isFolder = std::ranges::any_of(
+        artworkKinds, [&](const ArtworkKind& kind) { return key == kind.folder->name; });
+    if (!isFolder)
+        return;
+    m_folder.Setsnapfolder();
+    proposeSnapFolder(m_proposed);
+}
+
+// Not what is used already.
+void ArtworkDesk::proposeSnapFolder(const QString& folder)
+{
+    m_proposed = folder;
+    if (m_page != nullptr)
+        m_page->proposeSnapFolder(folder == m_defaults.text(keys::SnapPath) ? QString() : folder);
+}
+
+} // namespace tessera

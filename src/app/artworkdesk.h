@@ -1,0 +1,108 @@
+#pragma once
+
+#include "artwork/ui/aspectchoice.h"
+#include "artwork/ui/snapfolder.h"
+#include "artwork/ui/snapshotcontroller.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QAbstractItemView;
+class QMenu;
+class QMenuBar;
+class QWidget;
+
+namespace tessera {
+
+class DownloadPanel;
+class DownloadProcessing;
+class FavoritesWindow;
+class ImageWindow;
+class MiniWindow;
+class PathChooser;
+class PicturePane;
+class PicturesPage;
+class PreferencesWindow;
+class SnapSites;
+class Tessera_AppDelegate;
+
+/// Joins the pictures to the lists whose selection they follow, and to menus and preferences. Windows, page
+/// and download are made when they are first asked for.
+class ArtworkDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `made` gets each new window, to give it keys and a place.
+    ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
+                std::function<void(QWidget& window)> made, QObject* parent = nullptr);
+    ~ArtworkDesk() override;
+
+    SnapFolder& folder() { return m_folder; }
+    AspectChoice& aspect() { return m_aspect; }
+    /// Of the window that is key: the main list's, the favourites' or the mini window's.
+    SnapshotController& snapshot();
+    ImageWindow& imageWindow();
+    DownloadProcessing& download();
+    SnapSites& sites();
+
+    void fillMenu(QMenuBar& bar);
+    /// A list's own menu.
+    void addContextMenu(QAbstractItemView& list);
+    void joinFavorites(FavoritesWindow& window);
+    void joinMini(MiniWindow& window);
+    /// Puts the page on pictures into the preferences, once.
+    void addPage(PreferencesWindow& preferences, PathChooser& chooser);
+    /// A folder was chosen anew.
+    void pathChosen(const QString& key);
+    /// Where the emulator puts its own snapshots; offered on the page.
+    void proposeSnapFolder(const QString& folder);
+
+public Q_SLOTS:
+    /// The lists' selection handlers again.
+    void snap_change();
+    void snappreview();
+    void imagepreview(const tessera::ImagePreview& preview);
+    void snapdownload();
+    void display_rom_Finder();
+    void display_image_Finder();
+
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
+private:
+    struct Shown {
+        std::unique_ptr<SnapshotController> controller;
+        std::function<QString()> name;
+    };
+
+    void show(Shown& shown, PicturePane& pane, std::function<QString()> name,
+              std::function<QString()> parent);
+    void show(Shown& shown, AspectView& view, std::function<QString()> name, std::function<QString()> parent);
+    Shown& shown();
+    void fillKinds(QMenu& menu);
+    void fillFolders(QMenu& menu);
+    DownloadPanel& downloadPanel();
+    QString parentOf(const QString& name) const;
+
+    Tessera_AppDelegate& m_hub;
+    Desktop& m_desktop;
+    DefaultsController& m_defaults;
+    std::function<void(QWidget& window)> m_made;
+    SnapFolder m_folder;
+    AspectChoice m_aspect;
+    Shown m_main;
+    Shown m_favorites;
+    Shown m_mini;
+    PictureLoader m_preview;
+    QString m_previewName;
+    std::unique_ptr<ImageWindow> m_imageWindow;
+    std::unique_ptr<SnapSites> m_sites;
+    std::unique_ptr<DownloadPanel> m_downloadPanel;
+    std::unique_ptr<DownloadProcessing> m_download;
+    PicturesPage* m_page = nullptr; ///< of the preferences
+    QString m_proposed;
+};
+
+} // namespace tessera

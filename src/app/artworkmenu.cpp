@@ -1,0 +1,67 @@
+// The menus of the pictures: kinds, ratios and folders.
+
+#include "app/artworkdesk.h"
+#include "app/mainwindow.h"
+#include "app/tessera_appdelegate.h"
+#include "artwork/artworkkinds.h"
+
+#include <QAbstractItemView>
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace tessera {
+
+namespace {
+
+// By kind; the two tags before them open the first one's too.
+constexpr std::array folderTexts{textKey("menu_snapfolder"), textKey("menu_titlefolder"),
+                                 textKey("menu_flyerfolder")};
+
+} // namespace
+
+void ArtworkDesk::fillMenu(QMenuBar& bar)
+{
+    auto* menu = bar.findChild<QMenu*>(QStringLiteral("menu_artwork"));
+    auto* kinds = menu->addMenu(qtTrId("menu_kinds"));
+    fillKinds(*kinds);
+    auto* aspect = menu->addMenu(qtTrId("aspect_ratio"));
+    aspect->setObjectName(QStringLiteral("Menu_aspect"));
+    m_aspect.fillMenu(*aspect);
+    auto* folders = menu->addMenu(qtTrId("menu_picturefolders"));
+    fillFolders(*folders);
+}
+
+// The checks follow the setting whenever the menu opens.
+void ArtworkDesk::fillKinds(QMenu& menu)
+{
+    auto* group = new QActionGroup(&menu);
+    for (int position = 0; const ArtworkKind& kind : artworkKinds) {
+        QAction* item = group->addAction(menu.addAction(qtTrId(kind.label)));
+        item->setCheckable(true);
+        connect(item, &QAction::triggered, &m_folder, [this, position] { m_folder.setKind(position); });
+        ++position;
+    }
+    connect(&menu, &QMenu::aboutToShow, this, [this, group] {
+        if (artworkKind(m_folder.kind()) != nullptr)
+            group->actions().at(m_folder.kind())->setChecked(true);
+    });
+}
+
+void ArtworkDesk::fillFolders(QMenu& menu)
+{
+    for (int tag = 1; const char* text : folderTexts) {
+        connect(menu.addAction(qtTrId(text)), &QAction::triggered, &m_folder,
+                [this, tag] { m_folder.openSnapfolder(tag); });
+        ++tag;
+    }
+}
+
+void ArtworkDesk::addContextMenu(QAbstractItemView& list)
+{
+    const QMenuBar& bar = *m_hub.mainWindow().menuBar();
+    for (const char* name : {"menu_showpicture", "menu_downloadpicture", "menu_revealpicture", "menu_revealrom"})
+        list.addAction(bar.findChild<QAction*>(QLatin1String(name)));
+}
+
+} // namespace tessera

@@ -1,0 +1,125 @@
+#include "artwork/ui/aspectview.h"
+
+#include "artwork/aspectratios.h"
+#include "platform/defaultscontroller.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace tessera {
+
+namespace {
+
+constexpr int border = 1;
+constexpr double cornerRadius = 5;
+
+} // namespace
+
+AspectView::AspectView(DefaultsController& defaults, QWidget* parent)
+    : QWidget(parent)
+    , m_defaults(defaults)
+{
+    setProperty("role", QStringLiteral("picture"));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    connect(&defaults, &DefaultsController::changed, this, &AspectView::settingChanged);
+}
+
+int AspectView::rationum() const
+{
+    return m_defaults.index(keys::AspectRatio);
+}
+
+bool AspectView::hasWholeSteps() const
+{
+    return m_defaults.defaults().flag(keys::PictureWholeSteps.name);
+}
+
+void AspectView::settingChanged(const QString& name)
+{
+    if (name.isEmpty() || name == keys::AspectRatio.name || name == keys::PictureWholeSteps.name)
+        update();
+}
+
+void AspectView::setImage(const QImage& image)
+{
+    m_image = image;
+    m_scaled = QPixmap();
+    update();
+}
+
+QRect AspectView::drawnRect() const
+{
+    const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
+    const double ratio = devicePixelRatioF();
+    const auto place = picturePlace(
+        m_image.size(), QRectF(inside.topLeft() * ratio, inside.size() * ratio), rationum());
+    if (!place)
+        return {};
+    const QRectF drawn
+        = (hasWholeSteps() ? inWholeSteps(*place, m_image.size()) : *place).rectangle(m_image.size());
+    // Whole pixels: between them everything would be blurred.
+    return QRect(qRound(drawn.x()), qRound(drawn.y()), qMax(1, qRound(drawn.width())),
+                 qMax(1, qRound(drawn.height())));
+}
+
+const QPixmap& AspectView::scaled(QSize size)
+{
+    const bool evenly = hasWholeSteps() && size.width() >= m_image.width();
+    if (m_scaled.size() != size || m_scaledEvenly != evenly) {
+        m_scaled = QPixmap::fromImage(
+            m_image.scaled(size, Qt::IgnoreAspectRatio,
+                           evenly ? Qt::FastTransformation : Qt::SmoothTransformation));
+        m_scaledEvenly = evenly;
+    }
+    return m_scaled;
+}
+
+void AspectView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    const QRect drawn = drawnRect();
+    if (drawn.isEmpty())
+        return;
+    const double ratio = devicePixelRatioF();
+    QTransform transform;
+    transform.scale(1 / ratio, 1 / ratio);
+    transform.translate(drawn.x(), drawn.y());
+    painter.setTransform(transform, true);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(scaled(drawn.size()));
+    painter.drawRoundedRect(QRectF(QPointF(), drawn.size()), cornerRadius * ratio, cornerRadius * ratio);
+}
+
+void AspectView::mousePressEvent(QMouseEvent* event)
+{
+    m_drag.press(*event);
+}
+
+void AspectView::mouseMoveEvent(QMouseEvent* event)
+{
+    m_drag.move(*event, *this);
+}
+
+void AspectView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_drag.release(*event))
+        Q_EMIT clicked();
+}
+
+void AspectView::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+        Q_EMIT clicked();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace tessera

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "widgets/windowdrag.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+namespace tessera {
+
+class DefaultsController;
+
+/// Draws a picture as large as the view allows, in the ratio of the settings. A click on it asks for the
+/// picture itself; dragging it moves the window.
+class AspectView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit AspectView(DefaultsController& defaults, QWidget* parent = nullptr);
+
+    /// The position of the ratio that is used.
+    int rationum() const;
+    void setImage(const QImage& image);
+    const QImage& image() const { return m_image; }
+    /// Where the picture is drawn, in pixels of the screen from the view's upper left corner; empty without a
+    /// picture.
+    QRect drawnRect() const;
+
+    QSize sizeHint() const override { return {276, 207}; }
+
+Q_SIGNALS:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool hasWholeSteps() const;
+    const QPixmap& scaled(QSize size);
+    void settingChanged(const QString& name);
+
+    DefaultsController& m_defaults;
+    QImage m_image;
+    QPixmap m_scaled; ///< the picture as it was drawn last
+    bool m_scaledEvenly = false;
+    WindowDrag m_drag;
+};
+
+} // namespace tessera

@@ -1,0 +1,47 @@
+#include "artwork/ui/imagecandodrag.h"
+
+#include "artwork/aspectratios.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tessera {
+
+ImageCandoDrag::ImageCandoDrag(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+void ImageCandoDrag::setImage(const QImage& image)
+{
+    m_image = image;
+    update();
+}
+
+void ImageCandoDrag::paintEvent(QPaintEvent*)
+{
+    const auto place = picturePlace(m_image.size(), rect(), 0);
+    if (!place)
+        return;
+    QPainter painter(this);
+    // Whole pixels stay as sharp as they are.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, place->scaleX != std::floor(place->scaleX));
+    painter.drawImage(place->rectangle(m_image.size()), m_image);
+}
+
+void ImageCandoDrag::mousePressEvent(QMouseEvent* event)
+{
+    m_drag.press(*event);
+}
+
+void ImageCandoDrag::mouseMoveEvent(QMouseEvent* event)
+{
+    m_drag.move(*event, *this);
+}
+
+void ImageCandoDrag::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_drag.release(*event);
+}
+
+} // namespace tessera

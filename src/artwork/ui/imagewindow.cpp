@@ -1,0 +1,74 @@
+#include "artwork/ui/imagewindow.h"
+
+#include "artwork/ui/imageframe.h"
+#include "artwork/ui/imagecandodrag.h"
+#include "widgets/bringforward.h"
+#include "widgets/closekeys.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+ImageWindow::ImageWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , imageView2(new ImageCandoDrag)
+    , m_size(new QLabel)
+{
+    setObjectName(QStringLiteral("imageWindow"));
+    imageView2->setObjectName(QStringLiteral("imageView2"));
+    imageView2->setAccessibleName(qtTrId("image_view"));
+    m_size->setObjectName(QStringLiteral("imageSizeLabel"));
+    m_size->setProperty("role", QStringLiteral("imagestrip"));
+    m_size->setFixedHeight(imageStrip);
+    m_size->setAlignment(Qt::AlignCenter);
+    // A picture may be narrower than its size in words.
+    m_size->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(imageView2, 1);
+    layout->addWidget(m_size);
+    closeByKeyboard(*this);
+}
+
+void ImageWindow::show(const QImage& image, const QString& name)
+{
+    const QLocale locale;
+    imageView2->setImage(image);
+    imageView2->setAccessibleDescription(name);
+    m_size->setText(
+        qtTrId("image_size").arg(locale.toString(image.width()), locale.toString(image.height())));
+    setWindowTitle(name);
+    fit(image.size());
+    if (!isVisible())
+        bringForward(*this);
+}
+
+// The origin is the lower left corner. What would be out of reach is moved onto the screen, and what is larger
+// than the screen drawn smaller.
+void ImageWindow::fit(QSize picture)
+{
+    const QRect free = screen()->availableGeometry();
+    const QRect now = geometry();
+    const double bottom = free.y() + free.height();
+    const Frame current = turnedOver(Frame{static_cast<double>(now.x()), static_cast<double>(now.y()),
+                                           static_cast<double>(now.width()),
+                                           static_cast<double>(now.height())},
+                                     bottom);
+    const Frame wanted = turnedOver(imageFrame(current, picture), bottom);
+    QRect place = QRectF(wanted.x, wanted.y, wanted.width, wanted.height).toRect();
+    place.setSize(place.size().boundedTo(free.size()));
+    if (!testAttribute(Qt::WA_Moved) && !isVisible()) {
+        // Nobody has placed it yet: the desktop does.
+        resize(place.size());
+        return;
+    }
+    place.moveLeft(qBound(free.left(), place.left(), qMax(free.left(), free.right() + 1 - place.width())));
+    place.moveTop(qBound(free.top(), place.top(), qMax(free.top(), free.bottom() + 1 - place.height())));
+    setGeometry(place);
+}
+
+} // namespace tessera

@@ -1,0 +1,76 @@
+#include "artwork/ui/pictureloader.h"
+
+#include "artwork/ui/picturereader.h"
+
+#include <QFileInfo>
+
+namespace tessera {
+
+namespace {
+
+constexpr int mostKept = 48 * 1024; // kilobytes
+
+} // namespace
+
+PictureLoader::PictureLoader(QObject* parent)
+    : QObject(parent)
+    , m_kept(mostKept)
+{
+    m_pool.setMaxThreadCount(1);
+}
+
+PictureLoader::~PictureLoader() = default;
+
+void PictureLoader::load(const QString& path)
+{
+    m_wanted = path;
+    if (const Kept* kept = m_kept.object(path)) {
+        const QFileInfo file(path);
+        if (kept->changed == file.lastModified() && kept->length == file.size()) {
+            m_wanted.clear();
+            const QImage image = kept->image;
+            Q_EMIT loaded(path, image);
+            return;
+        }
+    }
+    if (!m_isReading)
+        read(path);
+}
+
+void PictureLoader::read(const QString& path)
+{
+    m_isReading = true;
+    m_pool.start([this, path] {
+        // Before it is read: what is written meanwhile makes it another file.
+        const QFileInfo file(path);
+        const QDateTime changed = file.lastModified();
+        const qint64 length = file.size();
+        const auto picture = readPicture(path);
+        QMetaObject::invokeMethod(
+            this,
+            [this, path, changed, length, image = picture.value_or(QImage()),
+             reason = picture ? QString() : picture.error().text()] {
+                take(path, changed, length, image, reason);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void PictureLoader::take(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
+                         const QString& reason)
+{
+    m_isReading = false;
+    if (!image.isNull())
+        m_kept.insert(path, new Kept{changed, length, image}, static_cast<int>(image.sizeInBytes() / 1024));
+    if (m_wanted.isEmpty())
+        return;
+    if (m_wanted != path)
+        return load(m_wanted);
+    m_wanted.clear();
+    if (image.isNull())
+        Q_EMIT failed(path, reason);
+    else
+        Q_EMIT loaded(path, image);
+}
+
+} // namespace tessera

@@ -1,0 +1,107 @@
+#include "artwork/ui/snapsites.h"
+
+#include "artwork/picturesites.h"
+#include "artwork/ui/picturespage.h"
+#include "platform/defaultscontroller.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace tessera {
+
+namespace {
+
+const PictureSite* siteAt(int index)
+{
+    const bool isSite = index >= 0 && index < static_cast<int>(pictureSites.size());
+    return isSite ? &pictureSites[static_cast<std::size_t>(index)] : nullptr;
+}
+
+void showText(QLineEdit& field, const QString& text)
+{
+    if (field.text() != text)
+        field.setText(text);
+}
+
+} // namespace
+
+SnapSites::SnapSites(DefaultsController& defaults, QObject* parent)
+    : QObject(parent)
+    , m_defaults(defaults)
+{
+    connect(&defaults, &DefaultsController::changed, this, &SnapSites::settingChanged);
+    snapdownsiteAction();
+}
+
+void SnapSites::setPage(PicturesPage& page)
+{
+    m_page = &page;
+    connect(page.snapdownsitePop, &QComboBox::activated, this, &SnapSites::snapdownsiteAction);
+    connect(page.hostField, &QLineEdit::textEdited, this, &SnapSites::storeHost);
+    int kind = 0;
+    for (QLineEdit* field : page.templateFields()) {
+        connect(field, &QLineEdit::textEdited, this,
+                [this, kind](const QString& text) { storeTemplate(kind, text); });
+        ++kind;
+    }
+    showTemplates();
+}
+
+QString SnapSites::templateOf(int kind) const
+{
+    const bool isKind = kind >= 0 && kind < static_cast<int>(m_templates.size());
+    return isKind ? m_templates[static_cast<std::size_t>(kind)] : QString();
+}
+
+// The title of the selected item; without a page its position says the same.
+bool SnapSites::isOwnSite() const
+{
+    return m_page ? m_page->snapdownsitePop->currentText() == PicturesPage::ownSite
+                  : m_defaults.index(keys::Snapdownsite) == ownPictureSite;
+}
+
+void SnapSites::snapdownsiteAction()
+{
+    const int index = isOwnSite() ? ownPictureSite : m_defaults.index(keys::Snapdownsite);
+    if (const auto templates
+        = pictureTemplates(index, [this](const ChosenKey& key) { return m_defaults.text(key); }))
+        m_templates = *templates;
+    showTemplates();
+}
+
+void SnapSites::showTemplates()
+{
+    if (!m_page)
+        return;
+    int kind = 0;
+    for (QLineEdit* field : m_page->templateFields()) {
+        field->setEnabled(isOwnSite());
+        showText(*field, templateOf(kind++));
+    }
+    const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite));
+    m_page->hostField->setEnabled(site != nullptr);
+    showText(*m_page->hostField, site != nullptr ? m_defaults.text(*site->host) : QString());
+}
+
+void SnapSites::storeHost(const QString& host)
+{
+    if (const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite)))
+        m_defaults.setText(*site->host, host);
+}
+
+void SnapSites::storeTemplate(int kind, const QString& text)
+{
+    if (isOwnSite())
+        m_defaults.setText(*artworkKinds[static_cast<std::size_t>(kind)].downloadTemplate, text);
+}
+
+void SnapSites::settingChanged(const QString& name)
+{
+    const bool isTemplate = std::ranges::any_of(
+        artworkKinds, [&](const ArtworkKind& each) { return name == each.downloadTemplate->name; });
+    if (name.isEmpty() || isTemplate || name == keys::Snapdownsite.name
+        || name.startsWith(QLatin1StringView("SnapsiteHost")))
+        snapdownsiteAction();
+}
+
+} // namespace tessera

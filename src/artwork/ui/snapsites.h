@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <array>
+
+class QLineEdit;
+
+namespace tessera {
+
+class DefaultsController;
+class PicturesPage;
+
+/// Where pictures are fetched from. The page with the controls is made when it is first shown; until then the
+/// settings stand for them.
+class SnapSites : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SnapSites(DefaultsController& defaults, QObject* parent = nullptr);
+
+    /// Its controls on sites follow this from now on.
+    void setPage(PicturesPage& page);
+    /// The template of a kind, by its position; empty for one that there is not.
+    QString templateOf(int kind) const;
+
+public Q_SLOTS:
+    /// Takes the templates of the chosen site.
+    void snapdownsiteAction();
+
+private:
+    bool isOwnSite() const;
+    void showTemplates();
+    void storeHost(const QString& host);
+    void storeTemplate(int kind, const QString& text);
+    void settingChanged(const QString& name);
+
+    DefaultsController& m_defaults;
+    QPointer<PicturesPage> m_page;
+    std::array<QString, 3> m_templates;
+};
+
+} // namespace tessera

@@ -1,0 +1,55 @@
+#include "widgets/windowdrag.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QWidget>
+#include <QWindow>
+
+namespace tessera {
+
+void WindowDrag::press(const QMouseEvent& event)
+{
+    m_isPressed = event.button() == Qt::LeftButton;
+    m_isDragging = false;
+    m_start = m_last = event.globalPosition().toPoint();
+}
+
+// Where a program may not place its windows, the compositor moves them itself.
+bool WindowDrag::handOver(const QWidget& view)
+{
+    QWindow* window = view.window()->windowHandle();
+    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) || window == nullptr)
+        return false;
+    return window->startSystemMove();
+}
+
+void WindowDrag::move(const QMouseEvent& event, QWidget& view)
+{
+    if (!m_isPressed)
+        return;
+    const QPoint place = event.globalPosition().toPoint();
+    const int far = QGuiApplication::styleHints()->startDragDistance();
+    if (!m_isDragging && (place - m_start).manhattanLength() < far)
+        return;
+    m_isDragging = true;
+    // Then no release is heard of.
+    if (handOver(view)) {
+        m_isPressed = false;
+        return;
+    }
+    QWidget& window = *view.window();
+    if (!window.isMaximized() && !window.isFullScreen())
+        window.move(window.pos() + place - m_last);
+    m_last = place;
+}
+
+bool WindowDrag::release(const QMouseEvent& event)
+{
+    const bool isClick = m_isPressed && !m_isDragging && event.button() == Qt::LeftButton;
+    if (event.button() == Qt::LeftButton)
+        m_isPressed = m_isDragging = false;
+    return isClick;
+}
+
+} // namespace tessera

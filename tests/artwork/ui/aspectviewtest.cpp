@@ -1,0 +1,140 @@
+#include "artwork/ui/aspectview.h"
+
+#include "staging.h"
+#include "support/testmain.h"
+
+#include <QSignalSpy>
+#include <QStyleHints>
+
+using namespace tessera;
+using test::PictureStaging;
+
+class AspectViewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staging = std::make_unique<PictureStaging>();
+        m_window = std::make_unique<QWidget>();
+        m_view = new AspectView(m_staging->defaults, m_window.get());
+        // A border of one pixel on each side.
+        m_view->setGeometry(0, 0, 402, 402);
+        m_window->resize(402, 402);
+        m_window->move(50, 60);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void aPictureFillsTheViewInItsRatio_data()
+    {
+        QTest::addColumn<int>("position");
+        QTest::addColumn<QRect>("drawn");
+        QTest::newRow("own") << 0 << QRect(1, 51, 400, 300);
+        QTest::newRow("16:9") << 4 << QRect(1, 89, 400, 225);
+        QTest::newRow("square") << 2 << QRect(1, 1, 400, 400);
+    }
+
+    void aPictureFillsTheViewInItsRatio()
+    {
+        QFETCH(int, position);
+        m_view->setImage(image({320, 240}));
+        m_staging->defaults.setIndex(keys::AspectRatio, position);
+        QCOMPARE(m_view->rationum(), position);
+        QTEST(m_view->drawnRect(), "drawn");
+    }
+
+    void itIsPaintedWhereItIsDrawn()
+    {
+        m_view->setImage(image({320, 240}));
+        const QImage seen = m_window->grab().toImage();
+        QCOMPARE(seen.pixelColor(200, 200), QColor(Qt::red));
+        QCOMPARE(seen.pixelColor(10, 60), QColor(Qt::red));
+        QVERIFY(seen.pixelColor(200, 40) != QColor(Qt::red));
+        QVERIFY(seen.pixelColor(200, 360) != QColor(Qt::red));
+    }
+
+    void anotherRatioIsDrawnAtOnce()
+    {
+        m_view->setImage(image({320, 240}));
+        m_window->grab();
+        m_staging->defaults.setIndex(keys::AspectRatio, 2);
+        QCOMPARE(m_window->grab().toImage().pixelColor(200, 40), QColor(Qt::red));
+    }
+
+    void wholeStepsKeepPixelsEven()
+    {
+        m_staging->defaults.setText(keys::PictureWholeSteps, QStringLiteral("1"));
+        m_view->setImage(image({150, 100}));
+        QCOMPARE(m_view->drawnRect().size(), QSize(300, 200));
+        // What is larger than the view is drawn as ever.
+        m_view->setImage(image({800, 400}));
+        QCOMPARE(m_view->drawnRect().size(), QSize(400, 200));
+    }
+
+    void withoutAPictureNothingIsDrawn()
+    {
+        m_view->setImage(QImage());
+        QVERIFY(m_view->drawnRect().isEmpty());
+        m_window->grab();
+    }
+
+    void aClickAsksForThePicture()
+    {
+        QSignalSpy clicked(m_view, &AspectView::clicked);
+        QTest::mouseClick(m_view, Qt::LeftButton);
+        QCOMPARE(clicked.size(), 1);
+        QTest::mouseClick(m_view, Qt::RightButton);
+        QCOMPARE(clicked.size(), 1);
+    }
+
+    void keysAskForItToo()
+    {
+        QSignalSpy clicked(m_view, &AspectView::clicked);
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+            QTest::keyClick(m_view, key);
+        QCOMPARE(clicked.size(), 3);
+        QTest::keyClick(m_view, Qt::Key_A);
+        QCOMPARE(clicked.size(), 3);
+    }
+
+    void draggingMovesTheWindow()
+    {
+        QSignalSpy clicked(m_view, &AspectView::clicked);
+        const QPoint start = m_window->pos();
+        QTest::mousePress(m_view, Qt::LeftButton, {}, {100, 100});
+        QTest::mouseMove(m_view, {130, 80});
+        // The window has gone with the mouse: within the view it is where it was.
+        QTest::mouseRelease(m_view, Qt::LeftButton, {}, {100, 100});
+        QCOMPARE(m_window->pos(), start + QPoint(30, -20));
+        QVERIFY(clicked.isEmpty());
+    }
+
+    void aTremblingClickIsNoDrag()
+    {
+        QSignalSpy clicked(m_view, &AspectView::clicked);
+        const QPoint start = m_window->pos();
+        QTest::mousePress(m_view, Qt::LeftButton, {}, {100, 100});
+        QTest::mouseMove(m_view, {101, 101});
+        QTest::mouseRelease(m_view, Qt::LeftButton, {}, {101, 101});
+        QCOMPARE(m_window->pos(), start);
+        QCOMPARE(clicked.size(), 1);
+    }
+
+private:
+    static QImage image(QSize size)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        return image;
+    }
+
+    std::unique_ptr<PictureStaging> m_staging;
+    std::unique_ptr<QWidget> m_window;
+    AspectView* m_view = nullptr; // the window's
+};
+
+TESSERA_TEST(AspectViewTest);
+
+#include "aspectviewtest.moc"

@@ -1,0 +1,126 @@
+#include "artwork/ui/snapsites.h"
+
+#include "artwork/ui/picturespage.h"
+#include "staging.h"
+#include "support/testmain.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace tessera;
+using test::PictureStaging;
+
+class SnapSitesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staging = std::make_unique<PictureStaging>();
+        m_staging->defaults.setText(keys::SnapsiteHost1, QStringLiteral("one.test"));
+        m_staging->defaults.setText(keys::SnapsiteHost2, QStringLiteral("two.test"));
+        m_page = std::make_unique<PicturesPage>(m_staging->defaults);
+        m_sites = std::make_unique<SnapSites>(m_staging->defaults);
+        m_sites->setPage(*m_page);
+    }
+
+    void cleanup()
+    {
+        m_sites.reset();
+        m_page.reset();
+    }
+
+    void aSiteFillsTheFieldsAndLocksThem()
+    {
+        choose(1);
+        QCOMPARE(fields(), (QStringList{"http://two.test/snap/{$gamename}",
+                                        "http://two.test/titles/{$gamename}", ""}));
+        for (const QLineEdit* field : m_page->templateFields())
+            QVERIFY(!field->isEnabled());
+        QCOMPARE(m_sites->templateOf(0), QStringLiteral("http://two.test/snap/{$gamename}"));
+        QCOMPARE(m_sites->templateOf(2), QString());
+        QCOMPARE(m_sites->templateOf(3), QString());
+    }
+
+    void theOtherSiteBringsTheUsersTemplatesBack()
+    {
+        m_staging->defaults.setText(keys::snapdownloadPath, QStringLiteral("http://mine.test/a"));
+        m_staging->defaults.setText(keys::titlessdownloadPath, QStringLiteral("http://mine.test/b"));
+        m_staging->defaults.setText(keys::flyersdownloadPath, QStringLiteral("http://mine.test/c"));
+        choose(0);
+        choose(m_page->snapdownsitePop->findText(QStringLiteral("Other site")));
+        QCOMPARE(fields(), (QStringList{"http://mine.test/a", "http://mine.test/b", "http://mine.test/c"}));
+        for (const QLineEdit* field : m_page->templateFields())
+            QVERIFY(field->isEnabled());
+    }
+
+    void whatIsTypedIsTheUsersOwn()
+    {
+        choose(3);
+        m_page->titlesdownTextField->clear();
+        QTest::keyClicks(m_page->titlesdownTextField, QStringLiteral("http://mine.test/{$gamename}"));
+        QCOMPARE(m_staging->defaults.text(keys::titlessdownloadPath),
+                 QStringLiteral("http://mine.test/{$gamename}"));
+        QCOMPARE(m_sites->templateOf(1), QStringLiteral("http://mine.test/{$gamename}"));
+    }
+
+    void anyOtherPositionLeavesTheText()
+    {
+        choose(1);
+        m_staging->defaults.setIndex(keys::Snapdownsite, 7);
+        QCOMPARE(fields().constFirst(), QStringLiteral("http://two.test/snap/{$gamename}"));
+        QVERIFY(!m_page->snapdownTextField->isEnabled());
+    }
+
+    void aHostIsTypedOncePerSite()
+    {
+        choose(2);
+        QVERIFY(m_page->hostField->isEnabled());
+        QTest::keyClicks(m_page->hostField, QStringLiteral("three.test"));
+        QCOMPARE(m_staging->defaults.text(keys::SnapsiteHost3), QStringLiteral("three.test"));
+        QVERIFY(fields().constFirst().startsWith(QStringLiteral("http://three.test/maws/")));
+        choose(3);
+        QVERIFY(!m_page->hostField->isEnabled());
+    }
+
+    void theSavedSiteServesWithoutAPage()
+    {
+        m_staging->defaults.setIndex(keys::Snapdownsite, 0);
+        const SnapSites sites(m_staging->defaults);
+        QCOMPARE(sites.templateOf(1), QStringLiteral("http://one.test/mmedia/titles/{$gamename}"));
+    }
+
+    void aFolderOfMamesOwnIsProposed()
+    {
+        QVERIFY(m_page->mameFolderButton->isHidden());
+        m_page->proposeSnapFolder(QStringLiteral("/mame/snap"));
+        QVERIFY(!m_page->mameFolderButton->isHidden());
+        m_page->proposeSnapFolder(QString());
+        QVERIFY(m_page->mameFolderButton->isHidden());
+    }
+
+private:
+    void choose(int position)
+    {
+        m_page->snapdownsitePop->setCurrentIndex(position);
+        Q_EMIT m_page->snapdownsitePop->activated(position);
+    }
+
+    QStringList fields() const
+    {
+        QStringList texts;
+        for (const QLineEdit* field : m_page->templateFields())
+            texts << field->text();
+        return texts;
+    }
+
+    std::unique_ptr<PictureStaging> m_staging;
+    std::unique_ptr<PicturesPage> m_page;
+    std::unique_ptr<SnapSites> m_sites;
+};
+
+TESSERA_TEST(SnapSitesTest);
+
+#include "snapsitestest.moc"
