@@ -31,10 +31,6 @@
     <message id="record_remove_Info"><source></source><translation>The ROM files stay where they are. Undo brings the machines back as long as Tessera runs; the catalogue file changes when it is saved.</translation></message>
     <message id="remove"><source></source><translation>Remove</translation></message>
     <message id="editor_window"><source></source><translation>Record Editor</translation></message>
-    <message id="editor_remove"><source></source><translation>&amp;Remove…</translation></message>
-    <message id="editor_close"><source></source><translation>&amp;Close</translation></message>
-    <message id="editor_previous"><source></source><translation>&amp;Previous</translation></message>
-    <message id="editor_next"><source></source><translation>&amp;Next</translation></message>
     <message id="appearance_font"><source></source><translation>List font</translation></message>
     <message id="appearance_choosefont"><source></source><translation>Choose…</translation></message>
     <message id="appearance_size"><source></source><translation>Size</translation></message>

@@ -31,10 +31,6 @@
     <message id="record_remove_Info"><source></source><translation>ROM ファイルはそのまま残ります。Tessera の実行中は取り消しで元に戻せます。カタログのファイルは保存したときに変わります。</translation></message>
     <message id="remove"><source></source><translation>削除</translation></message>
     <message id="editor_window"><source></source><translation>レコードの編集</translation></message>
-    <message id="editor_remove"><source></source><translation>削除(&amp;R)…</translation></message>
-    <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
-    <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
-    <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
     <message id="appearance_font"><source></source><translation>リストのフォント</translation></message>
     <message id="appearance_choosefont"><source></source><translation>選択…</translation></message>
     <message id="appearance_size"><source></source><translation>サイズ</translation></message>

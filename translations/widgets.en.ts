@@ -11,5 +11,9 @@
     <message id="fontpanel_sample"><source></source><translation>Aa Gg 0123 あア亜</translation></message>
     <message id="panel_close"><source></source><translation>Close</translation></message>
     <message id="panel_minimise"><source></source><translation>Minimise</translation></message>
+    <message id="editor_remove"><source></source><translation>&amp;Remove…</translation></message>
+    <message id="editor_close"><source></source><translation>&amp;Close</translation></message>
+    <message id="editor_previous"><source></source><translation>&amp;Previous</translation></message>
+    <message id="editor_next"><source></source><translation>&amp;Next</translation></message>
 </context>
 </TS>

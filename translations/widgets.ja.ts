@@ -11,5 +11,9 @@
     <message id="fontpanel_sample"><source></source><translation>あア亜 Aa Gg 0123</translation></message>
     <message id="panel_close"><source></source><translation>閉じる</translation></message>
     <message id="panel_minimise"><source></source><translation>最小化</translation></message>
+    <message id="editor_remove"><source></source><translation>削除(&amp;R)…</translation></message>
+    <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
+    <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
+    <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
 </context>
 </TS>

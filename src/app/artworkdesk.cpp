@@ -65,6 +65,7 @@ void ArtworkDesk::show(Shown& shown, PicturePane& pane, std::function<QString()>
     fillKinds(*pane.buttonShot->menu());
     connect(pane.buttonShot, &QToolButton::clicked, &m_folder, &SnapFolder::ChangesnapPop);
     connect(&m_folder, &SnapFolder::labelChanged, pane.shotTextField, &QLabel::setText);
+    pane.shotTextField->setText(m_folder.label());
     show(shown, *pane.imageView, std::move(name), std::move(parent));
 }
 
@@ -88,19 +89,20 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
         [&favorites] { return favorites.tableViewSelectionCloneof(); });
     connect(&favorites, &UCAppController::selectionChanged, m_favorites.controller.get(),
             &SnapshotController::showSelection);
-    m_folder.Setsnapfolder();
+    m_favorites.controller->showSelection();
 }
 
 void ArtworkDesk::joinMini(MiniWindow& window)
 {
     MiniDesk& mini = m_hub.mini();
     connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
+    window.shotTextField2->setText(m_folder.label());
     show(
         m_mini, *window.imageView, [&mini] { return mini.game(); },
         [this, &mini] { return parentOf(mini.game()); });
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.controller.get(),
             &SnapshotController::showSelection);
-    m_folder.Setsnapfolder();
+    m_mini.controller->showSelection();
 }
 
 // Of a set that was typed.
@@ -155,6 +157,13 @@ void ArtworkDesk::snapdownload()
     download().snapdownload_url(shown().name());
 }
 
+// The picture that stands for a missing one is no file.
+QString ArtworkDesk::pictureFile() const
+{
+    const QString path = m_main.controller->snapimag();
+    return path.startsWith(QLatin1Char(':')) ? QString() : path;
+}
+
 // Read beside the windows; the one that was asked for last is shown.
 void ArtworkDesk::imagepreview(const ImagePreview& preview)
 {
@@ -184,7 +193,8 @@ DownloadProcessing& ArtworkDesk::download()
         m_download = std::make_unique<DownloadProcessing>(
             m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
-        connect(m_download.get(), &DownloadProcessing::began, this, [this] { bringForward(downloadPanel()); });
+        connect(m_download.get(), &DownloadProcessing::began, this,
+                [this] { bringForward(downloadPanel()); });
     }
     return *m_download;
 }

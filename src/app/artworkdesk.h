@@ -43,6 +43,8 @@ public:
     AspectChoice& aspect() { return m_aspect; }
     /// Of the window that is key: the main list's, the favourites' or the mini window's.
     SnapshotController& snapshot();
+    /// The file of the main list's picture; empty where there is none.
+    QString pictureFile() const;
     ImageWindow& imageWindow();
     DownloadProcessing& download();
     SnapSites& sites();

@@ -114,7 +114,7 @@ void CommandsDesk::saveLauncher()
     const QString title = m_parts.selectedTitle();
     const QByteArray entry
         = desktopEntry(title.isEmpty() ? game : title, QStringList{shown.executable} + shown.line.arguments,
-                       QFileInfo(shown.executable).path());
+                       QFileInfo(shown.executable).path(), m_parts.selectedPicture());
     const std::string_view bytes(entry.constData(), static_cast<std::size_t>(entry.size()));
     if (const auto written = writeAtomically(*path, std::array{bytes}); !written) {
         Q_EMIT statusMessage(written.error().text());

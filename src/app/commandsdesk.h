@@ -39,6 +39,7 @@ public:
         PathChooser& paths;
         std::function<QString()> selectedGame;
         std::function<QString()> selectedTitle;
+        std::function<QString()> selectedPicture; ///< its file; empty for none
         QList<QObject*> stops; ///< buttons and menu items that stop the emulator
     };
     explicit CommandsDesk(Parts parts, QObject* parent = nullptr);

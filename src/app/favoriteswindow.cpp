@@ -7,6 +7,7 @@
 #include "favourites/ui/favouritestable.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bar.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 #include "widgets/toolbutton.h"
@@ -87,9 +88,7 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
 
 QWidget* FavoritesWindow::makeToolRow()
 {
-    auto* row = new QWidget;
-    row->setProperty("role", QStringLiteral("toolbar"));
-    row->setAttribute(Qt::WA_StyledBackground);
+    auto* row = new Bar(Bar::Place::Top);
     playButton = accentButton(QStringLiteral("play"), qtTrId("main_play"));
     stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
     stopButton->setEnabled(false);
@@ -102,9 +101,7 @@ QWidget* FavoritesWindow::makeToolRow()
     miniButton = toolButton(QStringLiteral("mini"), qtTrId("favorites_mini"));
     mainButton = toolButton(QStringLiteral("list"), qtTrId("mini_main"));
 
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(12, 10, 12, 10);
-    layout->setSpacing(8);
+    QHBoxLayout* layout = row->row();
     layout->addWidget(playButton);
     for (QToolButton* button : {stopButton, randomButton, editButton, removeButton})
         layout->addWidget(button);

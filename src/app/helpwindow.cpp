@@ -3,6 +3,7 @@
 #include "catalogue/search/searchkeys.h"
 #include "core/texts.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bar.h"
 #include "widgets/boundcontrols.h"
 #include "widgets/closekeys.h"
 
@@ -40,6 +41,7 @@ constexpr std::array guide{
     GuidePage{textKey("help_launch_title"),    textKey("help_launch")},
     GuidePage{textKey("help_tools_title"),     textKey("help_tools")},
     GuidePage{textKey("help_favorites_title"), textKey("help_favorites")},
+    GuidePage{textKey("help_pictures_title"),  textKey("help_pictures")},
 };
 // clang-format on
 
@@ -145,11 +147,8 @@ QWidget* HelpWindow::makeGuide(DefaultsController& defaults)
     bind(*helpPopmenu, defaults, keys::helpPopmenu);
     showGuide(helpPopmenu->currentIndex());
 
-    auto* head = new QWidget;
-    head->setProperty("role", QStringLiteral("toolbar"));
-    head->setAttribute(Qt::WA_StyledBackground);
-    auto* row = new QHBoxLayout(head);
-    row->setContentsMargins(16, 10, 16, 10);
+    auto* head = new Bar(Bar::Place::Top);
+    QHBoxLayout* row = head->row();
     auto* label = new QLabel(qtTrId("help_subject"));
     label->setProperty("role", QStringLiteral("dim"));
     label->setBuddy(helpPopmenu);

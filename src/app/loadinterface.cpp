@@ -228,6 +228,7 @@ void Tessera_AppDelegate::joinCommands()
         *m_chooser,
         [this] { return m_gameList->tableViewSelectionROM(); },
         [this] { return m_gameList->tableViewSelectionTitleE(); },
+        [this] { return m_artwork->pictureFile(); },
         {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton}});
     m_commands->addLineTo(*m_preferencesWindow);
     connect(m_gameList.get(), &GameListController::selectionChanged, m_commands.get(),
@@ -251,7 +252,8 @@ void Tessera_AppDelegate::joinArtwork()
     m_artwork = std::make_unique<ArtworkDesk>(*this, m_desktop, m_defaults, [this](QWidget& window) {
         carryMenuKeys(*m_mainWindow->menuBar(), window);
         const bool isImage = qobject_cast<ImageWindow*>(&window) != nullptr;
-        m_places.keep(window, (isImage ? keys::ImageWindowGeometry : keys::DownloadPanelGeometry).name.data());
+        m_places.keep(window,
+                      (isImage ? keys::ImageWindowGeometry : keys::DownloadPanelGeometry).name.data());
     });
     m_artwork->fillMenu(*m_mainWindow->menuBar());
     m_artwork->addContextMenu(*m_mainWindow->gameTable);
@@ -271,6 +273,8 @@ void Tessera_AppDelegate::joinSidePanel(SidePanel& panel)
 void Tessera_AppDelegate::takeHistoryWindow(HistoryWindow& window)
 {
     carryMenuKeys(*m_mainWindow->menuBar(), window);
+    connect(window.historyButton, &QPushButton::clicked, m_chooser.get(), &PathChooser::selectHistorybat);
+    connect(window.mameinfoButton, &QPushButton::clicked, m_chooser.get(), &PathChooser::selectMameinfobat);
     joinWindow(window, KeyWindow::Kind::History, keys::HistoryWindowGeometry.name.data());
 }
 

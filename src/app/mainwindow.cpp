@@ -9,6 +9,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bar.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 #include "widgets/toolbutton.h"
@@ -89,9 +90,7 @@ MainWindow::MainWindow(DefaultsController& defaults)
 
 QWidget* MainWindow::makeToolRow()
 {
-    auto* row = new QWidget;
-    row->setProperty("role", QStringLiteral("toolbar"));
-    row->setAttribute(Qt::WA_StyledBackground);
+    auto* row = new Bar(Bar::Place::Top);
     playButton = accentButton(QStringLiteral("play"), qtTrId("main_play"));
     stopButton = toolButton(QStringLiteral("stop"), qtTrId("main_stop"));
     stopButton->setEnabled(false);
@@ -102,9 +101,7 @@ QWidget* MainWindow::makeToolRow()
     toolsButton = toolButton(QStringLiteral("tools"), qtTrId("main_tools"));
     preferencesButton = toolButton(QStringLiteral("preferences"), qtTrId("main_preferences"));
 
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(12, 10, 12, 10);
-    layout->setSpacing(8);
+    QHBoxLayout* layout = row->row();
     layout->addWidget(playButton);
     for (QToolButton* button :
          {stopButton, randomButton, filterButton, favoritesButton, logButton, toolsButton, preferencesButton})

@@ -58,8 +58,8 @@ QWidget* SidePanel::makeLower()
     actions->setSpacing(8);
     actions->addWidget(historyButton, 0, 0);
     actions->addWidget(pageButton, 0, 1);
-    actions->addWidget(verifyButton, 1, 0);
-    actions->addWidget(revealButton, 1, 1);
+    actions->addWidget(revealButton, 1, 0);
+    actions->addWidget(verifyButton, 1, 1);
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);

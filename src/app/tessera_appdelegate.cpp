@@ -216,6 +216,17 @@ QString Tessera_AppDelegate::emulator()
     return m_pages->general().emulator();
 }
 
+// The emulator's own, where it has told and the folder is there.
+QString Tessera_AppDelegate::snapshotFolder()
+{
+    const QString executable = m_pages->general().emulator();
+    const auto answer = m_profiles->remembered(executable);
+    if (!answer || !answer->profile)
+        return {};
+    const QString folder = answer->profile->snapshotFolder(QFileInfo(executable).absolutePath());
+    return QFileInfo(folder).isDir() ? folder : QString();
+}
+
 // The commands
 
 void Tessera_AppDelegate::saveAction()
@@ -437,6 +448,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         return;
     }
     m_artwork->addPage(*m_preferencesWindow, *m_chooser);
+    m_artwork->proposeSnapFolder(snapshotFolder());
     m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }

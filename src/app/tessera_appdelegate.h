@@ -97,6 +97,7 @@ public:
     Catalogue& catalogue() { return m_catalogue; }
     /// The path of the emulator that is used; empty where none is chosen or found.
     QString emulator();
+    QString snapshotFolder();
     /// Takes over what stands in open editors of the catalogue.
     void commitEditing();
     RecentDocuments& recentDocuments() { return m_recent; }

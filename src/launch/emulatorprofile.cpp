@@ -94,6 +94,7 @@ void EmulatorProfile::readSetting(QStringView line)
     };
     read(QLatin1StringView("rompath "), m_romFolders);
     read(QLatin1StringView("inipath "), m_iniFolders);
+    read(QLatin1StringView("snapshot_directory "), m_snapshotFolder);
 }
 
 bool EmulatorProfile::listsName(QStringView name) const
@@ -114,6 +115,11 @@ bool EmulatorProfile::lists(QStringView option) const
 QStringList EmulatorProfile::romFolderList(const QString& home) const
 {
     return folderList(m_romFolders, home);
+}
+
+QString EmulatorProfile::snapshotFolder(const QString& home) const
+{
+    return folderList(m_snapshotFolder, home).value(0);
 }
 
 QStringList EmulatorProfile::settingsFiles(const QString& home) const

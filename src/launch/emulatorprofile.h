@@ -34,6 +34,8 @@ public:
     /// The same as a list of absolute paths, with the variables of the environment put in. `home` is where
     /// the program runs.
     QStringList romFolderList(const QString& home) const;
+    /// Where it puts its own snapshots; empty where it does not say.
+    QString snapshotFolder(const QString& home) const;
     /// Where it keeps its own settings: the answer holds while none of these files changes.
     QStringList settingsFiles(const QString& home) const;
 
@@ -60,6 +62,7 @@ private:
     QStringList m_overlong; ///< names with the first word of their description behind them
     QString m_romFolders;
     QString m_iniFolders;
+    QString m_snapshotFolder;
     bool m_soundTakesValue = true;
 };
 

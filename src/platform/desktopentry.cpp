@@ -112,14 +112,16 @@ std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QS
     return command;
 }
 
-QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder)
+QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder,
+                        const QString& icon)
 {
     QStringList words;
     for (const QString& word : command)
         words << argument(word);
     const QString text = QStringLiteral("[Desktop Entry]\nType=Application\nName=") + escaped(name)
         + QStringLiteral("\nExec=") + escaped(words.join(QLatin1Char(' '))) + QStringLiteral("\nPath=")
-        + escaped(folder) + QStringLiteral("\nTerminal=false\nCategories=Game;\n");
+        + escaped(folder) + (icon.isEmpty() ? QString() : QStringLiteral("\nIcon=") + escaped(icon))
+        + QStringLiteral("\nTerminal=false\nCategories=Game;\n");
     return text.toUtf8();
 }
 

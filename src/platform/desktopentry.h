@@ -11,7 +11,9 @@ namespace tessera {
 /// says so, or at the end. Nothing where it starts nothing.
 std::optional<QStringList> desktopEntryCommand(const QByteArray& entry, const QString& file);
 
-/// A desktop entry that starts a command in a folder.
-QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder);
+/// A desktop entry that starts a command in a folder. The icon is a picture file; without one the desktop
+/// shows its own.
+QByteArray desktopEntry(const QString& name, const QStringList& command, const QString& folder,
+                        const QString& icon = QString());
 
 } // namespace tessera

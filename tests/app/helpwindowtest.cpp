@@ -48,7 +48,7 @@ private Q_SLOTS:
             QVERIFY(!texts.contains(text));
             texts << text;
         }
-        QCOMPARE(texts.size(), 5);
+        QCOMPARE(texts.size(), 6);
     }
 
     void subjectAndTabAreAsTheyWereLeft()

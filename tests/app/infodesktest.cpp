@@ -30,6 +30,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScrollBar>
 
 using namespace tessera;
@@ -267,6 +268,24 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_staged->app->info().history().isLoading());
         m_staged->app->info().searchHistoryinfo_menu(2);
         shows("Two bats.");
+    }
+
+    void theWindowsButtonsChooseTheFiles()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->searchHistoryinfo();
+        shows("Bats.");
+        write("other.dat", "$info=pong\r\n$bio\r\nTwo bats.\r\n$end\r\n");
+        m_staged->desktop.answerOpen(m_staged->path("other.dat"));
+        QTest::mouseClick(history().historyButton, Qt::LeftButton);
+        QCOMPARE(m_staged->defaults.string(keys::HistoryPath.name), m_staged->path("other.dat"));
+        QTRY_VERIFY(!m_staged->app->info().history().isLoading());
+        m_staged->app->info().searchHistoryinfo_menu(2);
+        shows("Two bats.");
+        m_staged->desktop.answerOpen(std::nullopt);
+        QTest::mouseClick(history().mameinfoButton, Qt::LeftButton);
+        QVERIFY(!m_staged->app->info().history().isLoading());
+        QCOMPARE(m_staged->defaults.string(keys::MameinfoPath.name), QString());
     }
 
     void thePreferencesGetTheirPageWhenTheyAreShown()

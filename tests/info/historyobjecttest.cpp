@@ -149,27 +149,17 @@ private Q_SLOTS:
         QVERIFY(m_object->str_hist() == nullptr && m_object->str_info() != nullptr);
     }
 
-    void choosingAFileReadsThatFileOnly()
+    void anotherFileReadsThatFileOnly()
     {
         useFiles();
         const InfoFile* info = m_object->str_info();
         write("other.dat", "$info=pacman\r\n$bio\r\nAnother.\r\n$end\r\n");
-        m_desktop->answerOpen(m_folder->filePath("other.dat"));
-        QTest::mouseClick(m_window->historyButton, Qt::LeftButton);
+        m_defaults->setText(keys::HistoryPath, m_folder->filePath("other.dat"));
+        m_object->set_histryString();
         QTRY_VERIFY(!m_object->isLoading());
-        QCOMPARE(m_stored->string(keys::HistoryPath.name), m_folder->filePath("other.dat"));
         QCOMPARE(m_object->str_info(), info);
         m_object->searchHistoryInfo("pacman");
         QVERIFY(m_object->mstr_Mameinfo().startsWith("MAME History\r\n\r\nAnother.\r\n"));
-    }
-
-    void cancellingTheChooserChangesNothing()
-    {
-        useFiles();
-        m_desktop->answerOpen(std::nullopt);
-        QTest::mouseClick(m_window->mameinfoButton, Qt::LeftButton);
-        QVERIFY(!m_object->isLoading());
-        QCOMPARE(m_stored->string(keys::MameinfoPath.name), m_folder->filePath("mameinfo.dat"));
     }
 
     void anEntryUnderAnotherNameIsOneButtonAway()

@@ -103,6 +103,24 @@ private Q_SLOTS:
         QCOMPARE(EmulatorProfile::fromUsage(test::newUsage().append(config))->romFolders(), folders);
     }
 
+    void readsWhereSnapshotsGo_data()
+    {
+        QTest::addColumn<QByteArray>("config");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("not told") << QByteArray("rompath  roms\n") << "";
+        QTest::newRow("beside the program")
+            << QByteArray("snapshot_directory        snap\n") << "/opt/mame/snap";
+        QTest::newRow("elsewhere") << QByteArray("snapshot_directory /my snaps/\n") << "/my snaps";
+        QTest::newRow("another setting") << QByteArray("snapshot_directory2 /x\n") << "";
+    }
+
+    void readsWhereSnapshotsGo()
+    {
+        QFETCH(QByteArray, config);
+        const auto profile = EmulatorProfile::fromUsage(test::newUsage().append(config));
+        QTEST(profile->snapshotFolder(QStringLiteral("/opt/mame")), "folder");
+    }
+
     void leavesOutWhatIsNotListed()
     {
         const auto fitted

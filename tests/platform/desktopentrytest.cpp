@@ -42,6 +42,8 @@ private Q_SLOTS:
         const QByteArray entry = desktopEntry("Pong\nof old", command, "/my apps");
         QVERIFY(entry.contains("\nName=Pong\\nof old\n"));
         QVERIFY(entry.contains("\nPath=/my apps\n"));
+        QVERIFY(!entry.contains("Icon"));
+        QVERIFY(desktopEntry("Pong", command, "/", "/a \\b.png").contains("\nIcon=/a \\\\b.png\n"));
         QCOMPARE(desktopEntryCommand(entry, "/f"), std::optional(command + QStringList{"/f"}));
     }
 

@@ -15,9 +15,9 @@ namespace {
 
 // By position; nullptr is a separator, which has one too.
 constexpr std::array titles{
-    textKey("aspect_own"), static_cast<const char*>(nullptr), textKey("aspect_1_1"),
-    textKey("aspect_4_3"), textKey("aspect_16_9"),            static_cast<const char*>(nullptr),
-    textKey("aspect_6_4"), textKey("aspect_8_3"),             textKey("aspect_12_3"),
+    textKey("aspect_own"),  static_cast<const char*>(nullptr), textKey("aspect_1_1"), textKey("aspect_4_3"),
+    textKey("aspect_16_9"), static_cast<const char*>(nullptr), textKey("aspect_6_4"), textKey("aspect_8_3"),
+    textKey("aspect_12_3"),
 };
 
 } // namespace

@@ -54,8 +54,8 @@ QRect AspectView::drawnRect() const
 {
     const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
     const double ratio = devicePixelRatioF();
-    const auto place = picturePlace(
-        m_image.size(), QRectF(inside.topLeft() * ratio, inside.size() * ratio), rationum());
+    const auto place
+        = picturePlace(m_image.size(), QRectF(inside.topLeft() * ratio, inside.size() * ratio), rationum());
     if (!place)
         return {};
     const QRectF drawn
@@ -69,9 +69,8 @@ const QPixmap& AspectView::scaled(QSize size)
 {
     const bool evenly = hasWholeSteps() && size.width() >= m_image.width();
     if (m_scaled.size() != size || m_scaledEvenly != evenly) {
-        m_scaled = QPixmap::fromImage(
-            m_image.scaled(size, Qt::IgnoreAspectRatio,
-                           evenly ? Qt::FastTransformation : Qt::SmoothTransformation));
+        m_scaled = QPixmap::fromImage(m_image.scaled(
+            size, Qt::IgnoreAspectRatio, evenly ? Qt::FastTransformation : Qt::SmoothTransformation));
         m_scaledEvenly = evenly;
     }
     return m_scaled;

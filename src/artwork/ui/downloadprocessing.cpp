@@ -122,8 +122,7 @@ void DownloadProcessing::fail(const QString& reason)
 bool DownloadProcessing::mayReplace()
 {
     m_desktop.beep();
-    Alert alert{
-        qtTrId("download_Message"), qtTrId("download_info"), {qtTrId("overwrite"), qtTrId("cancel")}};
+    Alert alert{qtTrId("download_Message"), qtTrId("download_info"), {qtTrId("overwrite"), qtTrId("cancel")}};
     alert.style = Alert::Style::Warning;
     return m_desktop.runAlert(alert) == 0;
 }

@@ -47,20 +47,22 @@ void ImageWindow::show(const QImage& image, const QString& name)
         bringForward(*this);
 }
 
-// The origin is the lower left corner. What would be out of reach is moved onto the screen, and what is larger
-// than the screen drawn smaller.
+// The origin is the lower left corner. What would be out of reach is moved onto the screen, and what is
+// larger than the screen drawn smaller.
 void ImageWindow::fit(QSize picture)
 {
     const QRect free = screen()->availableGeometry();
     const QRect now = geometry();
     const double bottom = free.y() + free.height();
-    const Frame current = turnedOver(Frame{static_cast<double>(now.x()), static_cast<double>(now.y()),
-                                           static_cast<double>(now.width()),
-                                           static_cast<double>(now.height())},
-                                     bottom);
+    const Frame current
+        = turnedOver(Frame{static_cast<double>(now.x()), static_cast<double>(now.y()),
+                           static_cast<double>(now.width()), static_cast<double>(now.height())},
+                     bottom);
+    const QSize room = free.size() - QSize(0, imageStrip);
+    if (picture.width() > room.width() || picture.height() > room.height())
+        picture.scale(room, Qt::KeepAspectRatio);
     const Frame wanted = turnedOver(imageFrame(current, picture), bottom);
     QRect place = QRectF(wanted.x, wanted.y, wanted.width, wanted.height).toRect();
-    place.setSize(place.size().boundedTo(free.size()));
     if (!testAttribute(Qt::WA_Moved) && !isVisible()) {
         // Nobody has placed it yet: the desktop does.
         resize(place.size());

@@ -23,9 +23,9 @@ std::expected<QImage, Failure> readPicture(const QString& path)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (isTooLarge(reader.size()))
-        return std::unexpected(Failure{"picture_toolarge",
-                                       {path, QString::number(reader.size().width()),
-                                        QString::number(reader.size().height())}});
+        return std::unexpected(
+            Failure{"picture_toolarge",
+                    {path, QString::number(reader.size().width()), QString::number(reader.size().height())}});
     QImage image = reader.read();
     if (image.isNull())
         return std::unexpected(Failure{"picture_unreadable", {path, reader.errorString()}});

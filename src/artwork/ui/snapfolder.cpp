@@ -29,7 +29,8 @@ void SnapFolder::Setsnapfolder()
 {
     if (const ArtworkKind* shown = artworkKind(kind())) {
         m_snappath = m_defaults.text(*shown->folder);
-        Q_EMIT labelChanged(qtTrId(shown->label));
+        m_label = qtTrId(shown->label);
+        Q_EMIT labelChanged(m_label);
     }
     Q_EMIT picturesChanged();
 }

@@ -17,7 +17,9 @@ public:
 
     /// The folder of the kind that is shown; empty before the start has come so far.
     QString snappath() const { return m_snappath; }
-    /// Its kind, by its position.
+    /// The label of the kind whose folder that is; empty before.
+    QString label() const { return m_label; }
+    /// The kind that is chosen, by its position.
     int kind() const;
     /// False where a parent's picture is not shown for its clone.
     bool showsParents() const;
@@ -40,6 +42,7 @@ private:
     Desktop& m_desktop;
     DefaultsController& m_defaults;
     QString m_snappath;
+    QString m_label;
 };
 
 } // namespace tessera

@@ -87,8 +87,8 @@ void SnapshotController::reveal(const QString& folder, const QString& suffix)
         return;
     }
     const QString path = folder + QLatin1Char('/') + name;
-    const bool isShown = isPlainFileName(name)
-        && (m_parts.desktop.reveal(path + suffix) || m_parts.desktop.reveal(path));
+    const bool isShown
+        = isPlainFileName(name) && (m_parts.desktop.reveal(path + suffix) || m_parts.desktop.reveal(path));
     if (!isShown && !m_parts.desktop.openFolder(folder))
         m_parts.desktop.beep();
 }

@@ -1,6 +1,7 @@
 #include "bios/ui/biospanel.h"
 
 #include "bios/ui/biosmodel.h"
+#include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/myscrollers.h"
 #include "widgets/toolbutton.h"
@@ -52,9 +53,7 @@ BiosPanel::BiosPanel(QWidget* parent)
 
 QWidget* BiosPanel::makeToolRow()
 {
-    auto* row = new QWidget;
-    row->setProperty("role", QStringLiteral("toolbar"));
-    row->setAttribute(Qt::WA_StyledBackground);
+    auto* row = new Bar(Bar::Place::Top);
     addButton = toolButton(QStringLiteral("add"), qtTrId("bios_add"));
     removeButton = toolButton(QStringLiteral("remove"), qtTrId("bios_remove"));
     gameButton = new QPushButton(qtTrId("bios_of_game"));
@@ -63,9 +62,7 @@ QWidget* BiosPanel::makeToolRow()
     rebuildButton = new QPushButton(qtTrId("bios_rebuild"));
     rebuildButton->setObjectName(QStringLiteral("rebuildBiosButton"));
     rebuildButton->setToolTip(qtTrId("bios_rebuild_tip"));
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(12, 10, 12, 10);
-    layout->setSpacing(8);
+    QHBoxLayout* layout = row->row();
     layout->addWidget(addButton);
     layout->addWidget(removeButton);
     layout->addStretch(1);
@@ -76,9 +73,7 @@ QWidget* BiosPanel::makeToolRow()
 
 QWidget* BiosPanel::makeFoot()
 {
-    auto* foot = new QWidget;
-    foot->setProperty("role", QStringLiteral("foot"));
-    foot->setAttribute(Qt::WA_StyledBackground);
+    auto* foot = new Bar(Bar::Place::Foot);
     image_icon = new QLabel;
     image_icon->setObjectName(QStringLiteral("image_icon"));
     image_icon->setFixedSize(iconSize, iconSize);
@@ -88,8 +83,7 @@ QWidget* BiosPanel::makeFoot()
     text_infomation->setTextFormat(Qt::PlainText);
     text_infomation->setProperty("role", QStringLiteral("dim"));
     text_infomation->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto* layout = new QHBoxLayout(foot);
-    layout->setContentsMargins(16, 10, 16, 10);
+    QHBoxLayout* layout = foot->row();
     layout->setSpacing(12);
     layout->addWidget(image_icon);
     layout->addWidget(text_infomation, 1);

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "catalogue/arrangedlist.h"
 #include "catalogue/catalogue.h"
-
-#include <QAbstractTableModel>
-#include <QFont>
+#include "catalogue/ui/arrangedtablemodel.h"
 
 namespace tessera {
 
@@ -12,7 +9,7 @@ class ColorTransformer;
 class DefaultsController;
 
 /// A thin model over an arranged list: one row a record, text made only for the rows that are drawn.
-class GameTableModel : public QAbstractTableModel
+class GameTableModel : public ArrangedTableModel
 {
     Q_OBJECT
 
@@ -29,7 +26,6 @@ public:
 
     static int columnOf(Field field);
 
-    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -47,17 +43,9 @@ public Q_SLOTS:
 
 private:
     QString description(std::size_t row) const;
-    void readFont();
-    void settingChanged(const QString& name);
-    void showRecord(std::uint32_t record);
-    void resort(Field field, bool ascending);
 
     Catalogue& m_catalogue;
-    ArrangedList& m_list;
     const ColorTransformer& m_colors;
-    DefaultsController& m_defaults;
-    QFont m_font;
-    bool m_sorting = false;
     bool m_locked = false;
 };
 

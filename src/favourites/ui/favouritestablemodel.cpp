@@ -18,13 +18,6 @@ namespace tessera {
 
 namespace {
 
-// The settings that a row's look depends on.
-constexpr std::array looks{
-    keys::FavoritefontName.name,    keys::fontSize.name,
-    keys::GamelistColoring.name,    keys::TableViewTextColor.name,
-    keys::TableViewTextColor2.name, keys::RomsPath.name,
-};
-
 struct Column {
     const char* heading;
     std::optional<FavouriteKey> key; ///< nothing for what was played
@@ -72,36 +65,22 @@ FavouriteOrder orderOf(std::optional<FavouriteColumn> column)
 FavouritesTableModel::FavouritesTableModel(Favourites& favourites, ArrangedList& list,
                                            const PlayedGames& played, const ColorTransformer& colors,
                                            DefaultsController& defaults, QObject* parent)
-    : QAbstractTableModel(parent)
+    : ArrangedTableModel(list, defaults, keys::FavoritefontName, parent)
     , m_favourites(favourites)
-    , m_list(list)
     , m_played(played)
     , m_colors(colors)
-    , m_defaults(defaults)
 {
-    readFont();
-    connect(&m_list, &ArrangedList::aboutToArrange, this, [this] {
-        if (!m_arranging)
-            beginResetModel();
-    });
-    connect(&m_list, &ArrangedList::arranged, this, [this] {
-        if (!m_arranging)
-            endResetModel();
-    });
     connect(&favourites, &Favourites::valueChanged, this, &FavouritesTableModel::showFavourite);
     connect(&played, &PlayedGames::changed, this, [this] { showEverything(); });
-    connect(&defaults, &DefaultsController::changed, this, &FavouritesTableModel::settingChanged);
 }
 
 void FavouritesTableModel::reload()
 {
-    beginResetModel();
-    m_arranging = true;
-    m_gone = RecordSet(m_favourites.records().size());
-    m_list.setContent(m_favourites.records());
-    arrange();
-    m_arranging = false;
-    endResetModel();
+    replace([this] {
+        m_gone = RecordSet(m_favourites.records().size());
+        list().setContent(m_favourites.records());
+        arrange();
+    });
 }
 
 void FavouritesTableModel::setGone(RecordSet gone)
@@ -112,39 +91,11 @@ void FavouritesTableModel::setGone(RecordSet gone)
     showEverything();
 }
 
-void FavouritesTableModel::readFont()
-{
-    m_font = namedFont(m_defaults.text(keys::FavoritefontName));
-    m_font.setPixelSize(qBound(4, m_defaults.index(keys::fontSize), 200));
-}
-
-void FavouritesTableModel::settingChanged(const QString& name)
-{
-    if (!name.isEmpty() && std::ranges::find(looks, name) == looks.end())
-        return;
-    readFont();
-    showEverything({Qt::FontRole, Qt::ForegroundRole});
-}
-
-void FavouritesTableModel::showEverything(const QList<int>& roles)
-{
-    if (const int rows = rowCount())
-        Q_EMIT dataChanged(index(0, 0), index(rows - 1, columns - 1), roles);
-}
-
 void FavouritesTableModel::showFavourite(std::uint32_t favourite, FavouriteKey key)
 {
     if (const auto field = fieldOf(key))
-        m_list.forgetOrder(*field);
-    if (const auto place = m_list.rowOf(favourite)) {
-        const int shown = static_cast<int>(*place);
-        Q_EMIT dataChanged(index(shown, 0), index(shown, columns - 1));
-    }
-}
-
-int FavouritesTableModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_list.size());
+        list().forgetOrder(*field);
+    showRecord(favourite);
 }
 
 int FavouritesTableModel::columnCount(const QModelIndex& parent) const
@@ -191,7 +142,7 @@ QVariant FavouritesTableModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return QVariant();
-    const std::uint32_t place = favourite(index);
+    const std::uint32_t place = recordAt(index);
     const FavouriteColumn column = columnAt(index.column());
     switch (role) {
     case Qt::DisplayRole:
@@ -199,7 +150,7 @@ QVariant FavouritesTableModel::data(const QModelIndex& index, int role) const
     case Qt::EditRole:
         return row(column).key ? QVariant(edited(place, column)) : shown(place, column);
     case Qt::FontRole:
-        return m_font;
+        return font();
     case Qt::DecorationRole:
         return column == FavouriteColumn::Name ? icon(place) : QVariant();
     case Qt::ToolTipRole:
@@ -242,7 +193,7 @@ bool FavouritesTableModel::setData(const QModelIndex& index, const QVariant& val
     const auto key = row(columnAt(index.column())).key;
     if (!key)
         return false;
-    m_favourites.setValue(favourite(index), *key, value.toString());
+    m_favourites.setValue(recordAt(index), *key, value.toString());
     return true;
 }
 
@@ -250,9 +201,9 @@ void FavouritesTableModel::arrange()
 {
     const auto key = m_sorted ? row(*m_sorted).key : std::nullopt;
     if (const auto field = key ? fieldOf(*key) : std::nullopt)
-        m_list.setSort(*field, m_ascending);
+        list().setSort(*field, m_ascending);
     else
-        m_list.setSort(SortedRecords(orderNumbers(m_favourites, m_played, orderOf(m_sorted))), m_ascending);
+        list().setSort(SortedRecords(orderNumbers(m_favourites, m_played, orderOf(m_sorted))), m_ascending);
 }
 
 // The same favourites in another order: what is selected stays selected.
@@ -260,25 +211,11 @@ void FavouritesTableModel::sort(int column, Qt::SortOrder order)
 {
     if (column < 0 || column >= columns)
         return;
-    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    std::vector<std::uint32_t> favourites;
-    favourites.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& place : before)
-        favourites.push_back(favourite(place));
-    m_sorted = columnAt(column);
-    m_ascending = order == Qt::AscendingOrder;
-    m_arranging = true;
-    arrange();
-    m_arranging = false;
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (qsizetype i = 0; i < before.size(); ++i) {
-        const auto place = m_list.rowOf(favourites[static_cast<std::size_t>(i)]);
-        after << (place ? index(static_cast<int>(*place), before[i].column()) : QModelIndex());
-    }
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged({}, VerticalSortHint);
+    resort([&] {
+        m_sorted = columnAt(column);
+        m_ascending = order == Qt::AscendingOrder;
+        arrange();
+    });
 }
 
 } // namespace tessera

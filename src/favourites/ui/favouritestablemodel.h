@@ -1,10 +1,7 @@
 #pragma once
 
-#include "catalogue/arrangedlist.h"
+#include "catalogue/ui/arrangedtablemodel.h"
 #include "favourites/favourites.h"
-
-#include <QAbstractTableModel>
-#include <QFont>
 
 namespace tessera {
 
@@ -29,7 +26,7 @@ enum class FavouriteColumn : std::uint8_t {
 };
 
 /// A thin model over the arranged favourites, and over what was played.
-class FavouritesTableModel : public QAbstractTableModel
+class FavouritesTableModel : public ArrangedTableModel
 {
     Q_OBJECT
 
@@ -50,7 +47,6 @@ public:
     /// The rows' colours are others now.
     void recolour() { showEverything({Qt::ForegroundRole}); }
 
-    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
@@ -60,30 +56,19 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
-    void readFont();
-    void settingChanged(const QString& name);
-    void showEverything(const QList<int>& roles = {});
     void showFavourite(std::uint32_t favourite, FavouriteKey key);
     void arrange();
-    std::uint32_t favourite(const QModelIndex& index) const
-    {
-        return m_list.rows()[static_cast<std::size_t>(index.row())];
-    }
     QVariant shown(std::uint32_t favourite, FavouriteColumn column) const;
     QString edited(std::uint32_t favourite, FavouriteColumn column) const;
     QVariant icon(std::uint32_t favourite) const;
     QVariant toolTip(std::uint32_t favourite) const;
 
     Favourites& m_favourites;
-    ArrangedList& m_list;
     const PlayedGames& m_played;
     const ColorTransformer& m_colors;
-    DefaultsController& m_defaults;
     RecordSet m_gone;
-    QFont m_font;
     std::optional<FavouriteColumn> m_sorted; ///< nothing while the list stands as its file does
     bool m_ascending = true;
-    bool m_arranging = false;
 };
 
 } // namespace tessera

@@ -43,8 +43,6 @@ HistoryObject::HistoryObject(Desktop& desktop, DefaultsController& defaults, His
     connect(window.filedButton, &QPushButton::clicked, this, &HistoryObject::showFiled);
     connect(window.smallerButton, &QToolButton::clicked, this, &HistoryObject::makeTextSmaller);
     connect(window.biggerButton, &QToolButton::clicked, this, &HistoryObject::makeTextBigger);
-    connect(window.historyButton, &QPushButton::clicked, this, &HistoryObject::chooseHistory);
-    connect(window.mameinfoButton, &QPushButton::clicked, this, &HistoryObject::chooseMameinfo);
     bind(*window.followBox, defaults, keys::HistoryFollows);
     connect(&defaults, &DefaultsController::changed, this, &HistoryObject::settingChanged);
     settingChanged(QString());
@@ -100,27 +98,6 @@ void HistoryObject::take(Loaded& which, int load,
     if (m_waiting)
         showFound(*std::exchange(m_waiting, std::nullopt));
     Q_EMIT loaded();
-}
-
-void HistoryObject::chooseHistory()
-{
-    choose(m_history);
-}
-
-void HistoryObject::chooseMameinfo()
-{
-    choose(m_info);
-}
-
-void HistoryObject::choose(Loaded& which)
-{
-    const auto path = m_desktop.openPanel({});
-    if (!path || path->isEmpty())
-        return;
-    m_defaults.setText(which.kind.key, *path);
-    if (!m_defaults.defaults().synchronize())
-        Q_EMIT statusMessage(Failure{"failure_settings", {m_defaults.defaults().path()}}.text());
-    load(which);
 }
 
 void HistoryObject::searchHistoryInfo(const QString& name)

@@ -52,8 +52,6 @@ public Q_SLOTS:
     void showFiled();
     void makeTextBigger();
     void makeTextSmaller();
-    void chooseHistory();
-    void chooseMameinfo();
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
@@ -80,7 +78,6 @@ private:
 
     void load(Loaded& which);
     void take(Loaded& which, int load, const std::shared_ptr<std::expected<InfoFile, Failure>>& read);
-    void choose(Loaded& which);
     void search(const Wanted& wanted);
     void showFound(const Wanted& wanted);
     void showText(const QString& text);

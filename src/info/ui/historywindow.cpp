@@ -1,6 +1,7 @@
 #include "info/ui/historywindow.h"
 
 #include "launch/ui/logview.h"
+#include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/theme.h"
 #include "widgets/toolbutton.h"
@@ -79,9 +80,7 @@ HistoryWindow::HistoryWindow(QWidget* parent)
 
 QWidget* HistoryWindow::makeToolRow()
 {
-    auto* row = new QWidget;
-    row->setProperty("role", QStringLiteral("toolbar"));
-    row->setAttribute(Qt::WA_StyledBackground);
+    auto* row = new Bar(Bar::Place::Top);
     historySearchField = searchField("historySearchField", qtTrId("history_set"), nameWidth);
     m_parentName = plainLabel("faint");
     m_parentName->setText(qtTrId("history_parent"));
@@ -94,9 +93,7 @@ QWidget* HistoryWindow::makeToolRow()
     smallerButton = toolButton(QStringLiteral("smaller"), qtTrId("history_smaller"));
     biggerButton = toolButton(QStringLiteral("bigger"), qtTrId("history_bigger"));
 
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(12, 10, 12, 10);
-    layout->setSpacing(8);
+    QHBoxLayout* layout = row->row();
     layout->addWidget(historySearchField);
     layout->addWidget(m_parentName);
     layout->addWidget(parentTextField);
@@ -113,16 +110,12 @@ QWidget* HistoryWindow::makeToolRow()
 
 QWidget* HistoryWindow::makeFoot()
 {
-    auto* foot = new QWidget;
-    foot->setProperty("role", QStringLiteral("foot"));
-    foot->setAttribute(Qt::WA_StyledBackground);
+    auto* foot = new Bar(Bar::Place::Foot);
     historyButton = link("historyButton", qtTrId("history_choose"));
     mameinfoButton = link("mameinfoButton", qtTrId("mameinfo_choose"));
     followBox = new QCheckBox(qtTrId("history_follow"));
     followBox->setObjectName(QStringLiteral("followBox"));
-    auto* layout = new QHBoxLayout(foot);
-    layout->setContentsMargins(10, 8, 16, 8);
-    layout->setSpacing(8);
+    QHBoxLayout* layout = foot->row();
     layout->addWidget(historyButton);
     layout->addWidget(mameinfoButton);
     layout->addStretch(1);

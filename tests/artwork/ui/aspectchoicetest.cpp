@@ -30,8 +30,9 @@ private Q_SLOTS:
         QStringList titles;
         for (int i = 0; i < m_popup->count(); ++i)
             titles << m_popup->itemText(i);
-        QCOMPARE(titles, (QStringList{"aspect_own", "", "aspect_1_1", "aspect_4_3", "aspect_16_9", "",
-                                      "aspect_6_4", "aspect_8_3", "aspect_12_3"}));
+        QCOMPARE(titles,
+                 (QStringList{"aspect_own", "", "aspect_1_1", "aspect_4_3", "aspect_16_9", "", "aspect_6_4",
+                              "aspect_8_3", "aspect_12_3"}));
         QCOMPARE(m_menu->actions().size(), 9);
         QVERIFY(m_menu->actions().at(1)->isSeparator() && m_menu->actions().at(5)->isSeparator());
     }

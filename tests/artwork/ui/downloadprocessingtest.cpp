@@ -165,8 +165,7 @@ private Q_SLOTS:
 
     void theNameIsPutInWhereverItStands()
     {
-        m_staging->defaults.setText(keys::snapdownloadPath,
-                                    address("/{$gamename}/{$gamename}"));
+        m_staging->defaults.setText(keys::snapdownloadPath, address("/{$gamename}/{$gamename}"));
         serve("/pong/pong.png", ScriptedServer::answer(png, picture));
         download("pong");
         QCOMPARE(content("snap/pong.png"), picture);

@@ -71,10 +71,7 @@ private Q_SLOTS:
         QVERIFY(!readPicture(pipe));
     }
 
-    void aFolderIsNoPicture()
-    {
-        QVERIFY(!readPicture(m_staging.path("snap")));
-    }
+    void aFolderIsNoPicture() { QVERIFY(!readPicture(m_staging.path("snap"))); }
 
 private:
     PictureStaging m_staging;

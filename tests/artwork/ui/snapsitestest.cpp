@@ -35,8 +35,8 @@ private Q_SLOTS:
     void aSiteFillsTheFieldsAndLocksThem()
     {
         choose(1);
-        QCOMPARE(fields(), (QStringList{"http://two.test/snap/{$gamename}",
-                                        "http://two.test/titles/{$gamename}", ""}));
+        QCOMPARE(fields(),
+                 (QStringList{"http://two.test/snap/{$gamename}", "http://two.test/titles/{$gamename}", ""}));
         for (const QLineEdit* field : m_page->templateFields())
             QVERIFY(!field->isEnabled());
         QCOMPARE(m_sites->templateOf(0), QStringLiteral("http://two.test/snap/{$gamename}"));

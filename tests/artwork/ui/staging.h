@@ -19,9 +19,9 @@ public:
         , defaults(m_stored)
     {
         defaults.setInitialValues(QString(), QString());
-        for (const auto& [key, name] : {std::pair(keys::SnapPath, "snap"),
-                                        std::pair(keys::TitlesnapPath, "titles"),
-                                        std::pair(keys::GameflyersPath, "flyers")}) {
+        for (const auto& [key, name] :
+             {std::pair(keys::SnapPath, "snap"), std::pair(keys::TitlesnapPath, "titles"),
+              std::pair(keys::GameflyersPath, "flyers")}) {
             const QString path = m_folder.filePath(QLatin1String(name));
             QDir().mkpath(path);
             defaults.setText(key, path);

@@ -1,0 +1,276 @@
+#include "stagedapp.h"
+
+#include "app/artworkdesk.h"
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
+#include "app/preferenceswindow.h"
+#include "app/sidepanel.h"
+#include "artwork/ui/aspectview.h"
+#include "artwork/ui/downloadpanel.h"
+#include "artwork/ui/downloadprocessing.h"
+#include "artwork/ui/imagewindow.h"
+#include "artwork/ui/picturepane.h"
+#include "artwork/ui/picturespage.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
+#include "favourites/ui/favouritestable.h"
+#include "support/testmain.h"
+#include "widgets/pathfield.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+
+using namespace tessera;
+using test::StagedApp;
+
+namespace {
+
+const QString noImage = QStringLiteral(":/pictures/No_image.jpg");
+
+} // namespace
+
+/// Pictures as a person sees them, over the whole program.
+class ArtworkDeskTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_staged = std::make_unique<StagedApp>();
+        m_staged->writeCatalogue();
+        m_staged->defaults.setValue(keys::SnapPath.name, m_staged->path("snap"));
+        m_staged->defaults.setValue(keys::GameflyersPath.name, m_staged->path("flyers"));
+        paint("snap/pong.png", {64, 48});
+        paint("snap/qix.png", {48, 64});
+        paint("flyers/pong.png", {30, 40});
+        m_staged->start();
+        m_staged->desktop.takeTranscript();
+    }
+
+    void cleanup() { m_staged.reset(); }
+
+    void aStartMakesNoWindowOfIt()
+    {
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            QVERIFY(qobject_cast<const ImageWindow*>(window) == nullptr);
+            QVERIFY(qobject_cast<const DownloadPanel*>(window) == nullptr);
+        }
+        QCOMPARE(m_staged->app->mainWindow().findChildren<PicturesPage*>().size(), 0);
+    }
+
+    void theStartShowsWhatIsSelected()
+    {
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_snapshot"));
+        QCOMPARE(artwork().folder().snappath(), m_staged->path("snap"));
+    }
+
+    void thePictureFollowsTheSelection()
+    {
+        select("pong");
+        QTRY_COMPARE(mainPane().imageView->image().size(), QSize(64, 48));
+        select("qix");
+        QTRY_COMPARE(mainPane().imageView->image().size(), QSize(48, 64));
+        m_staged->app->mainWindow().gameTable->clearSelection();
+        QCOMPARE(artwork().snapshot().snapimag(), noImage);
+    }
+
+    void aCloneShowsItsParentsPicture()
+    {
+        select("galaga");
+        const QString parent = m_staged->app->gameList().tableViewSelectionParentROM();
+        const QString path = paint("snap/" + parent + ".png", {20, 20});
+        select("pong");
+        select("galaga");
+        QCOMPARE(artwork().snapshot().snapimag(), path);
+        m_staged->app->showPrefsWindow();
+        m_staged->app->preferencesWindow().findChild<PicturesPage*>()->checkboxSuppress->click();
+        QCOMPARE(artwork().snapshot().snapimag(), noImage);
+    }
+
+    void theNextKindIsShownEverywhere()
+    {
+        select("pong");
+        m_staged->app->windowMini();
+        mainPane().buttonShot->click();
+        mainPane().buttonShot->click();
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_flyer"));
+        QCOMPARE(m_staged->app->mini().window().shotTextField2->text(), QStringLiteral("artwork_flyer"));
+        QTRY_COMPARE(mainPane().imageView->image().size(), QSize(30, 40));
+        QCOMPARE(m_staged->desktop.takeTranscript(), (QStringList{"sound typing", "sound typing"}));
+        action("menu_nextkind")->trigger();
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_snapshot"));
+    }
+
+    void theKindsMenuChecksTheOneThatIsShown()
+    {
+        QMenu& menu = *mainPane().buttonShot->menu();
+        Q_EMIT menu.aboutToShow();
+        QVERIFY(menu.actions().at(0)->isChecked());
+        menu.actions().at(2)->trigger();
+        QCOMPARE(artwork().folder().kind(), 2);
+        m_staged->desktop.takeTranscript();
+    }
+
+    void theFavouritesHaveTheirOwnPicture()
+    {
+        select("qix");
+        m_staged->app->addFavorite();
+        select("pong");
+        m_staged->app->windowFavorites();
+        FavoritesWindow& window = m_staged->app->favorites().window();
+        QTRY_VERIFY(window.isActiveWindow());
+        window.favoritesTable->selectRow(0);
+        QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/qix.png"));
+        QTRY_COMPARE(window.sidePanel->picturePane->imageView->image().size(), QSize(48, 64));
+        QTRY_COMPARE(mainPane().imageView->image().size(), QSize(64, 48));
+        m_staged->desktop.takeTranscript();
+        m_staged->app->display_image_Finder();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"reveal " + m_staged->path("snap/qix.png")});
+    }
+
+    void theMiniWindowShowsTheSetInItsField()
+    {
+        m_staged->app->windowMini();
+        MiniWindow& window = m_staged->app->mini().window();
+        m_staged->app->mini().setGame("pong");
+        QTRY_COMPARE(window.imageView->image().size(), QSize(64, 48));
+        m_staged->desktop.takeTranscript();
+    }
+
+    void theRatioIsOneForAll()
+    {
+        QMenu& menu = *m_staged->app->mainWindow().menuBar()->findChild<QMenu*>("Menu_aspect");
+        menu.actions().at(4)->trigger();
+        QCOMPARE(mainPane().aspectPop->currentIndex(), 4);
+        QCOMPARE(mainPane().imageView->rationum(), 4);
+        m_staged->app->windowFavorites();
+        QCOMPARE(m_staged->app->favorites().window().sidePanel->picturePane->aspectPop->currentIndex(), 4);
+        m_staged->app->DefaultAction();
+        QCOMPARE(mainPane().aspectPop->currentIndex(), 0);
+        QVERIFY(menu.actions().at(0)->isChecked() && !menu.actions().at(4)->isChecked());
+        m_staged->desktop.takeTranscript();
+    }
+
+    void aPictureOpensInItsOwnWindow()
+    {
+        select("pong");
+        QTest::mouseClick(mainPane().imageView, Qt::LeftButton);
+        QTRY_VERIFY(artwork().imageWindow().isVisible());
+        QCOMPARE(artwork().imageWindow().windowTitle(), QStringLiteral("pong.png"));
+        QCOMPARE(artwork().imageWindow().size(), QSize(64, 68));
+    }
+
+    void withoutAPictureTheEmptyOneOpens()
+    {
+        m_staged->app->mainWindow().gameTable->clearSelection();
+        m_staged->app->snappreview();
+        QTRY_COMPARE(artwork().imageWindow().windowTitle(), QStringLiteral("No_image.jpg"));
+    }
+
+    void aDownloadRefreshesTheLists()
+    {
+        select("1943");
+        QCOMPARE(artwork().snapshot().snapimag(), noImage);
+        paint("snap/1943.png", {10, 10});
+        Q_EMIT artwork().download().SnapChange(QStringLiteral("downloadDidFinish"));
+        QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/1943.png"));
+    }
+
+    void aDownloadWithoutASiteIsAnError()
+    {
+        select("pong");
+        m_staged->desktop.answerAlert(QStringLiteral("download_Miss"), 0);
+        m_staged->app->snapdownload();
+        QTRY_VERIFY(!artwork().download().downloadstate());
+        QVERIFY(m_staged->desktop.takeTranscript().contains(QStringLiteral("log didFailWithError")));
+    }
+
+    void thePreferencesChooseFolders()
+    {
+        m_staged->app->showPrefsWindow();
+        auto* page = m_staged->app->preferencesWindow().findChild<PicturesPage*>();
+        QVERIFY(page != nullptr);
+        paint("other/pong.png", {12, 12});
+        select("pong");
+        m_staged->desktop.answerOpen(m_staged->path("other"));
+        page->folderFields[0]->chooseButton()->click();
+        QCOMPARE(artwork().folder().snappath(), m_staged->path("other"));
+        QCOMPARE(page->folderFields[0]->field()->text(), m_staged->path("other"));
+        QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("other/pong.png"));
+        m_staged->desktop.takeTranscript();
+        page->folderFields[2]->revealButton()->click();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"folder " + m_staged->path("flyers")});
+    }
+
+    void theEmulatorsOwnSnapshotsAreProposed()
+    {
+        m_staged->app->showPrefsWindow();
+        auto* page = m_staged->app->preferencesWindow().findChild<PicturesPage*>();
+        artwork().proposeSnapFolder(m_staged->path("flyers"));
+        QVERIFY(!page->mameFolderButton->isHidden());
+        page->mameFolderButton->click();
+        QCOMPARE(artwork().folder().snappath(), m_staged->path("flyers"));
+        QVERIFY(page->mameFolderButton->isHidden());
+        m_staged->desktop.takeTranscript();
+    }
+
+    void theSidePanelActsOnTheSelection()
+    {
+        m_staged->defaults.setValue(keys::RomsPath.name, m_staged->path("roms"));
+        select("pong");
+        m_staged->desktop.takeTranscript();
+        m_staged->app->mainWindow().sidePanel->revealButton->click();
+        QCOMPARE(
+            m_staged->desktop.takeTranscript(),
+            (QStringList{"reveal " + m_staged->path("roms/pong.zip"), "reveal " + m_staged->path("roms/pong"),
+                         "folder " + m_staged->path("roms"), "beep"}));
+    }
+
+    void theDividersStayWhereTheyWere()
+    {
+        QCOMPARE(m_staged->app->mainWindow().sidePanel->splitView->objectName(),
+                 QStringLiteral("SecondSplitView"));
+        QCOMPARE(m_staged->app->favorites().window().sidePanel->splitView->objectName(),
+                 QStringLiteral("SecondSplitView2"));
+        QVERIFY(mainPane().minimumHeight() == 173);
+    }
+
+private:
+    ArtworkDesk& artwork() { return m_staged->app->artwork(); }
+    PicturePane& mainPane() { return *m_staged->app->mainWindow().sidePanel->picturePane; }
+    void select(const char* name) { QVERIFY(m_staged->app->gameList().selectGame(QLatin1String(name))); }
+    QAction* action(const char* name)
+    {
+        return m_staged->app->mainWindow().menuBar()->findChild<QAction*>(QLatin1String(name));
+    }
+    QString paint(const QString& name, QSize size) const
+    {
+        const QString path = m_staged->path(name);
+        QDir().mkpath(QFileInfo(path).absolutePath());
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        if (!image.save(path))
+            qFatal("no picture");
+        return path;
+    }
+
+    std::unique_ptr<StagedApp> m_staged;
+};
+
+TESSERA_TEST(ArtworkDeskTest);
+
+#include "artworkdesktest.moc"
