@@ -93,6 +93,16 @@ private Q_SLOTS:
         QCOMPARE(m_table->verticalScrollBar()->value(), 0);
     }
 
+    void aCommandsOwnKeysSelectOneRowAlone()
+    {
+        QTRY_VERIFY(m_staged->app->mainWindow().isActiveWindow());
+        for (int i = 0; i < 5; ++i) {
+            QTest::keyClick(m_table, Qt::Key_G, Qt::ControlModifier);
+            QCOMPARE(m_staged->app->gameList().selectedCount(), 1);
+        }
+        QVERIFY(m_staged->desktop.takeTranscript().contains(QStringLiteral("sound slot_end")));
+    }
+
     void otherWindowsLetTheCommandsDoNothing()
     {
         m_staged->app->showPrefsWindow();

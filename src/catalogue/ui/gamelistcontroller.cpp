@@ -164,7 +164,7 @@ void GameListController::selectRow(int row)
     const int place = std::min(row, m_model->rowCount() - 1);
     if (m_table == nullptr || place < 0)
         return;
-    m_table->selectRow(place);
+    m_table->selectRowAlone(place);
     m_table->scrollTo(m_model->index(place, 0), QAbstractItemView::PositionAtCenter);
 }
 

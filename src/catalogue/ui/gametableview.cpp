@@ -167,4 +167,19 @@ void GameTableView::selectionChanged(const QItemSelection& selected, const QItem
     Q_EMIT selectionDidChange();
 }
 
+// Else the modifiers of the command's own shortcut would count, as they do for a click.
+QItemSelectionModel::SelectionFlags GameTableView::selectionCommand(const QModelIndex& index,
+                                                                    const QEvent* event) const
+{
+    return m_selectsAlone ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                          : QTableView::selectionCommand(index, event);
+}
+
+void GameTableView::selectRowAlone(int row)
+{
+    m_selectsAlone = true;
+    selectRow(row);
+    m_selectsAlone = false;
+}
+
 } // namespace tessera

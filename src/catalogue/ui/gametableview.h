@@ -26,6 +26,8 @@ public:
     void fillColumnsMenu(QMenu& menu);
 
     void setModel(QAbstractItemModel* model) override;
+    /// Whatever keys are held meanwhile.
+    void selectRowAlone(int row);
 
 Q_SIGNALS:
     /// A double click on a row, or Return.
@@ -42,11 +44,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
 private:
     bool isFamilyKey(const QKeyEvent* event) const;
     QList<int> shownColumns() const;
     void showColumnsMenu(QPoint place);
+
+    bool m_selectsAlone = false;
 };
 
 } // namespace tessera

@@ -1,7 +1,8 @@
 #include "favourites/ui/favouriteselection.h"
 
+#include "catalogue/ui/gametableview.h"
+
 #include <QItemSelectionModel>
-#include <QTableView>
 
 #include <algorithm>
 #include <iterator>
@@ -9,7 +10,7 @@
 
 namespace tessera {
 
-void FavouriteSelection::setTable(QTableView* table)
+void FavouriteSelection::setTable(GameTableView* table)
 {
     m_table = table;
     selectFavourites(std::exchange(m_waiting, {}));
@@ -62,7 +63,7 @@ void FavouriteSelection::selectRow(qint64 row)
     m_table->clearSelection();
     if (!isThere)
         return;
-    m_table->selectRow(static_cast<int>(row));
+    m_table->selectRowAlone(static_cast<int>(row));
     m_table->scrollTo(m_table->model()->index(static_cast<int>(row), 0), QAbstractItemView::PositionAtCenter);
 }
 

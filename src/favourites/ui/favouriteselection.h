@@ -4,9 +4,9 @@
 
 #include <QObject>
 
-class QTableView;
-
 namespace tessera {
+
+class GameTableView;
 
 /// The selected rows of the favourites table, and the favourites in them. They are known before there is a
 /// table.
@@ -19,7 +19,7 @@ public:
     }
 
     /// The table takes the selection over.
-    void setTable(QTableView* table);
+    void setTable(GameTableView* table);
 
     /// -1 where nothing is selected.
     int firstRow() const;
@@ -34,7 +34,7 @@ public:
 
 private:
     const ArrangedList& m_list;
-    QTableView* m_table = nullptr;
+    GameTableView* m_table = nullptr;
     std::vector<std::uint32_t> m_waiting; ///< as long as there is no table
 };
 
