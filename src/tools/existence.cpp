@@ -1,7 +1,6 @@
 #include "tools/existence.h"
 
 #include "tools/foldersets.h"
-#include "tools/printedtext.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -12,6 +11,8 @@ namespace tessera {
 namespace {
 
 constexpr std::string_view header = "Name:";
+// So many sets are looked for while memory is fetched.
+constexpr std::size_t ahead = 12;
 
 // In quotes where it must be; a quote in it is written twice.
 void appendQuoted(std::string& csv, std::string_view value)
@@ -29,51 +30,77 @@ void appendQuoted(std::string& csv, std::string_view value)
     csv += '"';
 }
 
-} // namespace
+// What can be made of the list alone.
+struct Asked {
+    ListedSets sets;
+    std::vector<PackedName> keys;
+
+    explicit Asked(ListedSets listed)
+        : sets(std::move(listed))
+    {
+        keys.reserve(sets.size());
+        for (std::size_t i = 0; i < sets.size(); ++i)
+            keys.push_back(FolderSets::keyOf(sets[i]));
+    }
+};
+
+std::vector<std::uint8_t> findEach(const Asked& asked, const FolderSets& roms)
+{
+    std::vector<std::uint8_t> isFound(asked.keys.size());
+    for (std::size_t i = 0; i < isFound.size(); ++i) {
+        roms.expect(asked.keys[std::min(i + ahead, isFound.size() - 1)]);
+        isFound[i] = roms.holds(asked.sets[i], asked.keys[i]) ? 1 : 0;
+    }
+    return isFound;
+}
 
 // Deliberate: the header stays among the sets and is counted; a list that has none is not shown at all, nor
 // is one whose header is the name of something in the folder.
-std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
-                                                  const FolderSets& roms)
+std::expected<ExistenceList, Failure> look(Asked asked, const FolderSets& roms)
 {
-    const std::vector<std::uint8_t> isFound = roms.holdEach(words);
-    ExistenceList list;
-    list.rows.reserve(words.size());
-    const auto take = [&](std::uint8_t answer) {
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            if (isFound[i] == answer)
-                list.rows.push_back({printedText(std::string(words[i])), answer != 0});
-        }
-        return static_cast<int>(list.rows.size());
-    };
-    list.found = take(1);
-    list.notFound = take(0) - list.found;
-    const auto missing = std::span(list.rows).subspan(static_cast<std::size_t>(list.found));
-    if (std::ranges::find(missing, header, &ExistenceRow::romlistfull) == missing.end())
+    const std::vector<std::uint8_t> isFound = findEach(asked, roms);
+    ExistenceList list{std::move(asked.sets), std::vector<ExistenceRow>(isFound.size())};
+    list.found = static_cast<int>(std::ranges::count(isFound, 1));
+    list.notFound = static_cast<int>(isFound.size()) - list.found;
+    bool hasHeader = false;
+    auto found = list.rows.begin();
+    auto missing = found + list.found;
+    for (std::size_t i = 0; i < isFound.size(); ++i) {
+        const std::string_view set = list.sets[i];
+        *(isFound[i] != 0 ? found : missing)++ = {set, isFound[i] != 0};
+        hasHeader = hasHeader || (set == header && isFound[i] == 0);
+    }
+    if (!hasHeader)
         return std::unexpected(Failure{"existence_no_header", {}});
     return list;
+}
+
+} // namespace
+
+std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderSets& roms)
+{
+    return look(Asked(std::move(sets)), roms);
 }
 
 // The list is read beside the folder, which takes longer.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms)
 {
-    std::expected<std::string, Failure> printed;
-    std::vector<std::string_view> words;
-    auto reading = std::async(std::launch::async, [&] {
-        printed = readPrinted(listfull);
-        if (printed)
-            words = firstWords(*printed);
+    auto reading = std::async(std::launch::async, [&]() -> std::expected<Asked, Failure> {
+        auto sets = ListedSets::read(listfull);
+        if (!sets)
+            return std::unexpected(sets.error());
+        return Asked(std::move(*sets));
     });
-    const FolderSets sets = FolderSets::read(roms);
-    reading.get();
-    if (!printed)
-        return std::unexpected(printed.error());
-    return existenceOf(words, sets);
+    const FolderSets folder = FolderSets::read(roms);
+    auto asked = reading.get();
+    if (!asked)
+        return std::unexpected(asked.error());
+    return look(std::move(*asked), folder);
 }
 
 std::expected<ExistenceList, Failure> checkExistenceOf(std::string_view printed, const QString& roms)
 {
-    return existenceOf(firstWords(printed), FolderSets::read(roms));
+    return existenceOf(ListedSets(printed), FolderSets::read(roms));
 }
 
 QString existenceSummary(std::size_t count, int found, int notFound)

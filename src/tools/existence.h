@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/failure.h"
+#include "tools/listedsets.h"
 
 #include <QLatin1StringView>
 
@@ -26,9 +27,9 @@ inline constexpr std::string_view found = "Found";
 inline constexpr std::string_view notFound = "Not found";
 } // namespace existencetexts
 
-/// One set that the emulator lists.
+/// One set that the emulator lists. Its name is another's.
 struct ExistenceRow {
-    std::string romlistfull;
+    std::string_view romlistfull;
     bool isFound = false;
 
     std::string_view existence() const { return isFound ? existencetexts::found : existencetexts::notFound; }
@@ -37,15 +38,14 @@ struct ExistenceRow {
 
 /// The sets that are found, then those that are not, each in the order of the list.
 struct ExistenceList {
+    ListedSets sets; ///< whose names the rows have
     std::vector<ExistenceRow> rows;
     int found = 0;
     int notFound = 0;
 };
 
-/// `words` are the first ones of what the emulator prints for -listfull. Without its header,
-/// "existence_no_header".
-std::expected<ExistenceList, Failure> existenceOf(std::span<const std::string_view> words,
-                                                  const FolderSets& roms);
+/// Without the list's header, "existence_no_header".
+std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderSets& roms);
 
 /// The same of a file and a folder.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms);

@@ -11,7 +11,6 @@ namespace tessera {
 
 namespace {
 
-constexpr std::string_view whiteSpace = " \t\r\n\v\f";
 // Bytes; the largest that an emulator prints has some hundred MB, a device may have no end.
 constexpr std::size_t textLimit = std::size_t{1} << 30;
 
@@ -42,13 +41,21 @@ std::expected<void, Failure> readPieces(const QString& path, Take take)
     }
 }
 
+bool isWhiteSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// Words are short, and what follows them is long.
 template <class Take>
 void takeFirstWords(std::string_view text, Take take)
 {
     while (!(text = withoutIndent(text)).empty()) {
-        const std::string_view line = text.substr(0, text.find('\n'));
-        take(line.substr(0, line.find(' ')));
-        text.remove_prefix(line.size());
+        std::size_t end = 0;
+        while (end < text.size() && text[end] != ' ' && text[end] != '\n')
+            ++end;
+        take(text.substr(0, end));
+        text.remove_prefix(std::min(text.find('\n', end), text.size()));
     }
 }
 
@@ -104,7 +111,10 @@ std::string printedText(std::string bytes)
 
 std::string_view withoutIndent(std::string_view text)
 {
-    return text.substr(std::min(text.find_first_not_of(whiteSpace), text.size()));
+    std::size_t indent = 0;
+    while (indent < text.size() && isWhiteSpace(text[indent]))
+        ++indent;
+    return text.substr(indent);
 }
 
 std::vector<std::string_view> firstWords(std::string_view text)
@@ -125,13 +135,16 @@ readFirstWords(const QString& path, const std::function<void(std::span<const std
         take(words);
     };
     const auto read = readPieces(path, [&](std::string_view piece, std::size_t) {
-        const std::size_t lines = piece.rfind('\n') + 1;
-        rest += piece.substr(0, lines);
-        if (lines > 0) {
-            handOn(rest);
+        const std::size_t whole = piece.rfind('\n') + 1;
+        std::string_view lines = piece.substr(0, whole);
+        if (!rest.empty() && !lines.empty()) {
+            const std::size_t first = lines.find('\n') + 1;
+            handOn(rest += lines.substr(0, first));
             rest.clear();
+            lines.remove_prefix(first);
         }
-        rest += piece.substr(lines);
+        handOn(lines);
+        rest += piece.substr(whole);
     });
     if (read)
         handOn(rest);

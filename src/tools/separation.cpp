@@ -60,7 +60,8 @@ std::vector<std::string> romNames(const QString& folder)
 SupportedNames::SupportedNames(std::string_view listfull)
 {
     for (const std::string_view word : firstWords(listfull))
-        m_names.insert(printedText(std::string(word)));
+        add(word);
+    m_names.arrange();
 }
 
 SupportedNames SupportedNames::read(const QString& listfull)
@@ -68,9 +69,20 @@ SupportedNames SupportedNames::read(const QString& listfull)
     SupportedNames names;
     const auto read = readFirstWords(listfull, [&](std::span<const std::string_view> words) {
         for (const std::string_view word : words)
-            names.m_names.insert(printedText(std::string(word)));
+            names.add(word);
     });
-    return read ? names : SupportedNames();
+    if (!read)
+        return {};
+    names.m_names.arrange();
+    return names;
+}
+
+void SupportedNames::add(std::string_view word)
+{
+    if (isAscii(word))
+        m_names.add(word);
+    else
+        m_names.add(printedText(std::string(word)));
 }
 
 bool SupportedNames::supports(std::string_view fileName) const

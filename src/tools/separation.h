@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/copyitem.h"
+#include "tools/nameset.h"
 
 #include <QLatin1StringView>
 #include <QString>
@@ -9,7 +10,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 namespace tessera {
@@ -48,7 +48,9 @@ public:
     bool supports(std::string_view fileName) const;
 
 private:
-    std::unordered_set<std::string> m_names;
+    void add(std::string_view word);
+
+    NameSet m_names;
 };
 
 /// What a separation would do.

@@ -1,6 +1,7 @@
 #include "tools/copyitem.h"
 
 #include "support/ordinaryuser.h"
+#include "support/smalldisk.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <csignal>
 
 #include <fcntl.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/types.h>
@@ -41,29 +41,6 @@ public:
 private:
     rlimit m_before{};
     void (*m_handler)(int);
-};
-
-// The last of a small file system, where that may be made.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(QByteArray at)
-        : m_at(std::move(at))
-        , m_isThere(::mount("none", m_at.constData(), "tmpfs", 0, "size=64k") == 0)
-    {
-    }
-    ~SmallDisk()
-    {
-        if (m_isThere)
-            ::umount2(m_at.constData(), MNT_DETACH);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    bool isThere() const { return m_isThere; }
-
-private:
-    QByteArray m_at;
-    bool m_isThere;
 };
 
 } // namespace
@@ -275,7 +252,7 @@ private Q_SLOTS:
 
     void aDiskThatFillsUpKeepsNoHalves()
     {
-        const SmallDisk disk(QByteArray::fromStdString(m_to));
+        const test::SmallDisk disk(QByteArray::fromStdString(m_to));
         if (!disk.isThere())
             QSKIP("no file system may be mounted here");
         makeFolder(m_from + "/set");
@@ -329,6 +306,37 @@ private Q_SLOTS:
         QCOMPARE(copyItem(m_from, "set", m_to, watch).error().key, "failure_write");
         QVERIFY(!QFileInfo::exists(QString::fromStdString(m_to)));
         QCOMPARE(read(m_from + "/set/a"), "a");
+    }
+
+    void aDestinationThatLosesItsPermissionMeanwhileIsAFailure()
+    {
+        makeFolder(m_from + "/set");
+        write(m_from + "/set/a", "a");
+        write(m_from + "/b", "b");
+        openToAll();
+        const test::OrdinaryUser user;
+        QVERIFY(user.holds());
+        const CopyWatch watch{{}, [&](std::int64_t) { ::chmod(m_to.c_str(), 0555); }};
+        for (const char* name : {"set", "b"}) {
+            ::chmod(m_to.c_str(), 0755);
+            const auto copied = copyItem(m_from, name, m_to, watch);
+            QVERIFY(!copied.has_value());
+            QCOMPARE(copied.error().key, "failure_write");
+            QVERIFY(!QFileInfo::exists(QString::fromStdString(m_to + '/' + name)));
+        }
+        ::chmod(m_to.c_str(), 0755);
+    }
+
+    void aDiskThatIsPulledOutMeanwhileIsAFailure()
+    {
+        test::SmallDisk disk(QByteArray::fromStdString(m_to));
+        if (!disk.isThere())
+            QSKIP("no file system may be mounted here");
+        write(m_from + "/a", "a");
+        const CopyWatch watch{{}, [&](std::int64_t) { disk.takeAway(); }};
+        QCOMPARE(copyItem(m_from, "a", m_to, watch).error().key, "failure_write");
+        // What is beneath the place where it was stays as it is.
+        QCOMPARE(names(m_to), QStringList());
     }
 
     void whatIsNoFileIsRefused()

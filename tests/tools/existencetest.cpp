@@ -3,7 +3,6 @@
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 #include "tools/foldersets.h"
-#include "tools/printedtext.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +10,7 @@
 
 #include <random>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -104,6 +104,33 @@ private Q_SLOTS:
         QCOMPARE(list->notFound, isFound ? 1 : 2);
     }
 
+    void strangeNamesInTheFolderDisturbNothing()
+    {
+        for (const char* name : {"a\nb.zip", "\n", "\"a\".zip", "'a'", "\xE9\xFF", "caf\xE9.zip", "a .zip",
+                                 " a.zip", ".zip", "b.zip"})
+            create(name);
+        create(QByteArray(255, 'n'));
+        create(QByteArray(251, 'm').append(".zip"));
+        const auto list
+            = check(QByteArray(header) + "a x\nb x\n\"a\" x\n'a' x\n" + QByteArray(255, 'n') + " x\n"
+                    + QByteArray(251, 'm') + " x\n" + QByteArray(250, 'm') + " x\ncaf\xE9 x\n");
+        QVERIFY(list.has_value());
+        QCOMPARE(found(*list), QStringList({"b", "\"a\"", "'a'", QString(255, 'n'), QString(251, 'm')}));
+        QCOMPARE(list->notFound, 4);
+    }
+
+    void linksThatLeadRoundAreNotFound()
+    {
+        QDir(roms()).mkdir("folder");
+        for (const auto& [target, link] :
+             {std::pair{"two.zip", "one.zip"}, {"one.zip", "two.zip"}, {"up", "folder/up"}, {".", "here"}})
+            QVERIFY(::symlink(target, (bytesOf(roms()) + '/' + link).c_str()) == 0);
+        const auto list
+            = check(QByteArray(header) + "one x\ntwo x\nfolder x\nfolder/up x\nhere x\nhere/here/folder x\n");
+        QVERIFY(list.has_value());
+        QCOMPARE(found(*list), QStringList({"folder", "here", "here/here/folder"}));
+    }
+
     void theHeaderStaysAmongTheMissing()
     {
         touch("a.zip");
@@ -125,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(list.has_value());
         QStringList order;
         for (const ExistenceRow& row : list->rows)
-            order << QString::fromStdString(row.romlistfull);
+            order << QString::fromStdString(std::string(row.romlistfull));
         QCOMPARE(order, QStringList({"z", "m", "a", "m", "y", "Name:", "b"}));
     }
 
@@ -248,7 +275,7 @@ private Q_SLOTS:
     {
         touch("file");
         const auto list
-            = existenceOf(firstWords("Name: x\npong x\n. x\n"), FolderSets::read(roms() + "/file"));
+            = existenceOf(ListedSets("Name: x\npong x\n. x\n"), FolderSets::read(roms() + "/file"));
         QVERIFY(list.has_value());
         QCOMPARE(list->found, 0);
     }
@@ -304,8 +331,25 @@ private:
 
     std::expected<ExistenceList, Failure> check(const QByteArray& text) const
     {
-        const auto words = firstWords({text.constData(), static_cast<std::size_t>(text.size())});
-        return existenceOf(words, FolderSets::read(roms()));
+        return checkExistenceOf({text.constData(), static_cast<std::size_t>(text.size())}, roms());
+    }
+
+    static std::string bytesOf(const QString& path) { return QFile::encodeName(path).toStdString(); }
+
+    void create(const QByteArray& name) const
+    {
+        const std::string path = bytesOf(roms()) + '/' + name.toStdString();
+        const int file = ::open(path.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
+        QVERIFY(file >= 0);
+        ::close(file);
+    }
+
+    static QStringList found(const ExistenceList& list)
+    {
+        QStringList names;
+        for (const ExistenceRow& row : std::span(list.rows).first(static_cast<std::size_t>(list.found)))
+            names << QString::fromStdString(std::string(row.romlistfull));
+        return names;
     }
 
     void touch(const QString& name) const

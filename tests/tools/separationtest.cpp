@@ -1,5 +1,7 @@
 #include "tools/separation.h"
 
+#include "support/ordinaryuser.h"
+#include "support/smalldisk.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -8,6 +10,9 @@
 
 #include <algorithm>
 #include <random>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace tessera;
 
@@ -186,6 +191,72 @@ private Q_SLOTS:
         QVERIFY(!rows[0].failure);
         QCOMPARE(rows[1].failure->key, "failure_write");
         QCOMPARE(rows[2].failure->key, "failure_write");
+    }
+
+    void aDestinationThatLosesItsPermissionMeanwhileFailsForTheRest()
+    {
+        for (const char* name : {"a.zip", "b.zip", "c.zip"})
+            touch(name);
+        ::chmod(QFile::encodeName(m_folder->path()).constData(), 0755);
+        if (::geteuid() == 0)
+            QVERIFY(::chown(QFile::encodeName(aside()).constData(), 65534, 65534) == 0);
+        std::vector<SeparatedRow> rows;
+        const Separation separation(roms(), aside(), {});
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            separation.run(std::vector<std::string>{"a.zip", "b.zip", "c.zip"}, {},
+                           [&](const SeparatedRow& row) {
+                               rows.push_back(row);
+                               ::chmod(QFile::encodeName(aside()).constData(), 0555);
+                           });
+        }
+        QCOMPARE(rows.size(), std::size_t(3));
+        QVERIFY(!rows[0].failure);
+        for (const std::size_t row : {std::size_t(1), std::size_t(2)}) {
+            QCOMPARE(rows[row].failure->key, "failure_write");
+            QCOMPARE(rows[row].failure->arguments.first(), rows[row].destination);
+        }
+        QCOMPARE(QDir(aside()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), {"a.zip"});
+    }
+
+    void aDestinationThatFillsUpFailsForWhatIsTooLarge()
+    {
+        const test::SmallDisk disk(QFile::encodeName(aside()));
+        if (!disk.isThere())
+            QSKIP("no file system may be mounted here");
+        for (const char* name : {"a.zip", "large.zip", "small.zip"})
+            touch(name);
+        QVERIFY(QFile::resize(roms() + "/large.zip", 1 << 20));
+        std::vector<SeparatedRow> rows;
+        const std::vector<std::string> names{"a.zip", "large.zip", "small.zip"};
+        const SeparationPlan plan = Separation(roms(), aside(), {}).plan(names, {});
+        QVERIFY(plan.free && plan.bytes > *plan.free);
+        QCOMPARE(run(names, rows).moved, 3);
+        QVERIFY(!rows[0].failure && !rows[2].failure);
+        QCOMPARE(rows[1].failure->key, "failure_write");
+        QVERIFY2(rows[1].failure->arguments.last().contains("space"),
+                 qPrintable(rows[1].failure->arguments.last()));
+        QCOMPARE(QDir(aside()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList({"a.zip", "small.zip"}));
+    }
+
+    void linksThatLeadRoundAreCopiedAsLinks()
+    {
+        touch("set/rom");
+        for (const auto& [target, link] :
+             {std::pair{"..", "set/up"}, {"two", "one"}, {"one", "two"}, {"itself", "itself"}, {".", "here"}})
+            QVERIFY(::symlink(target, QFile::encodeName(roms() + '/' + link).constData()) == 0);
+        auto names = romNames(roms());
+        std::ranges::sort(names);
+        QCOMPARE(names, std::vector<std::string>({"here", "itself", "one", "set", "two"}));
+        QCOMPARE(Separation(roms(), aside(), {}).plan(names, {}).bytes, 5);
+        std::vector<SeparatedRow> rows;
+        QCOMPARE(run(names, rows).moved, 5);
+        for (const SeparatedRow& row : rows)
+            QVERIFY2(!row.failure, qPrintable(row.source));
+        for (const char* link : {"here", "itself", "one", "two", "set/up"})
+            QVERIFY2(QFileInfo(aside() + '/' + link).isSymLink(), link);
     }
 
     void aFileThatVanishesMeanwhileFailsAlone()

@@ -1,5 +1,6 @@
 #include "tools/ui/separationtool.h"
 
+#include "support/ordinaryuser.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "tools/ui/separationpage.h"
@@ -9,6 +10,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace tessera;
@@ -156,6 +158,35 @@ private Q_SLOTS:
         QCOMPARE(stage.information(), "3 ROMs ( Support: 1 / Moved: 2 )");
         stage.check();
         QVERIFY(stage.page.failedCopies->isHidden());
+    }
+
+    void aFailureTakesOneLineWhateverTheFileIsCalled()
+    {
+        Stage stage;
+        stage.page.showFailures({"a\nb\tc", "d"});
+        QCOMPARE(stage.page.failedCopies->toPlainText(),
+                 QString::fromUtf8("separation_not_copied\na\u240Ab\u2409c\nd"));
+    }
+
+    void withoutPermissionEachFailureIsNamed()
+    {
+        Stage stage;
+        stage.checkByName();
+        ::chmod(QFile::encodeName(stage.folder.path()).constData(), 0755);
+        ::chmod(QFile::encodeName(stage.path("aside")).constData(), 0555);
+        stage.desktop.takeTranscript();
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            stage.separate();
+        }
+        QCOMPARE(stage.rows(), QStringList({"PONG.ZIP=Support", "gone.zip=Moved", "old=Moved"}));
+        QCOMPARE(stage.information(), "3 ROMs ( Support: 1 / Moved: 2 )");
+        QCOMPARE(stage.page.failedCopies->toPlainText(),
+                 "separation_not_copied\nfailure_write\nfailure_write");
+        QCOMPARE(stage.entries("aside"), QStringList());
+        const QString line = QString::fromUtf8("log ファイルのコピーに失敗：failure_write");
+        QCOMPARE(stage.desktop.transcript(), QStringList({line, line, "sound st_ovenbell"}));
     }
 
     void aListThatVanishedMeanwhileSupportsNothing()

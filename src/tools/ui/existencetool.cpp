@@ -123,8 +123,8 @@ void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCanc
     const QString notFound = text(existencetexts::notFound);
     std::vector<RowsModel::Row> rows;
     rows.reserve(list->rows.size());
-    for (ExistenceRow& row : list->rows)
-        rows.push_back({std::move(row.romlistfull), row.isFound ? found : notFound});
+    for (const ExistenceRow& row : list->rows)
+        rows.push_back({std::string(row.romlistfull), row.isFound ? found : notFound});
     m_found = list->found;
     m_notFound = list->notFound;
     m_page.rows->setRows(std::move(rows));
@@ -150,7 +150,7 @@ QString ExistenceTool::existscheck(const QString& setName)
     return text(isFound ? existencetexts::found : existencetexts::notFound);
 }
 
-// In the order shown, and also those that a filter hides.
+// The model's own names, in the order shown; also those that a filter hides.
 std::vector<ExistenceRow> ExistenceTool::rows() const
 {
     std::vector<ExistenceRow> rows;

@@ -1,26 +1,11 @@
 #include "tools/ui/rowsmodel.h"
 
+#include "tools/ui/oneline.h"
+
 #include <algorithm>
 #include <numeric>
 
 namespace tessera {
-
-namespace {
-
-constexpr char16_t controlPictures = 0x2400;
-
-// On one line, whatever is in it.
-QString shownName(const std::string& name)
-{
-    QString text = QString::fromStdString(name);
-    for (QChar& c : text) {
-        if (c.unicode() < 0x20)
-            c = QChar(static_cast<char16_t>(controlPictures + c.unicode()));
-    }
-    return text;
-}
-
-} // namespace
 
 RowsModel::RowsModel(std::array<QString, 2> titles, QObject* parent)
     : QAbstractTableModel(parent)
@@ -64,7 +49,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || role != Qt::DisplayRole)
         return {};
     const Row& row = visible(index.row());
-    return index.column() == NameColumn ? shownName(row.name) : row.state;
+    return index.column() == NameColumn ? onOneLine(QString::fromStdString(row.name)) : row.state;
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const

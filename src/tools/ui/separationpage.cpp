@@ -1,6 +1,7 @@
 #include "tools/ui/separationpage.h"
 
 #include "tools/separation.h"
+#include "tools/ui/oneline.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/boundcontrols.h"
@@ -90,9 +91,11 @@ void SeparationPage::hidePlan()
 
 void SeparationPage::showFailures(const QStringList& failures)
 {
-    QStringList lines = failures;
-    if (!lines.isEmpty())
-        lines.prepend(qtTrId("separation_not_copied").arg(QLocale().toString(failures.size())));
+    QStringList lines;
+    if (!failures.isEmpty())
+        lines << qtTrId("separation_not_copied").arg(QLocale().toString(failures.size()));
+    for (const QString& failure : failures)
+        lines << onOneLine(failure);
     failedCopies->setPlainText(lines.join(QLatin1Char('\n')));
     failedCopies->setVisible(!lines.isEmpty());
 }

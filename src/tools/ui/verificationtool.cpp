@@ -13,6 +13,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <future>
 
 namespace tessera {
 
@@ -46,8 +47,9 @@ void VerificationTool::converter2Action()
         const auto printed = readPrinted(path);
         if (!printed)
             return std::unexpected(printed.error());
-        return Condensed{verificationReport(*printed, chosen, job.stop()),
-                         verifiedSets(*printed, job.stop())};
+        auto sets = std::async(std::launch::async, [&] { return verifiedSets(*printed, job.stop()); });
+        std::string report = verificationReport(*printed, chosen, job.stop());
+        return Condensed{std::move(report), sets.get()};
     };
     m_workbench.run(condense, [this](std::expected<Condensed, Failure> condensed, bool isCancelled) {
         offer(std::move(condensed), isCancelled);
