@@ -74,7 +74,6 @@
     <message id="menu_bigger"><source></source><translation>&amp;Bigger Text</translation></message>
     <message id="menu_smaller"><source></source><translation>S&amp;maller Text</translation></message>
     <message id="menu_font"><source></source><translation>F&amp;ont…</translation></message>
-    <message id="page_appearance"><source></source><translation>Look</translation></message>
     <message id="menu_find"><source></source><translation>&amp;Find</translation></message>
     <message id="menu_filter"><source></source><translation>&amp;Filter Panel…</translation></message>
     <message id="menu_showall"><source></source><translation>Show &amp;All</translation></message>
@@ -167,5 +166,7 @@
     <message id="menu_bioslist"><source></source><translation>&amp;BIOS List</translation></message>
     <message id="empty_noroms"><source></source><translation>No ROM folder was chosen, and MAME’s own folders hold no ROMs.</translation></message>
     <message id="empty_chooseroms"><source></source><translation>Choose ROM Folder…</translation></message>
+    <message id="support_files"><source></source><translation>Pictures and texts</translation></message>
+    <message id="main_stopnow"><source></source><translation>Stop</translation></message>
 </context>
 </TS>

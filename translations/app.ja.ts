@@ -74,7 +74,6 @@
     <message id="menu_bigger"><source></source><translation>文字を大きく(&amp;B)</translation></message>
     <message id="menu_smaller"><source></source><translation>文字を小さく(&amp;M)</translation></message>
     <message id="menu_font"><source></source><translation>フォント(&amp;O)…</translation></message>
-    <message id="page_appearance"><source></source><translation>外観</translation></message>
     <message id="menu_find"><source></source><translation>検索(&amp;F)</translation></message>
     <message id="menu_filter"><source></source><translation>フィルタパネル(&amp;F)…</translation></message>
     <message id="menu_showall"><source></source><translation>すべて表示(&amp;A)</translation></message>
@@ -167,5 +166,7 @@
     <message id="menu_bioslist"><source></source><translation>BIOS リスト(&amp;B)</translation></message>
     <message id="empty_noroms"><source></source><translation>ROMフォルダが選択されておらず、MAME自身のフォルダにもROMがありません。</translation></message>
     <message id="empty_chooseroms"><source></source><translation>ROMフォルダを選択…</translation></message>
+    <message id="support_files"><source></source><translation>画像とテキスト</translation></message>
+    <message id="main_stopnow"><source></source><translation>停止</translation></message>
 </context>
 </TS>

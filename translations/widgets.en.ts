@@ -11,5 +11,13 @@
     <message id="fontpanel_sample"><source></source><translation>Aa Gg 0123 あア亜</translation></message>
     <message id="panel_close"><source></source><translation>Close</translation></message>
     <message id="panel_minimise"><source></source><translation>Minimise</translation></message>
+    <message id="general"><source></source><translation>General</translation></message>
+    <message id="video"><source></source><translation>Video</translation></message>
+    <message id="effect"><source></source><translation>Effects</translation></message>
+    <message id="av"><source></source><translation>Sound</translation></message>
+    <message id="ioport"><source></source><translation>Input</translation></message>
+    <message id="misc"><source></source><translation>Misc</translation></message>
+    <message id="support"><source></source><translation>Support</translation></message>
+    <message id="appearance"><source></source><translation>Look</translation></message>
 </context>
 </TS>

@@ -11,5 +11,13 @@
     <message id="fontpanel_sample"><source></source><translation>あア亜 Aa Gg 0123</translation></message>
     <message id="panel_close"><source></source><translation>閉じる</translation></message>
     <message id="panel_minimise"><source></source><translation>最小化</translation></message>
+    <message id="general"><source></source><translation>一般</translation></message>
+    <message id="video"><source></source><translation>ビデオ</translation></message>
+    <message id="effect"><source></source><translation>効果</translation></message>
+    <message id="av"><source></source><translation>サウンド</translation></message>
+    <message id="ioport"><source></source><translation>入力</translation></message>
+    <message id="misc"><source></source><translation>その他</translation></message>
+    <message id="support"><source></source><translation>サポート</translation></message>
+    <message id="appearance"><source></source><translation>外観</translation></message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/modemenu.h"
+#include "app/optionsdesk.h"
 #include "app/preferenceswindow.h"
 #include "app/scriptjoin.h"
 #include "app/utilityjoin.h"
@@ -43,6 +44,7 @@
 #include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "widgets/bringforward.h"
+#include "widgets/deletionfocusring.h"
 #include "widgets/firstpaint.h"
 #include "widgets/menusearch.h"
 
@@ -82,6 +84,7 @@ void Tessera_AppDelegate::run(const QString& file)
     applicationDidFinishLaunching();
     // The emulator's options are asked of it once, so that no launch waits for them.
     afterFirstPaint(*m_mainWindow, [this] {
+        DeletionFocusRing::awakeFromNib(*m_mainWindow);
         m_finding->prepare();
         m_launch->prepareProfile();
     });
@@ -433,6 +436,7 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
+    m_options->addPages();
     m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }

@@ -34,6 +34,7 @@ class LogWindow;
 class MainWindow;
 class MiniDesk;
 class ModeMenu;
+class OptionsDesk;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
@@ -212,6 +213,7 @@ private:
     std::unique_ptr<RunController> m_runs;
     std::unique_ptr<LaunchController> m_launch;
     std::unique_ptr<CommandsDesk> m_commands;
+    std::unique_ptr<OptionsDesk> m_options;
     std::unique_ptr<ModeMenu> m_modeMenu;
     std::unique_ptr<UtilityObject> m_utility;
     std::unique_ptr<HelpWindow> m_help;
