@@ -125,8 +125,8 @@
 &lt;p&gt;一覧の上の&lt;b&gt;チップ&lt;/b&gt;は、その一部だけを件数とともに表示します。&lt;b&gt;ファミリー&lt;/b&gt;はクローンを親の下にたたみ、右と左の矢印キーで開閉します。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;フィルタパネル&lt;/b&gt;（「表示 › フィルタパネル」）では、いくつもの条件を組み合わせられます。メーカーフィルタもここにあります。&lt;/p&gt;
 &lt;p&gt;隠れている行があるときは、その理由が件数の横に出ます。&lt;b&gt;すべて表示&lt;/b&gt;で元に戻ります。&lt;/p&gt;</translation></message>
-    <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で実行中のゲームを終えます。&lt;/p&gt;
-&lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは省かれ、ログの一行に示されます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
+    <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。実行中はステータス行にそう表示され、その横の&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で終えます。&lt;/p&gt;
+&lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは、そこに取り消し線で示され、起動時に省かれて、ログの一行に示されます。ROMフォルダを選んでいなければ、MAME自身が探す場所が候補として出ます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
 &lt;p&gt;MAMEがエラーで終わると、Tesseraが知らせます。理由はログで分かります。多くは、アーカイブにファイルが足りないか、アーカイブが別のバージョンのMAME用です。&lt;/p&gt;
 &lt;p&gt;ログウインドウからは、MAME自身に問い合わせることもできます。選択したゲームまたは全体についてのコマンドと、ファイルへの書き出しがあります。&lt;b&gt;Ctrl+I&lt;/b&gt;でゲームの解説を、&lt;b&gt;Ctrl+B&lt;/b&gt;で選べるBIOSの一覧を表示します。&lt;/p&gt;</translation></message>
     <message id="help_tools"><source></source><translation>&lt;p&gt;「ファイル › カタログツール」（&lt;b&gt;Ctrl+T&lt;/b&gt;）で、作業ごとのページがあるウインドウが開きます。&lt;/p&gt;
