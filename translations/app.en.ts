@@ -74,7 +74,6 @@
     <message id="menu_bigger"><source></source><translation>&amp;Bigger Text</translation></message>
     <message id="menu_smaller"><source></source><translation>S&amp;maller Text</translation></message>
     <message id="menu_font"><source></source><translation>F&amp;ont…</translation></message>
-    <message id="page_appearance"><source></source><translation>Look</translation></message>
     <message id="menu_find"><source></source><translation>&amp;Find</translation></message>
     <message id="menu_filter"><source></source><translation>&amp;Filter Panel…</translation></message>
     <message id="menu_showall"><source></source><translation>Show &amp;All</translation></message>
@@ -126,8 +125,8 @@
 &lt;p&gt;&lt;b&gt;The chips&lt;/b&gt; above the list show a part of it, with their counts. &lt;b&gt;Families&lt;/b&gt; folds clones beneath their parents; the right and left arrow keys open and close one.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;The filter panel&lt;/b&gt; (&lt;i&gt;View › Filter Panel&lt;/i&gt;) joins several rules, and holds the maker filter.&lt;/p&gt;
 &lt;p&gt;Whatever hides rows is named beside the count, with &lt;b&gt;Show all&lt;/b&gt;.&lt;/p&gt;</translation></message>
-    <message id="help_launch"><source></source><translation>&lt;p&gt;A double click, the Return key or &lt;b&gt;Play&lt;/b&gt; starts the selected game. What MAME prints goes into the log window (&lt;b&gt;Ctrl+L&lt;/b&gt;), together with the command line. &lt;b&gt;Stop&lt;/b&gt; (&lt;b&gt;Ctrl+.&lt;/b&gt;) ends a running game.&lt;/p&gt;
-&lt;p&gt;How games are started is set in the &lt;b&gt;preferences&lt;/b&gt; (&lt;b&gt;Ctrl+,&lt;/b&gt;). Options that your MAME does not know are left out; the log names them in one line. A favourite may have options of its own, which come last and so win.&lt;/p&gt;
+    <message id="help_launch"><source></source><translation>&lt;p&gt;A double click, the Return key or &lt;b&gt;Play&lt;/b&gt; starts the selected game. What MAME prints goes into the log window (&lt;b&gt;Ctrl+L&lt;/b&gt;), together with the command line. While it runs the status line says so; &lt;b&gt;Stop&lt;/b&gt; beside it (&lt;b&gt;Ctrl+.&lt;/b&gt;) ends it.&lt;/p&gt;
+&lt;p&gt;How games are started is set in the &lt;b&gt;preferences&lt;/b&gt; (&lt;b&gt;Ctrl+,&lt;/b&gt;). Options that your MAME does not know are struck through there and left out; the log names them in one line. Where no ROM folder is chosen, those that MAME itself looks in are proposed. A favourite may have options of its own, which come last and so win.&lt;/p&gt;
 &lt;p&gt;When MAME ends with an error, Tessera says so, and the log shows why: mostly a file is missing from an archive, or the archive is of another MAME version.&lt;/p&gt;
 &lt;p&gt;The log window also asks MAME itself: a command for the selected game or for all of them, or a listing into a file. &lt;b&gt;Ctrl+I&lt;/b&gt; shows what is told of a game, &lt;b&gt;Ctrl+B&lt;/b&gt; lists the BIOSes to choose from.&lt;/p&gt;</translation></message>
     <message id="help_tools"><source></source><translation>&lt;p&gt;&lt;i&gt;File › Catalogue Tools&lt;/i&gt; (&lt;b&gt;Ctrl+T&lt;/b&gt;) opens a window with a page for each job:&lt;/p&gt;
@@ -178,7 +177,7 @@
     <message id="menu_snapfolder"><source></source><translation>&amp;Snapshots</translation></message>
     <message id="menu_titlefolder"><source></source><translation>&amp;Title Snapshots</translation></message>
     <message id="menu_flyerfolder"><source></source><translation>&amp;Game Flyers</translation></message>
-    <message id="page_pictures"><source></source><translation>Pictures</translation></message>
+    <message id="support_pictures"><source></source><translation>Pictures</translation></message>
     <message id="side_history"><source></source><translation>History</translation></message>
     <message id="side_page"><source></source><translation>Web page</translation></message>
     <message id="side_verify"><source></source><translation>Verify ROM</translation></message>
@@ -189,5 +188,7 @@
 &lt;p&gt;A click on the picture opens it at its own size; the choice at the right sets the proportions that it is drawn in.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; downloads the picture of the kind that is shown, from the site that you have set on that page. A picture that is there is only replaced after a question.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; shows what history.dat, history.xml and mameinfo.dat tell of the game; choose the files at the foot of its window. &lt;b&gt;Ctrl+Shift+I&lt;/b&gt; opens its page on an information site.&lt;/p&gt;</translation></message>
+    <message id="support_files"><source></source><translation>Pictures and texts</translation></message>
+    <message id="main_stopnow"><source></source><translation>Stop</translation></message>
 </context>
 </TS>

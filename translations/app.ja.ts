@@ -74,7 +74,6 @@
     <message id="menu_bigger"><source></source><translation>文字を大きく(&amp;B)</translation></message>
     <message id="menu_smaller"><source></source><translation>文字を小さく(&amp;M)</translation></message>
     <message id="menu_font"><source></source><translation>フォント(&amp;O)…</translation></message>
-    <message id="page_appearance"><source></source><translation>外観</translation></message>
     <message id="menu_find"><source></source><translation>検索(&amp;F)</translation></message>
     <message id="menu_filter"><source></source><translation>フィルタパネル(&amp;F)…</translation></message>
     <message id="menu_showall"><source></source><translation>すべて表示(&amp;A)</translation></message>
@@ -126,8 +125,8 @@
 &lt;p&gt;一覧の上の&lt;b&gt;チップ&lt;/b&gt;は、その一部だけを件数とともに表示します。&lt;b&gt;ファミリー&lt;/b&gt;はクローンを親の下にたたみ、右と左の矢印キーで開閉します。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;フィルタパネル&lt;/b&gt;（「表示 › フィルタパネル」）では、いくつもの条件を組み合わせられます。メーカーフィルタもここにあります。&lt;/p&gt;
 &lt;p&gt;隠れている行があるときは、その理由が件数の横に出ます。&lt;b&gt;すべて表示&lt;/b&gt;で元に戻ります。&lt;/p&gt;</translation></message>
-    <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で実行中のゲームを終えます。&lt;/p&gt;
-&lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは省かれ、ログの一行に示されます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
+    <message id="help_launch"><source></source><translation>&lt;p&gt;ダブルクリック、Returnキー、&lt;b&gt;プレイ&lt;/b&gt;ボタンのどれでも、選択したゲームが始まります。MAMEの出力はコマンドラインとともにログウインドウ（&lt;b&gt;Ctrl+L&lt;/b&gt;）に出ます。実行中はステータス行にそう表示され、その横の&lt;b&gt;停止&lt;/b&gt;（&lt;b&gt;Ctrl+.&lt;/b&gt;）で終えます。&lt;/p&gt;
+&lt;p&gt;起動のしかたは&lt;b&gt;環境設定&lt;/b&gt;（&lt;b&gt;Ctrl+,&lt;/b&gt;）で決めます。お使いのMAMEが知らないオプションは、そこに取り消し線で示され、起動時に省かれて、ログの一行に示されます。ROMフォルダを選んでいなければ、MAME自身が探す場所が候補として出ます。お気に入りには独自のオプションを付けられ、最後に渡されるので優先されます。&lt;/p&gt;
 &lt;p&gt;MAMEがエラーで終わると、Tesseraが知らせます。理由はログで分かります。多くは、アーカイブにファイルが足りないか、アーカイブが別のバージョンのMAME用です。&lt;/p&gt;
 &lt;p&gt;ログウインドウからは、MAME自身に問い合わせることもできます。選択したゲームまたは全体についてのコマンドと、ファイルへの書き出しがあります。&lt;b&gt;Ctrl+I&lt;/b&gt;でゲームの解説を、&lt;b&gt;Ctrl+B&lt;/b&gt;で選べるBIOSの一覧を表示します。&lt;/p&gt;</translation></message>
     <message id="help_tools"><source></source><translation>&lt;p&gt;「ファイル › カタログツール」（&lt;b&gt;Ctrl+T&lt;/b&gt;）で、作業ごとのページがあるウインドウが開きます。&lt;/p&gt;
@@ -178,7 +177,7 @@
     <message id="menu_snapfolder"><source></source><translation>スナップショット(&amp;S)</translation></message>
     <message id="menu_titlefolder"><source></source><translation>タイトル画面(&amp;T)</translation></message>
     <message id="menu_flyerfolder"><source></source><translation>フライヤー(&amp;G)</translation></message>
-    <message id="page_pictures"><source></source><translation>画像</translation></message>
+    <message id="support_pictures"><source></source><translation>画像</translation></message>
     <message id="side_history"><source></source><translation>履歴</translation></message>
     <message id="side_page"><source></source><translation>ウェブページ</translation></message>
     <message id="side_verify"><source></source><translation>ROMを検査</translation></message>
@@ -189,5 +188,7 @@
 &lt;p&gt;画像をクリックすると原寸で開きます。右側の選択肢で、表示する縦横比を選べます。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; で、表示中の種類の画像を、同じページで指定したサイトからダウンロードします。すでにある画像は、確認なしに置き換えられることはありません。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; で history.dat、history.xml、mameinfo.dat の内容を表示します。ファイルはそのウインドウの下部で選びます。&lt;b&gt;Ctrl+Shift+I&lt;/b&gt; で情報サイトのページを開きます。&lt;/p&gt;</translation></message>
+    <message id="support_files"><source></source><translation>画像とテキスト</translation></message>
+    <message id="main_stopnow"><source></source><translation>停止</translation></message>
 </context>
 </TS>

@@ -36,12 +36,6 @@
     <message id="download_Miss"><source></source><translation>The picture could not be downloaded.</translation></message>
     <message id="overwrite"><source></source><translation>Overwrite</translation></message>
     <message id="pictures_kind"><source></source><translation>&amp;Shown</translation></message>
-    <message id="pictures_snapfolder"><source></source><translation>S&amp;napshots</translation></message>
-    <message id="pictures_titlefolder"><source></source><translation>&amp;Title snapshots</translation></message>
-    <message id="pictures_flyerfolder"><source></source><translation>&amp;Flyers</translation></message>
-    <message id="pictures_choose"><source></source><translation>Choose…</translation></message>
-    <message id="pictures_reveal"><source></source><translation>Open in the file manager</translation></message>
-    <message id="pictures_mamefolder"><source></source><translation>Use MAME’s own snapshots in %1</translation></message>
     <message id="pictures_suppress"><source></source><translation>Never show the &amp;parent’s picture for a clone</translation></message>
     <message id="pictures_wholesteps"><source></source><translation>Enlarge by &amp;whole steps only, so that every pixel stays even</translation></message>
     <message id="pictures_site"><source></source><translation>&amp;Download from</translation></message>

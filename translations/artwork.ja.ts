@@ -36,12 +36,6 @@
     <message id="download_Miss"><source></source><translation>画像をダウンロードできませんでした。</translation></message>
     <message id="overwrite"><source></source><translation>上書き</translation></message>
     <message id="pictures_kind"><source></source><translation>表示する画像(&amp;S)</translation></message>
-    <message id="pictures_snapfolder"><source></source><translation>スナップショット(&amp;N)</translation></message>
-    <message id="pictures_titlefolder"><source></source><translation>タイトル画面(&amp;T)</translation></message>
-    <message id="pictures_flyerfolder"><source></source><translation>フライヤー(&amp;F)</translation></message>
-    <message id="pictures_choose"><source></source><translation>選択…</translation></message>
-    <message id="pictures_reveal"><source></source><translation>ファイルマネージャで開く</translation></message>
-    <message id="pictures_mamefolder"><source></source><translation>MAME自身のスナップショットを使う: %1</translation></message>
     <message id="pictures_suppress"><source></source><translation>クローンに親セットの画像を表示しない(&amp;P)</translation></message>
     <message id="pictures_wholesteps"><source></source><translation>整数倍だけで拡大し、ピクセルをそろえる(&amp;W)</translation></message>
     <message id="pictures_site"><source></source><translation>ダウンロード元(&amp;D)</translation></message>

@@ -21,7 +21,6 @@
     <message id="mameinfo_choose"><source></source><translation>Choose mameinfo.dat…</translation></message>
     <message id="history_follow"><source></source><translation>Follow the selection</translation></message>
     <message id="history_loading"><source></source><translation>Reading the files…</translation></message>
-    <message id="page_information"><source></source><translation>Information</translation></message>
     <message id="infosite_heading"><source></source><translation>Information sites</translation></message>
     <message id="infosite_explanation"><source></source><translation>Web pages about a game, opened in your browser by Game › Information Page.</translation></message>
     <message id="infosite_number"><source></source><translation>Information site %1</translation></message>
@@ -31,5 +30,6 @@
     <message id="infosite_note"><source></source><translation>{$gamename} stands for the set name. Sites come and go, so each needs its host here before it can be asked.</translation></message>
     <message id="infosite_url"><source></source><translation>&amp;Address</translation></message>
     <message id="infosite_open"><source></source><translation>&amp;Open</translation></message>
+    <message id="support_sites"><source></source><translation>Information sites</translation></message>
 </context>
 </TS>

@@ -21,7 +21,6 @@
     <message id="mameinfo_choose"><source></source><translation>mameinfo.dat を選択…</translation></message>
     <message id="history_follow"><source></source><translation>選択に合わせて表示</translation></message>
     <message id="history_loading"><source></source><translation>ファイルを読み込み中…</translation></message>
-    <message id="page_information"><source></source><translation>情報</translation></message>
     <message id="infosite_heading"><source></source><translation>情報サイト</translation></message>
     <message id="infosite_explanation"><source></source><translation>ゲームについてのウェブページです。“ゲーム › 情報ページ”でブラウザーに表示します。</translation></message>
     <message id="infosite_number"><source></source><translation>情報サイト %1</translation></message>
@@ -31,5 +30,6 @@
     <message id="infosite_note"><source></source><translation>{$gamename} はセット名に置き換えられます。サイトは移り変わるため、使う前にホストを入力してください。</translation></message>
     <message id="infosite_url"><source></source><translation>アドレス(&amp;A)</translation></message>
     <message id="infosite_open"><source></source><translation>開く(&amp;O)</translation></message>
+    <message id="support_sites"><source></source><translation>情報サイト</translation></message>
 </context>
 </TS>

@@ -21,12 +21,6 @@
     <message id="launch_quitend"><source></source><translation>End the game and quit</translation></message>
     <message id="log_title"><source></source><translation>Log</translation></message>
     <message id="log_save"><source></source><translation>Save…</translation></message>
-    <message id="page_general"><source></source><translation>General</translation></message>
-    <message id="page_video"><source></source><translation>Video</translation></message>
-    <message id="page_effects"><source></source><translation>Effects</translation></message>
-    <message id="page_sound"><source></source><translation>Sound</translation></message>
-    <message id="page_input"><source></source><translation>Input</translation></message>
-    <message id="page_misc"><source></source><translation>Misc</translation></message>
     <message id="path_choose"><source></source><translation>Choose…</translation></message>
     <message id="path_reveal"><source></source><translation>Show in the file manager</translation></message>
     <message id="option_launchusing"><source></source><translation>Launch using</translation></message>
@@ -149,5 +143,17 @@
     <message id="commandline_copytip"><source></source><translation>Copy the command line</translation></message>
     <message id="commandline_name"><source></source><translation>Command line</translation></message>
     <message id="commandline_leftout"><source></source><translation>Left out: this emulator does not know it</translation></message>
+    <message id="files_heading"><source></source><translation>Pictures and texts</translation></message>
+    <message id="files_explanation"><source></source><translation>Folders with one picture for each game, and the files that its history and notes are read from.</translation></message>
+    <message id="files_snapshots"><source></source><translation>Snapshots</translation></message>
+    <message id="files_titles"><source></source><translation>Title screens</translation></message>
+    <message id="files_flyers"><source></source><translation>Flyers</translation></message>
+    <message id="files_history"><source></source><translation>History file</translation></message>
+    <message id="files_mameinfo"><source></source><translation>Notes file</translation></message>
+    <message id="option_unknown"><source></source><translation>This emulator does not know %1: launches leave it out.</translation></message>
+    <message id="roms_proposed"><source></source><translation>The emulator itself looks for ROMs in:</translation></message>
+    <message id="folder_use"><source></source><translation>Use</translation></message>
+    <message id="launch_nolog"><source></source><translation>The log file cannot be written to “%1”.</translation></message>
+    <message id="snaps_proposed"><source></source><translation>MAME itself puts its snapshots here:</translation></message>
 </context>
 </TS>

@@ -21,12 +21,6 @@
     <message id="launch_quitend"><source></source><translation>ゲームを終わらせて終了</translation></message>
     <message id="log_title"><source></source><translation>ログ</translation></message>
     <message id="log_save"><source></source><translation>保存…</translation></message>
-    <message id="page_general"><source></source><translation>一般</translation></message>
-    <message id="page_video"><source></source><translation>ビデオ</translation></message>
-    <message id="page_effects"><source></source><translation>効果</translation></message>
-    <message id="page_sound"><source></source><translation>サウンド</translation></message>
-    <message id="page_input"><source></source><translation>入力</translation></message>
-    <message id="page_misc"><source></source><translation>その他</translation></message>
     <message id="path_choose"><source></source><translation>選択…</translation></message>
     <message id="path_reveal"><source></source><translation>ファイルマネージャで表示</translation></message>
     <message id="option_launchusing"><source></source><translation>起動方法</translation></message>
@@ -149,5 +143,17 @@
     <message id="commandline_copytip"><source></source><translation>コマンドラインをコピー</translation></message>
     <message id="commandline_name"><source></source><translation>コマンドライン</translation></message>
     <message id="commandline_leftout"><source></source><translation>このエミュレータは認識しないため省かれます</translation></message>
+    <message id="files_heading"><source></source><translation>画像とテキスト</translation></message>
+    <message id="files_explanation"><source></source><translation>ゲームごとの画像があるフォルダと、履歴や解説を読み込むファイルです。</translation></message>
+    <message id="files_snapshots"><source></source><translation>スナップショット</translation></message>
+    <message id="files_titles"><source></source><translation>タイトル画面</translation></message>
+    <message id="files_flyers"><source></source><translation>フライヤー</translation></message>
+    <message id="files_history"><source></source><translation>履歴ファイル</translation></message>
+    <message id="files_mameinfo"><source></source><translation>解説ファイル</translation></message>
+    <message id="option_unknown"><source></source><translation>このエミュレータには%1がないため、起動時に省かれます。</translation></message>
+    <message id="roms_proposed"><source></source><translation>エミュレータ自身は次の場所でROMを探します:</translation></message>
+    <message id="folder_use"><source></source><translation>これを使う</translation></message>
+    <message id="launch_nolog"><source></source><translation>ログファイルを“%1”に書き込めません。</translation></message>
+    <message id="snaps_proposed"><source></source><translation>MAME自身がスナップショットを保存している場所:</translation></message>
 </context>
 </TS>

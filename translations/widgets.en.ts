@@ -15,5 +15,13 @@
     <message id="editor_close"><source></source><translation>&amp;Close</translation></message>
     <message id="editor_previous"><source></source><translation>&amp;Previous</translation></message>
     <message id="editor_next"><source></source><translation>&amp;Next</translation></message>
+    <message id="general"><source></source><translation>General</translation></message>
+    <message id="video"><source></source><translation>Video</translation></message>
+    <message id="effect"><source></source><translation>Effects</translation></message>
+    <message id="av"><source></source><translation>Sound</translation></message>
+    <message id="ioport"><source></source><translation>Input</translation></message>
+    <message id="misc"><source></source><translation>Misc</translation></message>
+    <message id="support"><source></source><translation>Support</translation></message>
+    <message id="appearance"><source></source><translation>Look</translation></message>
 </context>
 </TS>

@@ -15,5 +15,13 @@
     <message id="editor_close"><source></source><translation>閉じる(&amp;C)</translation></message>
     <message id="editor_previous"><source></source><translation>前へ(&amp;P)</translation></message>
     <message id="editor_next"><source></source><translation>次へ(&amp;N)</translation></message>
+    <message id="general"><source></source><translation>一般</translation></message>
+    <message id="video"><source></source><translation>ビデオ</translation></message>
+    <message id="effect"><source></source><translation>効果</translation></message>
+    <message id="av"><source></source><translation>サウンド</translation></message>
+    <message id="ioport"><source></source><translation>入力</translation></message>
+    <message id="misc"><source></source><translation>その他</translation></message>
+    <message id="support"><source></source><translation>サポート</translation></message>
+    <message id="appearance"><source></source><translation>外観</translation></message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/sidepanel.h"
+#include "app/supportpage.h"
 #include "app/tessera_appdelegate.h"
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/downloadpanel.h"
@@ -17,10 +18,8 @@
 #include "artwork/ui/snapsites.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamelistcontroller.h"
-#include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bringforward.h"
-#include "widgets/pathfield.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -210,46 +209,21 @@ DownloadPanel& ArtworkDesk::downloadPanel()
     return *m_downloadPanel;
 }
 
-void ArtworkDesk::addPage(PreferencesWindow& preferences, PathChooser& chooser)
+void ArtworkDesk::addPage(PreferencesWindow& preferences)
 {
     if (m_page != nullptr)
         return;
     m_page = new PicturesPage(m_defaults);
     sites().setPage(*m_page);
-    using Choose = void (PathChooser::*)();
-    constexpr std::array<Choose, artworkKinds.size()> chooseFolder{
-        &PathChooser::selectSnapfolder, &PathChooser::selectTitlefolder, &PathChooser::selectFryerfolder};
-    constexpr std::array tags{1, 2, 3};
-    for (std::size_t kind = 0; kind < artworkKinds.size(); ++kind) {
-        const PathField& field = *m_page->folderFields[kind];
-        connect(field.chooseButton(), &QPushButton::clicked, &chooser, chooseFolder[kind]);
-        connect(field.revealButton(), &QToolButton::clicked, &m_folder,
-                [this, tag = tags[kind]] { m_folder.openSnapfolder(tag); });
-    }
-    connect(m_page->mameFolderButton, &QPushButton::clicked, this, [this] {
-        m_defaults.setText(keys::SnapPath, m_proposed);
-        proposeSnapFolder(m_proposed);
-    });
-    proposeSnapFolder(m_proposed);
-    preferences.addPage(m_page, qtTrId("page_pictures"), QStringLiteral("pictures"));
+    preferences.supportPage().addPage(qtTrId("support_pictures"), m_page);
 }
 
 void ArtworkDesk::pathChosen(const QString& key)
 {
     const bool isFolder = std::ranges::any_of(
         artworkKinds, [&](const ArtworkKind& kind) { return key == kind.folder->name; });
-    if (!isFolder)
-        return;
-    m_folder.Setsnapfolder();
-    proposeSnapFolder(m_proposed);
-}
-
-// Not what is used already.
-void ArtworkDesk::proposeSnapFolder(const QString& folder)
-{
-    m_proposed = folder;
-    if (m_page != nullptr)
-        m_page->proposeSnapFolder(folder == m_defaults.text(keys::SnapPath) ? QString() : folder);
+    if (isFolder)
+        m_folder.Setsnapfolder();
 }
 
 } // namespace tessera

@@ -20,7 +20,6 @@ class DownloadProcessing;
 class FavoritesWindow;
 class ImageWindow;
 class MiniWindow;
-class PathChooser;
 class PicturePane;
 class PicturesPage;
 class PreferencesWindow;
@@ -55,11 +54,9 @@ public:
     void joinFavorites(FavoritesWindow& window);
     void joinMini(MiniWindow& window);
     /// Puts the page on pictures into the preferences, once.
-    void addPage(PreferencesWindow& preferences, PathChooser& chooser);
+    void addPage(PreferencesWindow& preferences);
     /// A folder was chosen anew.
     void pathChosen(const QString& key);
-    /// Where the emulator puts its own snapshots; offered on the page.
-    void proposeSnapFolder(const QString& folder);
 
 public Q_SLOTS:
     /// The lists' selection handlers again.
@@ -104,7 +101,6 @@ private:
     std::unique_ptr<DownloadPanel> m_downloadPanel;
     std::unique_ptr<DownloadProcessing> m_download;
     PicturesPage* m_page = nullptr; ///< of the preferences
-    QString m_proposed;
 };
 
 } // namespace tessera

@@ -5,6 +5,7 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/preferenceswindow.h"
+#include "app/supportpage.h"
 #include "app/tessera_appdelegate.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -123,7 +124,7 @@ InfoSites& InfoDesk::sites()
 void InfoDesk::addPage(PreferencesWindow& preferences)
 {
     if (!std::exchange(m_hasPage, true))
-        preferences.addPage(sites().makePage(), qtTrId("page_information"), QStringLiteral("information"));
+        preferences.supportPage().addPage(qtTrId("support_sites"), sites().makePage());
 }
 
 void InfoDesk::addContextMenu(QAbstractItemView& list, Kind window)

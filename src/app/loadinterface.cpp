@@ -20,6 +20,7 @@
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
 #include "app/modemenu.h"
+#include "app/optionsdesk.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/scriptjoin.h"
@@ -58,6 +59,7 @@
 #include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/deletionfocusring.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
@@ -80,7 +82,7 @@ void Tessera_AppDelegate::loadInterface()
     m_chooser = std::make_unique<PathChooser>(m_desktop, m_defaults, *m_pages);
     m_pages->setChooser(*m_chooser);
     for (OptionPage* page : m_pages->all())
-        m_preferencesWindow->addPage(page, page->title(), page->icon());
+        m_preferencesWindow->addPage(page->identifier(), page);
     addAppearancePage();
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
@@ -125,7 +127,7 @@ void Tessera_AppDelegate::loadInterface()
 void Tessera_AppDelegate::addAppearancePage()
 {
     auto* page = new AppearancePage(m_defaults);
-    m_preferencesWindow->addPage(page, qtTrId("page_appearance"), QStringLiteral("appearance"));
+    m_preferencesWindow->addPage(QStringLiteral("appearance"), page);
     m_tableFont = std::make_unique<TableFont>(m_desktop, m_defaults, *page);
     m_rowColors = std::make_unique<RowColors>(m_desktop, m_defaults, *page);
 }
@@ -141,7 +143,9 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_gameList.get(), &GameListController::countChanged, this, &Tessera_AppDelegate::showCount);
     connect(&m_catalogue, &Catalogue::recordChanged, this, &Tessera_AppDelegate::showSelection);
     connect(m_launch.get(), &LaunchController::statusMessage, m_mainWindow.get(), &MainWindow::say);
-    connect(m_launch.get(), &LaunchController::runningChanged, m_mainWindow.get(), &MainWindow::setRunning);
+    connect(m_launch.get(), &LaunchController::runningChanged, m_mainWindow.get(), [this](bool running) {
+        m_mainWindow->setRunning(running, running ? m_launch->runningText() : QString());
+    });
     connect(m_chooser.get(), &PathChooser::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(&m_defaults, &DefaultsController::changed, this, &Tessera_AppDelegate::settingChanged);
     connect(m_chooser.get(), &PathChooser::chosen, m_launch.get(), &LaunchController::prepareProfile);
@@ -151,6 +155,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_profiles.get(), &ProfileCache::answered, this, [this] {
         if (m_favorites->editing().isMade())
             offerKnownOptions();
+        m_commands->showLine();
     });
     connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_rebuild.get(), &CatalogueRebuild::statusMessage, m_mainWindow.get(), &MainWindow::say);
@@ -173,6 +178,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_mainWindow->emptyState, &EmptyState::acted, this, &Tessera_AppDelegate::actOnEmptyList);
     connect(m_mainWindow->playButton, &QPushButton::clicked, this, &Tessera_AppDelegate::playSelected);
     connect(m_mainWindow->stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
+    connect(m_mainWindow->runningStopButton, &QPushButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_mainWindow->logButton, &QToolButton::clicked, this, &Tessera_AppDelegate::showLogWindow);
     connect(m_mainWindow->toolsButton, &QToolButton::clicked, this, &Tessera_AppDelegate::utilityOrderFront);
     connect(m_mainWindow->preferencesButton, &QToolButton::clicked, this,
@@ -218,19 +224,22 @@ void Tessera_AppDelegate::joinCommands()
 {
     QMenuBar& bar = *m_mainWindow->menuBar();
     m_modeMenu = std::make_unique<ModeMenu>(bar, *m_launch);
-    m_commands = std::make_unique<CommandsDesk>(CommandsDesk::Parts{
-        m_desktop,
-        m_defaults,
-        *m_logWindow,
-        *m_task,
-        *m_runs,
-        *m_launch,
-        *m_chooser,
-        [this] { return m_gameList->tableViewSelectionROM(); },
-        [this] { return m_gameList->tableViewSelectionTitleE(); },
-        [this] { return m_artwork->pictureFile(); },
-        {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton}});
+    m_commands = std::make_unique<CommandsDesk>(
+        CommandsDesk::Parts{m_desktop,
+                            m_defaults,
+                            *m_logWindow,
+                            *m_task,
+                            *m_runs,
+                            *m_launch,
+                            *m_chooser,
+                            [this] { return m_gameList->tableViewSelectionROM(); },
+                            [this] { return m_gameList->tableViewSelectionTitleE(); },
+                            [this] { return m_artwork->pictureFile(); },
+                            {bar.findChild<QAction*>(QStringLiteral("menu_stop")), m_mainWindow->stopButton,
+                             m_mainWindow->runningStopButton}});
     m_commands->addLineTo(*m_preferencesWindow);
+    m_options = std::make_unique<OptionsDesk>(
+        OptionsDesk::Parts{m_defaults, *m_pages, *m_launch, *m_profiles, *m_chooser, *m_preferencesWindow});
     connect(m_gameList.get(), &GameListController::selectionChanged, m_commands.get(),
             &CommandsDesk::showLine);
     connect(m_commands.get(), &CommandsDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
@@ -314,6 +323,7 @@ void Tessera_AppDelegate::joinWindow(QWidget& window, KeyWindow::Kind kind, cons
 {
     m_keyCommands->watch(window, kind);
     m_places.keep(window, place);
+    DeletionFocusRing::awakeFromNib(window);
 }
 
 void Tessera_AppDelegate::joinWindows()
@@ -347,7 +357,11 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     window.sidePanel->verifyButton->hide();
     joinSidePanel(*window.sidePanel);
     connect(window.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
-    connect(m_launch.get(), &LaunchController::runningChanged, &window, &FavoritesWindow::setRunning);
+    connect(m_launch.get(), &LaunchController::runningChanged, &window, [this, &window](bool running) {
+        window.setRunning(running);
+        if (running)
+            window.say(m_launch->runningText());
+    });
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
     joinWindow(window, KeyWindow::Kind::Favorites, keys::FavoritesWindowGeometry.name.data());
 }

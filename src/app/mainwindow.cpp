@@ -134,6 +134,15 @@ void MainWindow::makeStatusLine()
     changesButton->setObjectName(QStringLiteral("changesButton"));
     changesButton->setProperty("role", QStringLiteral("link"));
     changesButton->hide();
+    runningLabel = new QLabel;
+    runningLabel->setObjectName(QStringLiteral("runningLabel"));
+    runningLabel->setTextFormat(Qt::PlainText);
+    runningLabel->hide();
+    runningStopButton = new QPushButton(qtTrId("main_stopnow"));
+    runningStopButton->setObjectName(QStringLiteral("runningStopButton"));
+    runningStopButton->setAccessibleName(qtTrId("main_stop"));
+    runningStopButton->setProperty("role", QStringLiteral("link"));
+    runningStopButton->hide();
     progressIndicator = new QProgressBar;
     progressIndicator->setFixedWidth(96);
     progressIndicator->setTextVisible(false);
@@ -142,6 +151,8 @@ void MainWindow::makeStatusLine()
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(m_count);
     statusBar()->addWidget(showAllButton);
+    statusBar()->addWidget(runningLabel);
+    statusBar()->addWidget(runningStopButton);
     statusBar()->addWidget(m_message, 1);
     statusBar()->addPermanentWidget(progressIndicator);
     statusBar()->addPermanentWidget(changesButton);
@@ -182,9 +193,15 @@ void MainWindow::showEmulator(const QString& text)
     m_emulator->setText(text);
 }
 
-void MainWindow::setRunning(bool running)
+void MainWindow::setRunning(bool running, const QString& sentence)
 {
+    // The toolkit would pass the focus on to some other button.
+    if (!running && runningStopButton->hasFocus())
+        gameTable->setFocus();
     stopButton->setEnabled(running);
+    runningLabel->setText(sentence);
+    runningLabel->setVisible(running);
+    runningStopButton->setVisible(running);
 }
 
 void MainWindow::setRebuilding(bool rebuilding)

@@ -47,6 +47,8 @@ public:
     QPushButton* rebuildButton;
     QPushButton* showAllButton;
     QPushButton* changesButton;
+    QLabel* runningLabel;
+    QPushButton* runningStopButton; ///< beside it
     QProgressBar* progressIndicator;
 
     /// Why a list may be empty, beside that nothing passes its filters: nobody has chosen a ROM folder.
@@ -56,7 +58,8 @@ public:
     /// Says a thing once in the status line; it stays until the next one.
     void say(const QString& sentence);
     void showEmulator(const QString& text);
-    void setRunning(bool running);
+    /// `sentence` says what runs.
+    void setRunning(bool running, const QString& sentence);
     /// While a catalogue is being built the old one is not edited: the edits would go with it.
     void setRebuilding(bool rebuilding);
     /// A button in the status line, for an emulator that is another one than the catalogue was built from.

@@ -1,9 +1,10 @@
 #include "app/preferenceswindow.h"
 
+#include "app/supportpage.h"
 #include "widgets/closekeys.h"
-#include "widgets/theme.h"
+#include "widgets/deletionfocusring.h"
+#include "widgets/toolbar.h"
 
-#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
@@ -20,21 +21,12 @@ constexpr QSize firstSize(760, 680);
 PreferencesWindow::PreferencesWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
     , resetButton(new QPushButton(qtTrId("preferences_reset")))
-    , m_buttons(new QButtonGroup(this))
-    , m_pages(new QStackedWidget)
+    , m_preferencesTab(new QStackedWidget)
+    , m_toolbar(new Toolbar(*this, *m_preferencesTab))
 {
     setObjectName(QStringLiteral("preferencesWindow"));
     setWindowTitle(qtTrId("preferences_title"));
     resetButton->setObjectName(QStringLiteral("resetButton"));
-
-    auto* bar = new QWidget;
-    bar->setProperty("role", QStringLiteral("toolbar"));
-    bar->setAttribute(Qt::WA_StyledBackground);
-    m_bar = new QHBoxLayout(bar);
-    m_bar->setContentsMargins(12, 8, 12, 8);
-    m_bar->setSpacing(4);
-    m_bar->addStretch();
-    m_bar->addStretch();
 
     auto* foot = new QWidget;
     foot->setProperty("role", QStringLiteral("foot"));
@@ -48,36 +40,30 @@ PreferencesWindow::PreferencesWindow(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(bar);
-    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_preferencesTab, 1);
     layout->addWidget(foot);
-    connect(m_buttons, &QButtonGroup::idClicked, m_pages, &QStackedWidget::setCurrentIndex);
     closeByKeyboard(*this);
     resize(firstSize);
 }
 
 PreferencesWindow::~PreferencesWindow()
 {
-    for (const QPointer<QWidget>& page : m_waiting)
-        delete page.data();
+    for (const Waiting& each : m_waiting)
+        delete each.page.data();
 }
 
-void PreferencesWindow::addPage(QWidget* page, const QString& title, const QString& icon)
+void PreferencesWindow::addPage(const QString& identifier, QWidget* page)
 {
-    const int index = static_cast<int>(m_buttons->buttons().size());
-    m_waiting << page;
+    m_waiting.append({identifier, page});
+}
 
-    auto* button = new QToolButton;
-    button->setProperty("role", QStringLiteral("page"));
-    button->setText(title);
-    button->setIcon(theme::icon(icon));
-    button->setIconSize(QSize(20, 20));
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setCheckable(true);
-    button->setChecked(index == 0);
-    button->setFocusPolicy(Qt::StrongFocus);
-    m_buttons->addButton(button, index);
-    m_bar->insertWidget(m_bar->count() - 1, button);
+SupportPage& PreferencesWindow::supportPage()
+{
+    if (!m_support) {
+        m_support = new SupportPage(*m_toolbar);
+        addPage(QStringLiteral("support"), m_support);
+    }
+    return *m_support;
 }
 
 void PreferencesWindow::setFoot(QWidget* foot)
@@ -90,26 +76,27 @@ void PreferencesWindow::setFoot(QWidget* foot)
 void PreferencesWindow::showEvent(QShowEvent* event)
 {
     Q_EMIT aboutToShow();
-    for (QWidget* page : std::exchange(m_waiting, {})) {
-        auto* scroll = new QScrollArea;
-        scroll->setWidgetResizable(true);
-        scroll->setFrameShape(QFrame::NoFrame);
-        scroll->setWidget(page);
-        m_pages->addWidget(scroll);
-    }
-    m_pages->setCurrentIndex(m_buttons->checkedId());
+    takePages();
     // Never the reset button, which the toolkit would choose.
-    if (focusWidget() == nullptr && m_buttons->checkedButton() != nullptr)
-        m_buttons->checkedButton()->setFocus();
+    if (focusWidget() == nullptr)
+        m_toolbar->selectedItem()->setFocus();
     QWidget::showEvent(event);
 }
 
-void PreferencesWindow::showPage(int index)
+void PreferencesWindow::takePages()
 {
-    if (QAbstractButton* button = m_buttons->button(index)) {
-        button->setChecked(true);
-        m_pages->setCurrentIndex(index);
+    for (const Waiting& each : std::exchange(m_waiting, {})) {
+        auto* scroll = new QScrollArea;
+        scroll->setObjectName(each.identifier);
+        scroll->setWidgetResizable(true);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setWidget(each.page);
+        m_preferencesTab->addWidget(scroll);
     }
+    if (std::exchange(m_isComplete, true))
+        return;
+    m_toolbar->awakeFromNib();
+    DeletionFocusRing::awakeFromNib(*this);
 }
 
 void PreferencesWindow::centre()

@@ -4,13 +4,16 @@
 #include <QWidget>
 
 class QHBoxLayout;
-class QButtonGroup;
 class QPushButton;
 class QStackedWidget;
 
 namespace tessera {
 
-/// The preferences: a row of page buttons over the page, and at the foot the way back to the initial values.
+class SupportPage;
+class Toolbar;
+
+/// The preferences: the toolbar over the page that it selects, and at the foot the way back to the initial
+/// values.
 class PreferencesWindow : public QWidget
 {
     Q_OBJECT
@@ -19,10 +22,11 @@ public:
     explicit PreferencesWindow(QWidget* parent = nullptr);
     ~PreferencesWindow() override;
 
-    /// The page is the window's from now on, but is put into it when the window is first shown: a start of
-    /// the program lays nothing out here.
-    void addPage(QWidget* page, const QString& title, const QString& icon);
-    void showPage(int index);
+    /// The page of this item of the toolbar. It is the window's from now on, but is put into it when the
+    /// window is first shown: a start of the program lays nothing out here.
+    void addPage(const QString& identifier, QWidget* page);
+    /// Makes the page that several rooms fill; see aboutToShow().
+    SupportPage& supportPage();
     void centre();
 
     /// Beside the way back, at the foot.
@@ -38,11 +42,18 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    QHBoxLayout* m_bar;
+    void takePages();
+
+    struct Waiting {
+        QString identifier;
+        QPointer<QWidget> page;
+    };
     QHBoxLayout* m_foot;
-    QButtonGroup* m_buttons;
-    QStackedWidget* m_pages;
-    QList<QPointer<QWidget>> m_waiting;
+    QStackedWidget* m_preferencesTab;
+    Toolbar* m_toolbar;
+    QPointer<SupportPage> m_support;
+    QList<Waiting> m_waiting;
+    bool m_isComplete = false;
 };
 
 } // namespace tessera

@@ -14,6 +14,7 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/modemenu.h"
+#include "app/optionsdesk.h"
 #include "app/preferenceswindow.h"
 #include "app/scriptjoin.h"
 #include "app/utilityjoin.h"
@@ -44,6 +45,7 @@
 #include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "widgets/bringforward.h"
+#include "widgets/deletionfocusring.h"
 #include "widgets/firstpaint.h"
 #include "widgets/menusearch.h"
 
@@ -83,6 +85,7 @@ void Tessera_AppDelegate::run(const QString& file)
     applicationDidFinishLaunching();
     // The emulator's options are asked of it once, so that no launch waits for them.
     afterFirstPaint(*m_mainWindow, [this] {
+        DeletionFocusRing::awakeFromNib(*m_mainWindow);
         m_finding->prepare();
         m_launch->prepareProfile();
     });
@@ -214,17 +217,6 @@ QString Tessera_AppDelegate::emulator()
 {
     m_pages->general().lookForEmulator();
     return m_pages->general().emulator();
-}
-
-// The emulator's own, where it has told and the folder is there.
-QString Tessera_AppDelegate::snapshotFolder()
-{
-    const QString executable = m_pages->general().emulator();
-    const auto answer = m_profiles->remembered(executable);
-    if (!answer || !answer->profile)
-        return {};
-    const QString folder = answer->profile->snapshotFolder(QFileInfo(executable).absolutePath());
-    return QFileInfo(folder).isDir() ? folder : QString();
 }
 
 // The commands
@@ -447,8 +439,8 @@ void Tessera_AppDelegate::showPrefsWindow()
         m_preferencesWindow->close();
         return;
     }
-    m_artwork->addPage(*m_preferencesWindow, *m_chooser);
-    m_artwork->proposeSnapFolder(snapshotFolder());
+    m_options->addPages();
+    m_artwork->addPage(*m_preferencesWindow);
     m_info->addPage(*m_preferencesWindow);
     bringForward(*m_preferencesWindow);
 }

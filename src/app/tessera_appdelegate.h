@@ -35,6 +35,7 @@ class LogWindow;
 class MainWindow;
 class MiniDesk;
 class ModeMenu;
+class OptionsDesk;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
@@ -97,7 +98,6 @@ public:
     Catalogue& catalogue() { return m_catalogue; }
     /// The path of the emulator that is used; empty where none is chosen or found.
     QString emulator();
-    QString snapshotFolder();
     /// Takes over what stands in open editors of the catalogue.
     void commitEditing();
     RecentDocuments& recentDocuments() { return m_recent; }
@@ -224,6 +224,7 @@ private:
     std::unique_ptr<RunController> m_runs;
     std::unique_ptr<LaunchController> m_launch;
     std::unique_ptr<CommandsDesk> m_commands;
+    std::unique_ptr<OptionsDesk> m_options;
     std::unique_ptr<ModeMenu> m_modeMenu;
     std::unique_ptr<UtilityObject> m_utility;
     std::unique_ptr<HelpWindow> m_help;

@@ -1,5 +1,7 @@
 #include "launch/commandline.h"
 
+#include "launch/argumentsarray.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -25,17 +27,38 @@ void putFolderFirst(const QString& folder, const QString& romFolders, QStringLis
         arguments << option << folder + folderSeparator + romFolders;
 }
 
+bool takesLogFile(const QString& folder)
+{
+    const QFileInfo log(folder + QStringLiteral("/error.log"));
+    return log.exists() ? log.isWritable() : QFileInfo(folder).isWritable();
+}
+
+CommandLine withoutUnwritableLog(CommandLine line, const QString& folder)
+{
+    // No value is taken for the option: the builder sends it with the other switches of its group.
+    const qsizetype log = line.arguments.indexOf(QStringLiteral("-log"));
+    if (folder.isEmpty() || log < 1 || takesValue(line.arguments[log - 1]) || takesLogFile(folder))
+        return line;
+    line.leftOut << line.arguments.takeAt(log);
+    line.unwritable = folder;
+    return line;
+}
+
 } // namespace
 
 QString CommandLine::leftOutLine() const
 {
     if (leftOut.isEmpty())
         return QString();
-    return qtTrId("launch_leftout").replace(QStringLiteral("%1"), leftOut.join(QStringLiteral(", ")));
+    const QString line
+        = qtTrId("launch_leftout").replace(QStringLiteral("%1"), leftOut.join(QStringLiteral(", ")));
+    return unwritable.isEmpty()
+        ? line
+        : line + QLatin1Char(' ') + qtTrId("launch_nolog").replace(QStringLiteral("%1"), unwritable);
 }
 
 CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QString& game,
-                        const QStringList& built, const QStringList& own)
+                        const QStringList& built, const QStringList& own, const QString& where)
 {
     if (!profile)
         return {QStringList{game} + built + own, {}};
@@ -43,9 +66,9 @@ CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QSt
     const QString folder = QFileInfo(game).path();
     // A folder with a separator in its name would read as two.
     if (!QDir::isAbsolutePath(game) || folder.contains(folderSeparator))
-        return {QStringList{game} + arguments + own, leftOut};
+        return withoutUnwritableLog({QStringList{game} + arguments + own, leftOut}, where);
     putFolderFirst(folder, profile->romFolders(), arguments);
-    return {QStringList{gameName(game)} + arguments + own, leftOut};
+    return withoutUnwritableLog({QStringList{gameName(game)} + arguments + own, leftOut}, where);
 }
 
 QStringList ownOptions(const QString& text)

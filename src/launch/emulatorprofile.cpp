@@ -112,14 +112,37 @@ bool EmulatorProfile::lists(QStringView option) const
     return listsName(name) || (name.startsWith(QLatin1String("no")) && listsName(name.mid(2)));
 }
 
+QString EmulatorProfile::nameNow(const QString& option) const
+{
+    for (const Renamed& row : renamedOptions) {
+        const QString now = QString::fromLatin1(row.now);
+        if (option == QLatin1String(row.option) && !lists(option) && lists(now))
+            return now;
+    }
+    return option;
+}
+
+QStringList EmulatorProfile::valuesOf(const QString& option) const
+{
+    const auto found = std::ranges::find(m_options, option, &Option::name);
+    if (found == m_options.end())
+        return {};
+    static const QRegularExpression aside(QStringLiteral("\\([^)]*\\)"));
+    static const QRegularExpression between(QStringLiteral(",\\s*(?:or\\s+)?|\\s+or\\s+|\\s+"));
+    const qsizetype colon = found->description.indexOf(u':');
+    if (colon < 0)
+        return {};
+    return found->description.mid(colon + 1).remove(aside).split(between, Qt::SkipEmptyParts);
+}
+
 QStringList EmulatorProfile::romFolderList(const QString& home) const
 {
     return folderList(m_romFolders, home);
 }
 
-QString EmulatorProfile::snapshotFolder(const QString& home) const
+QStringList EmulatorProfile::snapshotFolderList(const QString& home) const
 {
-    return folderList(m_snapshotFolder, home).value(0);
+    return folderList(m_snapshotFolder, home);
 }
 
 QStringList EmulatorProfile::settingsFiles(const QString& home) const
@@ -145,12 +168,10 @@ EmulatorProfile::Fitted EmulatorProfile::fit(const QStringList& built, Quotes qu
     return fitted;
 }
 
-void EmulatorProfile::fitValue(QString option, const QString& value, Quotes quotes, Fitted& fitted) const
+void EmulatorProfile::fitValue(const QString& built, const QString& value, Quotes quotes,
+                               Fitted& fitted) const
 {
-    for (const Renamed& row : renamedOptions) {
-        if (option == QLatin1String(row.option) && !lists(option) && lists(QString::fromLatin1(row.now)))
-            option = QString::fromLatin1(row.now);
-    }
+    const QString option = nameNow(built);
     const QString bare = withoutQuotes(value);
     // An empty argument ends old programs with an error, and every program takes its own default without it.
     if (!lists(option) || bare.isEmpty())

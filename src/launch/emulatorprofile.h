@@ -27,6 +27,11 @@ public:
 
     /// True where the program takes `option` ("-rotate"), or its opposite ("-norotate").
     bool lists(QStringView option) const;
+    /// The same, where the program may have renamed the option.
+    bool takes(const QString& option) const { return lists(nameNow(option)); }
+    /// The values that its description of the option lists: "output method: sdl, portaudio or none". None
+    /// where it lists none.
+    QStringList valuesOf(const QString& option) const;
 
     /// Its own ROM folders joined by ";", as it writes them; empty where it does not say.
     QString romFolders() const { return m_romFolders; }
@@ -34,8 +39,8 @@ public:
     /// The same as a list of absolute paths, with the variables of the environment put in. `home` is where
     /// the program runs.
     QStringList romFolderList(const QString& home) const;
-    /// Where it puts its own snapshots; empty where it does not say.
-    QString snapshotFolder(const QString& home) const;
+    /// Where it puts its own snapshots.
+    QStringList snapshotFolderList(const QString& home) const;
     /// Where it keeps its own settings: the answer holds while none of these files changes.
     QStringList settingsFiles(const QString& home) const;
 
@@ -55,7 +60,8 @@ private:
     void readOption(QStringView line);
     void readSetting(QStringView line);
     bool listsName(QStringView name) const;
-    void fitValue(QString option, const QString& value, Quotes quotes, Fitted& fitted) const;
+    QString nameNow(const QString& option) const;
+    void fitValue(const QString& built, const QString& value, Quotes quotes, Fitted& fitted) const;
 
     QSet<QString> m_names;
     QList<Option> m_options;

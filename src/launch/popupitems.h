@@ -75,7 +75,7 @@ inline constexpr std::array<PopupItem, 7> logOutputs{{
 inline constexpr auto recordNames
     = detail::labels(textKey("recordname_short"), textKey("recordname_title"), textKey("recordname_titlejp"));
 // Every BIOS of resources/bioslist.xml, once, in its order. What the user's games have besides is learnt and
-// stands behind; see launch/biostitles.h.
+// stands behind; see launch/growingitems.h.
 // clang-format off
 inline constexpr std::array<PopupItem, 26> biosSets{{
     {nullptr, textKey("bios_none")},

@@ -1,6 +1,6 @@
 #include "launch/storedoptions.h"
 
-#include "launch/biostitles.h"
+#include "launch/growingitems.h"
 #include "launch/popupitems.h"
 #include "platform/defaultscontroller.h"
 
@@ -43,7 +43,7 @@ constexpr std::size_t replayRows = 2;
 
 void readVideo(LaunchOptions& options, const Reader& read)
 {
-    options.devicevideoPop = read.titled(keys::Videodriver, videoDrivers);
+    options.devicevideoPop = storedState(read.defaults, keys::Videodriver, growingVideoDrivers);
     options.displaymodePop = read.popup(keys::Displaymode, displayModes);
     options.scalingPop = read.titled(keys::Scaling, prescaleFactors);
     options.checkboxMaximize = read.box(keys::Maximize);
@@ -62,7 +62,7 @@ void readEffects(LaunchOptions& options, const Reader& read)
     options.checkboxBilinear = read.box(keys::Bilinear);
     options.checkboxEffect = read.box(keys::Effect);
     options.effectTextField = read.defaults.text(keys::Effectname);
-    options.scalemodePop = read.titled(keys::ScalemodePop, scaleModes);
+    options.scalemodePop = storedState(read.defaults, keys::ScalemodePop, growingScaleModes);
     options.checkboxArtwork = read.box(keys::Artwork);
     options.checkboxBackdrops = read.box(keys::Backdrops);
     options.checkboxOverlays = read.box(keys::Overlays);
@@ -74,21 +74,11 @@ void readEffects(LaunchOptions& options, const Reader& read)
 
 void readSound(LaunchOptions& options, const Reader& read)
 {
-    options.popup_Sound = read.titled(keys::Soundoutput, soundOutputs);
+    options.popup_Sound = storedState(read.defaults, keys::Soundoutput, growingSoundOutputs);
     options.soundvolumetextField = read.defaults.text(keys::Soundvolume);
     options.soundsampleratePop = read.titled(keys::Soundsmplerate, sampleRates);
     options.soundlatencytextField = read.defaults.text(keys::Audiolatency);
     options.checkboxSoundsamples = read.box(keys::Soundsmples);
-}
-
-PopupState biosState(const Reader& read)
-{
-    const QStringList learnt = learntBiosTitles(read.defaults);
-    const int index
-        = read.position(keys::Biostype, biosSets.size() + static_cast<std::size_t>(learnt.size()));
-    if (index < static_cast<int>(biosSets.size()))
-        return read.titled(keys::Biostype, biosSets);
-    return {index, learnt[index - static_cast<int>(biosSets.size())]};
 }
 
 void readRecording(LaunchOptions& options, const Reader& read)
@@ -99,7 +89,7 @@ void readRecording(LaunchOptions& options, const Reader& read)
     options.mngnameTextField = read.defaults.text(keys::Mngfilename);
     options.avinameTextField = read.defaults.text(keys::Avifilename);
     // Position 0 has a label only; the builders send words of their own for it.
-    options.biosPop = biosState(read);
+    options.biosPop = storedState(read.defaults, keys::Biostype, growingBiosSets);
     options.checkBoxReplay = read.box(keys::Replaymove);
     options.replayMatrix = read.position(keys::Replaymatrix, replayRows);
     options.recordfilePop = read.popup(keys::Recordfilepop, recordNames);

@@ -10,10 +10,12 @@ namespace tessera {
 
 namespace {
 constexpr int labelColumn = 0;
-constexpr int controlColumn = 1;
-constexpr int fillColumn = 2;
-constexpr int allColumns = 3;
+constexpr int gapColumn = 1;
+constexpr int controlColumn = 2;
+constexpr int fillColumn = 3;
+constexpr int allColumns = 4;
 constexpr int labelWidth = 150;
+constexpr int gapWidth = 12;
 } // namespace
 
 FormPage::FormPage(QWidget* parent)
@@ -21,7 +23,9 @@ FormPage::FormPage(QWidget* parent)
     , m_grid(new QGridLayout(this))
 {
     m_grid->setContentsMargins(28, 20, 28, 20);
-    m_grid->setHorizontalSpacing(12);
+    // No spacing: the last column often has no width, and everything ends where the lines do.
+    m_grid->setHorizontalSpacing(0);
+    m_grid->setColumnMinimumWidth(gapColumn, gapWidth);
     m_grid->setVerticalSpacing(8);
     m_grid->setColumnMinimumWidth(labelColumn, labelWidth);
     m_grid->setColumnStretch(controlColumn, 1);

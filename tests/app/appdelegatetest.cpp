@@ -25,6 +25,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSignalSpy>
+#include <QStackedWidget>
 #include <QToolButton>
 
 #include <algorithm>
@@ -347,11 +348,11 @@ private Q_SLOTS:
             if (button->property("role") == QStringLiteral("page"))
                 pages << button->text();
         }
-        QCOMPARE(pages,
-                 (QStringList{QStringLiteral("page_general"), QStringLiteral("page_video"),
-                              QStringLiteral("page_effects"), QStringLiteral("page_sound"),
-                              QStringLiteral("page_input"), QStringLiteral("page_misc"),
-                              QStringLiteral("page_appearance"), QStringLiteral("page_information")}));
+        QCOMPARE(pages, QStringLiteral("general video effect av ioport misc support appearance").split(u' '));
+        const auto* tabs = staged.app->preferencesWindow().findChild<QStackedWidget*>();
+        for (const QString& page : pages)
+            QCOMPARE(tabs->findChildren<QScrollArea*>(page, Qt::FindDirectChildrenOnly).size(), 1);
+        QCOMPARE(tabs->currentWidget()->objectName(), QStringLiteral("general"));
         QVERIFY(staged.app->preferencesWindow().findChild<AppearancePage*>() != nullptr);
     }
 

@@ -17,6 +17,8 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestable.h"
+#include "launch/ui/filespage.h"
+#include "launch/ui/folderproposal.h"
 #include "support/testmain.h"
 #include "widgets/pathfield.h"
 
@@ -202,29 +204,28 @@ private Q_SLOTS:
     void thePreferencesChooseFolders()
     {
         m_staged->app->showPrefsWindow();
-        auto* page = m_staged->app->preferencesWindow().findChild<PicturesPage*>();
+        auto* page = m_staged->app->preferencesWindow().findChild<FilesPage*>();
         QVERIFY(page != nullptr);
         paint("other/pong.png", {12, 12});
         select("pong");
         m_staged->desktop.answerOpen(m_staged->path("other"));
-        page->folderFields[0]->chooseButton()->click();
+        page->snapPath->chooseButton()->click();
         QCOMPARE(artwork().folder().snappath(), m_staged->path("other"));
-        QCOMPARE(page->folderFields[0]->field()->text(), m_staged->path("other"));
         QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("other/pong.png"));
         m_staged->desktop.takeTranscript();
-        page->folderFields[2]->revealButton()->click();
-        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"folder " + m_staged->path("flyers")});
     }
 
     void theEmulatorsOwnSnapshotsAreProposed()
     {
         m_staged->app->showPrefsWindow();
-        auto* page = m_staged->app->preferencesWindow().findChild<PicturesPage*>();
-        artwork().proposeSnapFolder(m_staged->path("flyers"));
-        QVERIFY(!page->mameFolderButton->isHidden());
-        page->mameFolderButton->click();
+        auto* page = m_staged->app->preferencesWindow().findChild<FilesPage*>();
+        page->snapProposal->setFolders({m_staged->path("flyers")});
+        QVERIFY(page->snapProposal->isHidden());
+        page->snapPath->field()->clear();
+        QVERIFY(!page->snapProposal->isHidden());
+        page->snapProposal->findChild<QPushButton*>()->click();
         QCOMPARE(artwork().folder().snappath(), m_staged->path("flyers"));
-        QVERIFY(page->mameFolderButton->isHidden());
+        QVERIFY(page->snapProposal->isHidden());
         m_staged->desktop.takeTranscript();
     }
 

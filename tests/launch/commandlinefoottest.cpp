@@ -6,7 +6,9 @@
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QTextCursor>
+#include <QTextBlock>
 #include <QTextEdit>
+#include <QTextLayout>
 
 using namespace tessera;
 
@@ -53,6 +55,19 @@ private Q_SLOTS:
         foot.commandLineText->selectAll();
         foot.showLine("mame", {{"pong"}, {"-beam 1"}});
         QVERIFY(foot.commandLineText->textCursor().hasSelection());
+    }
+
+    void wholeLinesAreShown()
+    {
+        CommandLineFoot foot;
+        foot.resize(300, 200);
+        foot.show();
+        foot.showLine(QStringLiteral("/usr/games/mame"), {QStringList(60, QStringLiteral("-window")), {}});
+        const QTextBlock block = foot.commandLineText->document()->firstBlock();
+        QVERIFY(block.layout()->lineCount() > 3);
+        const double shown = foot.commandLineText->viewport()->height();
+        const double line = block.layout()->lineAt(0).height();
+        QVERIFY2(std::abs(shown / line - 3) < 0.1, qPrintable(QString::number(shown / line)));
     }
 };
 

@@ -1,7 +1,11 @@
 #include "launch/commandline.h"
 
 #include "launch/usagetexts.h"
+#include "support/ordinaryuser.h"
 #include "support/testmain.h"
+
+#include <QDir>
+#include <QTemporaryDir>
 
 using namespace tessera;
 
@@ -75,6 +79,50 @@ private Q_SLOTS:
     {
         QCOMPARE(commandLine(profile(), "/r/pong.zip", {"-wavwrite", "-rompath"}, {}).arguments,
                  QStringList({"pong", "-wavwrite", "-rompath", "-rompath", "/r"}));
+    }
+
+    void aLogFileThatCannotBeWrittenIsLeftOut_data()
+    {
+        QTest::addColumn<QStringList>("sent");
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<bool>("leftOut");
+        const QStringList log{"-log", "-noverbose"};
+        QTest::newRow("a folder of others") << log << "others" << true;
+        QTest::newRow("a file of others") << log << "locked" << true;
+        QTest::newRow("a folder of our own") << log << "own" << false;
+        QTest::newRow("no such folder") << log << "missing" << true;
+        QTest::newRow("nobody knows where") << log << "" << false;
+        QTest::newRow("no log") << QStringList{"-nolog", "-noverbose"} << "others" << false;
+        QTest::newRow("a value of that name") << QStringList{"-effect", "-log"} << "others" << false;
+    }
+
+    void aLogFileThatCannotBeWrittenIsLeftOut()
+    {
+        QFETCH(QStringList, sent);
+        QFETCH(QString, where);
+        QFETCH(bool, leftOut);
+        QTemporaryDir folder;
+        for (const char* name : {"others", "own", "locked"})
+            QVERIFY(QDir(folder.path()).mkdir(QLatin1String(name)));
+        QFile log(folder.filePath("locked/error.log"));
+        QVERIFY(log.open(QIODevice::WriteOnly));
+        // Whoever tries the tests, and in whatever group.
+        constexpr QFileDevice::Permissions read(0x5555);
+        constexpr QFileDevice::Permissions write(0x2222);
+        QVERIFY(log.setPermissions(read));
+        QVERIFY(QFile::setPermissions(folder.path(), read | QFileDevice::WriteOwner));
+        QVERIFY(QFile::setPermissions(folder.filePath("others"), read));
+        for (const char* name : {"own", "locked"})
+            QVERIFY(QFile::setPermissions(folder.filePath(QLatin1String(name)), read | write));
+        {
+            const test::OrdinaryUser user;
+            QVERIFY(user.holds());
+            const CommandLine line = commandLine(profile(), "pong", sent, {},
+                                                 where.isEmpty() ? QString() : folder.filePath(where));
+            QCOMPARE(line.arguments, QStringList("pong") + (leftOut ? sent.mid(1) : sent));
+            QCOMPARE(line.leftOut, leftOut ? QStringList("-log") : QStringList());
+            QCOMPARE(line.leftOutLine().contains("launch_nolog"), leftOut);
+        }
     }
 
     void ownOptionsArePartedAtEverySingleBlank()

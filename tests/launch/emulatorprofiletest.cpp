@@ -118,7 +118,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, config);
         const auto profile = EmulatorProfile::fromUsage(test::newUsage().append(config));
-        QTEST(profile->snapshotFolder(QStringLiteral("/opt/mame")), "folder");
+        QTEST(profile->snapshotFolderList(QStringLiteral("/opt/mame")).join(u';'), "folder");
     }
 
     void leavesOutWhatIsNotListed()
@@ -180,6 +180,43 @@ private Q_SLOTS:
         QCOMPARE(oldProfile().fit({"-sound", "none"}).arguments, QStringList({"-nosound"}));
         QCOMPARE(newProfile().fit({"-sound", "sdl"}).arguments, QStringList({"-sound", "sdl"}));
         QCOMPARE(newProfile().fit({"-sound", "none"}).arguments, QStringList({"-sound", "none"}));
+    }
+
+    void readsTheValuesThatAnOptionTakes_data()
+    {
+        QTest::addColumn<QByteArray>("description");
+        QTest::addColumn<QStringList>("values");
+        QTest::newRow("or") << QByteArray("video output method: soft or opengl")
+                            << QStringList{"soft", "opengl"};
+        QTest::newRow("several") << QByteArray("output method: none, soft, accel or bgfx")
+                                 << QStringList{"none", "soft", "accel", "bgfx"};
+        QTest::newRow("comma and or") << QByteArray("method: a, b, or c") << QStringList{"a", "b", "c"};
+        QTest::newRow("an aside") << QByteArray("Scale mode: none, async, yv12 (-video soft only)")
+                                  << QStringList{"none", "async", "yv12"};
+        QTest::newRow("a switch") << QByteArray("enable sound output") << QStringList();
+        QTest::newRow("nothing behind it") << QByteArray("method:") << QStringList();
+        QTest::newRow("carriage return") << QByteArray("method: a, b\r") << QStringList{"a", "b"};
+    }
+
+    void readsTheValuesThatAnOptionTakes()
+    {
+        QFETCH(QByteArray, description);
+        QFETCH(QStringList, values);
+        const QByteArray usage = "-rompath             path\n-video               " + description
+            + "\n-other               x: y\n";
+        const auto profile = EmulatorProfile::fromUsage(usage);
+        QVERIFY(profile);
+        QCOMPARE(profile->valuesOf("-video"), values);
+        QCOMPARE(profile->valuesOf("-scalemode"), QStringList());
+    }
+
+    void takesARenamedOption()
+    {
+        const auto before = EmulatorProfile::fromUsage(test::oldUsage());
+        const auto since = EmulatorProfile::fromUsage(test::newUsage());
+        QVERIFY(before && since);
+        QVERIFY(before->takes("-beam") && since->takes("-beam"));
+        QVERIFY(before->takes("-antialias") && !since->takes("-antialias"));
     }
 };
 

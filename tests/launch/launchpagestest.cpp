@@ -318,8 +318,7 @@ private Q_SLOTS:
         const auto shown = pages();
         QSet<QString> names;
         for (OptionPage* page : shown->all()) {
-            QVERIFY(!page->title().isEmpty());
-            QVERIFY(!page->icon().isEmpty());
+            QVERIFY(!page->identifier().isEmpty());
             for (auto* matrix : page->findChildren<QButtonGroup*>())
                 names << matrix->objectName();
             for (auto* control : page->findChildren<QWidget*>()) {

@@ -65,7 +65,7 @@ int printForEmulator(const QString& emulator, const QString& game, const QString
     const ProfileAnswer answer = ProfileCache().ask(path);
     if (!answer.profile)
         return failed(Failure{"failure_no_profile", {path}});
-    const CommandLine line = commandLine(answer.profile, game, built, {});
+    const CommandLine line = commandLine(answer.profile, game, built, {}, QFileInfo(path).path());
     // Without a game there is no first element.
     printElements(game.isEmpty() ? line.arguments.mid(1) : line.arguments);
     if (const QString note = line.leftOutLine(); !note.isEmpty())

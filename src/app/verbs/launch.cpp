@@ -39,8 +39,8 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
     const auto known = selectedGame(standardCataloguePath(), game);
     const LaunchOptions options
         = storedOptions(defaults, known ? *known : SelectedGame{game, QString(), QString()});
-    const CommandLine line
-        = commandLine(ProfileCache().ask(executable).profile, game, argumentsArray(options), {});
+    const CommandLine line = commandLine(ProfileCache().ask(executable).profile, game,
+                                         argumentsArray(options), {}, QFileInfo(executable).absolutePath());
     if (QFileInfo(game).isAbsolute()) {
         RecentDocuments(settings).note(game);
         std::ignore = settings.synchronize();

@@ -2,22 +2,14 @@
 
 #include "artwork/picturesites.h"
 #include "widgets/boundcontrols.h"
-#include "widgets/pathfield.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QToolButton>
 
 namespace tessera {
 
 namespace {
-
-// By kind.
-constexpr std::array folderNames{textKey("pictures_snapfolder"), textKey("pictures_titlefolder"),
-                                 textKey("pictures_flyerfolder")};
-constexpr std::array folderObjects{"snapTextField", "titlesnapTextField", "flyersTextField"};
 
 QLineEdit* makeField(const char* objectName, const QString& name)
 {
@@ -39,8 +31,6 @@ QCheckBox* makeBox(const char* objectName, const char* text)
 PicturesPage::PicturesPage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
     , screenfolderPop(new QComboBox)
-    , folderFields()
-    , mameFolderButton(new QPushButton)
     , checkboxSuppress(makeBox("checkboxSuppress", textKey("pictures_suppress")))
     , wholeStepsBox(makeBox("wholeStepsBox", textKey("pictures_wholesteps")))
     , snapdownsitePop(new QComboBox)
@@ -49,32 +39,19 @@ PicturesPage::PicturesPage(DefaultsController& defaults, QWidget* parent)
     , titlesdownTextField(makeField("titlesdownTextField", qtTrId("pictures_titletemplate")))
     , flyersdownTextField(makeField("flyersdownTextField", qtTrId("pictures_flyertemplate")))
 {
-    addFolders(defaults);
+    addView(defaults);
     addLine();
     addSites(defaults);
     addStretch();
 }
 
-void PicturesPage::addFolders(DefaultsController& defaults)
+void PicturesPage::addView(DefaultsController& defaults)
 {
     screenfolderPop->setObjectName(QStringLiteral("screenfolderPop"));
     for (const ArtworkKind& kind : artworkKinds)
         screenfolderPop->addItem(qtTrId(kind.label));
     bind(*screenfolderPop, defaults, keys::Screenfolder);
     addRow(qtTrId("pictures_kind"), screenfolderPop);
-    for (std::size_t kind = 0; kind < artworkKinds.size(); ++kind) {
-        auto* path = new PathField(qtTrId(folderNames[kind]), qtTrId("pictures_choose"),
-                                   qtTrId("pictures_reveal"), this);
-        path->field()->setObjectName(QLatin1String(folderObjects[kind]));
-        bind(*path->field(), defaults, *artworkKinds[kind].folder);
-        addRow(qtTrId(folderNames[kind]), path);
-        folderFields[kind] = path;
-        if (kind == 0)
-            addRow(QString(), mameFolderButton);
-    }
-    mameFolderButton->setObjectName(QStringLiteral("mameFolderButton"));
-    mameFolderButton->setProperty("role", QStringLiteral("link"));
-    proposeSnapFolder({});
     bind(*checkboxSuppress, defaults, keys::Suppress_PS);
     bind(*wholeStepsBox, defaults, keys::PictureWholeSteps);
     addRow(QString(), checkboxSuppress);
@@ -94,13 +71,6 @@ void PicturesPage::addSites(DefaultsController& defaults)
     addRow(qtTrId("pictures_titletemplate"), titlesdownTextField);
     addRow(qtTrId("pictures_flyertemplate"), flyersdownTextField);
     addNote(qtTrId("pictures_note"));
-}
-
-void PicturesPage::proposeSnapFolder(const QString& folder)
-{
-    mameFolderButton->setVisible(!folder.isEmpty());
-    mameFolderButton->setText(qtTrId("pictures_mamefolder").arg(folder));
-    mameFolderButton->setProperty("folder", folder);
 }
 
 } // namespace tessera

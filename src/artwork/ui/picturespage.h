@@ -6,14 +6,12 @@
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
-class QPushButton;
 
 namespace tessera {
 
 class DefaultsController;
-class PathField;
 
-/// The settings of pictures: where they are, how they are shown, where they are fetched from.
+/// The settings of pictures: how they are shown, and where they are fetched from.
 class PicturesPage : public FormPage
 {
     Q_OBJECT
@@ -25,8 +23,6 @@ public:
     static constexpr QLatin1StringView ownSite{"Other site"};
 
     QComboBox* screenfolderPop; ///< the kind that is shown
-    std::array<PathField*, artworkKinds.size()> folderFields; ///< by kind
-    QPushButton* mameFolderButton; ///< takes the folder that MAME itself puts its snapshots into
     QCheckBox* checkboxSuppress;
     QCheckBox* wholeStepsBox;
     QComboBox* snapdownsitePop;
@@ -40,11 +36,9 @@ public:
     {
         return {snapdownTextField, titlesdownTextField, flyersdownTextField};
     }
-    /// Proposes a folder for snapshots; an empty one proposes nothing.
-    void proposeSnapFolder(const QString& folder);
 
 private:
-    void addFolders(DefaultsController& defaults);
+    void addView(DefaultsController& defaults);
     void addSites(DefaultsController& defaults);
 };
 

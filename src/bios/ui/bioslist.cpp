@@ -4,7 +4,7 @@
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
 #include "core/atomicfile.h"
-#include "launch/biostitles.h"
+#include "launch/growingitems.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"
@@ -204,7 +204,7 @@ void Bioslist::take()
     m_parts.panel.expandAll();
     saveAction();
     if (!m_askedGame.isEmpty())
-        learnBiosTitles(m_parts.defaults, biosNames(found));
+        keepTitles(m_parts.defaults, growingBiosSets, biosNames(found));
     m_parts.panel.setAsking(false);
     const auto sets = static_cast<int>(merged.size() - known.size());
     m_parts.panel.text_infomation->setText(

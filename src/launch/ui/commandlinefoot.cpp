@@ -1,13 +1,16 @@
 #include "launch/ui/commandlinefoot.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <QTextLayout>
 
 namespace tessera {
 
@@ -51,7 +54,7 @@ CommandLineFoot::CommandLineFoot(QWidget* parent)
     commandLineText->setTabChangesFocus(true);
     commandLineText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     commandLineText->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    commandLineText->setFixedHeight(commandLineText->fontMetrics().lineSpacing() * shownLines + 8);
+    commandLineText->document()->setDocumentMargin(0);
     copyButton->setObjectName(QStringLiteral("copyButton"));
     copyButton->setToolTip(qtTrId("commandline_copytip"));
 
@@ -76,12 +79,32 @@ void CommandLineFoot::showLine(const QString& executable, const CommandLine& lin
     QTextCursor cursor(commandLineText->document());
     QTextCharFormat format;
     cursor.insertText(unbroken(text), format);
+    showWholeLines();
     if (struck.isEmpty())
         return;
     cursor.insertText(QStringLiteral(" "), format);
     format.setFontStrikeOut(true);
     format.setToolTip(qtTrId("commandline_leftout"));
     cursor.insertText(unbroken(struck), format);
+}
+
+// And no part of one more. The lines are higher than the font says: it has no joiner.
+void CommandLineFoot::showWholeLines()
+{
+    const QTextBlock first = commandLineText->document()->firstBlock();
+    commandLineText->document()->documentLayout()->blockBoundingRect(first);
+    // Nothing is laid out yet where nobody sees it.
+    if (first.layout()->lineCount() == 0)
+        return;
+    const double line = first.layout()->lineAt(0).height();
+    commandLineText->setFixedHeight(qRound(line * shownLines)
+                                    + 2 * std::max(1, commandLineText->frameWidth()));
+}
+
+void CommandLineFoot::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    showWholeLines();
 }
 
 void CommandLineFoot::copy()

@@ -25,8 +25,12 @@ public:
     QTextEdit* commandLineText;
     QPushButton* copyButton;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void copy();
+    void showWholeLines();
 
     QString m_text;
 };

@@ -1,5 +1,6 @@
 #include "launch/ui/effectspage.h"
 
+#include "launch/ui/growingpopup.h"
 #include "launch/ui/pathchooser.h"
 #include "widgets/boundcontrols.h"
 
@@ -11,11 +12,12 @@
 namespace tessera {
 
 EffectsPage::EffectsPage(DefaultsController& defaults, QWidget* parent)
-    : OptionPage(textKey("page_effects"), QStringLiteral("effects"), parent)
+    : OptionPage(QStringLiteral("effect"), parent)
     , checkboxBilinear(makeBox("checkboxBilinear", textKey("option_bilinear")))
     , checkboxEffect(makeBox("checkboxEffect", textKey("option_effect")))
     , effectTextField(makeField("effectTextField", textKey("option_effectname")))
     , scalemodePop(makePopup("scalemodePop", scaleModes))
+    , moreScaleModes(new GrowingPopup(*scalemodePop, defaults, growingScaleModes))
     , checkboxArtwork(makeBox("checkboxArtwork", textKey("option_artworkcrop")))
     , checkboxBackdrops(makeBox("checkboxBackdrops", textKey("option_backdrops")))
     , checkboxOverlays(makeBox("checkboxOverlays", textKey("option_overlays")))

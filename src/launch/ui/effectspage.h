@@ -4,6 +4,8 @@
 
 namespace tessera {
 
+class GrowingPopup;
+
 /// Filters, artwork around the picture, and vector screens.
 class EffectsPage : public OptionPage
 {
@@ -16,6 +18,7 @@ public:
     QCheckBox* checkboxEffect;
     QLineEdit* effectTextField;
     QComboBox* scalemodePop;
+    GrowingPopup* moreScaleModes;
     QCheckBox* checkboxArtwork;
     QCheckBox* checkboxBackdrops;
     QCheckBox* checkboxOverlays;

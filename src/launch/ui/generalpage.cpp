@@ -1,6 +1,7 @@
 #include "launch/ui/generalpage.h"
 
 #include "launch/ui/pathchooser.h"
+#include "launch/ui/folderproposal.h"
 #include "widgets/boundcontrols.h"
 #include "widgets/pathfield.h"
 
@@ -16,21 +17,22 @@ namespace tessera {
 
 namespace {
 
-PathField* makePath(const char* nameKey, const char* fieldName, QWidget* parent)
+PathField* makePath(const char* nameKey, const char* fieldName, const char* buttonName, QWidget* parent)
 {
     auto* path = new PathField(qtTrId(nameKey), qtTrId("path_choose"), qtTrId("path_reveal"), parent);
     path->field()->setObjectName(QString::fromLatin1(fieldName));
+    path->chooseButton()->setObjectName(QString::fromLatin1(buttonName));
     return path;
 }
 
 } // namespace
 
 GeneralPage::GeneralPage(DefaultsController& defaults, std::function<QString()> findEmulator, QWidget* parent)
-    : OptionPage(textKey("page_general"), QStringLiteral("general"), parent)
+    : OptionPage(QStringLiteral("general"), parent)
     , launchusingPop(makePopup("launchusingPop", launchModes))
-    , exePath(makePath(textKey("option_emulator"), "exeTextField", this))
+    , exePath(makePath(textKey("option_emulator"), "exeTextField", "buttonexe", this))
     , exeTextField(exePath->field())
-    , romsPath(makePath(textKey("option_romfolder"), "romsTextField", this))
+    , romsPath(makePath(textKey("option_romfolder"), "romsTextField", "buttonroms", this))
     , romsTextField(romsPath->field())
     , checkboxRompath(makeBox("checkboxRompath", textKey("option_useromfolder")))
     , m_defaults(defaults)
@@ -62,11 +64,16 @@ GeneralPage::GeneralPage(DefaultsController& defaults, std::function<QString()> 
 
 void GeneralPage::complete(PathChooser& chooser)
 {
+    romProposal = new FolderProposal("romProposal", qtTrId("roms_proposed"));
+    addRow(QString(), romProposal);
+    romProposal->setFolders(m_proposed);
+    connect(romProposal, &FolderProposal::taken, &chooser, &PathChooser::takeROMfolder);
+    showNote();
     addLine();
-    osxPath = makePath(textKey("option_osx"), "osxTextField", this);
+    osxPath = makePath(textKey("option_osx"), "osxTextField", "buttonosx", this);
     osxTextField = osxPath->field();
     addRow(qtTrId("option_osx"), osxPath);
-    appPath = makePath(textKey("option_application"), "appTextField", this);
+    appPath = makePath(textKey("option_application"), "appTextField", "buttonapp", this);
     appTextField = appPath->field();
     addRow(qtTrId("option_application"), appPath);
     addStretch();
@@ -118,9 +125,18 @@ void GeneralPage::showEvent(QShowEvent* event)
     OptionPage::showEvent(event);
 }
 
+void GeneralPage::proposeRomFolders(const QStringList& folders)
+{
+    m_proposed = folders;
+    if (romProposal != nullptr)
+        romProposal->setFolders(folders);
+}
+
 void GeneralPage::showNote()
 {
     rompathNote->setVisible(!romsTextField->text().isEmpty() && !checkboxRompath->isChecked());
+    if (romProposal != nullptr)
+        romProposal->setWanted(romsTextField->text().isEmpty());
 }
 
 } // namespace tessera

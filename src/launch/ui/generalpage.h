@@ -10,6 +10,7 @@ namespace tessera {
 
 class PathChooser;
 class PathField;
+class FolderProposal;
 
 /// Which emulator is started, and with which ROM folder.
 class GeneralPage : public OptionPage
@@ -25,6 +26,8 @@ public:
     QString emulator() const;
     /// Where none was chosen, and none was found or its file has gone: one may have been installed since.
     void lookForEmulator();
+    /// Where no folder is chosen; it is never taken by itself.
+    void proposeRomFolders(const QStringList& folders);
 
     QComboBox* launchusingPop;
     PathField* exePath;
@@ -34,6 +37,7 @@ public:
     QCheckBox* checkboxRompath;
     QLabel* rompathNote;
     // Once the page was shown:
+    FolderProposal* romProposal = nullptr;
     PathField* osxPath = nullptr;
     QLineEdit* osxTextField = nullptr;
     PathField* appPath = nullptr;
@@ -54,6 +58,7 @@ private:
     DefaultsController& m_defaults;
     std::function<QString()> m_findEmulator;
     QString m_foundEmulator;
+    QStringList m_proposed;
 };
 
 } // namespace tessera

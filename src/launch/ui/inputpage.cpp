@@ -7,7 +7,7 @@
 namespace tessera {
 
 InputPage::InputPage(DefaultsController& defaults, QWidget* parent)
-    : OptionPage(textKey("page_input"), QStringLiteral("input"), parent)
+    : OptionPage(QStringLiteral("ioport"), parent)
     , checkboxMouse(makeBox("checkboxMouse", textKey("option_mouse")))
     , checkboxJoystick(makeBox("checkboxJoystick", textKey("option_joystick")))
     , checkboxLightgun(makeBox("checkboxLightgun", textKey("option_lightgun")))

@@ -59,6 +59,12 @@ bool LaunchController::isRunning() const
     return m_waiting || m_parts.task.isRunning();
 }
 
+QString LaunchController::runningText() const
+{
+    const char* key = textKey("launch_running");
+    return m_waiting ? aboutGame(key) : m_parts.runs.about(key);
+}
+
 bool LaunchController::romsfolder_FoundCheck() const
 {
     return romsFolderExists(m_parts.pages.general().romsTextField->text());
@@ -141,7 +147,8 @@ ShownLine LaunchController::shownLine(const QString& game)
         const Launch launch = launchOf(game);
         const auto answer = m_parts.profiles.remembered(launch.executable);
         shown.executable = launch.executable;
-        shown.line = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own);
+        shown.line = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own,
+                                 QFileInfo(launch.executable).path());
     }
     // Where none is selected there is no game to name.
     if (game.isEmpty())
@@ -193,7 +200,7 @@ void LaunchController::LaunchTask_MAMEOSX(const QString& game)
         m_parts.paths.saveOpenRecent(game);
     else if (folder)
         m_parts.paths.saveOpenRecent(*folder + QLatin1Char('/') + game + QStringLiteral(".zip"));
-    const QString application = m_parts.defaults.text(keys::MameosxPath);
+    const QString application = QDir::cleanPath(m_parts.defaults.text(keys::MameosxPath));
     m_parts.runs.start({m_name, bundleExecutable(application), QFileInfo(application).path(),
                         osxGameArguments(game, used) + osxOptions(), game});
 }
@@ -221,7 +228,8 @@ void LaunchController::profileAnswered(const QString& executable, const ProfileA
 
 void LaunchController::begin(const Launch& launch, const ProfileAnswer& answer)
 {
-    const CommandLine line = commandLine(answer.profile, launch.game, launch.built, launch.own);
+    const CommandLine line = commandLine(answer.profile, launch.game, launch.built, launch.own,
+                                         QFileInfo(launch.executable).path());
     if (!line.leftOut.isEmpty())
         m_parts.runs.appendOutput(line.leftOutLine() + QLatin1Char('\n'));
     m_parts.runs.start({gameName(launch.game), launch.executable, QFileInfo(launch.executable).path(),

@@ -58,6 +58,8 @@ public:
 
     /// True while a game runs, or is about to.
     bool isRunning() const;
+    /// Says what runs.
+    QString runningText() const;
     /// False when the user wants to go on playing. The game goes on in any case, until the program ends.
     bool confirmQuit();
     bool romsfolder_FoundCheck() const;

@@ -1,6 +1,6 @@
 #include "launch/ui/miscpage.h"
 
-#include "launch/biostitles.h"
+#include "launch/ui/growingpopup.h"
 #include "launch/ui/pathchooser.h"
 #include "widgets/boundcontrols.h"
 
@@ -9,16 +9,28 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace tessera {
 
 namespace {
 constexpr std::array recordKinds{textKey("record_wav"), textKey("record_mng"), textKey("record_avi")};
 constexpr std::array replayKinds{textKey("replay_record"), textKey("replay_playback")};
+
+// What stands behind the buttons stands in a column.
+void alignBehind(const QButtonGroup& matrix)
+{
+    int width = 0;
+    for (const QAbstractButton* button : matrix.buttons())
+        width = std::max(width, button->sizeHint().width());
+    for (QAbstractButton* button : matrix.buttons())
+        button->setMinimumWidth(width);
+}
+
 }
 
 MiscPage::MiscPage(DefaultsController& defaults, QWidget* parent)
-    : OptionPage(textKey("page_misc"), QStringLiteral("misc"), parent)
+    : OptionPage(QStringLiteral("misc"), parent)
     , biosPop(makePopup("biosPop", biosSets))
     , checkboxCheat(makeBox("checkboxCheat", textKey("option_cheat")))
     , checkboxGameinfo(makeBox("checkboxGameinfo", textKey("option_skipgameinfo")))
@@ -36,20 +48,8 @@ MiscPage::MiscPage(DefaultsController& defaults, QWidget* parent)
 {
     recordfilePop->setAccessibleName(qtTrId("replay_recordname"));
     layOut();
-    // Before it is bound: the setting may be a position among them.
-    showLearntBios(defaults);
+    new GrowingPopup(*biosPop, defaults, growingBiosSets);
     bindControls(defaults);
-    connect(&defaults, &DefaultsController::changed, this, [this, &defaults](const QString& name) {
-        if (name.isEmpty() || name == keys::LearntBiosTitles.name)
-            showLearntBios(defaults);
-    });
-}
-
-// They are only ever appended.
-void MiscPage::showLearntBios(const DefaultsController& defaults)
-{
-    const auto shown = static_cast<qsizetype>(biosPop->count()) - static_cast<qsizetype>(biosSets.size());
-    biosPop->addItems(learntBiosTitles(defaults).mid(shown));
 }
 
 void MiscPage::layOut()
@@ -93,6 +93,8 @@ void MiscPage::bindControls(DefaultsController& defaults)
 
 void MiscPage::complete(PathChooser& chooser)
 {
+    alignBehind(*recordMatrix);
+    alignBehind(*replayMatrix);
     playbackButton = addChooseButton(textfildPlayback);
     connect(playbackButton, &QPushButton::clicked, &chooser, &PathChooser::selectPlaybackfile);
     int tag = 0;

@@ -37,7 +37,6 @@ protected:
 
 private:
     void layOut();
-    void showLearntBios(const DefaultsController& defaults);
     void bindControls(DefaultsController& defaults);
 };
 

@@ -14,10 +14,9 @@ namespace {
 constexpr int popupWidth = 190;
 }
 
-OptionPage::OptionPage(const char* titleKey, const QString& icon, QWidget* parent)
+OptionPage::OptionPage(const QString& identifier, QWidget* parent)
     : FormPage(parent)
-    , m_title(qtTrId(titleKey))
-    , m_icon(icon)
+    , m_identifier(identifier)
 {
 }
 
@@ -80,8 +79,11 @@ QButtonGroup* OptionPage::makeMatrix(const char* name, std::span<const char* con
     auto* matrix = new QButtonGroup(this);
     matrix->setObjectName(QString::fromLatin1(name));
     int row = 0;
-    for (const char* key : labelKeys)
-        matrix->addButton(new QRadioButton(qtTrId(key), this), row++);
+    for (const char* key : labelKeys) {
+        auto* button = new QRadioButton(qtTrId(key), this);
+        button->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(row));
+        matrix->addButton(button, row++);
+    }
     return matrix;
 }
 

@@ -22,11 +22,10 @@ class OptionPage : public FormPage
     Q_OBJECT
 
 public:
-    OptionPage(const char* titleKey, const QString& icon, QWidget* parent = nullptr);
+    /// `identifier` is the page's item in the preferences' toolbar.
+    explicit OptionPage(const QString& identifier, QWidget* parent = nullptr);
 
-    QString title() const { return m_title; }
-    /// The name of a picture of resources/icons.
-    QString icon() const { return m_icon; }
+    QString identifier() const { return m_identifier; }
 
     /// Whose commands the buttons beside paths run; before the page is shown.
     void setChooser(PathChooser& chooser) { m_chooser = &chooser; }
@@ -40,12 +39,11 @@ protected:
     QComboBox* makePopup(const char* name, std::span<const PopupItem> items);
     QCheckBox* makeBox(const char* name, const char* labelKey);
     QLineEdit* makeField(const char* name, const char* accessibleKey = nullptr);
-    /// Radio buttons whose ids are their rows.
+    /// Radio buttons whose ids are their rows, which end their names, too.
     QButtonGroup* makeMatrix(const char* name, std::span<const char* const> labelKeys);
 
 private:
-    QString m_title;
-    QString m_icon;
+    QString m_identifier;
     PathChooser* m_chooser = nullptr;
     bool m_isComplete = false;
 };

@@ -185,9 +185,18 @@ void PathChooser::openCurrentdir()
         m_desktop.beep();
 }
 
+void PathChooser::takeROMfolder(const QString& folder)
+{
+    store(keys::RomsPath.name, folder);
+}
+
 void PathChooser::openROMfolder()
 {
-    const QString path = m_pages.general().romsTextField->text();
+    openFolder(m_pages.general().romsTextField->text());
+}
+
+void PathChooser::openFolder(const QString& path)
+{
     if (path.isEmpty() || !m_desktop.openFolder(path))
         m_desktop.beep();
 }

@@ -26,6 +26,10 @@ class PathChooser : public QObject
     Q_OBJECT
 
 public:
+    // Of the files that show_file_in_finder() shows.
+    static constexpr int historyTag = 3;
+    static constexpr int mameinfoTag = 4;
+
     PathChooser(Desktop& desktop, DefaultsController& defaults, const LaunchPages& pages,
                 QObject* parent = nullptr);
 
@@ -67,7 +71,10 @@ public Q_SLOTS:
     void saveRecordfile(int tag);
     /// The folder of the emulator that the launch mode starts.
     void openCurrentdir();
+    /// This one, without a panel.
+    void takeROMfolder(const QString& folder);
     void openROMfolder();
+    void openFolder(const QString& path);
     /// Tags 0 to 4: the three emulators, history and info file.
     void show_file_in_finder(int tag);
 

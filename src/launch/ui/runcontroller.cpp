@@ -50,7 +50,8 @@ void RunController::start(const EmulatorRun& run)
 {
     m_run = run;
     m_printed.clear();
-    Q_EMIT statusMessage(about(textKey("launch_running")));
+    // How the last one ended is of no interest any more.
+    Q_EMIT statusMessage(QString());
     m_task.start(run.executable, run.folder, run.arguments, run.outputFile);
     Q_EMIT runningChanged(true);
 }

@@ -1,5 +1,6 @@
 #include "launch/ui/soundpage.h"
 
+#include "launch/ui/growingpopup.h"
 #include "widgets/boundcontrols.h"
 
 #include <QCheckBox>
@@ -9,8 +10,9 @@
 namespace tessera {
 
 SoundPage::SoundPage(DefaultsController& defaults, QWidget* parent)
-    : OptionPage(textKey("page_sound"), QStringLiteral("sound"), parent)
+    : OptionPage(QStringLiteral("av"), parent)
     , popup_Sound(makePopup("popup_Sound", soundOutputs))
+    , moreSoundOutputs(new GrowingPopup(*popup_Sound, defaults, growingSoundOutputs))
     , soundvolumetextField(makeField("soundvolumetextField"))
     , soundsampleratePop(makePopup("soundsampleratePop", sampleRates))
     , soundlatencytextField(makeField("soundlatencytextField"))

@@ -4,6 +4,8 @@
 
 namespace tessera {
 
+class GrowingPopup;
+
 /// Sound output, loudness and quality.
 class SoundPage : public OptionPage
 {
@@ -13,6 +15,7 @@ public:
     explicit SoundPage(DefaultsController& defaults, QWidget* parent = nullptr);
 
     QComboBox* popup_Sound;
+    GrowingPopup* moreSoundOutputs;
     QLineEdit* soundvolumetextField;
     QComboBox* soundsampleratePop;
     QLineEdit* soundlatencytextField;

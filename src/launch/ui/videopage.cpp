@@ -1,5 +1,6 @@
 #include "launch/ui/videopage.h"
 
+#include "launch/ui/growingpopup.h"
 #include "widgets/boundcontrols.h"
 
 #include <QCheckBox>
@@ -8,8 +9,9 @@
 namespace tessera {
 
 VideoPage::VideoPage(DefaultsController& defaults, QWidget* parent)
-    : OptionPage(textKey("page_video"), QStringLiteral("video"), parent)
+    : OptionPage(QStringLiteral("video"), parent)
     , devicevideoPop(makePopup("devicevideoPop", videoDrivers))
+    , moreVideoDrivers(new GrowingPopup(*devicevideoPop, defaults, growingVideoDrivers))
     , displaymodePop(makePopup("displaymodePop", displayModes))
     , scalingPop(makePopup("scalingPop", prescaleFactors))
     , displayframePop(makePopup("displayframePop", frameSkips))

@@ -4,6 +4,8 @@
 
 namespace tessera {
 
+class GrowingPopup;
+
 /// How the emulator draws: driver, window, size, timing and rotation.
 class VideoPage : public OptionPage
 {
@@ -13,6 +15,7 @@ public:
     explicit VideoPage(DefaultsController& defaults, QWidget* parent = nullptr);
 
     QComboBox* devicevideoPop;
+    GrowingPopup* moreVideoDrivers;
     QComboBox* displaymodePop;
     QComboBox* scalingPop;
     QComboBox* displayframePop;

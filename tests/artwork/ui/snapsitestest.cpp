@@ -6,7 +6,6 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
 
 using namespace tessera;
 using test::PictureStaging;
@@ -90,15 +89,6 @@ private Q_SLOTS:
         m_staging->defaults.setIndex(keys::Snapdownsite, 0);
         const SnapSites sites(m_staging->defaults);
         QCOMPARE(sites.templateOf(1), QStringLiteral("http://one.test/mmedia/titles/{$gamename}"));
-    }
-
-    void aFolderOfMamesOwnIsProposed()
-    {
-        QVERIFY(m_page->mameFolderButton->isHidden());
-        m_page->proposeSnapFolder(QStringLiteral("/mame/snap"));
-        QVERIFY(!m_page->mameFolderButton->isHidden());
-        m_page->proposeSnapFolder(QString());
-        QVERIFY(m_page->mameFolderButton->isHidden());
     }
 
 private:

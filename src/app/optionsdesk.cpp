@@ -1,0 +1,114 @@
+#include "app/optionsdesk.h"
+
+#include "app/preferenceswindow.h"
+#include "app/supportpage.h"
+#include "launch/emulatorprofile.h"
+#include "launch/profilecache.h"
+#include "launch/ui/effectspage.h"
+#include "launch/ui/filespage.h"
+#include "launch/ui/folderproposal.h"
+#include "launch/ui/generalpage.h"
+#include "launch/ui/growingpopup.h"
+#include "launch/ui/launchcontroller.h"
+#include "launch/ui/launchpages.h"
+#include "launch/ui/pathchooser.h"
+#include "launch/ui/soundpage.h"
+#include "launch/ui/unknownoptions.h"
+#include "launch/ui/videopage.h"
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLineEdit>
+
+namespace tessera {
+
+namespace {
+
+QStringList foldersThatThereAre(const QStringList& folders)
+{
+    QStringList found;
+    for (const QString& folder : folders) {
+        if (QFileInfo(folder).isDir())
+            found << folder;
+    }
+    return found;
+}
+
+} // namespace
+
+OptionsDesk::OptionsDesk(Parts parts, QObject* parent)
+    : QObject(parent)
+    , m_parts(parts)
+{
+    m_pool.setMaxThreadCount(1);
+    connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &OptionsDesk::show);
+}
+
+void OptionsDesk::addPages()
+{
+    if (m_files != nullptr)
+        return;
+    m_files = new FilesPage(m_parts.defaults, m_parts.paths);
+    m_parts.preferences.supportPage().addPage(qtTrId("support_files"), m_files);
+    const auto follow = [this] {
+        if (m_parts.preferences.isVisible())
+            show();
+    };
+    connect(&m_parts.profiles, &ProfileCache::answered, this, follow);
+    connect(&m_parts.launches, &LaunchController::launchModeChanged, this, follow);
+    connect(&m_parts.paths, &PathChooser::chosen, this, follow);
+    connect(&m_parts.pages.general(), &GeneralPage::emulatorFound, this, follow);
+    // Not at every key: half a path may be another program's.
+    connect(m_parts.pages.general().exeTextField, &QLineEdit::editingFinished, this, follow);
+}
+
+// The profile is the command-line emulator's; the other modes start something else.
+void OptionsDesk::show()
+{
+    const QString emulator = m_parts.launches.executable();
+    const auto answer = m_parts.profiles.remembered(emulator);
+    if (!answer)
+        m_parts.profiles.request(emulator);
+    const bool isUsed = m_parts.pages.general().launchusingPop->currentIndex() == 0;
+    const EmulatorProfile* profile = isUsed && answer && answer->profile ? &*answer->profile : nullptr;
+    offer(profile);
+    if (profile == nullptr)
+        return proposeFolders({}, {});
+    const QString home = QFileInfo(emulator).path();
+    proposeFolders(profile->romFolderList(home), profile->snapshotFolderList(home));
+}
+
+void OptionsDesk::offer(const EmulatorProfile* profile)
+{
+    const LaunchPages& pages = m_parts.pages;
+    for (OptionPage* page : pages.all())
+        markUnknownOptions(*page, profile);
+    const auto values = [profile](const char* option) {
+        return profile != nullptr ? profile->valuesOf(QLatin1String(option)) : QStringList();
+    };
+    pages.video().moreVideoDrivers->offer(values("-video"));
+    pages.effects().moreScaleModes->offer(values("-scalemode"));
+    pages.sound().moreSoundOutputs->offer(values("-sound"));
+}
+
+// Folders may lie on disks that answer late.
+void OptionsDesk::proposeFolders(const QStringList& roms, const QStringList& snapshots)
+{
+    const QStringList all = roms + snapshots;
+    if (std::exchange(m_lookedFor, all) == all)
+        return;
+    m_pool.start([this, all, roms, snapshots] {
+        QMetaObject::invokeMethod(
+            this,
+            [this, all, foundRoms = foldersThatThereAre(roms), foundSnaps = foldersThatThereAre(snapshots)] {
+                if (all != m_lookedFor)
+                    return;
+                m_parts.pages.general().proposeRomFolders(foundRoms);
+                if (m_files != nullptr)
+                    m_files->snapProposal->setFolders(foundSnaps);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+} // namespace tessera

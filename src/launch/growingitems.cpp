@@ -1,0 +1,61 @@
+#include "launch/growingitems.h"
+
+#include "platform/defaultscontroller.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+bool isOneWord(const QString& title)
+{
+    return !title.isEmpty() && !title.startsWith(u'-')
+        && std::ranges::none_of(title, [](QChar c) { return c.isSpace() || !c.isPrint() || c == u'"'; });
+}
+
+bool isShipped(const GrowingItems& items, const QString& title)
+{
+    return std::ranges::any_of(items.shipped, [&](const PopupItem& item) {
+        return item.title != nullptr && title == QLatin1StringView(item.title);
+    });
+}
+
+} // namespace
+
+QStringList keptTitles(const DefaultsController& defaults, const GrowingItems& items)
+{
+    return defaults.text(items.kept).split(u' ', Qt::SkipEmptyParts);
+}
+
+QStringList newTitles(const DefaultsController& defaults, const GrowingItems& items,
+                      const QStringList& titles)
+{
+    const QStringList kept = keptTitles(defaults, items);
+    QStringList added;
+    for (const QString& title : titles) {
+        if (isOneWord(title) && !isShipped(items, title) && !kept.contains(title) && !added.contains(title))
+            added << title;
+    }
+    return added;
+}
+
+void keepTitles(DefaultsController& defaults, const GrowingItems& items, const QStringList& titles)
+{
+    const QStringList kept = keptTitles(defaults, items) + newTitles(defaults, items, titles);
+    defaults.setText(items.kept, kept.join(u' '));
+}
+
+PopupState storedState(const DefaultsController& defaults, const Key<float>& key, const GrowingItems& items)
+{
+    const int index = defaults.index(key);
+    const auto shipped = static_cast<int>(items.shipped.size());
+    const QStringList kept = keptTitles(defaults, items);
+    if (index < 0 || index >= shipped + kept.size())
+        return {};
+    return {index,
+            index < shipped ? QString::fromLatin1(items.shipped[static_cast<std::size_t>(index)].title)
+                            : kept[index - shipped]};
+}
+
+} // namespace tessera

@@ -1,0 +1,147 @@
+#include "launch/ui/unknownoptions.h"
+
+#include "launch/emulatorprofile.h"
+#include "launch/ui/effectspage.h"
+#include "launch/ui/launchpages.h"
+#include "launch/ui/optionpage.h"
+#include "launch/ui/videopage.h"
+#include "platform/defaultscontroller.h"
+#include "support/testmain.h"
+#include "usagetexts.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+namespace {
+
+struct Room {
+    QTemporaryDir folder;
+    UserDefaults settings{folder.filePath(QStringLiteral("Tessera.ini"))};
+    DefaultsController defaults{settings};
+    LaunchPages pages{begun(), [] { return QString(); }};
+
+    // The names of the marked controls.
+    QStringList marked(const QByteArray& usage)
+    {
+        const auto profile = EmulatorProfile::fromUsage(usage);
+        QStringList names;
+        for (OptionPage* page : pages.all()) {
+            markUnknownOptions(*page, profile ? &*profile : nullptr);
+            for (const QWidget* control : page->findChildren<QWidget*>()) {
+                if (!control->objectName().isEmpty() && control->property("unknown").toBool())
+                    names << control->objectName();
+            }
+        }
+        names.sort();
+        return names;
+    }
+
+private:
+    DefaultsController& begun()
+    {
+        defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
+        return defaults;
+    }
+};
+
+bool isOptionControl(const QWidget* widget)
+{
+    return qobject_cast<const QComboBox*>(widget) != nullptr
+        || qobject_cast<const QLineEdit*>(widget) != nullptr
+        || qobject_cast<const QCheckBox*>(widget) != nullptr
+        || qobject_cast<const QRadioButton*>(widget) != nullptr;
+}
+
+QLabel* labelOf(const QWidget& page, const QWidget* control)
+{
+    for (QLabel* label : page.findChildren<QLabel*>()) {
+        if (label->buddy() == control)
+            return label;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class UnknownOptionsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutAProfileNothingIsMarked()
+    {
+        Room room;
+        QCOMPARE(room.marked("no emulator"), QStringList());
+    }
+
+    void anEmulatorThatKnowsAllLeavesAllUnmarked()
+    {
+        Room room;
+        QCOMPARE(room.marked(test::oldUsage()), QStringList());
+    }
+
+    void whatANewerEmulatorHasLostIsMarked()
+    {
+        Room room;
+        // The beam has another name there, which is known.
+        QCOMPARE(room.marked(test::newUsage()),
+                 QStringList({"checkboxAntialias", "checkboxBackdrops", "checkboxBezels",
+                              "checkboxMultithread", "checkboxOverlays"}));
+        QCOMPARE(room.marked(test::oldUsage()), QStringList());
+    }
+
+    void everyControlOfALaunchOptionCanBeMarked()
+    {
+        Room room;
+        const QStringList marked = room.marked("-rompath             path to ROM sets\n");
+        const QStringList always{"launchusingPop", "exeTextField", "romsTextField", "checkboxRompath"};
+        for (const OptionPage* page : room.pages.all()) {
+            for (const QWidget* control : page->findChildren<QWidget*>()) {
+                if (isOptionControl(control) && !always.contains(control->objectName()))
+                    QVERIFY2(marked.contains(control->objectName()), qPrintable(control->objectName()));
+            }
+        }
+        for (const QString& name : always)
+            QVERIFY2(!marked.contains(name), qPrintable(name));
+    }
+
+    void aMarkedControlSaysWhyAndCanBeUsed()
+    {
+        Room room;
+        QByteArray usage = test::newUsage();
+        usage.replace("-prescale            scale by this amount\n", "");
+        room.marked(usage);
+        const VideoPage& page = room.pages.video();
+        for (const QWidget* control :
+             {static_cast<QWidget*>(page.checkboxMultithread), static_cast<QWidget*>(page.scalingPop)}) {
+            QCOMPARE(control->toolTip(), QStringLiteral("option_unknown"));
+            QCOMPARE(control->accessibleDescription(), QStringLiteral("option_unknown"));
+            QVERIFY(control->isEnabled());
+        }
+        QVERIFY(labelOf(page, page.scalingPop)->property("unknown").toBool());
+        QVERIFY(!labelOf(page, page.devicevideoPop)->property("unknown").toBool());
+        room.marked(test::oldUsage());
+        QCOMPARE(page.scalingPop->toolTip(), QString());
+        QCOMPARE(page.scalingPop->accessibleDescription(), QString());
+        QVERIFY(!labelOf(page, page.scalingPop)->property("unknown").toBool());
+    }
+
+    void aLabelOfSeveralBoxesStaysAsItIs()
+    {
+        Room room;
+        QByteArray usage = test::newUsage();
+        usage.replace("-keepaspect          keep the aspect ratio\n", "");
+        QVERIFY(room.marked(usage).contains("checkboxAspect"));
+        const VideoPage& page = room.pages.video();
+        QVERIFY(!labelOf(page, page.checkboxAspect)->property("unknown").toBool());
+    }
+};
+
+TESSERA_TEST(UnknownOptionsTest);
+#include "unknownoptionstest.moc"
