@@ -19,6 +19,7 @@
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
 #include "app/modemenu.h"
+#include "app/opengame.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/scriptjoin.h"
@@ -108,6 +109,10 @@ void Tessera_AppDelegate::loadInterface()
         [this] { m_chooser->exeSelect(); }, [this] { return m_favorites->favourites().names(); });
     m_changes = std::make_unique<ChangesDesk>(*m_mainWindow);
     connect(m_rebuild.get(), &CatalogueRebuild::compared, m_changes.get(), &ChangesDesk::take);
+    connect(m_changes.get(), &ChangesDesk::opened, this, [this](const QString& name) {
+        if (!openGame(*this, name))
+            m_desktop.beep();
+    });
     m_keyCommands
         = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     joinRooms();

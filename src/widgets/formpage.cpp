@@ -14,6 +14,7 @@ constexpr int controlColumn = 1;
 constexpr int fillColumn = 2;
 constexpr int allColumns = 3;
 constexpr int labelWidth = 150;
+constexpr int labelGap = 12;
 } // namespace
 
 FormPage::FormPage(QWidget* parent)
@@ -21,9 +22,9 @@ FormPage::FormPage(QWidget* parent)
     , m_grid(new QGridLayout(this))
 {
     m_grid->setContentsMargins(28, 20, 28, 20);
-    m_grid->setHorizontalSpacing(12);
+    m_grid->setHorizontalSpacing(0);
     m_grid->setVerticalSpacing(8);
-    m_grid->setColumnMinimumWidth(labelColumn, labelWidth);
+    m_grid->setColumnMinimumWidth(labelColumn, labelWidth + labelGap);
     m_grid->setColumnStretch(controlColumn, 1);
     // Takes what a column of narrow controls leaves, so that labels stay where they are on every page.
     m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, fillColumn);
@@ -47,6 +48,8 @@ QLabel* FormPage::addRow(const QString& label, QWidget* control)
     name->setProperty("role", QStringLiteral("dim"));
     name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     name->setBuddy(control);
+    // Not the grid's spacing: the last column, often empty, would keep its neighbour from the edge.
+    name->setContentsMargins(0, 0, labelGap, 0);
     // A box is heard as it reads: the label may stand for the row's other boxes too.
     const auto* button = qobject_cast<const QAbstractButton*>(control);
     const bool readsItself = button != nullptr && !button->text().isEmpty();
