@@ -125,6 +125,12 @@
     <message id="changes_summary"><source></source><translation>Added: %1, gone: %2, renamed: %3, another status: %4.</translation></message>
     <message id="changes_summary_favourites"><source></source><translation> Favourites among them: %1.</translation></message>
     <message id="changes_title"><source></source><translation>What changed in the catalogue</translation></message>
+    <message id="changes_favourites_tab"><source></source><translation>Favourites: %1</translation></message>
+    <message id="changes_set"><source></source><translation>Set</translation></message>
+    <message id="changes_change"><source></source><translation>Change</translation></message>
+    <message id="changes_is_new"><source></source><translation>new</translation></message>
+    <message id="changes_is_gone"><source></source><translation>gone</translation></message>
+    <message id="changes_was"><source></source><translation>was %1</translation></message>
     <message id="convert_use"><source></source><translation>&amp;Use as catalogue now</translation></message>
     <message id="convert_changes"><source></source><translation>&amp;What changed…</translation></message>
     <message id="convert_nothing_saved"><source></source><translation>Once it is saved, the file can take the present catalogue’s place at once.</translation></message>

@@ -125,6 +125,12 @@
     <message id="changes_summary"><source></source><translation>追加: %1、削除: %2、名前の変更: %3、動作状況の変更: %4。</translation></message>
     <message id="changes_summary_favourites"><source></source><translation>このうちお気に入り: %1。</translation></message>
     <message id="changes_title"><source></source><translation>カタログの変更点</translation></message>
+    <message id="changes_favourites_tab"><source></source><translation>お気に入り: %1</translation></message>
+    <message id="changes_set"><source></source><translation>セット</translation></message>
+    <message id="changes_change"><source></source><translation>変更</translation></message>
+    <message id="changes_is_new"><source></source><translation>追加</translation></message>
+    <message id="changes_is_gone"><source></source><translation>削除</translation></message>
+    <message id="changes_was"><source></source><translation>旧名 %1</translation></message>
     <message id="convert_use"><source></source><translation>いますぐカタログとして使用(&amp;U)</translation></message>
     <message id="convert_changes"><source></source><translation>変更点…(&amp;W)</translation></message>
     <message id="convert_nothing_saved"><source></source><translation>保存すると、いまのカタログとすぐに置き換えられます。</translation></message>

@@ -18,8 +18,10 @@ ChangesDesk::~ChangesDesk() = default;
 
 ChangesWindow& ChangesDesk::window()
 {
-    if (!m_window)
+    if (!m_window) {
         m_window = std::make_unique<ChangesWindow>();
+        connect(m_window.get(), &ChangesWindow::opened, this, &ChangesDesk::opened);
+    }
     return *m_window;
 }
 

@@ -27,6 +27,10 @@ public Q_SLOTS:
     void take(const tessera::CatalogueComparison& comparison);
     void showChanges();
 
+Q_SIGNALS:
+    /// A machine is to be shown in the game list.
+    void opened(const QString& name);
+
 private:
     MainWindow& m_mainWindow;
     CatalogueComparison m_comparison;

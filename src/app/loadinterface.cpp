@@ -21,6 +21,7 @@
 #include "app/miniwindow.h"
 #include "app/modemenu.h"
 #include "app/optionsdesk.h"
+#include "app/opengame.h"
 #include "app/preferenceswindow.h"
 #include "app/rebuildstrip.h"
 #include "app/scriptjoin.h"
@@ -113,6 +114,10 @@ void Tessera_AppDelegate::loadInterface()
         [this] { m_chooser->exeSelect(); }, [this] { return m_favorites->favourites().names(); });
     m_changes = std::make_unique<ChangesDesk>(*m_mainWindow);
     connect(m_rebuild.get(), &CatalogueRebuild::compared, m_changes.get(), &ChangesDesk::take);
+    connect(m_changes.get(), &ChangesDesk::opened, this, [this](const QString& name) {
+        if (!openGame(*this, name))
+            m_desktop.beep();
+    });
     m_keyCommands
         = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     joinRooms();

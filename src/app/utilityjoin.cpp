@@ -4,6 +4,7 @@
 #include "app/changesdesk.h"
 #include "app/favoritesdesk.h"
 #include "app/finding.h"
+#include "app/opengame.h"
 #include "app/tessera_appdelegate.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "tools/ui/favouritestool.h"
@@ -14,22 +15,6 @@
 namespace tessera {
 
 namespace {
-
-// Nothing that hides it stands in the way.
-bool openGame(Tessera_AppDelegate& app, const QString& name)
-{
-    if (!app.gameList().selectGame(name)) {
-        const auto records = app.catalogue().records();
-        const std::string bytes = name.toStdString();
-        if (std::ranges::none_of(records,
-                                 [&](const GameRecord& record) { return record[Field::Name] == bytes; }))
-            return false;
-        app.showAllGames();
-        app.gameList().selectGame(name);
-    }
-    app.windowMain();
-    return true;
-}
 
 UtilityHooks hooksOf(Tessera_AppDelegate& app, DefaultsController& defaults)
 {

@@ -196,6 +196,29 @@ QString comparisonSummary(const CatalogueComparison& comparison)
     return summary;
 }
 
+QString changeText(const MachineChange& change, bool withKind)
+{
+    QStringList words;
+    switch (change.kind) {
+    case Kind::Added:
+        if (withKind)
+            words << qtTrId("changes_is_new");
+        break;
+    case Kind::Gone:
+        if (withKind)
+            words << qtTrId("changes_is_gone");
+        break;
+    case Kind::Renamed:
+        words << qtTrId("changes_was").arg(shown(change.before));
+        break;
+    case Kind::Status:
+        words << shown(change.before) + arrow + shown(change.after);
+        break;
+    }
+    words << shown(change.title);
+    return words.join(QStringLiteral(" · "));
+}
+
 QString comparisonText(const CatalogueComparison& comparison)
 {
     QStringList sections;

@@ -41,6 +41,9 @@ CatalogueComparison compareCatalogues(std::span<const GameRecord> before, std::s
 /// One sentence or two with the numbers.
 QString comparisonSummary(const CatalogueComparison& comparison);
 
+/// One change in the words of a row beside the set's name; `withKind` says also whether it came or went.
+QString changeText(const MachineChange& change, bool withKind);
+
 /// The changes, one a line under a heading for each kind; those of favourites first. Empty where there are
 /// none.
 QString comparisonText(const CatalogueComparison& comparison);

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 #include <vector>
 
@@ -54,10 +55,10 @@ struct Pair {
 class ItemCopy
 {
 public:
-    ItemCopy(const CopyWatch& watch, FileIdentity leftOut)
+    ItemCopy(const CopyWatch& watch, FileIdentity leftOut, std::vector<char>& piece)
         : m_watch(watch)
         , m_leftOut(leftOut)
-        , m_piece(pieceSize)
+        , m_piece(piece)
     {
     }
 
@@ -79,7 +80,7 @@ private:
 
     const CopyWatch& m_watch;
     FileIdentity m_leftOut;
-    std::vector<char> m_piece;
+    std::vector<char>& m_piece;
     std::vector<Folder> m_folders;
 };
 
@@ -214,7 +215,8 @@ void ItemCopy::finishFolders(const std::string& at) const
     }
 }
 
-// A folder of our own where a copy grows, beside what it will stand among; it goes away at the end.
+// A folder of our own where copies grow, beside what they will stand among; it goes away at the end. One for
+// each copy would cost more than most copies do: file systems are slow to give a number out again.
 class Staging
 {
 public:
@@ -234,6 +236,12 @@ public:
 
     explicit operator bool() const { return m_isThere; }
     const std::string& path() const { return m_path; }
+    /// Halves go away at once.
+    void clear(const std::string& name) const
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_path + '/' + name, ignored);
+    }
 
 private:
     std::string m_path;
@@ -288,8 +296,28 @@ std::int64_t sizeAt(int folder, const char* name, FileIdentity leftOut)
 
 } // namespace
 
-Done copyItem(const std::string& from, const std::string& name, const std::string& into,
-              const CopyWatch& watch)
+struct ItemCopier::Parts {
+    std::string from;
+    std::string into;
+    CopyWatch watch;
+    std::vector<char> piece = std::vector<char>(pieceSize);
+    std::optional<Staging> staging;
+
+    // Anew where somebody took it away.
+    bool hasStaging()
+    {
+        if (staging && *staging && isThere(staging->path()))
+            return true;
+        staging.reset();
+        staging.emplace(into);
+        return static_cast<bool>(*staging);
+    }
+
+    Done copy(const std::string& name);
+    Done copyThrough(const Pair& item, FileIdentity leftOut);
+};
+
+Done ItemCopier::Parts::copy(const std::string& name)
 {
     const std::string source = from + '/' + name;
     const std::string destination = into + '/' + name;
@@ -299,26 +327,45 @@ Done copyItem(const std::string& from, const std::string& name, const std::strin
         return std::unexpected(Failure{"copy_into_itself", {shown(source)}});
     if (isThere(destination))
         return std::unexpected(Failure{"copy_exists", {shown(destination)}});
-    const Staging staging(into);
-    if (!staging)
+    if (!hasStaging())
         return notWritten(destination);
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
     const FileHandle fromFolder(::open(from.c_str(), flags));
     if (!fromFolder)
         return notRead(source);
-    const FileHandle toFolder(::open(staging.path().c_str(), flags));
+    const FileHandle toFolder(::open(staging->path().c_str(), flags));
     if (!toFolder)
         return notWritten(destination);
-    ItemCopy copy(watch, leftOut);
-    const Pair item{fromFolder.number(), toFolder.number(), name, source, destination};
-    if (const auto copied = copy.copy(item, name); !copied)
+    const auto copied
+        = copyThrough({fromFolder.number(), toFolder.number(), name, source, destination}, leftOut);
+    if (!copied)
+        staging->clear(name);
+    return copied;
+}
+
+Done ItemCopier::Parts::copyThrough(const Pair& item, FileIdentity leftOut)
+{
+    ItemCopy copying(watch, leftOut, piece);
+    if (const auto copied = copying.copy(item, item.name); !copied)
         return copied;
-    if (!giveName(staging.path() + '/' + name, destination)) {
-        return errno == EEXIST ? std::unexpected(Failure{"copy_exists", {shown(destination)}})
-                               : notWritten(destination);
+    if (!giveName(staging->path() + '/' + item.name, item.toPath)) {
+        return errno == EEXIST ? std::unexpected(Failure{"copy_exists", {shown(item.toPath)}})
+                               : notWritten(item.toPath);
     }
-    copy.finishFolders(into);
+    copying.finishFolders(into);
     return {};
+}
+
+ItemCopier::ItemCopier(const std::string& from, const std::string& into, const CopyWatch& watch)
+    : m_parts(std::make_unique<Parts>(from, into, watch))
+{
+}
+
+ItemCopier::~ItemCopier() = default;
+
+std::expected<void, Failure> ItemCopier::copy(const std::string& name)
+{
+    return m_parts->copy(name);
 }
 
 std::int64_t itemSize(const std::string& from, const std::string& name, const std::string& into)

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <expected>
 #include <functional>
+#include <memory>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -20,12 +21,22 @@ struct CopyWatch {
 /// The failure's key where somebody asked to stop.
 inline constexpr std::string_view copyCancelled = textKey("copy_cancelled");
 
-/// Copies a file, a link, or a folder with all that is in it, from one folder into another under its own
-/// name, with its times and permissions. Nothing is removed and nothing replaced; the copy is there whole or
-/// not at all. A link stays a link, so that none leads round. `into` itself is left out where it lies in what
-/// is copied. Paths and names are the file system's bytes.
-std::expected<void, Failure> copyItem(const std::string& from, const std::string& name,
-                                      const std::string& into, const CopyWatch& watch);
+/// Copies files, links, and folders with all that is in them, from one folder into another under their own
+/// names, with times and permissions. Nothing is removed and nothing replaced; a copy is there whole or not
+/// at all. A link stays a link, so that none leads round. `into` itself is left out where it lies in what is
+/// copied. Paths and names are the file system's bytes.
+class ItemCopier
+{
+public:
+    ItemCopier(const std::string& from, const std::string& into, const CopyWatch& watch);
+    ~ItemCopier();
+
+    std::expected<void, Failure> copy(const std::string& name);
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
 
 /// As many bytes as such a copy would have.
 std::int64_t itemSize(const std::string& from, const std::string& name, const std::string& into);

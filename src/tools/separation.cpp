@@ -130,6 +130,7 @@ SeparationCounts Separation::run(std::span<const std::string> names, const CopyW
                                  const std::function<void(const SeparatedRow&)>& marked) const
 {
     SeparationCounts counts;
+    ItemCopier copier(m_roms, m_destination, watch);
     for (std::size_t index = 0; index < names.size(); ++index) {
         counts.isCancelled = watch.stop.stop_requested();
         if (counts.isCancelled)
@@ -138,7 +139,7 @@ SeparationCounts Separation::run(std::span<const std::string> names, const CopyW
         if (m_supported.supports(names[index]))
             row.isSupported = true;
         else
-            row = copy(names[index], watch);
+            row = copy(names[index], copier);
         // What was stopped half way is not there.
         counts.isCancelled = row.failure && row.failure->key == copyCancelled;
         if (counts.isCancelled)
@@ -150,12 +151,18 @@ SeparationCounts Separation::run(std::span<const std::string> names, const CopyW
     return counts;
 }
 
-SeparatedRow Separation::copy(const std::string& name, const CopyWatch& watch) const
+SeparatedRow Separation::copy(const std::string& name) const
+{
+    ItemCopier copier(m_roms, m_destination, {});
+    return copy(name, copier);
+}
+
+SeparatedRow Separation::copy(const std::string& name, ItemCopier& copier) const
 {
     SeparatedRow row;
     row.source = decoded(m_roms + '/' + name);
     row.destination = decoded(m_destination + '/' + name);
-    if (auto copied = copyItem(m_roms, name, m_destination, watch); !copied)
+    if (auto copied = copier.copy(name); !copied)
         row.failure = std::move(copied.error());
     return row;
 }

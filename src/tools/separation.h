@@ -91,9 +91,11 @@ public:
     SeparationCounts run(std::span<const std::string> names, const CopyWatch& watch,
                          const std::function<void(const SeparatedRow&)>& marked) const;
     /// One file or folder.
-    SeparatedRow copy(const std::string& name, const CopyWatch& watch) const;
+    SeparatedRow copy(const std::string& name) const;
 
 private:
+    SeparatedRow copy(const std::string& name, ItemCopier& copier) const;
+
     std::string m_roms;
     std::string m_destination;
     SupportedNames m_supported;

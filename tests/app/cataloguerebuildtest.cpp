@@ -6,19 +6,22 @@
 #include "app/rebuildstrip.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
 #include "catalogue/storewriter.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "tools/ui/changeswindow.h"
+#include "tools/ui/rowslist.h"
+#include "tools/ui/rowsmodel.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -177,8 +180,24 @@ private Q_SLOTS:
         QTest::mouseClick(button, Qt::LeftButton);
         ChangesWindow& window = staged.app->changes().window();
         QVERIFY(window.isVisible());
-        QVERIFY(window.changes->toPlainText().contains("  pacman  Pac-Man\n"));
-        QVERIFY(window.changes->toPlainText().contains("  qix  Qix\n"));
+        const auto rows = [&] {
+            QStringList list;
+            for (int row = 0; row < window.rows->rowCount(); ++row)
+                list << QString::fromStdString(window.rows->visible(row).name) + ' '
+                        + window.rows->visible(row).state;
+            return list;
+        };
+        QCOMPARE(window.kinds->count(), 2);
+        QVERIFY2(rows().contains("pacman Pac-Man"), qPrintable(rows().join('\n')));
+        // A row shows its machine, also one that a search hides.
+        staged.app->mainWindow().searchField->setText("nothing");
+        QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(0));
+        Q_EMIT window.changes->opened("pacman");
+        QCOMPARE(staged.app->gameList().selectedCount(), 1);
+        window.kinds->setCurrentIndex(1);
+        QVERIFY2(rows().contains("qix Qix"), qPrintable(rows().join('\n')));
+        Q_EMIT window.changes->opened("qix");
+        QVERIFY(staged.desktop.takeTranscript().contains("beep"));
     }
 
     void theFirstCatalogueIsComparedWithNothing()

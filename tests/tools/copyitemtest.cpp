@@ -43,6 +43,12 @@ private:
     void (*m_handler)(int);
 };
 
+std::expected<void, Failure> copyItem(const std::string& from, const std::string& name,
+                                      const std::string& into, const CopyWatch& watch)
+{
+    return ItemCopier(from, into, watch).copy(name);
+}
+
 } // namespace
 
 class CopyItemTest : public QObject
@@ -337,6 +343,39 @@ private Q_SLOTS:
         QCOMPARE(copyItem(m_from, "a", m_to, watch).error().key, "failure_write");
         // What is beneath the place where it was stays as it is.
         QCOMPARE(names(m_to), QStringList());
+    }
+
+    void manyAreCopiedThroughOneFolder()
+    {
+        for (const char* name : {"a", "b", "c", "d"})
+            write(m_from + '/' + name, name);
+        write(m_to + "/b", "old");
+        QStringList meanwhile;
+        const CopyWatch watch{{}, [&](std::int64_t) { meanwhile << names(m_to).filter(".tessera-"); }};
+        {
+            ItemCopier copier(m_from, m_to, watch);
+            QVERIFY(copier.copy("a").has_value());
+            expectFailure(copier.copy("b"), "copy_exists", m_to + "/b");
+            QVERIFY(copier.copy("c").has_value());
+            QCOMPARE(QSet<QString>(meanwhile.begin(), meanwhile.end()).size(), 1);
+            // Taken away by somebody who tidies up.
+            QVERIFY(QDir(QString::fromStdString(m_to) + '/' + meanwhile.first()).removeRecursively());
+            QVERIFY(copier.copy("d").has_value());
+        }
+        QCOMPARE(names(m_to), QStringList({"a", "b", "c", "d"}));
+        QCOMPARE(read(m_to + "/b"), "old");
+    }
+
+    void whatFailsLeavesNothingInTheWayOfTheNext()
+    {
+        makeFolder(m_from + "/set");
+        write(m_from + "/set/a", "a");
+        QVERIFY(::mkfifo((m_from + "/set/pipe").c_str(), 0644) == 0);
+        ItemCopier copier(m_from, m_to, {});
+        expectFailure(copier.copy("set"), "copy_special", m_from + "/set/pipe");
+        QVERIFY(QFile::remove(QString::fromStdString(m_from) + "/set/pipe"));
+        QVERIFY(copier.copy("set").has_value());
+        QCOMPARE(names(m_to + "/set"), {"a"});
     }
 
     void whatIsNoFileIsRefused()

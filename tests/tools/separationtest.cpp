@@ -217,7 +217,11 @@ private Q_SLOTS:
             QCOMPARE(rows[row].failure->key, "failure_write");
             QCOMPARE(rows[row].failure->arguments.first(), rows[row].destination);
         }
-        QCOMPARE(QDir(aside()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), {"a.zip"});
+        QCOMPARE(QDir(aside()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), {"a.zip"});
+        // What can no more be taken away is empty at least.
+        for (const QFileInfo& hidden :
+             QDir(aside()).entryInfoList({".*"}, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
+            QVERIFY(QDir(hidden.filePath()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
     void aDestinationThatFillsUpFailsForWhatIsTooLarge()

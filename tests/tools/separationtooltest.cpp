@@ -165,7 +165,7 @@ private Q_SLOTS:
         Stage stage;
         stage.page.showFailures({"a\nb\tc", "d"});
         QCOMPARE(stage.page.failedCopies->toPlainText(),
-                 QString::fromUtf8("separation_not_copied\na\u240Ab\u2409c\nd"));
+                 QString::fromUtf8("separation_not_copied\na\u21B5b\uFFFDc\nd"));
     }
 
     void withoutPermissionEachFailureIsNamed()

@@ -1,47 +1,114 @@
 #include "tools/ui/changeswindow.h"
 
-#include "tools/cataloguecomparison.h"
+#include "core/failure.h"
+#include "tools/ui/rowslist.h"
+#include "tools/ui/rowsmodel.h"
 #include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QLineEdit>
+#include <QLocale>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 namespace tessera {
 
 namespace {
-constexpr QSize usualSize(620, 520);
+
+constexpr QSize usualSize(720, 560);
 constexpr int margin = 18;
+constexpr int gap = 12;
+constexpr int nameWidth = 190;
+
+// Behind those of the kinds themselves.
+constexpr int favourites = MachineChange::kindCount;
+constexpr std::array<const char*, MachineChange::kindCount> titles{
+    textKey("changes_added"), textKey("changes_gone"), textKey("changes_renamed"), textKey("changes_status")};
+
+bool belongsTo(const MachineChange& change, int kind)
+{
+    return kind == favourites ? change.isFavourite : static_cast<int>(change.kind) == kind;
+}
+
 } // namespace
 
 ChangesWindow::ChangesWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
     , summary(new QLabel(this))
-    , changes(new QPlainTextEdit(this))
+    , kinds(new QTabBar(this))
+    , filterField(new QLineEdit(this))
+    , rows(new RowsModel({qtTrId("changes_set"), qtTrId("changes_change")}, this))
+    , changes(new RowsList(*rows, QStringLiteral("changes"), this))
 {
     setObjectName(QStringLiteral("changesWindow"));
     setWindowTitle(qtTrId("changes_title"));
     summary->setWordWrap(true);
-    changes->setObjectName(QStringLiteral("changes"));
+    kinds->setObjectName(QStringLiteral("kinds"));
+    kinds->setAccessibleName(qtTrId("changes_title"));
+    kinds->setExpanding(false);
+    kinds->setDrawBase(false);
+    filterField->setObjectName(QStringLiteral("changesFilter"));
+    filterField->setPlaceholderText(qtTrId("existence_filter"));
+    filterField->setAccessibleName(qtTrId("existence_filter"));
+    filterField->setClearButtonEnabled(true);
     changes->setAccessibleName(qtTrId("changes_title"));
-    changes->setReadOnly(true);
-    changes->setTabChangesFocus(true);
-    changes->setLineWrapMode(QPlainTextEdit::NoWrap);
+    changes->setEmptyText(qtTrId("changes_none"));
+    changes->setNameWidth(nameWidth);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(12);
+    layout->setSpacing(gap);
     layout->addWidget(summary);
+    layout->addWidget(kinds);
+    layout->addWidget(filterField);
     layout->addWidget(changes, 1);
+    connect(kinds, &QTabBar::currentChanged, this, &ChangesWindow::showKind);
+    connect(filterField, &QLineEdit::textChanged, rows, &RowsModel::setFilter);
+    connect(changes, &RowsList::opened, this, &ChangesWindow::opened);
     closeByKeyboard(*this);
     resize(usualSize);
 }
 
 void ChangesWindow::show(const CatalogueComparison& comparison)
 {
+    m_comparison = comparison;
     summary->setText(comparisonSummary(comparison));
-    changes->setPlainText(comparisonText(comparison));
+    {
+        const QSignalBlocker onceAtTheEnd(kinds);
+        while (kinds->count() > 0)
+            kinds->removeTab(0);
+        addTab(textKey("changes_favourites_tab"), favourites, comparison.favourites);
+        for (int kind = 0; kind < favourites; ++kind) {
+            const auto place = static_cast<std::size_t>(kind);
+            addTab(titles[place], kind, comparison.counts[place]);
+        }
+    }
+    kinds->setVisible(kinds->count() > 0);
+    filterField->setVisible(kinds->count() > 0);
+    filterField->clear();
+    showKind();
     bringForward(*this);
+}
+
+void ChangesWindow::addTab(const char* key, int kind, std::size_t count)
+{
+    if (count == 0)
+        return;
+    const int tab = kinds->addTab(qtTrId(key).arg(QLocale().toString(static_cast<qulonglong>(count))));
+    kinds->setTabData(tab, kind);
+}
+
+// Among the favourites are changes of every kind.
+void ChangesWindow::showKind()
+{
+    const int kind = kinds->tabData(kinds->currentIndex()).toInt();
+    std::vector<RowsModel::Row> shown;
+    for (const MachineChange& change : m_comparison.changes) {
+        if (belongsTo(change, kind))
+            shown.push_back({change.name, changeText(change, kind == favourites)});
+    }
+    changes->dropSort();
+    rows->setRows(std::move(shown));
 }
 
 } // namespace tessera

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "tools/cataloguecomparison.h"
+
 #include <QWidget>
 
 class QLabel;
-class QPlainTextEdit;
+class QLineEdit;
+class QTabBar;
 
 namespace tessera {
 
-struct CatalogueComparison;
+class RowsList;
+class RowsModel;
 
-/// Machine by machine what differs between the catalogue and the one before.
+/// Machine by machine what differs between the catalogue and the one before, a tab for each kind of change.
 class ChangesWindow : public QWidget
 {
     Q_OBJECT
@@ -20,7 +24,20 @@ public:
     void show(const CatalogueComparison& comparison);
 
     QLabel* summary;
-    QPlainTextEdit* changes;
+    QTabBar* kinds;
+    QLineEdit* filterField;
+    RowsModel* rows;
+    RowsList* changes;
+
+Q_SIGNALS:
+    /// A machine is to be shown in the game list.
+    void opened(const QString& name);
+
+private:
+    void addTab(const char* key, int kind, std::size_t count);
+    void showKind();
+
+    CatalogueComparison m_comparison;
 };
 
 } // namespace tessera

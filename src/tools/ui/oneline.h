@@ -4,13 +4,14 @@
 
 namespace tessera {
 
-/// With a picture of each control character in its place: a file's name may hold line feeds.
+/// With a sign in the place of each control character: a file's name may hold line feeds.
 inline QString onOneLine(QString text)
 {
-    constexpr char16_t controlPictures = 0x2400;
     for (QChar& c : text) {
-        if (c.unicode() < 0x20)
-            c = QChar(static_cast<char16_t>(controlPictures + c.unicode()));
+        if (c == u'\n' || c == u'\r')
+            c = u'\u21B5';
+        else if (c.unicode() < 0x20)
+            c = QChar::ReplacementCharacter;
     }
     return text;
 }

@@ -66,6 +66,13 @@ void RowsList::setStateWidth(int width)
     setColumnWidth(RowsModel::StateColumn, width);
 }
 
+void RowsList::setNameWidth(int width)
+{
+    horizontalHeader()->setSectionResizeMode(RowsModel::NameColumn, QHeaderView::Interactive);
+    horizontalHeader()->setSectionResizeMode(RowsModel::StateColumn, QHeaderView::Stretch);
+    setColumnWidth(RowsModel::NameColumn, width);
+}
+
 void RowsList::dropSort()
 {
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);

@@ -13,7 +13,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int popupWidth = 240;
+constexpr int popupWidth = 260;
 constexpr int pictureSize = 48;
 
 constexpr std::array formats{textKey("script_tool"), textKey("script_sh"), textKey("script_scpt")};

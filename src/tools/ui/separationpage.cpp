@@ -17,7 +17,8 @@
 namespace tessera {
 
 namespace {
-constexpr int failuresHeight = 88;
+constexpr int failuresHeight = 96;
+constexpr int textMargin = 8;
 } // namespace
 
 SeparationPage::SeparationPage(DefaultsController& defaults, QWidget* parent)
@@ -54,6 +55,7 @@ SeparationPage::SeparationPage(DefaultsController& defaults, QWidget* parent)
     failedCopies->setObjectName(QStringLiteral("failedCopies"));
     failedCopies->setAccessibleName(qtTrId("separation_failures"));
     failedCopies->setReadOnly(true);
+    failedCopies->document()->setDocumentMargin(textMargin);
     failedCopies->setTabChangesFocus(true);
     failedCopies->setFixedHeight(failuresHeight);
     failedCopies->hide();

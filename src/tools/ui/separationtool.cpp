@@ -176,7 +176,7 @@ void SeparationTool::conclude(const SeparationCounts& counts)
 void SeparationTool::movefile(const QString& fileName)
 {
     const Separation separation(m_page.rompathTextField1->text(), m_page.movepathTextField->text(), {});
-    if (const auto line = separation.copy(QFile::encodeName(fileName).toStdString(), {}).logLine())
+    if (const auto line = separation.copy(QFile::encodeName(fileName).toStdString()).logLine())
         m_workbench.desktop().log(*line);
 }
 

@@ -22,6 +22,7 @@ namespace {
 constexpr int labelDrop = 4; // to the first box's line
 constexpr int stateWidth = 236;
 constexpr int gap = 12;
+constexpr int textMargin = 8;
 constexpr int listShare = 3;
 constexpr int detailsShare = 2;
 
@@ -51,7 +52,7 @@ VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent
     button_convert2->setObjectName(QStringLiteral("button_convert2"));
     addLine();
     QLabel* label = addRow(qtTrId("verification_verdicts"), makeBoxes(defaults));
-    label->setContentsMargins(0, labelDrop, 0, 0);
+    label->setContentsMargins(label->contentsMargins() + QMargins(0, labelDrop, 0, 0));
     layout()->setAlignment(label, Qt::AlignRight | Qt::AlignTop);
     addLine();
     addWide(makeSets(), 1);
@@ -102,6 +103,7 @@ QWidget* VerificationPage::makeSets()
     setDetails->setAccessibleName(qtTrId("verification_details"));
     setDetails->setPlaceholderText(qtTrId("verification_details"));
     setDetails->setReadOnly(true);
+    setDetails->document()->setDocumentMargin(textMargin);
     setDetails->setTabChangesFocus(true);
     auto* sets = new QWidget(this);
     auto* layout = new QHBoxLayout(sets);
