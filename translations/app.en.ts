@@ -188,7 +188,7 @@
 &lt;p&gt;A click on the picture opens it at its own size; the choice at the right sets the proportions that it is drawn in.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; downloads the picture of the kind that is shown, from the site that you have set on that page. A picture that is there is only replaced after a question.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; shows what history.dat, history.xml and mameinfo.dat tell of the game; choose the files at the foot of its window. &lt;b&gt;Ctrl+Shift+I&lt;/b&gt; opens its page on an information site.&lt;/p&gt;</translation></message>
-    <message id="support_files"><source></source><translation>Pictures and texts</translation></message>
+    <message id="support_files"><source></source><translation>Folders and files</translation></message>
     <message id="main_stopnow"><source></source><translation>Stop</translation></message>
 </context>
 </TS>

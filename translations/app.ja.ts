@@ -188,7 +188,7 @@
 &lt;p&gt;画像をクリックすると原寸で開きます。右側の選択肢で、表示する縦横比を選べます。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; で、表示中の種類の画像を、同じページで指定したサイトからダウンロードします。すでにある画像は、確認なしに置き換えられることはありません。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; で history.dat、history.xml、mameinfo.dat の内容を表示します。ファイルはそのウインドウの下部で選びます。&lt;b&gt;Ctrl+Shift+I&lt;/b&gt; で情報サイトのページを開きます。&lt;/p&gt;</translation></message>
-    <message id="support_files"><source></source><translation>画像とテキスト</translation></message>
+    <message id="support_files"><source></source><translation>フォルダとファイル</translation></message>
     <message id="main_stopnow"><source></source><translation>停止</translation></message>
 </context>
 </TS>

@@ -39,6 +39,7 @@ PicturesPage::PicturesPage(DefaultsController& defaults, QWidget* parent)
     , titlesdownTextField(makeField("titlesdownTextField", qtTrId("pictures_titletemplate")))
     , flyersdownTextField(makeField("flyersdownTextField", qtTrId("pictures_flyertemplate")))
 {
+    addHeading(qtTrId("pictures_heading"), qtTrId("pictures_explanation"));
     addView(defaults);
     addLine();
     addSites(defaults);

@@ -41,9 +41,9 @@ FilesPage::FilesPage(DefaultsController& defaults, PathChooser& chooser, QWidget
         connect(path->chooseButton(), &QPushButton::clicked, &chooser, select);
     };
     add(snapPath, keys::SnapPath, &PathChooser::selectSnapfolder);
-    addRow(QString(), snapProposal);
     add(titlesnapPath, keys::TitlesnapPath, &PathChooser::selectTitlefolder);
     add(flyerPath, keys::GameflyersPath, &PathChooser::selectFryerfolder);
+    addRow(QString(), snapProposal);
     addLine();
     add(historyPath, keys::HistoryPath, &PathChooser::selectHistorybat);
     add(mameinfoPath, keys::MameinfoPath, &PathChooser::selectMameinfobat);
