@@ -19,7 +19,6 @@
 #include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "platform/defaultscontroller.h"
-#include "widgets/bringforward.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -192,10 +191,18 @@ DownloadProcessing& ArtworkDesk::download()
         m_download = std::make_unique<DownloadProcessing>(
             m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
-        connect(m_download.get(), &DownloadProcessing::began, this,
-                [this] { bringForward(downloadPanel()); });
+        connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
     }
     return *m_download;
+}
+
+// The list stays key: the next game is chosen while this one's picture comes.
+void ArtworkDesk::showDownload()
+{
+    DownloadPanel& panel = downloadPanel();
+    panel.setAttribute(Qt::WA_ShowWithoutActivating);
+    panel.show();
+    panel.raise();
 }
 
 DownloadPanel& ArtworkDesk::downloadPanel()

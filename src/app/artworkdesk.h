@@ -83,6 +83,7 @@ private:
     void fillKinds(QMenu& menu);
     void fillFolders(QMenu& menu);
     DownloadPanel& downloadPanel();
+    void showDownload();
     QString parentOf(const QString& name) const;
 
     Tessera_AppDelegate& m_hub;
