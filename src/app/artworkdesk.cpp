@@ -97,20 +97,13 @@ void ArtworkDesk::joinMini(MiniWindow& window)
     window.shotTextField2->setText(m_folder.label());
     show(
         m_mini, *window.imageView, [&mini] { return mini.game(); },
-        [this, &mini] { return parentOf(mini.game()); });
+        [&mini] {
+            const GameRecord* record = mini.record();
+            return record != nullptr ? fieldText((*record)[Field::Cloneof]) : QString();
+        });
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.controller.get(),
             &SnapshotController::showSelection);
     m_mini.controller->showSelection();
-}
-
-// Of a set that was typed.
-QString ArtworkDesk::parentOf(const QString& name) const
-{
-    const std::string set = name.toStdString();
-    const auto records = m_hub.catalogue().records();
-    const auto game = std::ranges::find_if(
-        records, [&](const GameRecord& each) { return !set.empty() && each[Field::Name] == set; });
-    return game == records.end() ? QString() : fieldText((*game)[Field::Cloneof]);
 }
 
 ArtworkDesk::Shown& ArtworkDesk::shown()

@@ -84,7 +84,6 @@ private:
     void fillFolders(QMenu& menu);
     DownloadPanel& downloadPanel();
     void showDownload();
-    QString parentOf(const QString& name) const;
 
     Tessera_AppDelegate& m_hub;
     Desktop& m_desktop;

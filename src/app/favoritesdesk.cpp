@@ -40,8 +40,9 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
 {
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
     connect(&m_controller, &UCAppController::statusMessage, this, &FavoritesDesk::statusMessage);
-    for (const auto& changed : {&Favourites::replaced, &Favourites::appended, &Favourites::removed})
+    for (const auto& changed : {&Favourites::replaced, &Favourites::appended})
         connect(&m_favourites, changed, this, &FavoritesDesk::namesChanged);
+    connect(&m_favourites, &Favourites::removed, this, &FavoritesDesk::namesChanged);
     connect(&m_favourites, &Favourites::putBackAt, this, &FavoritesDesk::namesChanged);
     connect(&m_favourites, &Favourites::valueChanged, this, &FavoritesDesk::namesChanged);
 }
@@ -55,8 +56,9 @@ FavoritesWindow& FavoritesDesk::window()
     m_window = std::make_unique<FavoritesWindow>(m_defaults);
     joinWindow();
     m_controller.setTable(m_window->favoritesTable);
-    m_controller.favorites_tableViewSort();
     m_window->restore();
+    // What the header was sorted by comes back with its columns.
+    m_controller.favorites_tableViewSort();
     m_window->showUnsaved(!m_favourites.undoStack().isClean());
     showCount();
     showSelection();

@@ -8,6 +8,7 @@
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bar.h"
+#include "widgets/plaintooltip.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 #include "widgets/toolbutton.h"
@@ -161,7 +162,7 @@ void FavoritesWindow::showUnsaved(bool unsaved)
 void FavoritesWindow::say(const QString& sentence)
 {
     m_message->setText(sentence);
-    m_message->setToolTip(sentence);
+    m_message->setToolTip(plainToolTip(sentence));
 }
 
 void FavoritesWindow::setRunning(bool running)

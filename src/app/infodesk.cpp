@@ -101,7 +101,6 @@ HistoryWindow& InfoDesk::window()
     if (!m_window) {
         m_window = std::make_unique<HistoryWindow>();
         m_history = std::make_unique<HistoryObject>(m_desktop, m_defaults, *m_window);
-        connect(m_history.get(), &HistoryObject::statusMessage, this, &InfoDesk::statusMessage);
         m_made(*m_window);
         m_history->awakeFromNib();
     }

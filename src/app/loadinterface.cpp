@@ -160,6 +160,7 @@ void Tessera_AppDelegate::joinRooms()
     connect(m_profiles.get(), &ProfileCache::answered, this, [this] {
         if (m_favorites->editing().isMade())
             offerKnownOptions();
+        m_favorites->editing().showSelection();
         m_commands->showLine();
     });
     connect(m_tableFont.get(), &TableFont::statusMessage, m_mainWindow.get(), &MainWindow::say);
@@ -199,6 +200,8 @@ void Tessera_AppDelegate::joinRooms()
 void Tessera_AppDelegate::joinViews()
 {
     connect(m_runs.get(), &RunController::started, &m_favorites->played(), &PlayedController::notePlayed);
+    connect(m_launch.get(), &LaunchController::handedOver, &m_favorites->played(),
+            &PlayedController::notePlayed);
     connect(&m_finding->roms(), &RomWatcher::changed, &m_favorites->controller(),
             [this] { m_favorites->controller().setRomFolders(m_finding->roms().folders()); });
     connect(m_favorites.get(), &FavoritesDesk::namesChanged, m_finding.get(),
@@ -256,7 +259,6 @@ void Tessera_AppDelegate::joinInfo()
     m_info = std::make_unique<InfoDesk>(*this, m_desktop, m_defaults,
                                         [this](HistoryWindow& window) { takeHistoryWindow(window); });
     m_info->addContextMenu(*m_mainWindow->gameTable, KeyWindow::Kind::Main);
-    connect(m_info.get(), &InfoDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
     m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
 }
@@ -369,6 +371,8 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     });
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
     joinWindow(window, KeyWindow::Kind::Favorites, keys::FavoritesWindowGeometry.name.data());
+    // It is shown in the main window's place, if not in its own.
+    m_places.restore(window);
 }
 
 void Tessera_AppDelegate::joinMiniWindow()

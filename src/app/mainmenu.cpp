@@ -4,6 +4,7 @@
 #include "app/tessera_appdelegate.h"
 #include "catalogue/ui/gametableview.h"
 #include "platform/recentdocuments.h"
+#include "widgets/plaintooltip.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -123,7 +124,7 @@ void fillRecent(QMenu& menu, Tessera_AppDelegate& delegate)
         // An ampersand in a file name is no mnemonic.
         QAction* action
             = menu.addAction(QFileInfo(path).fileName().replace(QLatin1Char('&'), QStringLiteral("&&")));
-        action->setToolTip(path);
+        action->setToolTip(plainToolTip(path));
         QObject::connect(action, &QAction::triggered, &delegate,
                          [&delegate, path] { delegate.application_openFile(path); });
     }
@@ -144,8 +145,11 @@ void addColumnsMenu(QMenu& viewMenu, Tessera_AppDelegate& delegate)
 {
     auto* columns = new QMenu(qtTrId("menu_columns"), &viewMenu);
     viewMenu.addMenu(columns);
-    QObject::connect(columns, &QMenu::aboutToShow, &delegate,
-                     [columns, &delegate] { delegate.mainWindow().gameTable->fillColumnsMenu(*columns); });
+    QObject::connect(columns, &QMenu::aboutToShow, &delegate, [columns, &delegate] {
+        columns->clear();
+        if (GameTableView* table = delegate.listOfKeyWindow())
+            table->fillColumnsMenu(*columns);
+    });
 }
 
 void addPlayedSwitch(QMenu& gameMenu, Tessera_AppDelegate& delegate)

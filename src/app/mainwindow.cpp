@@ -10,6 +10,7 @@
 #include "catalogue/ui/searchfield.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bar.h"
+#include "widgets/plaintooltip.h"
 #include "widgets/splitview_custom.h"
 #include "widgets/theme.h"
 #include "widgets/toolbutton.h"
@@ -185,7 +186,7 @@ void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList
 void MainWindow::say(const QString& sentence)
 {
     m_message->setText(sentence);
-    m_message->setToolTip(sentence);
+    m_message->setToolTip(plainToolTip(sentence));
 }
 
 void MainWindow::showEmulator(const QString& text)

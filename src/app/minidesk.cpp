@@ -25,6 +25,8 @@ MiniDesk::MiniDesk(Catalogue& catalogue, GameFinder& finder, DefaultsController&
     , m_finder(finder)
     , m_defaults(defaults)
 {
+    connect(&catalogue, &Catalogue::replaced, this, &MiniDesk::showTitle);
+    connect(&catalogue, &Catalogue::recordChanged, this, &MiniDesk::showTitle);
 }
 
 MiniDesk::~MiniDesk() = default;
@@ -72,13 +74,21 @@ void MiniDesk::suggest(const QString& text)
     m_window->suggest(suggestions);
 }
 
-void MiniDesk::showTitle(const QString& set)
+const GameRecord* MiniDesk::record() const
 {
-    const std::string name = set.toStdString();
+    const std::string name = game().toStdString();
     const auto records = m_catalogue.records();
-    const auto game = std::ranges::find_if(
+    const auto found = std::ranges::find_if(
         records, [&](const GameRecord& each) { return !name.empty() && each[Field::Name] == name; });
-    m_window->showTitle(game == records.end() ? QString() : fieldText((*game)[Field::Title]));
+    return found == records.end() ? nullptr : &*found;
+}
+
+void MiniDesk::showTitle()
+{
+    if (!m_window)
+        return;
+    const GameRecord* shown = record();
+    m_window->showTitle(shown != nullptr ? fieldText((*shown)[Field::Title]) : QString());
 }
 
 void MiniDesk::setAbove(bool above)

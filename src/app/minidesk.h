@@ -12,6 +12,7 @@ namespace tessera {
 class Catalogue;
 class DefaultsController;
 class GameFinder;
+struct GameRecord;
 class MiniWindow;
 
 /// Joins the mini window to the catalogue: what is suggested, and the title of the set in its field.
@@ -28,6 +29,8 @@ public:
     MiniWindow& window();
     /// The text of its field.
     QString game() const;
+    /// Its record; null where the catalogue has none.
+    const GameRecord* record() const;
     void setGame(const QString& set);
     /// Names the kind of emulator.
     void setEmulator(const QString& title);
@@ -37,7 +40,7 @@ Q_SIGNALS:
 
 private:
     void suggest(const QString& text);
-    void showTitle(const QString& set);
+    void showTitle();
     void setAbove(bool above);
 
     Catalogue& m_catalogue;

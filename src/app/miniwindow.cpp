@@ -4,6 +4,7 @@
 #include "widgets/rounded_view2.h"
 #include "widgets/toolbutton.h"
 
+#include <QCloseEvent>
 #include <QCompleter>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -126,6 +127,12 @@ void MiniWindow::suggest(const QList<Suggestion>& suggestions)
 void MiniWindow::showTitle(const QString& title)
 {
     m_title->setText(title);
+}
+
+void MiniWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    orderOut();
 }
 
 void MiniWindow::setEmulator(const QString& title)

@@ -45,6 +45,10 @@ public:
 Q_SIGNALS:
     void playRequested();
 
+protected:
+    /// As its own button: another window takes its place.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     QLayout* makePicture();
     QLayout* makeHead();

@@ -7,6 +7,7 @@
 #include "app/commandsdesk.h"
 #include "app/emptystate.h"
 #include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
 #include "app/finding.h"
 #include "app/helpwindow.h"
 #include "app/infodesk.h"
@@ -28,6 +29,7 @@
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/searchfield.h"
 #include "catalogue/ui/tablefont.h"
+#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "launch/emulatortask.h"
@@ -205,6 +207,8 @@ void Tessera_AppDelegate::settingChanged(const QString& name)
         showEmulator();
     if (name == keys::BuiltFrom.name)
         m_mainWindow->offerRebuild(m_rebuild->isOutdated());
+    // Its command line is made from the settings.
+    m_favorites->editing().showSelection();
 }
 
 void Tessera_AppDelegate::showEmulator()
@@ -227,26 +231,31 @@ void Tessera_AppDelegate::saveAction()
         m_desktop.presentError(saved.error().text(), QString(), {});
 }
 
+// While a catalogue is built, edits of the old one stay as they are.
+QUndoStack* Tessera_AppDelegate::editedStack()
+{
+    QUndoStack* stack = m_keyCommands->undoStack();
+    return stack == &m_catalogue.undoStack() && m_rebuild->isRunning() ? nullptr : stack;
+}
+
 void Tessera_AppDelegate::undo()
 {
-    if (m_rebuild->isRunning())
-        return;
     m_favorites->controller().commitEditing();
-    m_keyCommands->undoStack()->undo();
+    if (QUndoStack* stack = editedStack())
+        stack->undo();
 }
 
 void Tessera_AppDelegate::redo()
 {
-    if (m_rebuild->isRunning())
-        return;
     m_favorites->controller().commitEditing();
-    m_keyCommands->undoStack()->redo();
+    if (QUndoStack* stack = editedStack())
+        stack->redo();
 }
 
 void Tessera_AppDelegate::editCell()
 {
-    if (!m_rebuild->isRunning())
-        m_mainWindow->gameTable->edit(m_mainWindow->gameTable->currentIndex());
+    if (GameTableView* table = listOfKeyWindow(); table != nullptr && !m_rebuild->isRunning())
+        table->edit(table->currentIndex());
 }
 
 void Tessera_AppDelegate::copySelection()
@@ -256,8 +265,20 @@ void Tessera_AppDelegate::copySelection()
         text->copy();
     else if (auto* label = qobject_cast<QLabel*>(focused); label != nullptr && label->hasSelectedText())
         QGuiApplication::clipboard()->setText(label->selectedText());
-    else if (m_mainWindow->isActiveWindow())
-        m_mainWindow->gameTable->copySelection();
+    else if (const GameTableView* table = listOfKeyWindow())
+        table->copySelection();
+}
+
+GameTableView* Tessera_AppDelegate::listOfKeyWindow()
+{
+    switch (keyWindow()) {
+    case KeyWindow::Kind::Main:
+        return m_mainWindow->gameTable;
+    case KeyWindow::Kind::Favorites:
+        return m_favorites->window().favoritesTable;
+    default:
+        return nullptr;
+    }
 }
 
 void Tessera_AppDelegate::showPredicatePanel()
@@ -267,10 +288,13 @@ void Tessera_AppDelegate::showPredicatePanel()
 
 void Tessera_AppDelegate::focusSearch()
 {
-    if (m_info->isKey())
+    if (m_info->isKey()) {
         m_info->window().findField->setFocus(Qt::ShortcutFocusReason);
-    else
-        m_finding->focusSearch();
+        return;
+    }
+    if (!m_mainWindow->isVisible())
+        windowMain();
+    m_finding->focusSearch();
 }
 
 void Tessera_AppDelegate::showAllGames()

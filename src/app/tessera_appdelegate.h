@@ -24,6 +24,7 @@ class Desktop;
 class EmulatorTask;
 class FavoritesDesk;
 class GameListController;
+class GameTableView;
 class Finding;
 class HelpWindow;
 class HistoryWindow;
@@ -94,6 +95,8 @@ public:
     ArtworkDesk& artwork() { return *m_artwork; }
     MiniDesk& mini() { return *m_mini; }
     KeyWindow::Kind keyWindow() const;
+    /// The list of the key window; null where it has none.
+    GameTableView* listOfKeyWindow();
     TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     /// The path of the emulator that is used; empty where none is chosen or found.
@@ -197,6 +200,7 @@ private:
     void showEmulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
+    QUndoStack* editedStack();
     void forgetRecording();
 
     Desktop& m_desktop;

@@ -22,15 +22,24 @@ void WindowPlaces::keep(QWidget& window, const char* key)
 
 bool WindowPlaces::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() == QEvent::Show) {
-        const auto place
-            = std::ranges::find(m_places, object, [](const Place& each) -> QObject* { return each.window; });
-        if (place != m_places.end() && !std::exchange(place->wasShown, true)) {
-            if (const auto geometry = m_defaults.value(QLatin1StringView(place->key)))
-                place->window->restoreGeometry(geometry->toByteArray());
-        }
-    }
+    if (event->type() == QEvent::Show)
+        takeUp(*object);
     return QObject::eventFilter(object, event);
+}
+
+void WindowPlaces::restore(QWidget& window)
+{
+    takeUp(window);
+}
+
+void WindowPlaces::takeUp(const QObject& window)
+{
+    const auto place = std::ranges::find(m_places, &window,
+                                         [](const Place& each) -> const QObject* { return each.window; });
+    if (place == m_places.end() || std::exchange(place->wasShown, true))
+        return;
+    if (const auto geometry = m_defaults.value(QLatin1StringView(place->key)))
+        place->window->restoreGeometry(geometry->toByteArray());
 }
 
 void WindowPlaces::remember()

@@ -20,6 +20,8 @@ public:
 
     /// The window outlives this. Its place is taken up when it is first shown.
     void keep(QWidget& window, const char* key);
+    /// Its place is taken up now, for a window that is placed before it is shown.
+    void restore(QWidget& window);
     /// Stores the places of those that were shown.
     void remember();
 
@@ -31,6 +33,8 @@ private:
         const char* key;
         bool wasShown = false;
     };
+
+    void takeUp(const QObject& window);
 
     UserDefaults& m_defaults;
     std::vector<Place> m_places;

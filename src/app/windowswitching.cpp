@@ -9,7 +9,9 @@ namespace {
 // Also where it fills the screen.
 void takePlace(QWidget& window, const QWidget& from)
 {
-    window.setGeometry(from.geometry());
+    const bool fills = from.windowState().testAnyFlags(Qt::WindowMaximized | Qt::WindowFullScreen);
+    const QRect normal = from.normalGeometry();
+    window.setGeometry(fills && normal.isValid() ? normal : from.geometry());
     window.setWindowState(from.windowState() & ~Qt::WindowMinimized);
 }
 

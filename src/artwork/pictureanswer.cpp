@@ -103,11 +103,11 @@ QString lastComponent(const QUrl& url)
 
 } // namespace
 
-bool isPictureAnswer(int status, QByteArrayView contentType)
+bool isPictureAnswer(QByteArrayView contentType)
 {
     constexpr QLatin1StringView image("image/");
     const auto type = QLatin1StringView(contentType).trimmed();
-    return status >= 200 && status < 300 && type.startsWith(image, Qt::CaseInsensitive);
+    return type.startsWith(image, Qt::CaseInsensitive);
 }
 
 double expectedLength(QByteArrayView contentLength)
@@ -134,7 +134,9 @@ bool startsLikeImage(QByteArrayView content)
 
 std::optional<QString> pictureFileName(const QByteArray& contentDisposition, const QUrl& url)
 {
-    for (const QString& name : {reduced(suggestedName(contentDisposition)), reduced(lastComponent(url))}) {
+    const QString asked = lastComponent(url);
+    // The set's own name stays as it is, where that is possible.
+    for (const QString& name : {reduced(suggestedName(contentDisposition)), asked, reduced(asked)}) {
         if (isPlainFileName(name))
             return name;
     }

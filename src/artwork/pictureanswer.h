@@ -15,7 +15,7 @@ inline constexpr qint64 largestPicture = qint64{64} << 20;
 
 /// Whether a server's answer is a picture, by its status and the type of its content. The page that is sent
 /// in place of a missing picture is none, whatever it looks like.
-bool isPictureAnswer(int status, QByteArrayView contentType);
+bool isPictureAnswer(QByteArrayView contentType);
 
 /// The number of bytes that follow, or unknownLength.
 double expectedLength(QByteArrayView contentLength);

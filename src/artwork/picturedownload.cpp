@@ -112,7 +112,7 @@ void PictureDownload::takeAnswer()
         return;
     m_job->isAnswered = true;
     m_job->expected = expectedLength(reply.rawHeader("Content-Length"));
-    if (!isPictureAnswer(status, reply.rawHeader("Content-Type"))
+    if (!isPictureAnswer(reply.rawHeader("Content-Type"))
         || m_job->expected > static_cast<double>(m_limits.length))
         return refuse();
     const std::weak_ptr<Job> job = m_job;
@@ -173,8 +173,8 @@ void PictureDownload::end()
         return;
     if (m_job->isTooLarge)
         return refuse();
-    if (m_job->reply->error() != QNetworkReply::NoError)
-        return fail(reasonOfError());
+    if (const auto reason = reasonOfError())
+        return fail(*reason);
     // A status that leads nowhere.
     if (!m_job->file)
         return refuse();
@@ -241,9 +241,15 @@ void PictureDownload::failFile()
     fail(Failure{"failure_write", {file.fileName(), file.errorString()}}.text());
 }
 
-QString PictureDownload::reasonOfError() const
+// A status that tells of an error is none where a picture came with it.
+std::optional<QString> PictureDownload::reasonOfError() const
 {
     const QNetworkReply& reply = *m_job->reply;
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const qint64 whole = m_job->length + reply.bytesAvailable();
+    const bool isWhole = m_job->expected == unknownLength || static_cast<double>(whole) == m_job->expected;
+    if (reply.error() == QNetworkReply::NoError || (status >= 400 && m_job->file && isWhole))
+        return std::nullopt;
     // Nobody else ends a reply early without being heard.
     if (reply.error() == QNetworkReply::OperationCanceledError)
         return Failure{"download_silent", {reply.url().host()}}.text();

@@ -66,7 +66,7 @@ private:
     void refuse();
     void fail(const QString& reason);
     void failFile();
-    QString reasonOfError() const;
+    std::optional<QString> reasonOfError() const;
     void stop();
 
     MayReplace m_mayReplace;

@@ -168,7 +168,7 @@ void Favourites::takeOut(std::span<const std::uint32_t> places)
         records.erase(records.begin() + place);
     }
     m_records.swap(records);
-    Q_EMIT removed();
+    Q_EMIT removed({places.begin(), places.end()});
 }
 
 } // namespace tessera

@@ -56,8 +56,8 @@ Q_SIGNALS:
     void valueChanged(std::uint32_t favourite, FavouriteKey key);
     /// One more, behind the others.
     void appended();
-    /// Favourites are gone; the others stand together now.
-    void removed();
+    /// Those at these indexes, rising, are gone; the others stand together now.
+    void removed(const std::vector<std::uint32_t>& favourites);
     /// Removed ones are back, at these indexes, rising.
     void putBackAt(const std::vector<std::uint32_t>& favourites);
 

@@ -91,8 +91,6 @@ private Q_SLOTS:
         QTest::newRow("a page") << answer("200 OK\r\nContent-Type: text/html", page);
         QTest::newRow("a page that is not found") << answer("404 Not Found\r\nContent-Type: text/html", page);
         QTest::newRow("not found, with nothing") << answer("404 Not Found", {});
-        QTest::newRow("not found, with a picture")
-            << answer("404 Not Found\r\nContent-Type: image/png", picture);
         QTest::newRow("a server's error") << answer("500 Oops\r\nContent-Type: text/plain", page);
         QTest::newRow("a password is wanted")
             << answer("401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\nContent-Type: text/html", page);
@@ -116,6 +114,22 @@ private Q_SLOTS:
         QCOMPARE(m_said.filter(QStringLiteral("finished")), QStringList());
         QCOMPARE(names(), QStringList());
         QVERIFY(!m_download->isUnderWay());
+    }
+
+    void thePicturesTypeCountsNotTheStatus()
+    {
+        serve(ScriptedServer::answer("404 Not Found\r\nContent-Type: image/png", picture));
+        run();
+        QCOMPARE(m_said.constLast(), QStringLiteral("finished 100"));
+        QCOMPARE(content("pong.png"), picture);
+    }
+
+    void aCutOffPictureOfAnErrorIsNone()
+    {
+        serve("HTTP/1.1 404 Not Found\r\nContent-Type: image/png\r\nContent-Length: 1000\r\n\r\n" + picture);
+        run();
+        QVERIFY2(m_said.constLast().startsWith(QStringLiteral("failed")), qPrintable(m_said.constLast()));
+        QCOMPARE(names(), QStringList());
     }
 
     void whatIsTooLargeIsRefused_data()

@@ -19,24 +19,29 @@ struct AskedFile {
     QLatin1StringView missing;
 };
 
-// Null where neither an option nor a setting names a file. Nothing after a failure, which has been told.
-std::optional<std::unique_ptr<InfoFile>> fileFor(const AskedFile& asked, const QCommandLineParser& parser)
+/// Null where neither an option nor a setting names a file, or after a failure, which has been told.
+struct Read {
+    std::unique_ptr<InfoFile> file;
+    bool hasFailed = false;
+};
+
+Read fileFor(const AskedFile& asked, const QCommandLineParser& parser)
 {
     const QString path = parser.isSet(asked.option)
         ? parser.value(asked.option)
         : UserDefaults(UserDefaults::standardPath()).string(asked.key);
     if (path.isEmpty())
-        return nullptr;
+        return {};
     if (!QFileInfo::exists(path)) {
         missing(QLatin1StringView(asked.missing.data(), asked.missing.indexOf(u'\r')), path);
-        return std::nullopt;
+        return {nullptr, true};
     }
     auto file = InfoFile::read(path);
     if (!file) {
         warn(file.error());
-        return std::nullopt;
+        return {nullptr, true};
     }
-    return std::make_unique<InfoFile>(*std::move(file));
+    return {std::make_unique<InfoFile>(*std::move(file))};
 }
 
 } // namespace
@@ -54,17 +59,15 @@ int runHistory(const Verb& verb, const QStringList& arguments)
         print(historytexts::noName);
         return Done;
     }
-    const auto historyFile = fileFor({history, keys::HistoryPath.name, historytexts::historyMissing}, parser);
-    const auto infoFile = fileFor({mameinfo, keys::MameinfoPath.name, historytexts::infoMissing}, parser);
-    if (!historyFile || !infoFile)
-        return Failed;
-    const HistoryText shown = historyText({historyFile->get(), infoFile->get()}, name);
+    const Read historyFile = fileFor({history, keys::HistoryPath.name, historytexts::historyMissing}, parser);
+    const Read infoFile = fileFor({mameinfo, keys::MameinfoPath.name, historytexts::infoMissing}, parser);
+    const HistoryText shown = historyText({historyFile.file.get(), infoFile.file.get()}, name);
     if (!printBytes(shown.text))
         return failed(Failure{"failure_write",
                               {QStringLiteral("stdout"), QString::fromLocal8Bit(std::strerror(errno))}});
     if (shown.filedUnder)
         refuse(Failure{"history_filed_under", {QString::fromStdString(*shown.filedUnder)}}.text());
-    return Done;
+    return historyFile.hasFailed || infoFile.hasFailed ? Failed : Done;
 }
 
 } // namespace tessera

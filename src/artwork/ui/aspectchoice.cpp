@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QMenu>
 
+#include <algorithm>
 #include <array>
 
 namespace tessera {

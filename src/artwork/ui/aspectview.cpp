@@ -2,6 +2,7 @@
 
 #include "artwork/aspectratios.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/theme.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -9,13 +10,6 @@
 #include <QStyleOption>
 
 namespace tessera {
-
-namespace {
-
-constexpr int border = 1;
-constexpr double cornerRadius = 5;
-
-} // namespace
 
 AspectView::AspectView(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent)
@@ -52,10 +46,8 @@ void AspectView::setImage(const QImage& image)
 
 QRect AspectView::drawnRect() const
 {
-    const QRectF inside = QRectF(rect()).adjusted(border, border, -border, -border);
     const double ratio = devicePixelRatioF();
-    const auto place
-        = picturePlace(m_image.size(), QRectF(inside.topLeft() * ratio, inside.size() * ratio), rationum());
+    const auto place = picturePlace(m_image.size(), QRectF(QPointF(), QSizeF(size()) * ratio), rationum());
     if (!place)
         return {};
     const QRectF drawn
@@ -82,18 +74,26 @@ void AspectView::paintEvent(QPaintEvent*)
     QStyleOption option;
     option.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
-    const QRect drawn = drawnRect();
-    if (drawn.isEmpty())
-        return;
+    if (const QRect drawn = drawnRect(); !drawn.isEmpty())
+        drawPicture(painter, drawn);
+    // The picture covers the view's own border.
+    if (hasFocus()) {
+        painter.setPen(theme::color("accent"));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void AspectView::drawPicture(QPainter& painter, const QRect& drawn)
+{
     const double ratio = devicePixelRatioF();
     QTransform transform;
     transform.scale(1 / ratio, 1 / ratio);
     transform.translate(drawn.x(), drawn.y());
+    painter.save();
     painter.setTransform(transform, true);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(scaled(drawn.size()));
-    painter.drawRoundedRect(QRectF(QPointF(), drawn.size()), cornerRadius * ratio, cornerRadius * ratio);
+    painter.drawPixmap(0, 0, scaled(drawn.size()));
+    painter.restore();
 }
 
 void AspectView::mousePressEvent(QMouseEvent* event)

@@ -41,6 +41,7 @@ protected:
 
 private:
     bool hasWholeSteps() const;
+    void drawPicture(QPainter& painter, const QRect& drawn);
     const QPixmap& scaled(QSize size);
     void settingChanged(const QString& name);
 

@@ -59,6 +59,7 @@ void DownloadProcessing::cancel()
 void DownloadProcessing::begin(const QUrl& url)
 {
     DownloadPanel& panel = m_downloadPanel();
+    panel.setPercent(0);
     panel.setIndeterminate(true);
     panel.setRunning(true);
     panel.folderLabel->setText(m_folder.snappath());
@@ -78,10 +79,10 @@ void DownloadProcessing::takeAnswer(double expectedLength)
 void DownloadProcessing::takeData(double length)
 {
     m_lDlLength = length;
-    m_dlPercent = m_lDlLength / m_lExLength * 100;
     const auto text = downloadtexts::received(m_lDlLength, m_lExLength);
     if (!text)
         return;
+    m_dlPercent = downloadPercent(m_lDlLength, m_lExLength).value_or(0);
     m_downloadPanel().setPercent(m_dlPercent);
     say(*text);
 }
@@ -136,7 +137,6 @@ void DownloadProcessing::rest()
 {
     DownloadPanel& panel = m_downloadPanel();
     panel.setIndeterminate(false);
-    panel.setPercent(0);
     panel.setRunning(false);
     m_downloadstate = false;
 }

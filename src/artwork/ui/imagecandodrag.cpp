@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace tessera {
 
 ImageCandoDrag::ImageCandoDrag(QWidget* parent)
@@ -25,7 +27,8 @@ void ImageCandoDrag::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     // Whole pixels stay as sharp as they are.
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, place->scaleX != std::floor(place->scaleX));
+    const auto scale = static_cast<double>(place->scaleX) * devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
     painter.drawImage(place->rectangle(m_image.size()), m_image);
 }
 

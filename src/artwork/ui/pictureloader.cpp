@@ -10,10 +10,18 @@ namespace {
 
 constexpr int mostKept = 48 * 1024; // kilobytes
 
+QImage withinSize(const QImage& image, QSize most)
+{
+    const bool isLarger = image.width() > most.width() || image.height() > most.height();
+    return isLarger && !most.isEmpty() ? image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                                       : image;
+}
+
 } // namespace
 
-PictureLoader::PictureLoader(QObject* parent)
+PictureLoader::PictureLoader(QSize most, QObject* parent)
     : QObject(parent)
+    , m_most(most)
     , m_kept(mostKept)
 {
     m_pool.setMaxThreadCount(1);
@@ -40,7 +48,7 @@ void PictureLoader::load(const QString& path)
 void PictureLoader::read(const QString& path)
 {
     m_isReading = true;
-    m_pool.start([this, path] {
+    m_pool.start([this, path, most = m_most] {
         // Before it is read: what is written meanwhile makes it another file.
         const QFileInfo file(path);
         const QDateTime changed = file.lastModified();
@@ -48,7 +56,7 @@ void PictureLoader::read(const QString& path)
         const auto picture = readPicture(path);
         QMetaObject::invokeMethod(
             this,
-            [this, path, changed, length, image = picture.value_or(QImage()),
+            [this, path, changed, length, image = picture ? withinSize(*picture, most) : QImage(),
              reason = picture ? QString() : picture.error().text()] {
                 take(path, changed, length, image, reason);
             },

@@ -15,7 +15,8 @@ class PictureLoader : public QObject
     Q_OBJECT
 
 public:
-    explicit PictureLoader(QObject* parent = nullptr);
+    /// A picture that is larger is given in this size at most; an empty size is no limit.
+    explicit PictureLoader(QSize most = {}, QObject* parent = nullptr);
     ~PictureLoader() override;
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
@@ -41,6 +42,7 @@ private:
     void take(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
               const QString& reason);
 
+    QSize m_most;
     QString m_wanted; ///< the last that was asked for; empty once it has been told of
     bool m_isReading = false;
     QCache<QString, Kept> m_kept; ///< costs in kilobytes

@@ -1,11 +1,14 @@
 #include "artwork/ui/picturereader.h"
 
+#include <QByteArrayList>
 #include <QFileInfo>
 #include <QImageReader>
 
 namespace tessera {
 
 namespace {
+
+const QByteArrayList formats{"png", "jpeg", "gif", "bmp", "webp"};
 
 bool isTooLarge(QSize size)
 {
@@ -22,6 +25,9 @@ std::expected<QImage, Failure> readPicture(const QString& path)
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
+    // Not what could take any time, or reads other files, to be drawn.
+    if (!formats.contains(reader.format()))
+        return std::unexpected(Failure{"picture_unreadable", {path, reader.errorString()}});
     if (isTooLarge(reader.size()))
         return std::unexpected(
             Failure{"picture_toolarge",

@@ -12,8 +12,7 @@ namespace tessera {
 /// pixels of four bytes.
 inline constexpr qint64 mostPixels = qint64{32} << 20;
 
-/// A picture as it is drawn; of any format that the image library knows, told by its content. It may take its
-/// time.
+/// A picture as it is drawn; its content tells which of the usual formats it has. It may take its time.
 std::expected<QImage, Failure> readPicture(const QString& path);
 
 } // namespace tessera

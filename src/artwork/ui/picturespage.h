@@ -19,9 +19,6 @@ class PicturesPage : public FormPage
 public:
     explicit PicturesPage(DefaultsController& defaults, QWidget* parent = nullptr);
 
-    /// The title of the user's own site.
-    static constexpr QLatin1StringView ownSite{"Other site"};
-
     QComboBox* screenfolderPop; ///< the kind that is shown
     QCheckBox* checkboxSuppress;
     QCheckBox* wholeStepsBox;

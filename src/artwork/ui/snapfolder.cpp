@@ -4,6 +4,8 @@
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
+#include <algorithm>
+
 namespace tessera {
 
 SnapFolder::SnapFolder(Desktop& desktop, DefaultsController& defaults, QObject* parent)

@@ -5,6 +5,7 @@
 #include "artwork/ui/snapfolder.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+#include "widgets/plaintooltip.h"
 
 #include <QFileInfo>
 
@@ -13,6 +14,8 @@ namespace tessera {
 namespace {
 
 constexpr int patience = 250; // milliseconds
+// What a view needs at most: to draw it, a larger one would be made smaller again and again.
+constexpr QSize mostShown(2048, 2048);
 constexpr QLatin1StringView noImage(":/pictures/No_image.jpg");
 
 } // namespace
@@ -20,6 +23,7 @@ constexpr QLatin1StringView noImage(":/pictures/No_image.jpg");
 SnapshotController::SnapshotController(SnapshotParts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
+    , m_loader(mostShown)
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(patience);
@@ -42,8 +46,9 @@ void SnapshotController::Setsnapshot(const QString& name)
     const auto found = findPicture(wanted, FoldersOnDisk());
     m_snapimag = found ? found->path : QString(noImage);
     m_parts.view.setAccessibleDescription(found ? m_snapimag : qtTrId("picture_nopicture"));
-    m_parts.view.setToolTip(found && found->isOfParent ? qtTrId("picture_ofparent").arg(*wanted.parent)
-                                                       : QString());
+    m_parts.view.setToolTip(found && found->isOfParent
+                                ? plainToolTip(qtTrId("picture_ofparent").arg(*wanted.parent))
+                                : QString());
     m_patience.start();
     m_loader.load(m_snapimag);
 }
@@ -55,10 +60,13 @@ void SnapshotController::show(const QString&, const QImage& image)
 }
 
 // The path stays: it is what the set has.
-void SnapshotController::showBroken(const QString&, const QString& reason)
+void SnapshotController::showBroken(const QString& path, const QString& reason)
 {
+    m_patience.stop();
+    if (path == noImage)
+        return m_parts.view.setImage(QImage());
     m_parts.view.setAccessibleDescription(reason);
-    m_parts.view.setToolTip(reason);
+    m_parts.view.setToolTip(plainToolTip(reason));
     Q_EMIT statusMessage(reason);
     m_loader.load(noImage);
 }

@@ -7,6 +7,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace tessera {
 
 namespace {
@@ -53,18 +55,17 @@ QString SnapSites::templateOf(int kind) const
     return isKind ? m_templates[static_cast<std::size_t>(kind)] : QString();
 }
 
-// The title of the selected item; without a page its position says the same.
+// What the pop-up shows: its item at this position has the own site's title.
 bool SnapSites::isOwnSite() const
 {
-    return m_page ? m_page->snapdownsitePop->currentText() == PicturesPage::ownSite
-                  : m_defaults.index(keys::Snapdownsite) == ownPictureSite;
+    return m_defaults.index(keys::Snapdownsite) == ownPictureSite;
 }
 
 void SnapSites::snapdownsiteAction()
 {
-    const int index = isOwnSite() ? ownPictureSite : m_defaults.index(keys::Snapdownsite);
     if (const auto templates
-        = pictureTemplates(index, [this](const ChosenKey& key) { return m_defaults.text(key); }))
+        = pictureTemplates(m_defaults.index(keys::Snapdownsite),
+                           [this](const ChosenKey& key) { return m_defaults.text(key); }))
         m_templates = *templates;
     showTemplates();
 }

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "artwork/picturesites.h"
+
 #include <QObject>
 #include <QPointer>
-
-#include <array>
-
-class QLineEdit;
 
 namespace tessera {
 
@@ -39,7 +37,7 @@ private:
 
     DefaultsController& m_defaults;
     QPointer<PicturesPage> m_page;
-    std::array<QString, 3> m_templates;
+    PictureTemplates m_templates;
 };
 
 } // namespace tessera

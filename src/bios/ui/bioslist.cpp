@@ -4,6 +4,7 @@
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
 #include "core/atomicfile.h"
+#include "core/keptcopy.h"
 #include "launch/growingitems.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
@@ -16,6 +17,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -41,12 +43,12 @@ Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
 {
     BiosPanel& panel = m_parts.panel;
     connect(panel.biosView, &QTreeView::doubleClicked, this, &Bioslist::tableViewDoubleAction);
-    connect(panel.biosView, &QTreeView::activated, this, [this](const QModelIndex&) {
-        // Return; a double click has its own signal.
-        if (QGuiApplication::mouseButtons() == Qt::NoButton)
-            tableViewDoubleAction();
-    });
-    connect(panel.biosView->selectionModel(), &QItemSelectionModel::currentChanged, this,
+    // Not the view's activation: on some desktops that is a single click.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, panel.biosView, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, &Bioslist::tableViewDoubleAction);
+    }
+    connect(panel.biosView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Bioslist::outlineViewSelectionDidChange);
     connect(panel.treeController_list, &BiosModel::edited, this, &Bioslist::saveAction);
     connect(panel.treeController_list, &BiosModel::dataChanged, this,
@@ -75,9 +77,28 @@ void Bioslist::awakeFromNib()
         m_parts.panel.treeController_list->setEntries(*entries);
     } else {
         m_parts.desktop.log(entries.error().text());
+        keepBroken(path);
     }
     m_parts.panel.expandAll();
     outlineViewSelectionDidChange();
+}
+
+// The next edit would write over it.
+void Bioslist::keepBroken(const QString& path)
+{
+    if (path != m_parts.ownFile)
+        return;
+    const auto kept = keepAs(path, datedName(path, m_parts.desktop.now()));
+    m_isWritable = kept.has_value();
+    if (!kept)
+        m_parts.desktop.log(kept.error().text());
+    if (const auto shipped = readBiosEntries(shippedFile))
+        m_parts.panel.treeController_list->setEntries(*shipped);
+}
+
+QModelIndex Bioslist::selected() const
+{
+    return m_parts.panel.biosView->selectionModel()->selectedRows().value(0);
 }
 
 void Bioslist::ViewBiosList()
@@ -105,7 +126,7 @@ QIcon Bioslist::iconOf(const BiosEntry& entry) const
 void Bioslist::outlineViewSelectionDidChange()
 {
     const BiosModel& list = *m_parts.panel.treeController_list;
-    const QModelIndex current = m_parts.panel.biosView->currentIndex();
+    const QModelIndex current = selected();
     const auto entry = list.entry(current);
     const auto fixed = list.fixedRow(current);
     QLabel& text = *m_parts.panel.text_infomation;
@@ -122,7 +143,7 @@ void Bioslist::outlineViewSelectionDidChange()
 
 void Bioslist::tableViewDoubleAction()
 {
-    const auto entry = m_parts.panel.treeController_list->entry(m_parts.panel.biosView->currentIndex());
+    const auto entry = m_parts.panel.treeController_list->entry(selected());
     if (!entry)
         return;
     QComboBox& popup = m_parts.popup_bios;
@@ -138,6 +159,8 @@ void Bioslist::tableViewDoubleAction()
 
 void Bioslist::saveAction()
 {
+    if (!m_isWritable)
+        return;
     const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries());
     if (!xml) {
         m_parts.desktop.log(xml.error().text());
@@ -158,21 +181,19 @@ void Bioslist::addEntry()
 
 void Bioslist::removeEntry()
 {
-    if (!m_parts.panel.treeController_list->remove(m_parts.panel.biosView->currentIndex()))
+    if (!m_parts.panel.treeController_list->remove(selected()))
         m_parts.desktop.beep();
 }
 
 void Bioslist::rebuild()
 {
-    m_askedGame.clear();
     ask(QString());
 }
 
 void Bioslist::addOfGame()
 {
-    m_askedGame = m_parts.game();
-    if (isSetName(m_askedGame))
-        ask(m_askedGame);
+    if (const QString game = m_parts.game(); isSetName(game))
+        ask(game);
     else
         m_parts.desktop.beep();
 }
@@ -184,6 +205,7 @@ void Bioslist::ask(const QString& set)
         m_parts.desktop.beep();
         return;
     }
+    m_askedGame = set;
     m_question = std::make_unique<BiosQuestion>(emulator, set);
     connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::take);
     connect(m_question.get(), &BiosQuestion::failed, this, &Bioslist::fail);

@@ -2,6 +2,7 @@
 
 #include "bios/biosentry.h"
 
+#include <QModelIndex>
 #include <QObject>
 
 #include <functional>
@@ -61,6 +62,9 @@ Q_SIGNALS:
     void asked();
 
 private:
+    /// The selected row; none where nothing is selected.
+    QModelIndex selected() const;
+    void keepBroken(const QString& path);
     void ask(const QString& set);
     void take();
     void fail(const Failure& failure);
@@ -69,7 +73,8 @@ private:
 
     BiosParts m_parts;
     std::unique_ptr<BiosQuestion> m_question;
-    QString m_askedGame;
+    QString m_askedGame; ///< empty for all
+    bool m_isWritable = true; ///< the user's copy, if there is one, is loaded or kept
 };
 
 } // namespace tessera

@@ -32,12 +32,13 @@ public:
 public Q_SLOTS:
     /// Brings the editor forward.
     void editRecord();
+    /// The selected favourite and its command line, as they are now.
+    void showSelection();
 
 Q_SIGNALS:
     void windowMade(QWidget& window);
 
 private:
-    void showSelection();
     void selectNeighbour(int step);
 
     Favourites& m_favourites;

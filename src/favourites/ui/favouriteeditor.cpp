@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "favourites/optionwords.h"
 #include "widgets/bringforward.h"
+#include "widgets/plaintooltip.h"
 
 #include <QClipboard>
 #include <QFormLayout>
@@ -132,7 +133,7 @@ void FavouriteEditor::showCommand(const QString& command)
 {
     commandField->setText(command);
     commandField->setCursorPosition(0);
-    commandField->setToolTip(command);
+    commandField->setToolTip(plainToolTip(command));
     copyButton->setEnabled(!command.isEmpty());
 }
 

@@ -71,7 +71,14 @@ FavouritesTableModel::FavouritesTableModel(Favourites& favourites, ArrangedList&
     , m_colors(colors)
 {
     connect(&favourites, &Favourites::valueChanged, this, &FavouritesTableModel::showFavourite);
-    connect(&played, &PlayedGames::changed, this, [this] { showEverything(); });
+    connect(&played, &PlayedGames::changed, this, &FavouritesTableModel::showPlayed);
+}
+
+void FavouritesTableModel::showPlayed()
+{
+    if (m_sorted == FavouriteColumn::Times || m_sorted == FavouriteColumn::Last)
+        resort([this] { arrange(); });
+    showEverything();
 }
 
 void FavouritesTableModel::reload()

@@ -56,6 +56,7 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    void showPlayed();
     void showFavourite(std::uint32_t favourite, FavouriteKey key);
     void arrange();
     QVariant shown(std::uint32_t favourite, FavouriteColumn column) const;

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QKeyEvent>
 #include <QStandardItemModel>
 
 namespace tessera {
@@ -51,6 +52,16 @@ void OptionField::propose()
         m_completer->complete();
     else
         m_completer->popup()->hide();
+}
+
+// The list takes it: what is half typed is no option yet.
+void OptionField::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && m_completer->popup()->isVisible() && m_completer->popup()->currentIndex().isValid())
+        event->ignore();
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 void OptionField::take(const QString& option)

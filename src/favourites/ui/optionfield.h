@@ -32,6 +32,9 @@ public:
     void setKnownOptions(const QList<KnownOption>& options);
     QCompleter* wordCompleter() { return m_completer; }
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void propose();
     void take(const QString& option);

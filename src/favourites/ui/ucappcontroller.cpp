@@ -40,8 +40,7 @@ void UCAppController::joinFavourites()
     connect(favourites, &Favourites::appended, this, [this] { showAgain(m_selection.favourites()); });
     connect(favourites, &Favourites::putBackAt, this,
             [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
-    // The row that took the place of the first one is selected, so that several can be removed in a row.
-    connect(favourites, &Favourites::removed, this, [this] { showAgain({}, m_selection.firstRow()); });
+    connect(favourites, &Favourites::removed, this, &UCAppController::showAfterRemoval);
     connect(favourites, &Favourites::valueChanged, this, &UCAppController::tableViewSelectionDidChange);
     connect(&m_parts.favourites.undoStack(), &QUndoStack::cleanChanged, this,
             [this](bool clean) { Q_EMIT unsavedChanged(!clean); });
@@ -74,6 +73,20 @@ void UCAppController::awakeFromNib()
     m_favoritesUpdate = false;
     set_favorites();
     favorites_tableViewSort();
+}
+
+// What is left of the selection stays selected. Of nothing, the row that took the place of the first one is
+// selected, so that several can be removed in a row.
+void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
+{
+    const int row = m_selection.firstRow();
+    std::vector<std::uint32_t> left;
+    for (const std::uint32_t each : m_selection.favourites()) {
+        const auto before = std::ranges::lower_bound(gone, each);
+        if (before == gone.end() || *before != each)
+            left.push_back(each - static_cast<std::uint32_t>(before - gone.begin()));
+    }
+    showAgain(left, left.empty() ? row : -1);
 }
 
 // The list as it is now, with these favourites selected, or else a row or the last one.
@@ -215,8 +228,18 @@ void UCAppController::applyRecent()
 
 QString UCAppController::search_priorityOption(const QString& name) const
 {
-    const auto row = m_list.find(Field::Name, name.toStdString());
-    return row ? m_parts.favourites.value(m_list.rows()[*row], FavouriteKey::Option) : QString();
+    const std::string set = name.toStdString();
+    if (const auto row = m_list.find(Field::Name, set))
+        return m_parts.favourites.value(m_list.rows()[*row], FavouriteKey::Option);
+    // The chip hides a favourite from the list, not its options from a launch.
+    const auto& records = m_parts.favourites.records();
+    const auto hidden = m_onlyRecent
+        ? std::ranges::find_if(records, [&](const GameRecord& each) { return each[Field::Name] == set; })
+        : records.end();
+    return hidden == records.end()
+        ? QString()
+        : m_parts.favourites.value(static_cast<std::uint32_t>(hidden - records.begin()),
+                                   FavouriteKey::Option);
 }
 
 QString UCAppController::selectedValue(Field field) const

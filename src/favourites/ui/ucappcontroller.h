@@ -99,6 +99,7 @@ Q_SIGNALS:
 private:
     void joinFavourites();
     void showAgain(const std::vector<std::uint32_t>& selected, int row = -1);
+    void showAfterRemoval(const std::vector<std::uint32_t>& gone);
     void markGone();
     void applyRecent();
     std::expected<void, Failure> writeFile();

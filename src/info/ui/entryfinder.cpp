@@ -21,11 +21,15 @@ EntryFinder::EntryFinder(QPlainTextEdit& text, QLineEdit& field, QLabel& count, 
     , m_field(field)
     , m_count(count)
 {
-    connect(&field, &QLineEdit::textChanged, this, &EntryFinder::findAgain);
+    connect(&field, &QLineEdit::textChanged, this, [this] {
+        mark();
+        if (!m_places.isEmpty())
+            select(0);
+    });
     field.installEventFilter(this);
 }
 
-void EntryFinder::findAgain()
+void EntryFinder::mark()
 {
     m_places.clear();
     m_place = -1;
@@ -43,9 +47,10 @@ void EntryFinder::findAgain()
     for (const QTextCursor& place : m_places)
         marks << QTextEdit::ExtraSelection{place, format};
     m_text.setExtraSelections(marks);
-    m_count.setText(wanted.isEmpty() ? QString() : qtTrId("history_not_found"));
-    if (!m_places.isEmpty())
-        select(0);
+    if (m_places.isEmpty())
+        m_count.setText(wanted.isEmpty() ? QString() : qtTrId("history_not_found"));
+    else
+        m_count.setText(QString::number(m_places.size()));
 }
 
 void EntryFinder::select(qsizetype place)
@@ -73,7 +78,7 @@ void EntryFinder::findNext()
 void EntryFinder::findPrevious()
 {
     if (!m_places.isEmpty())
-        select((m_place + m_places.size() - 1) % m_places.size());
+        select((m_place > 0 ? m_place : m_places.size()) - 1);
 }
 
 bool EntryFinder::eventFilter(QObject* object, QEvent* event)

@@ -21,8 +21,8 @@ public:
 public Q_SLOTS:
     void findNext();
     void findPrevious();
-    /// After the text became another.
-    void findAgain();
+    /// Marks what is found, and goes nowhere: after the text became another.
+    void mark();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

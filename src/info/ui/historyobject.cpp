@@ -159,7 +159,7 @@ void HistoryObject::showText(const QString& text)
     m_text = text;
     m_window.historyinfoTextView->replace(text);
     m_window.historyinfoTextView->moveCursor(QTextCursor::Start);
-    m_finder.findAgain();
+    m_finder.mark();
 }
 
 void HistoryObject::settingChanged(const QString& name)

@@ -54,7 +54,6 @@ public Q_SLOTS:
     void makeTextSmaller();
 
 Q_SIGNALS:
-    void statusMessage(const QString& text);
     void loaded();
 
 private:

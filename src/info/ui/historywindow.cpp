@@ -4,6 +4,7 @@
 #include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/theme.h"
+#include "widgets/plaintooltip.h"
 #include "widgets/toolbutton.h"
 
 #include <QCheckBox>
@@ -150,8 +151,8 @@ void HistoryWindow::showLoading(bool loading)
 
 void HistoryWindow::showPaths(const QString& history, const QString& mameinfo)
 {
-    historyButton->setToolTip(history.toHtmlEscaped());
-    mameinfoButton->setToolTip(mameinfo.toHtmlEscaped());
+    historyButton->setToolTip(plainToolTip(history));
+    mameinfoButton->setToolTip(plainToolTip(mameinfo));
 }
 
 } // namespace tessera

@@ -42,11 +42,10 @@ InfoPage* InfoSites::makePage()
     return m_page;
 }
 
-// The title of the selected item; without a page its position says the same.
+// What the pop-up shows: its item at this position has the own site's title.
 bool InfoSites::isOwnSite() const
 {
-    return m_page ? m_page->infositePop->currentText() == ownSite
-                  : m_defaults.index(keys::Rominfosite) == keptSite + 1;
+    return m_defaults.index(keys::Rominfosite) == keptSite + 1;
 }
 
 void InfoSites::infositeAction()

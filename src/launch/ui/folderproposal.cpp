@@ -1,4 +1,5 @@
 #include "launch/ui/folderproposal.h"
+#include "widgets/plaintooltip.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -47,7 +48,7 @@ void FolderProposal::addFolder(const QString& folder)
     auto* row = new QWidget;
     auto* path = new QLabel(fontMetrics().elidedText(folder, Qt::ElideMiddle, pathWidth));
     path->setTextFormat(Qt::PlainText);
-    path->setToolTip(folder);
+    path->setToolTip(plainToolTip(folder));
     auto* use = new QPushButton(qtTrId("folder_use"));
     use->setProperty("role", QStringLiteral("link"));
     use->setAccessibleName(use->text() + QStringLiteral(": ") + folder);

@@ -213,7 +213,9 @@ void LaunchController::LaunchTask_APPMAME(const QString& game)
         return m_parts.paths.displayAlert4();
     m_parts.paths.saveOpenRecent(*archive);
     const QString application = m_parts.defaults.text(keys::ApplicationPath);
-    if (!m_parts.desktop.openWith(*archive, application))
+    if (m_parts.desktop.openWith(*archive, application))
+        Q_EMIT handedOver(gameName(game));
+    else
         Q_EMIT statusMessage(Failure{"launch_notopened", {*archive, application}}.text());
 }
 

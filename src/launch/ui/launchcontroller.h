@@ -97,6 +97,8 @@ Q_SIGNALS:
     /// Another launch mode is selected: window titles name it.
     void launchModeChanged();
     void runningChanged(bool running);
+    /// Another application has got the archive of a set.
+    void handedOver(const QString& game);
     void statusMessage(const QString& text);
 
 private:

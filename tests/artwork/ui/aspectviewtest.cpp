@@ -19,9 +19,8 @@ private Q_SLOTS:
         m_staging = std::make_unique<PictureStaging>();
         m_window = std::make_unique<QWidget>();
         m_view = new AspectView(m_staging->defaults, m_window.get());
-        // A border of one pixel on each side.
-        m_view->setGeometry(0, 0, 402, 402);
-        m_window->resize(402, 402);
+        m_view->setGeometry(0, 0, 400, 400);
+        m_window->resize(400, 400);
         m_window->move(50, 60);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -31,9 +30,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("position");
         QTest::addColumn<QRect>("drawn");
-        QTest::newRow("own") << 0 << QRect(1, 51, 400, 300);
-        QTest::newRow("16:9") << 4 << QRect(1, 89, 400, 225);
-        QTest::newRow("square") << 2 << QRect(1, 1, 400, 400);
+        QTest::newRow("own") << 0 << QRect(0, 50, 400, 300);
+        QTest::newRow("16:9") << 4 << QRect(0, 88, 400, 225);
+        QTest::newRow("square") << 2 << QRect(0, 0, 400, 400);
     }
 
     void aPictureFillsTheViewInItsRatio()

@@ -4,6 +4,7 @@
 #include "support/testmain.h"
 
 #include <QFile>
+#include <QtEndian>
 
 #include <sys/stat.h>
 
@@ -15,7 +16,16 @@ namespace {
 // The head of a file that claims this size; nothing of it follows.
 QByteArray headOf(int width, int height)
 {
-    return "P6\n" + QByteArray::number(width) + ' ' + QByteArray::number(height) + "\n255\n";
+    QByteArray head(54, '\0');
+    const auto put = [&head](qsizetype at, int number) { qToLittleEndian(number, head.data() + at); };
+    head.replace(0, 2, "BM");
+    put(10, 54);
+    put(14, 40);
+    put(18, width);
+    put(22, height);
+    head[26] = 1;
+    head[28] = 24;
+    return head;
 }
 
 } // namespace
@@ -50,6 +60,9 @@ private Q_SLOTS:
         QTest::newRow("enormous") << headOf(20000, 20000) << "picture_toolarge";
         QTest::newRow("one more than can be") << headOf(8192, 4097) << "picture_toolarge";
         QTest::newRow("no size") << headOf(0, 0) << "picture_unreadable";
+        QTest::newRow("a drawing") << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" "
+                                                 "height=\"9\"><rect width=\"9\" height=\"9\"/></svg>")
+                                   << "picture_unreadable";
     }
 
     void whatIsNoPictureSaysSo()
