@@ -184,7 +184,7 @@
     <message id="side_reveal"><source></source><translation>Show ROM file</translation></message>
     <message id="help_pictures_title"><source></source><translation>Pictures and history</translation></message>
     <message id="help_pictures"><source></source><translation>&lt;p&gt;Beside the list stands a picture of the selected game: its snapshot, title screen or flyer. The button beneath it, or &lt;b&gt;Ctrl+K&lt;/b&gt;, shows the next kind; the arrow beside the button lists all three.&lt;/p&gt;
-&lt;p&gt;Say in &lt;i&gt;Preferences › Pictures&lt;/i&gt; where your pictures are. A file is looked for under the set's name, then under its parent's: &lt;i&gt;pacman/0000.png&lt;/i&gt;, &lt;i&gt;pacman.png&lt;/i&gt;. MAME's own snapshots, which F12 makes while you play, can be used as they are.&lt;/p&gt;
+&lt;p&gt;Say in &lt;i&gt;Preferences › Support&lt;/i&gt; where your pictures are. A file is looked for under the set's name, then under its parent's: &lt;i&gt;pacman/0000.png&lt;/i&gt;, &lt;i&gt;pacman.png&lt;/i&gt;. MAME's own snapshots, which F12 makes while you play, can be used as they are.&lt;/p&gt;
 &lt;p&gt;A click on the picture opens it at its own size; the choice at the right sets the proportions that it is drawn in.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; downloads the picture of the kind that is shown, from the site that you have set on that page. A picture that is there is only replaced after a question.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; shows what history.dat, history.xml and mameinfo.dat tell of the game; choose the files at the foot of its window. &lt;b&gt;Ctrl+Shift+I&lt;/b&gt; opens its page on an information site.&lt;/p&gt;</translation></message>

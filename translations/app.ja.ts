@@ -184,7 +184,7 @@
     <message id="side_reveal"><source></source><translation>ROMを表示</translation></message>
     <message id="help_pictures_title"><source></source><translation>画像と履歴</translation></message>
     <message id="help_pictures"><source></source><translation>&lt;p&gt;一覧の横には、選択中のゲームのスナップショット、タイトル画面、またはフライヤーが表示されます。下のボタンか &lt;b&gt;Ctrl+K&lt;/b&gt; で次の種類に切り替わり、ボタン横の矢印で三種類から選べます。&lt;/p&gt;
-&lt;p&gt;画像の場所は&lt;i&gt;環境設定 › 画像&lt;/i&gt;で指定します。ファイルはセット名、続いて親セット名で探されます: &lt;i&gt;pacman/0000.png&lt;/i&gt;、&lt;i&gt;pacman.png&lt;/i&gt;。プレイ中に F12 で保存されるMAME自身のスナップショットも、そのまま使えます。&lt;/p&gt;
+&lt;p&gt;画像の場所は&lt;i&gt;環境設定 › サポート&lt;/i&gt;で指定します。ファイルはセット名、続いて親セット名で探されます: &lt;i&gt;pacman/0000.png&lt;/i&gt;、&lt;i&gt;pacman.png&lt;/i&gt;。プレイ中に F12 で保存されるMAME自身のスナップショットも、そのまま使えます。&lt;/p&gt;
 &lt;p&gt;画像をクリックすると原寸で開きます。右側の選択肢で、表示する縦横比を選べます。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+Shift+D&lt;/b&gt; で、表示中の種類の画像を、同じページで指定したサイトからダウンロードします。すでにある画像は、確認なしに置き換えられることはありません。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; で history.dat、history.xml、mameinfo.dat の内容を表示します。ファイルはそのウインドウの下部で選びます。&lt;b&gt;Ctrl+Shift+I&lt;/b&gt; で情報サイトのページを開きます。&lt;/p&gt;</translation></message>

@@ -367,6 +367,20 @@ private Q_SLOTS:
         QVERIFY(preferences.focusWidget() != preferences.resetButton);
     }
 
+    void theirChoosersHaveNoFocusRing()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->showPrefsWindow();
+        for (const char* name : {"buttonexe", "buttonroms", "buttonsnap", "buttontitle", "buttonflayer",
+                                 "buttonhistory", "buttonmameinfo"}) {
+            const auto* button = staged.app->preferencesWindow().findChild<QPushButton*>(QLatin1String(name));
+            QVERIFY2(button != nullptr, name);
+            QCOMPARE(button->property("focusring").toString(), QStringLiteral("none"));
+        }
+    }
+
     void pagesThatWereNeverSeenGoWithTheWindow()
     {
         const auto pages = [] {

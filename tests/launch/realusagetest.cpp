@@ -55,6 +55,34 @@ private Q_SLOTS:
             QVERIFY2(joined.contains(part), qPrintable(joined));
     }
 
+    void readsTheValuesOfPopUps_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("video");
+        QTest::addColumn<QString>("sound");
+        QTest::addColumn<QString>("scale");
+        const char* today = "none hwblit hwbest yv12 yuy2 yv12x2 yuy2x2";
+        const char* before = "none async yv12 yuy2 yv12x2 yuy2x2";
+        QTest::newRow("0.141") << "mame0141.txt" << "soft opengl" << "" << before;
+        QTest::newRow("0.148") << "mame0148.txt" << "soft opengl" << "" << before;
+        QTest::newRow("0.228") << "mame0228.txt" << "none soft accel opengl bgfx" << "sdl portaudio none"
+                               << today;
+        QTest::newRow("0.251") << "mame0251.txt" << "none soft accel opengl bgfx"
+                               << "sdl portaudio pulse none" << today;
+    }
+
+    void readsTheValuesOfPopUps()
+    {
+        QFETCH(QString, file);
+        QFile usage(QStringLiteral(TESSERA_REAL_DATA "/showusage/") + file);
+        QVERIFY2(usage.open(QIODevice::ReadOnly), qPrintable(usage.fileName()));
+        const auto profile = EmulatorProfile::fromUsage(usage.readAll());
+        QVERIFY(profile);
+        QTEST(profile->valuesOf("-video").join(' '), "video");
+        QTEST(profile->valuesOf("-sound").join(' '), "sound");
+        QTEST(profile->valuesOf("-scalemode").join(' '), "scale");
+    }
+
     void knowsOverlongNames()
     {
         QFile usage(QStringLiteral(TESSERA_REAL_DATA "/showusage/mame0251.txt"));
