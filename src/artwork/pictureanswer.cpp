@@ -35,15 +35,20 @@ bool isInvisible(QChar c)
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format;
 }
 
-// The last component, without what hides a file or cannot be seen.
-QString reduced(const QString& suggested)
+// Without what hides a file or cannot be seen.
+QString cleaned(QString name)
 {
-    const auto separator = std::find_if(suggested.crbegin(), suggested.crend(), &isSeparator);
-    QString name(separator.base(), suggested.cend() - separator.base());
     name.removeIf(&isInvisible);
     const auto first
         = std::find_if(name.cbegin(), name.cend(), [](QChar c) { return c != u'.' && !c.isSpace(); });
     return name.sliced(first - name.cbegin()).trimmed();
+}
+
+// The last component, whichever system its separators are of.
+QString reduced(const QString& suggested)
+{
+    const auto separator = std::find_if(suggested.crbegin(), suggested.crend(), &isSeparator);
+    return cleaned(QString(separator.base(), suggested.cend() - separator.base()));
 }
 
 // A parameter's value, without its quotation marks.
@@ -135,8 +140,8 @@ bool startsLikeImage(QByteArrayView content)
 std::optional<QString> pictureFileName(const QByteArray& contentDisposition, const QUrl& url)
 {
     const QString asked = lastComponent(url);
-    // The set's own name stays as it is, where that is possible.
-    for (const QString& name : {reduced(suggestedName(contentDisposition)), asked, reduced(asked)}) {
+    // A backslash may be part of the set's own name.
+    for (const QString& name : {reduced(suggestedName(contentDisposition)), cleaned(asked), reduced(asked)}) {
         if (isPlainFileName(name))
             return name;
     }

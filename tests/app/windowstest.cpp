@@ -17,10 +17,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -126,6 +130,44 @@ private Q_SLOTS:
         QCOMPARE(main().geometry(), QRect(10, 20, 1000, 640));
     }
 
+    void inALaterRunTheFavouritesTakeTheMainWindowsPlaceToo()
+    {
+        main().setGeometry(40, 50, 900, 600);
+        m_staged->app->windowFavorites();
+        m_staged->app->applicationWillTerminate();
+        m_staged->app.reset();
+        m_staged->start();
+        main().setGeometry(70, 80, 1000, 640);
+        m_staged->app->windowFavorites();
+        QCOMPARE(favorites().geometry(), QRect(70, 80, 1000, 640));
+    }
+
+    void aMaximisedWindowGivesItsNormalSizeOn()
+    {
+        main().setGeometry(40, 50, 900, 600);
+        main().showMaximized();
+        const QRect normal = main().normalGeometry();
+        m_staged->app->windowFavorites();
+        QVERIFY(favorites().isMaximized());
+        QCOMPARE(favorites().normalGeometry(), normal);
+    }
+
+    void inEveryRunTheFavouritesAreSortedByTheirFirstColumn()
+    {
+        add("qix");
+        add("pong");
+        m_staged->app->windowFavorites();
+        favorites().favoritesTable->sortByColumn(1, Qt::DescendingOrder);
+        m_staged->app->applicationWillTerminate();
+        m_staged->app.reset();
+        m_staged->start();
+        m_staged->app->windowFavorites();
+        const QHeaderView* header = favorites().favoritesTable->horizontalHeader();
+        QCOMPARE(header->sortIndicatorSection(), 0);
+        QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+        QCOMPARE(favorites().favoritesTable->model()->index(0, 0).data().toString(), QStringLiteral("pong"));
+    }
+
     void fromTheMiniWindowEachComesBackToItsOwnPlace()
     {
         main().setGeometry(40, 50, 900, 600);
@@ -161,6 +203,11 @@ private Q_SLOTS:
         m_staged->app->windowMini();
         mini().orderOut();
         QVERIFY(main().isVisible());
+        // As the desktop closes it.
+        m_staged->app->windowMini();
+        mini().close();
+        QVERIFY(main().isVisible());
+        QVERIFY(!mini().isVisible());
     }
 
     void titlesNameTheKindOfEmulator()
@@ -245,6 +292,41 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_staged->app->favorites().favourites().path()));
     }
 
+    void commandsOnCellsActOnTheListThatIsShown()
+    {
+        add("qix");
+        m_staged->app->gameList().selectGame(QStringLiteral("pong"));
+        m_staged->app->windowFavorites();
+        becomeKey(favorites());
+        favorites().favoritesTable->selectRow(0);
+        m_staged->app->copySelection();
+        QVERIFY(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("qix\t")));
+        m_staged->app->editCell();
+        QVERIFY(favorites().favoritesTable->findChild<QLineEdit*>() != nullptr);
+        QVERIFY(main().gameTable->findChild<QLineEdit*>() == nullptr);
+        auto* columns = main().menuBar()->findChild<QMenu*>(QStringLiteral("menu_view"))->actions().constLast();
+        Q_EMIT columns->menu()->aboutToShow();
+        QCOMPARE(columns->menu()->actions().size(), favorites().favoritesTable->model()->columnCount());
+        m_staged->app->focusSearch();
+        QVERIFY(main().isVisible());
+        QVERIFY(!favorites().isVisible());
+    }
+
+    void homeAndEndScrollTheFavourites()
+    {
+        for (int i = 0; i < 200; ++i)
+            add(i % 2 == 0 ? "qix" : "pong");
+        m_staged->app->windowFavorites();
+        becomeKey(favorites());
+        const QScrollBar* bar = favorites().favoritesTable->verticalScrollBar();
+        m_staged->app->scrollsEndAction();
+        QVERIFY(bar->value() > 0);
+        QCOMPARE(bar->value(), bar->maximum());
+        m_staged->app->scrollsHomeAction();
+        QCOMPARE(bar->value(), 0);
+        QVERIFY(!main().isVisible());
+    }
+
     void undoIsDimWhereThereIsNothingToUndo()
     {
         auto* undo = main().menuBar()->findChild<QAction*>(QStringLiteral("menu_undo"));
@@ -266,6 +348,10 @@ private Q_SLOTS:
         const auto labels = mini().findChildren<QLabel*>();
         QVERIFY(std::ranges::any_of(
             labels, [](const QLabel* label) { return label->text() == QStringLiteral("Galaga"); }));
+        // And follows their edits.
+        m_staged->app->catalogue().setValue(1, Field::Title, QStringLiteral("Galaga again"));
+        QVERIFY(std::ranges::any_of(
+            labels, [](const QLabel* label) { return label->text() == QStringLiteral("Galaga again"); }));
     }
 
     void windowsAreShownWhereTheyWereLeft()

@@ -80,7 +80,8 @@ private Q_SLOTS:
         QTest::newRow("Japanese") << "http://a.test/%E3%83%91.png" << QString::fromUtf8("パ.png");
         QTest::newRow("percent") << "http://a.test/100%25.png" << "100%.png";
         QTest::newRow("encoded slashes") << "http://a.test/s/..%2F..%2Fetc%2Fx.png" << "x.png";
-        QTest::newRow("encoded backslashes") << "http://a.test/s/..%5Cx.png" << "x.png";
+        QTest::newRow("a backslash of the name") << "http://a.test/s/a%5Cx.png" << "a\\x.png";
+        QTest::newRow("dots and a backslash") << "http://a.test/s/..%5Cx.png" << "\\x.png";
         QTest::newRow("encoded NUL") << "http://a.test/po%00ng.png" << "pong.png";
         QTest::newRow("line end") << "http://a.test/po%0Ang.png" << "pong.png";
         QTest::newRow("hidden") << "http://a.test/.png" << "png";

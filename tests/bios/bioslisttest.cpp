@@ -2,6 +2,7 @@
 
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
+#include "core/keptcopy.h"
 #include "launch/growingitems.h"
 #include "launch/popupitems.h"
 #include "platform/defaultscontroller.h"
@@ -10,7 +11,9 @@
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -178,6 +181,32 @@ private Q_SLOTS:
         make();
         QCOMPARE(model().rowCount(), 0);
         QCOMPARE(m_desktop->takeTranscript().size(), 1);
+    }
+
+    void aBrokenCopyIsKeptBeforeItIsWrittenOver()
+    {
+        QFile file(ownFile());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("nonsense") > 0);
+        file.close();
+        make();
+        m_desktop->takeTranscript();
+        m_list->saveAction();
+        QFile kept(datedName(ownFile(), m_desktop->clock));
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), QByteArray("nonsense"));
+        QVERIFY(readBiosEntries(ownFile()));
+        // Once.
+        m_list->saveAction();
+        QCOMPARE(QFileInfo(ownFile()).dir().entryList({"*.xml"}, QDir::Files).size(), 2);
+    }
+
+    void nothingSelectedSaysNothing()
+    {
+        make();
+        m_panel->biosView->clearSelection();
+        QCOMPARE(m_panel->text_infomation->text(), QString());
+        m_list->tableViewDoubleAction();
+        QVERIFY(m_desktop->takeTranscript().isEmpty());
     }
 
     void aCopyThatCannotBeWrittenIsInTheLogOnly()

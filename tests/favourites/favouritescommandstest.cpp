@@ -305,6 +305,21 @@ private Q_SLOTS:
         QCOMPARE(m_staged->file(), listFile(threeEntries));
     }
 
+    void takingAnAddedOneBackLeavesTheSelection()
+    {
+        m_staged->writeFile(threeEntries);
+        m_staged->start();
+        m_staged->selectedGame = &pong;
+        m_staged->controller->addFavorite();
+        m_staged->table->sortByColumn(0, Qt::DescendingOrder);
+        m_staged->table->selectRow(2);
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("b"));
+        m_staged->favourites.undoStack().undo();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("b"));
+        m_staged->favourites.undoStack().redo();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("b"));
+    }
+
     void aCancelledRemovalRewritesTheFileAtQuit()
     {
         m_staged->writeFile(threeEntries);
@@ -381,6 +396,16 @@ private Q_SLOTS:
         QCOMPARE(m_staged->controller->search_priorityOption(QStringLiteral("X")), QString());
         QCOMPARE(m_staged->controller->search_priorityOption(QStringLiteral("/roms/x.zip")), QString());
         QCOMPARE(m_staged->controller->search_priorityOption(QString()), QString());
+    }
+
+    void theChipTakesNoOptionsAway()
+    {
+        m_staged->writeFile(entryText("x", "X", "-mine"));
+        m_staged->start();
+        m_staged->controller->showRecentlyPlayed(true);
+        QCOMPARE(m_staged->controller->list().size(), std::size_t(0));
+        QCOMPARE(m_staged->controller->search_priorityOption(QStringLiteral("x")), QStringLiteral("-mine"));
+        QCOMPARE(m_staged->controller->search_priorityOption(QStringLiteral("y")), QString());
     }
 
     void readersTakeTheFirstSelectedFavourite()

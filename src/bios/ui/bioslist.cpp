@@ -77,23 +77,22 @@ void Bioslist::awakeFromNib()
         m_parts.panel.treeController_list->setEntries(*entries);
     } else {
         m_parts.desktop.log(entries.error().text());
-        keepBroken(path);
+        m_isUnread = path == m_parts.ownFile;
     }
     m_parts.panel.expandAll();
     outlineViewSelectionDidChange();
 }
 
-// The next edit would write over it.
-void Bioslist::keepBroken(const QString& path)
+// Before the first edit writes over it.
+bool Bioslist::keepUnread()
 {
-    if (path != m_parts.ownFile)
-        return;
-    const auto kept = keepAs(path, datedName(path, m_parts.desktop.now()));
-    m_isWritable = kept.has_value();
+    if (!m_isUnread)
+        return true;
+    const auto kept = keepAs(m_parts.ownFile, datedName(m_parts.ownFile, m_parts.desktop.now()));
     if (!kept)
         m_parts.desktop.log(kept.error().text());
-    if (const auto shipped = readBiosEntries(shippedFile))
-        m_parts.panel.treeController_list->setEntries(*shipped);
+    m_isUnread = !kept;
+    return kept.has_value();
 }
 
 QModelIndex Bioslist::selected() const
@@ -159,7 +158,7 @@ void Bioslist::tableViewDoubleAction()
 
 void Bioslist::saveAction()
 {
-    if (!m_isWritable)
+    if (!keepUnread())
         return;
     const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries());
     if (!xml) {

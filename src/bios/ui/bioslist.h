@@ -64,7 +64,7 @@ Q_SIGNALS:
 private:
     /// The selected row; none where nothing is selected.
     QModelIndex selected() const;
-    void keepBroken(const QString& path);
+    bool keepUnread();
     void ask(const QString& set);
     void take();
     void fail(const Failure& failure);
@@ -74,7 +74,7 @@ private:
     BiosParts m_parts;
     std::unique_ptr<BiosQuestion> m_question;
     QString m_askedGame; ///< empty for all
-    bool m_isWritable = true; ///< the user's copy, if there is one, is loaded or kept
+    bool m_isUnread = false; ///< the user's copy is there, and could not be read
 };
 
 } // namespace tessera
