@@ -169,5 +169,7 @@
     <message id="emulator_crashed"><source></source><translation>“%1” crashed (signal %2). %3</translation></message>
     <message id="emulator_status"><source></source><translation>“%1 %2” ended with status %3.</translation></message>
     <message id="emulator_silent"><source></source><translation>“%1 %2” printed nothing.</translation></message>
+    <message id="script_launcher"><source></source><translation>Save as &amp;Launcher…</translation></message>
+    <message id="script_launcher_tip"><source></source><translation>A desktop entry that starts the selected game as it would be started now</translation></message>
 </context>
 </TS>

@@ -169,5 +169,7 @@
     <message id="emulator_crashed"><source></source><translation>“%1”がクラッシュしました（シグナル %2）。%3</translation></message>
     <message id="emulator_status"><source></source><translation>“%1 %2”がステータス %3 で終了しました。</translation></message>
     <message id="emulator_silent"><source></source><translation>“%1 %2”は何も出力しませんでした。</translation></message>
+    <message id="script_launcher"><source></source><translation>ランチャーとして保存(&amp;L)…</translation></message>
+    <message id="script_launcher_tip"><source></source><translation>選択したゲームを現在の設定で起動するデスクトップエントリを作成します</translation></message>
 </context>
 </TS>

@@ -57,6 +57,7 @@
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"
 #include "platform/desktop.h"
+#include "tools/ui/scriptpage.h"
 #include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
@@ -392,6 +393,8 @@ UtilityObject& Tessera_AppDelegate::utility()
     if (!m_utility) {
         m_utility = makeUtility(*this, m_desktop, m_defaults);
         m_scripts = joinScripts(*m_utility, *m_gameList, *m_launch, m_defaults);
+        connect(m_utility->utilityWindow().scriptPage->button_launcher, &QPushButton::clicked, this,
+                &Tessera_AppDelegate::saveLauncher);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }

@@ -1,5 +1,6 @@
 #include "app/commandsdesk.h"
 
+#include "app/artworkdesk.h"
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -18,6 +19,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QImage>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -138,13 +140,31 @@ private Q_SLOTS:
     {
         const QString path = m_staged->path(QStringLiteral("pong.desktop"));
         m_staged->desktop.answerSave(QStringLiteral("pong.desktop"), path);
-        m_staged->app->saveLauncher();
+        // Beside the scripts; the menu has the same.
+        m_staged->app->utility().utilityWindow().scriptPage->button_launcher->click();
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray entry = file.readAll();
         QVERIFY(entry.contains("\nName=Pong\n"));
         QVERIFY(entry.contains("\nExec=\"" TESSERA_FAKEEMULATOR "\" \"pong\" \"-video\" \"opengl\" "));
+        QVERIFY(!entry.contains("\nIcon="));
         QVERIFY(QFileInfo(path).isExecutable());
+    }
+
+    void aLauncherHasTheGamesPicture()
+    {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(m_staged->path(QStringLiteral("pong.png"))));
+        m_staged->defaults.setValue(keys::SnapPath.name, m_staged->folder.path());
+        m_staged->app->artwork().folder().Setsnapfolder();
+        const QString path = m_staged->path(QStringLiteral("pong.desktop"));
+        m_staged->desktop.answerSave(QStringLiteral("pong.desktop"), path);
+        m_staged->app->saveLauncher();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray icon = "\nIcon=" + m_staged->path(QStringLiteral("pong.png")).toUtf8() + '\n';
+        QVERIFY(file.readAll().contains(icon));
     }
 
     void quittingIsRefusedWhileACommandRuns()

@@ -23,7 +23,8 @@ public:
     QComboBox* filenamePop;
     QComboBox* preoptionPop;
     QLabel* scriptimageView;
-    QPushButton* button_make; ///< at the window's foot
+    QPushButton* button_launcher; ///< at the window's foot, like the other
+    QPushButton* button_make;
 };
 
 } // namespace tessera

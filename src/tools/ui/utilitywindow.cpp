@@ -51,7 +51,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     addPage(verificationPage, qtTrId("verification_page"),
             {verificationPage->button_ask3, verificationPage->button_convert2});
     addPage(favouritesPage, qtTrId("favourites_page"), {favouritesPage->button_convert3});
-    addPage(scriptPage, qtTrId("script_page"), {scriptPage->button_make});
+    addPage(scriptPage, qtTrId("script_page"), {scriptPage->button_launcher, scriptPage->button_make});
 
     auto* form = new QVBoxLayout;
     form->setSpacing(0);
