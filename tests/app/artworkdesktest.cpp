@@ -1,3 +1,4 @@
+#include "../artwork/scriptedserver.h"
 #include "stagedapp.h"
 
 #include "app/artworkdesk.h"
@@ -190,6 +191,23 @@ private Q_SLOTS:
         paint("snap/1943.png", {10, 10});
         Q_EMIT artwork().download().SnapChange(QStringLiteral("downloadDidFinish"));
         QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/1943.png"));
+    }
+
+    void aCloneIsDownloadedUnderItsOwnName()
+    {
+        test::ScriptedServer server;
+        server.answers["/galaga.png"] = {test::ScriptedServer::answer(
+            "200 OK\r\nContent-Type: image/png", QByteArray("\x89PNG\r\n\x1a\n") + QByteArray(92, 'x'))};
+        m_staged->defaults.setValue(keys::Snapdownsite.name, 3);
+        m_staged->defaults.setValue(keys::snapdownloadPath.name,
+                                    QString(server.url({}).toString() + QStringLiteral("/{$gamename}")));
+        select("galaga");
+        m_staged->app->snapdownload();
+        QTRY_VERIFY(!artwork().download().downloadstate());
+        QVERIFY(QFile::exists(m_staged->path("snap/galaga.png")));
+        QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/galaga.png"));
+        QCOMPARE(server.requests.size(), 1);
+        QVERIFY(m_staged->desktop.takeTranscript().contains(QStringLiteral("sound Pop")));
     }
 
     void aDownloadWithoutASiteIsAnError()

@@ -45,6 +45,16 @@ private Q_SLOTS:
         QCOMPARE(m_page->hostField->text(), QStringLiteral("three.test"));
     }
 
+    void theResetTakesTheFirstSite()
+    {
+        make();
+        choose(m_page->infositePop->findText(ownSite));
+        m_defaults->revertToInitialValues();
+        QCOMPARE(m_sites->rominfo(), QStringLiteral("http://one.test/index.php?p=roms&jeu={$gamename}"));
+        QCOMPARE(m_page->rominfoTextField->text(), m_sites->rominfo());
+        QVERIFY(!m_page->rominfoTextField->isEnabled());
+    }
+
     void theSavedSiteServesWithoutAPageToo()
     {
         m_defaults->setIndex(keys::Rominfosite, 9);

@@ -163,6 +163,17 @@ private Q_SLOTS:
         m_desktop->takeTranscript();
     }
 
+    void theSecondSiteHasNoFlyers()
+    {
+        m_staging->defaults.setText(keys::SnapsiteHost2, QStringLiteral("two.test"));
+        m_staging->defaults.setIndex(keys::Snapdownsite, 1);
+        m_folder->setKind(2);
+        m_desktop->answerAlert(QStringLiteral("download_Miss"), 0);
+        download("pong");
+        QCOMPARE(steps(), (QStringList{"Snap Download: Request...\n.png\n\n", "Snap Download:  Error.\n"}));
+        m_desktop->takeTranscript();
+    }
+
     void theNameIsPutInWhereverItStands()
     {
         m_staging->defaults.setText(keys::snapdownloadPath, address("/{$gamename}/{$gamename}"));

@@ -84,6 +84,30 @@ private Q_SLOTS:
         QVERIFY(!m_page->hostField->isEnabled());
     }
 
+    void theResetTakesTheFirstSite()
+    {
+        m_staging->defaults.setText(keys::snapdownloadPath, QStringLiteral("http://mine.test/a"));
+        choose(3);
+        m_staging->defaults.revertToInitialValues();
+        QCOMPARE(fields().constFirst(), QStringLiteral("http://one.test/mmedia/snap/{$gamename}"));
+        QVERIFY(!m_page->snapdownTextField->isEnabled());
+        QCOMPARE(m_sites->templateOf(0), fields().constFirst());
+    }
+
+    // The page comes later than the sites, where a picture was downloaded before.
+    void theResetReachesAPageThatCameLater()
+    {
+        m_sites.reset();
+        m_page.reset();
+        m_staging->defaults.setIndex(keys::Snapdownsite, 3);
+        m_sites = std::make_unique<SnapSites>(m_staging->defaults);
+        m_page = std::make_unique<PicturesPage>(m_staging->defaults);
+        m_sites->setPage(*m_page);
+        m_staging->defaults.revertToInitialValues();
+        QCOMPARE(fields().constFirst(), QStringLiteral("http://one.test/mmedia/snap/{$gamename}"));
+        QVERIFY(!m_page->snapdownTextField->isEnabled());
+    }
+
     void theSavedSiteServesWithoutAPage()
     {
         m_staging->defaults.setIndex(keys::Snapdownsite, 0);
