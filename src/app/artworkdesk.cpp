@@ -46,6 +46,7 @@ ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsCon
     show(
         m_main, pane, [&list] { return list.tableViewSelectionROM(); },
         [&list] { return list.tableViewSelectionParentROM(); });
+    m_main.controller->setHeld(true);
     connect(&list, &GameListController::selectionChanged, m_main.controller.get(),
             &SnapshotController::showSelection);
     connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);

@@ -42,6 +42,8 @@ public:
     AspectChoice& aspect() { return m_aspect; }
     /// Of the window that is key: the main list's, the favourites' or the mini window's.
     SnapshotController& snapshot();
+    /// Pictures are read from now on: the first list does not wait for them.
+    void begin() { m_main.controller->setHeld(false); }
     /// The file of the main list's picture; empty where there is none.
     QString pictureFile() const;
     ImageWindow& imageWindow();

@@ -88,6 +88,7 @@ void Tessera_AppDelegate::run(const QString& file)
     // The emulator's options are asked of it once, so that no launch waits for them.
     afterFirstPaint(*m_mainWindow, [this] {
         DeletionFocusRing::awakeFromNib(*m_mainWindow);
+        m_artwork->begin();
         m_finding->prepare();
         m_launch->prepareProfile();
     });

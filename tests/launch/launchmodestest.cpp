@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QSignalSpy>
 
 using namespace tessera;
 using tessera::test::Room;
@@ -135,8 +136,11 @@ private Q_SLOTS:
         home.write(archives + "pong.zip");
         home.write("other");
         home.defaults.setText(keys::ApplicationPath, home.path("other"));
+        QSignalSpy handedOver(&home.controller, &LaunchController::handedOver);
         for (const char* game : {"pong", "/elsewhere/pong.zip"}) {
             home.controller.Launchusing(QLatin1String(game));
+            // It counts as played.
+            QCOMPARE(handedOver.takeLast().constFirst().toString(), QStringLiteral("pong"));
             QCOMPARE(home.desktop.takeTranscript(),
                      QStringList({"recent " + home.path(archives + "pong.zip"),
                                   "with " + home.path("other") + ' ' + home.path(archives + "pong.zip")}));

@@ -41,8 +41,15 @@ void PictureLoader::load(const QString& path)
             return;
         }
     }
-    if (!m_isReading)
+    if (!m_isReading && !m_isHeld)
         read(path);
+}
+
+void PictureLoader::setHeld(bool held)
+{
+    m_isHeld = held;
+    if (!held && !m_wanted.isEmpty())
+        load(m_wanted);
 }
 
 void PictureLoader::read(const QString& path)

@@ -24,6 +24,8 @@ public:
     void load(const QString& path);
     /// Nothing is wanted any more.
     void forget() { m_wanted.clear(); }
+    /// While it is held, nothing is read; what was asked for last is read at the end.
+    void setHeld(bool held);
     bool isLoading() const { return m_isReading; }
 
 Q_SIGNALS:
@@ -45,6 +47,7 @@ private:
     QSize m_most;
     QString m_wanted; ///< the last that was asked for; empty once it has been told of
     bool m_isReading = false;
+    bool m_isHeld = false;
     QCache<QString, Kept> m_kept; ///< costs in kilobytes
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };

@@ -41,6 +41,8 @@ public:
     /// The path of the picture that is shown.
     QString snapimag() const { return m_snapimag; }
     void setSnapimag(const QString& path) { m_snapimag = path; }
+    /// While it is held, no picture is read.
+    void setHeld(bool held) { m_loader.setHeld(held); }
 
 public Q_SLOTS:
     /// As the list's selection is.

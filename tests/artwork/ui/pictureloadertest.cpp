@@ -93,6 +93,16 @@ private Q_SLOTS:
         QVERIFY(m_loaded.isEmpty());
     }
 
+    void whileItIsHeldNothingIsRead()
+    {
+        m_loader->setHeld(true);
+        m_loader->load(m_staging.paint("first.png"));
+        m_loader->load(m_staging.paint("last.png"));
+        QVERIFY(!m_loader->isLoading());
+        m_loader->setHeld(false);
+        QTRY_COMPARE(m_loaded, QStringList{m_staging.path("last.png")});
+    }
+
     void itMayGoWhileItReads()
     {
         m_loader->load(m_staging.paint("large.png", {1000, 1000}));
