@@ -11,10 +11,19 @@
 
 namespace tessera {
 
+namespace {
+
+constexpr int settled = 40; // milliseconds without another picture or size
+
+} // namespace
+
 AspectView::AspectView(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent)
     , m_defaults(defaults)
 {
+    m_refining.setSingleShot(true);
+    m_refining.setInterval(settled);
+    connect(&m_refining, &QTimer::timeout, this, &AspectView::refine);
     setProperty("role", QStringLiteral("picture"));
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
@@ -57,15 +66,13 @@ QRect AspectView::drawnRect() const
                  qMax(1, qRound(drawn.height())));
 }
 
-const QPixmap& AspectView::scaled(QSize size)
+void AspectView::refine()
 {
-    const bool evenly = hasWholeSteps() && size.width() >= m_image.width();
-    if (m_scaled.size() != size || m_scaledEvenly != evenly) {
-        m_scaled = QPixmap::fromImage(m_image.scaled(
-            size, Qt::IgnoreAspectRatio, evenly ? Qt::FastTransformation : Qt::SmoothTransformation));
-        m_scaledEvenly = evenly;
-    }
-    return m_scaled;
+    if (m_image.isNull())
+        return;
+    m_scaled = QPixmap::fromImage(
+        m_image.scaled(drawnRect().size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    update();
 }
 
 void AspectView::paintEvent(QPaintEvent*)
@@ -92,7 +99,15 @@ void AspectView::drawPicture(QPainter& painter, const QRect& drawn)
     transform.translate(drawn.x(), drawn.y());
     painter.save();
     painter.setTransform(transform, true);
-    painter.drawPixmap(0, 0, scaled(drawn.size()));
+    const bool isEven = hasWholeSteps() && drawn.width() >= m_image.width();
+    if (!isEven && m_scaled.size() == drawn.size()) {
+        painter.drawPixmap(0, 0, m_scaled);
+    } else {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, !isEven);
+        painter.drawImage(QRect(QPoint(), drawn.size()), m_image);
+        if (!isEven)
+            m_refining.start();
+    }
     painter.restore();
 }
 

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
 namespace tessera {
@@ -42,13 +43,14 @@ protected:
 private:
     bool hasWholeSteps() const;
     void drawPicture(QPainter& painter, const QRect& drawn);
-    const QPixmap& scaled(QSize size);
+    void refine();
     void settingChanged(const QString& name);
 
     DefaultsController& m_defaults;
     QImage m_image;
-    QPixmap m_scaled; ///< the picture as it was drawn last
-    bool m_scaledEvenly = false;
+    /// It is drawn at once as fast as that goes, and as well as it goes when nothing else has come since.
+    QPixmap m_scaled;
+    QTimer m_refining;
     WindowDrag m_drag;
 };
 

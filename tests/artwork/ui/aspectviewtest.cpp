@@ -72,6 +72,25 @@ private Q_SLOTS:
         QCOMPARE(m_view->drawnRect().size(), QSize(400, 200));
     }
 
+    void itIsDrawnWellOnceItRests()
+    {
+        // Lines of one pixel: drawn fast, three quarters of them are lost.
+        QImage lines(1600, 1600, QImage::Format_RGB32);
+        for (int y = 0; y < lines.height(); ++y) {
+            for (int x = 0; x < lines.width(); ++x)
+                lines.setPixel(x, y, y % 4 == 0 ? 0xffffffff : 0xff000000);
+        }
+        m_view->setImage(lines);
+        const auto grey = [this] { return qGray(m_window->grab().toImage().pixel(200, 200)); };
+        QVERIFY(grey() < 20 || grey() > 100);
+        QTRY_VERIFY(grey() > 50 && grey() < 80);
+        // What was to be drawn well may be gone by then.
+        m_view->setImage(image({320, 240}));
+        m_window->grab();
+        m_view->setImage(QImage());
+        QTest::qWait(100);
+    }
+
     void withoutAPictureNothingIsDrawn()
     {
         m_view->setImage(QImage());
