@@ -62,6 +62,8 @@ private Q_SLOTS:
         paint("flyers/pong.png", {30, 40});
         m_staged->start();
         m_staged->desktop.takeTranscript();
+        // Pictures are read once the main window was painted.
+        QTRY_VERIFY(!mainPane().imageView->image().isNull());
     }
 
     void cleanup() { m_staged.reset(); }
