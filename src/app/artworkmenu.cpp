@@ -60,7 +60,8 @@ void ArtworkDesk::fillFolders(QMenu& menu)
 void ArtworkDesk::addContextMenu(QAbstractItemView& list)
 {
     const QMenuBar& bar = *m_hub.mainWindow().menuBar();
-    for (const char* name : {"menu_showpicture", "menu_downloadpicture", "menu_revealpicture", "menu_revealrom"})
+    for (const char* name :
+         {"menu_showpicture", "menu_downloadpicture", "menu_revealpicture", "menu_revealrom"})
         list.addAction(bar.findChild<QAction*>(QLatin1String(name)));
 }
 

@@ -304,7 +304,8 @@ private Q_SLOTS:
         m_staged->app->editCell();
         QVERIFY(favorites().favoritesTable->findChild<QLineEdit*>() != nullptr);
         QVERIFY(main().gameTable->findChild<QLineEdit*>() == nullptr);
-        auto* columns = main().menuBar()->findChild<QMenu*>(QStringLiteral("menu_view"))->actions().constLast();
+        auto* columns
+            = main().menuBar()->findChild<QMenu*>(QStringLiteral("menu_view"))->actions().constLast();
         Q_EMIT columns->menu()->aboutToShow();
         QCOMPARE(columns->menu()->actions().size(), favorites().favoritesTable->model()->columnCount());
         m_staged->app->focusSearch();
