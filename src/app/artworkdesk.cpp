@@ -46,9 +46,8 @@ ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsCon
     show(
         m_main, pane, [&list] { return list.tableViewSelectionROM(); },
         [&list] { return list.tableViewSelectionParentROM(); });
-    m_main.controller->setHeld(true);
-    connect(&list, &GameListController::selectionChanged, m_main.controller.get(),
-            &SnapshotController::showSelection);
+    m_main->setHeld(true);
+    connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
     connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);
     connect(&m_preview, &PictureLoader::loaded, this,
             [this](const QString&, const QImage& image) { imageWindow().show(image, m_previewName); });
@@ -71,11 +70,10 @@ void ArtworkDesk::show(Shown& shown, PicturePane& pane, std::function<QString()>
 void ArtworkDesk::show(Shown& shown, AspectView& view, std::function<QString()> name,
                        std::function<QString()> parent)
 {
-    shown.name = name;
-    shown.controller = std::make_unique<SnapshotController>(
+    shown = std::make_unique<SnapshotController>(
         SnapshotParts{m_desktop, m_defaults, m_folder, view, std::move(name), std::move(parent)});
-    connect(shown.controller.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
-    connect(shown.controller.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
+    connect(shown.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
+    connect(shown.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
 }
 
 void ArtworkDesk::joinFavorites(FavoritesWindow& window)
@@ -86,9 +84,9 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
     show(
         m_favorites, pane, [&favorites] { return favorites.tableViewSelectionROM2(); },
         [&favorites] { return favorites.tableViewSelectionCloneof(); });
-    connect(&favorites, &UCAppController::selectionChanged, m_favorites.controller.get(),
+    connect(&favorites, &UCAppController::selectionChanged, m_favorites.get(),
             &SnapshotController::showSelection);
-    m_favorites.controller->showSelection();
+    m_favorites->showSelection();
 }
 
 void ArtworkDesk::joinMini(MiniWindow& window)
@@ -102,31 +100,31 @@ void ArtworkDesk::joinMini(MiniWindow& window)
             const GameRecord* record = mini.record();
             return record != nullptr ? fieldText((*record)[Field::Cloneof]) : QString();
         });
-    connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.controller.get(),
+    connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),
             &SnapshotController::showSelection);
-    m_mini.controller->showSelection();
+    m_mini->showSelection();
 }
 
 ArtworkDesk::Shown& ArtworkDesk::shown()
 {
     using Kind = KeyWindow::Kind;
     const Kind key = m_hub.keyWindow();
-    if (m_favorites.controller && (key == Kind::Favorites || key == Kind::FavoritesEditor))
+    if (m_favorites && (key == Kind::Favorites || key == Kind::FavoritesEditor))
         return m_favorites;
-    return m_mini.controller && key == Kind::Mini ? m_mini : m_main;
+    return m_mini && key == Kind::Mini ? m_mini : m_main;
 }
 
 SnapshotController& ArtworkDesk::snapshot()
 {
-    return *shown().controller;
+    return *shown();
 }
 
 void ArtworkDesk::snap_change()
 {
     m_hub.gameList().tableViewSelectionDidChange();
     m_hub.favorites().controller().tableViewSelectionDidChange();
-    if (m_mini.controller)
-        m_mini.controller->showSelection();
+    if (m_mini)
+        m_mini->showSelection();
 }
 
 void ArtworkDesk::snappreview()
@@ -146,13 +144,13 @@ void ArtworkDesk::display_image_Finder()
 
 void ArtworkDesk::snapdownload()
 {
-    download().snapdownload_url(shown().name());
+    download().snapdownload_url(snapshot().name());
 }
 
 // The picture that stands for a missing one is no file.
 QString ArtworkDesk::pictureFile() const
 {
-    const QString path = m_main.controller->snapimag();
+    const QString path = m_main->snapimag();
     return path.startsWith(QLatin1Char(':')) ? QString() : path;
 }
 

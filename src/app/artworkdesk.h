@@ -43,7 +43,7 @@ public:
     /// Of the window that is key: the main list's, the favourites' or the mini window's.
     SnapshotController& snapshot();
     /// Pictures are read from now on: the first list does not wait for them.
-    void begin() { m_main.controller->setHeld(false); }
+    void begin() { m_main->setHeld(false); }
     /// The file of the main list's picture; empty where there is none.
     QString pictureFile() const;
     ImageWindow& imageWindow();
@@ -73,10 +73,7 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
-    struct Shown {
-        std::unique_ptr<SnapshotController> controller;
-        std::function<QString()> name;
-    };
+    using Shown = std::unique_ptr<SnapshotController>;
 
     void show(Shown& shown, PicturePane& pane, std::function<QString()> name,
               std::function<QString()> parent);

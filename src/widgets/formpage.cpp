@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 
 namespace tessera {
 
@@ -31,6 +32,14 @@ FormPage::FormPage(QWidget* parent)
     m_grid->setColumnStretch(controlColumn, 1);
     // Takes what a column of narrow controls leaves, so that labels stay where they are on every page.
     m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, fillColumn);
+}
+
+QLineEdit* FormPage::makeField(const char* objectName, const QString& name)
+{
+    auto* field = new QLineEdit;
+    field->setObjectName(QLatin1String(objectName));
+    field->setAccessibleName(name);
+    return field;
 }
 
 void FormPage::addHeading(const QString& title, const QString& explanation)

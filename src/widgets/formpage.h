@@ -4,6 +4,7 @@
 
 class QGridLayout;
 class QLabel;
+class QLineEdit;
 
 namespace tessera {
 
@@ -15,6 +16,9 @@ class FormPage : public QWidget
 
 public:
     explicit FormPage(QWidget* parent = nullptr);
+
+    /// A field for a row; `name` is its accessible one.
+    static QLineEdit* makeField(const char* objectName, const QString& name);
 
     /// A heading with a line of explanation under it, over the whole width.
     void addHeading(const QString& title, const QString& explanation);

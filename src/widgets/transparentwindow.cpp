@@ -2,6 +2,7 @@
 
 #include "widgets/rounded_view2.h"
 #include "widgets/roundedpath.h"
+#include "widgets/windowdrag.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -103,10 +104,9 @@ void TransparentWindow::miniaturize()
     showMinimized();
 }
 
-// Where a program may not place its windows, the compositor moves and resizes them itself.
 bool TransparentWindow::handOver()
 {
-    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) || windowHandle() == nullptr)
+    if (mayPlaceWindows() || windowHandle() == nullptr)
         return false;
     return m_isResizing ? windowHandle()->startSystemResize(Qt::RightEdge | Qt::BottomEdge)
                         : windowHandle()->startSystemMove();

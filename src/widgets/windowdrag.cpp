@@ -8,6 +8,11 @@
 
 namespace tessera {
 
+bool mayPlaceWindows()
+{
+    return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
 void WindowDrag::press(const QMouseEvent& event)
 {
     m_isPressed = event.button() == Qt::LeftButton;
@@ -15,13 +20,10 @@ void WindowDrag::press(const QMouseEvent& event)
     m_start = m_last = event.globalPosition().toPoint();
 }
 
-// Where a program may not place its windows, the compositor moves them itself.
 bool WindowDrag::handOver(const QWidget& view)
 {
     QWindow* window = view.window()->windowHandle();
-    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) || window == nullptr)
-        return false;
-    return window->startSystemMove();
+    return !mayPlaceWindows() && window != nullptr && window->startSystemMove();
 }
 
 void WindowDrag::move(const QMouseEvent& event, QWidget& view)

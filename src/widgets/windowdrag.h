@@ -7,6 +7,9 @@ class QWidget;
 
 namespace tessera {
 
+/// False where the compositor alone moves and resizes windows; it is asked to, then.
+bool mayPlaceWindows();
+
 /// Moves a view's window by what the mouse is dragged over the view. A press that ends where it began is a
 /// click.
 class WindowDrag

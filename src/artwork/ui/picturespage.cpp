@@ -11,14 +11,6 @@ namespace tessera {
 
 namespace {
 
-QLineEdit* makeField(const char* objectName, const QString& name)
-{
-    auto* field = new QLineEdit;
-    field->setObjectName(QLatin1String(objectName));
-    field->setAccessibleName(name);
-    return field;
-}
-
 QCheckBox* makeBox(const char* objectName, const char* text)
 {
     auto* box = new QCheckBox(qtTrId(text));

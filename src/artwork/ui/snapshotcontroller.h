@@ -38,6 +38,8 @@ class SnapshotController : public QObject
 public:
     explicit SnapshotController(SnapshotParts parts, QObject* parent = nullptr);
 
+    /// The selected set; empty for none.
+    QString name() const { return m_parts.name(); }
     /// The path of the picture that is shown.
     QString snapimag() const { return m_snapimag; }
     void setSnapimag(const QString& path) { m_snapimag = path; }

@@ -10,18 +10,6 @@
 
 namespace tessera {
 
-namespace {
-
-QLineEdit* makeField(const char* objectName, const QString& name)
-{
-    auto* field = new QLineEdit;
-    field->setObjectName(QLatin1String(objectName));
-    field->setAccessibleName(name);
-    return field;
-}
-
-} // namespace
-
 InfoPage::InfoPage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
     , infositePop(new QComboBox)
