@@ -61,10 +61,12 @@ private:
         return before == Before::Unknown ? beforeByCharacter(bytes, offset) : before;
     }
 
-    // Without a branch: there would be no guessing it.
+    // Without a branch: there would be no guessing it. Behind a blank there is always one more byte, behind
+    // the last mark of all there is none.
     static Behind behindPlace(std::string_view bytes, std::size_t end)
     {
-        const int bracket = int{bytes[end] == ' '} & int{bytes[end + 1] == '('};
+        const bool blank = bytes[end] == ' ';
+        const int bracket = int{blank} & int{bytes[end + std::size_t{blank}] == '('};
         return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * bracket);
     }
 
