@@ -20,19 +20,35 @@ if(TESSERA_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# Headers are precompiled once for each kind of target, and shared by all of that kind.
+function(tessera_headers kind)
+  cmake_parse_arguments(PARSE_ARGV 1 headers "" "" "LINK;HEADERS")
+  file(CONFIGURE OUTPUT headers/${kind}.cpp CONTENT "// Nothing but what a ${kind} includes.\n")
+  add_library(tessera_${kind}_headers STATIC ${CMAKE_CURRENT_BINARY_DIR}/headers/${kind}.cpp)
+  set_target_properties(tessera_${kind}_headers PROPERTIES AUTOMOC OFF AUTORCC OFF)
+  target_link_libraries(tessera_${kind}_headers PRIVATE tessera_options ${headers_LINK})
+  target_precompile_headers(tessera_${kind}_headers PRIVATE ${headers_HEADERS})
+endfunction()
+
+set(standard_headers <array> <expected> <functional> <memory> <optional> <span> <string> <string_view> <vector>)
+# Headers of the standard library and of the toolkit, for rooms without and with windows.
+tessera_headers(room LINK Qt6::Core HEADERS <QtCore> ${standard_headers})
+tessera_headers(window LINK Qt6::Widgets HEADERS <QtWidgets> ${standard_headers})
+
 # One folder of src/, its files listed by hand: tessera_room(name SOURCES ... LINK ...).
 function(tessera_room name)
-  cmake_parse_arguments(PARSE_ARGV 1 room "" "" "SOURCES;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 room "WINDOWS" "" "SOURCES;LINK")
   add_library(tessera_${name} STATIC ${room_SOURCES})
   target_link_libraries(tessera_${name} PUBLIC tessera_options ${room_LINK})
-  target_precompile_headers(tessera_${name} PRIVATE
-    <QObject> <QString> <QStringList> <QByteArray> <array> <expected> <functional> <memory>
-    <optional> <span> <string> <string_view> <vector>)
+  if(room_WINDOWS)
+    target_link_libraries(tessera_${name} PUBLIC Qt6::Widgets)
+    target_precompile_headers(tessera_${name} REUSE_FROM tessera_window_headers)
+  else()
+    target_precompile_headers(tessera_${name} REUSE_FROM tessera_room_headers)
+  endif()
 endfunction()
 
 # Same, for a folder that shows widgets.
 function(tessera_window_room name)
-  tessera_room(${name} ${ARGN})
-  target_link_libraries(tessera_${name} PUBLIC Qt6::Widgets)
-  target_precompile_headers(tessera_${name} PRIVATE <QtWidgets>)
+  tessera_room(${name} WINDOWS ${ARGN})
 endfunction()

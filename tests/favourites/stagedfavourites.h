@@ -15,6 +15,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace tessera::test {
 

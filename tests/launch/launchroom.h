@@ -14,6 +14,7 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace tessera::test {
 
