@@ -21,6 +21,10 @@ int runCommand(const Verb& verb, const QStringList& arguments)
     const int position = given.constFirst().toInt(&isNumber);
     if (!isNumber || position < 0)
         return badCommandLine(verb, QStringLiteral("\"%1\" is no position.").arg(given.constFirst()));
+    // What the words lack is said before anything is looked for: a bad command line is bad on every machine.
+    const QString game = given.value(1);
+    if (!commandArguments(position, {game, game, QString()}))
+        return badCommandLine(verb, QStringLiteral("This command wants a GAME."));
 
     UserDefaults settings(UserDefaults::standardPath());
     DefaultsController defaults(settings);
@@ -29,13 +33,10 @@ int runCommand(const Verb& verb, const QStringList& arguments)
     if (emulator.isEmpty())
         return failed(Failure{"failure_no_emulator", {}});
     const QString executable = QFileInfo(emulator).absoluteFilePath();
-    const QString game = given.value(1);
     const ArchiveFolders folders{defaults.flag(keys::Outputserror), defaults.text(keys::RomsPath),
                                  executable};
     const auto words = commandArguments(position, {game, archivePath(folders, game), executable});
-    if (!words)
-        return badCommandLine(verb, QStringLiteral("This command wants a GAME."));
-    return failed(becomeEmulator(executable, *words));
+    return failed(becomeEmulator(executable, words.value_or(QStringList())));
 }
 
 } // namespace tessera

@@ -1,5 +1,7 @@
 #include "verbs/stagedverbs.h"
 
+#include "launch/emulatorfinder.h"
+
 #include <QFileInfo>
 
 using namespace tessera;
@@ -25,6 +27,20 @@ private Q_SLOTS:
                      + "/roms/galaga.zip]\n[-romident]\n");
         QCOMPARE(printed(QStringLiteral("command 21 galaga")), '[' + emulator + "]\n[-listdevices]\n");
         QCOMPARE(printed(QStringLiteral("command 24 galaga")), QByteArray());
+    }
+
+    void aGameThatIsMissingIsSaidBeforeAnEmulatorIsLookedFor()
+    {
+        hideEmulators();
+        Outcome outcome = tessera({QStringLiteral("command"), QStringLiteral("0")});
+        if (outcome.status != 1 && !findEmulator().isEmpty())
+            QSKIP("An emulator is installed, and nothing may be mounted over it.");
+        QVERIFY2(outcome.err.startsWith("tessera: "), outcome.err.constData());
+        for (const char* position : {"7", "20", "21"}) {
+            outcome = tessera({QStringLiteral("command"), QString::fromLatin1(position)});
+            QCOMPARE(outcome.status, 2);
+            QVERIFY2(outcome.err.contains("This command wants a GAME."), outcome.err.constData());
+        }
     }
 };
 

@@ -8,11 +8,17 @@
 #include <QFile>
 #include <QProcess>
 
+#include <sched.h>
+#include <sys/mount.h>
+
+#include <tuple>
+
 namespace tessera::test {
 
 void StagedVerbs::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    m_hidesEmulators = false;
     m_environment = QProcessEnvironment::systemEnvironment();
     for (const char* variable :
          {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
@@ -26,11 +32,26 @@ StagedVerbs::Outcome StagedVerbs::tessera(const QStringList& arguments) const
 {
     QProcess process;
     process.setProcessEnvironment(m_environment);
+    if (m_hidesEmulators) {
+        // In a name space of its own, which goes with the program.
+        process.setChildProcessModifier([] {
+            if (::unshare(CLONE_NEWNS) != 0
+                || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+                return;
+            std::ignore = ::mount("none", "/usr/games", "tmpfs", 0, "size=64k");
+        });
+    }
     process.start(QStringLiteral(TESSERA_PROGRAM), arguments);
     if (!process.waitForFinished())
         return {};
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void StagedVerbs::hideEmulators()
+{
+    m_hidesEmulators = true;
+    m_environment.insert(QStringLiteral("PATH"), QStringLiteral("/bin"));
 }
 
 void StagedVerbs::expectRefusal(const QStringList& arguments, const char* sentence) const
