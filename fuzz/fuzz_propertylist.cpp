@@ -14,7 +14,7 @@ namespace {
 QByteArray again(const QByteArray& written)
 {
     const auto list = parsePropertyList(written, QString());
-    const auto xml = list ? list->xml() : std::unexpected(list.error());
+    const auto xml = list ? list->xml(QString()) : std::unexpected(list.error());
     if (!xml)
         std::abort();
     return *xml;
@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (item.kind() == PropertyList::Kind::Dictionary)
             (void)item.text("name");
     }
-    const auto written = copy.xml();
+    const auto written = copy.xml(QString());
     if (!written)
         return 0;
     // Of values under one key the last is left after the first reading.

@@ -76,9 +76,9 @@ std::expected<BiosEntries, Failure> readBiosEntries(const QString& path)
     return entriesOf(*list);
 }
 
-std::expected<QByteArray, Failure> biosEntriesXml(const BiosEntries& entries)
+std::expected<QByteArray, Failure> biosEntriesXml(const BiosEntries& entries, const QString& path)
 {
-    return arrayOf(entries).xml();
+    return arrayOf(entries).xml(path);
 }
 
 BiosEntries mergedBiosEntries(BiosEntries known, const BiosEntries& found)

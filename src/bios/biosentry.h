@@ -27,7 +27,8 @@ inline constexpr int fixedRows = 2;
 
 /// The rows of a property list: an array of dictionaries.
 std::expected<BiosEntries, Failure> readBiosEntries(const QString& path);
-std::expected<QByteArray, Failure> biosEntriesXml(const BiosEntries& entries);
+/// `path` is for the failures' texts.
+std::expected<QByteArray, Failure> biosEntriesXml(const BiosEntries& entries, const QString& path);
 
 /// Both lists as one: `known` first, each with what only the other one has beneath it, then what only the
 /// other one has. Entries are the same that have the same archive and BIOS.

@@ -2,7 +2,7 @@
 
 #include "catalogue/storelayout.h"
 #include "catalogue/wellformedness.h"
-#include "catalogue/xmlencoding.h"
+#include "core/xmlencoding.h"
 #include "catalogue/xmltext.h"
 
 #include <pugixml.hpp>

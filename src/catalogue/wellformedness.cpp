@@ -1,7 +1,7 @@
 #include "catalogue/wellformedness.h"
 
 #include "catalogue/xmlcursor.h"
-#include "catalogue/xmldeclaration.h"
+#include "core/xmldeclaration.h"
 
 #include <algorithm>
 #include <vector>

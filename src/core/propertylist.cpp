@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
 
 #include <clocale>
 #include <cstdlib>
@@ -89,16 +88,6 @@ QByteArray legalXml(const QByteArray& xml)
             c = QChar::ReplacementCharacter;
     }
     return text.replace(QLatin1Char('\r'), QStringLiteral("&#13;")).toUtf8();
-}
-
-// The library knows UTF-8 only.
-QByteArray inUtf8(const QByteArray& bytes)
-{
-    const auto encoding = QStringConverter::encodingForData(bytes, u'<');
-    if (!encoding || *encoding == QStringConverter::Utf8)
-        return bytes.startsWith("\xEF\xBB\xBF") ? bytes.sliced(3) : bytes;
-    const QString text = QStringDecoder(*encoding)(bytes);
-    return text.toUtf8();
 }
 
 } // namespace
@@ -190,10 +179,12 @@ void PropertyList::remove(const char* key)
     plist_dict_remove_item(m_node.get(), key);
 }
 
-std::expected<QByteArray, Failure> PropertyList::xml() const
+std::expected<QByteArray, Failure> PropertyList::xml(const QString& path) const
 {
     QByteArray xml = legalXml(rawXml(m_node.get()));
-    if (auto good = checkXmlPropertyList(xml, QString()); !good)
+    if (xml.size() > largestPropertyList)
+        return std::unexpected(Failure{"failure_plist_large", {path}});
+    if (auto good = plainXmlPropertyList(xml, path); !good)
         return std::unexpected(good.error());
     return xml;
 }
@@ -203,20 +194,21 @@ std::expected<PropertyList, Failure> parsePropertyList(const QByteArray& bytes, 
     if (bytes.size() > largestPropertyList)
         return std::unexpected(Failure{"failure_plist_large", {path}});
     const bool isBinary = bytes.startsWith("bplist0");
-    const QByteArray text = isBinary ? bytes : inUtf8(bytes);
-    if (text.isEmpty())
-        return std::unexpected(Failure{"failure_plist_empty", {path}});
-    if (auto sound = isBinary ? checkBinaryPropertyList(text, path) : checkXmlPropertyList(text, path);
-        !sound)
-        return std::unexpected(sound.error());
+    if (isBinary) {
+        if (auto sound = checkBinaryPropertyList(bytes, path); !sound)
+            return std::unexpected(sound.error());
+    }
+    const std::expected<QByteArray, Failure> text = isBinary ? bytes : plainXmlPropertyList(bytes, path);
+    if (!text)
+        return std::unexpected(text.error());
 
     const PlainNumbers numbers;
     plist_t node = nullptr;
-    const auto length = static_cast<std::uint32_t>(text.size());
+    const auto length = static_cast<std::uint32_t>(text->size());
     if (isBinary)
-        plist_from_bin(text.constData(), length, &node);
+        plist_from_bin(text->constData(), length, &node);
     else
-        plist_from_xml(text.constData(), length, &node);
+        plist_from_xml(text->constData(), length, &node);
     if (node == nullptr)
         return std::unexpected(Failure{"failure_plist_library", {path}});
     return PropertyList(PropertyList::Node(node));

@@ -42,8 +42,8 @@ public:
     void remove(const char* key);
 
     /// As an XML file, version 1.0, which parsePropertyList() reads again. Characters that XML cannot hold
-    /// become U+FFFD.
-    std::expected<QByteArray, Failure> xml() const;
+    /// become U+FFFD. `path` is for the failures' texts.
+    std::expected<QByteArray, Failure> xml(const QString& path) const;
 
 private:
     friend std::expected<PropertyList, Failure> parsePropertyList(const QByteArray& bytes,

@@ -127,7 +127,7 @@ std::expected<QByteArray, Failure> Favourites::text() const
         ++place;
     }
     appendOthers(true);
-    return list.xml();
+    return list.xml(path());
 }
 
 std::expected<void, Failure> Favourites::write(const QByteArray& text)

@@ -61,7 +61,7 @@ std::expected<void, Failure> PlayedGames::save()
             entry.setText(lastKey, played.last.toUTC().toString(Qt::ISODate));
         list.append(std::move(entry));
     }
-    const auto text = list.xml();
+    const auto text = list.xml(m_file.path());
     return text ? m_file.write(*text) : std::unexpected(text.error());
 }
 

@@ -46,12 +46,12 @@ std::expected<QStringList, Failure> oldFavourites(const QString& path)
     return names;
 }
 
-std::expected<QByteArray, Failure> favouritesText(const QList<RecordDictionary>& records)
+std::expected<QByteArray, Failure> favouritesText(const QList<RecordDictionary>& records, const QString& path)
 {
     PropertyList list = PropertyList::array();
     for (const RecordDictionary& record : records)
         list.append(entryOf(record));
-    return list.xml();
+    return list.xml(path);
 }
 
 QString favouritesBackup(const QString& favourites, const QDateTime& when)

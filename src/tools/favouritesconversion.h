@@ -23,8 +23,10 @@ inline constexpr QLatin1StringView notTrashed("error: %1");
 /// The set names in a favourites file of the older form, in its order. What names no set is passed over.
 std::expected<QStringList, Failure> oldFavourites(const QString& path);
 
-/// A favourites file of the present form; the records' absent values have no entry in it.
-std::expected<QByteArray, Failure> favouritesText(const QList<RecordDictionary>& records);
+/// A favourites file of the present form; the records' absent values have no entry in it. `path` is
+/// for the failures' texts.
+std::expected<QByteArray, Failure> favouritesText(const QList<RecordDictionary>& records,
+                                                  const QString& path);
 
 /// "jp.Plover.Tessera_Favorites_2026-01-02_030405.xml" beside the favourites file.
 QString favouritesBackup(const QString& favourites, const QDateTime& when);

@@ -1,5 +1,5 @@
 #include "catalogue/wellformedness.h"
-#include "catalogue/xmldeclaration.h"
+#include "core/xmldeclaration.h"
 #include "catalogue/xmltext.h"
 
 #include "support/testmain.h"

@@ -107,6 +107,9 @@ private Q_SLOTS:
         QTest::newRow("empty") << QByteArray("<string/>") << QStringLiteral("");
         QTest::newRow("integer") << QByteArray("<integer>1980</integer>") << QStringLiteral("1980");
         QTest::newRow("negative") << QByteArray("<integer>-5</integer>") << QStringLiteral("-5");
+        QTest::newRow("hexadecimal") << QByteArray("<integer> 0x1F </integer>") << QStringLiteral("31");
+        QTest::newRow("negative and hexadecimal")
+            << QByteArray("<integer>-0x10</integer>") << QStringLiteral("-16");
         QTest::newRow("largest") << QByteArray("<integer>18446744073709551615</integer>")
                                  << QStringLiteral("18446744073709551615");
         QTest::newRow("smallest") << QByteArray("<integer>-9223372036854775808</integer>")
@@ -130,7 +133,7 @@ private Q_SLOTS:
             QVERIFY(list.has_value());
             QCOMPARE(list->text("k"), std::optional(text));
             // And again from what is written.
-            const auto xmlAgain = list->xml();
+            const auto xmlAgain = list->xml(QString());
             QVERIFY(xmlAgain.has_value());
             QCOMPARE(parsed(*xmlAgain)->text("k"), std::optional(text));
         }
@@ -164,10 +167,10 @@ private Q_SLOTS:
                                     "</array>\n");
         const auto list = parsed(xml);
         QVERIFY(list.has_value());
-        QCOMPARE(list->xml().value(), xml);
+        QCOMPARE(list->xml(QString()).value(), xml);
         // A copy holds everything too.
         const PropertyList copy = *list;
-        QCOMPARE(copy.xml().value(), xml);
+        QCOMPARE(copy.xml(QString()).value(), xml);
         QCOMPARE(list->items().size(), std::size_t(6));
         QVERIFY(list->items()[0].kind() == PropertyList::Kind::Dictionary);
         QVERIFY(list->items()[1].kind() == PropertyList::Kind::Value);
@@ -188,7 +191,7 @@ private Q_SLOTS:
         list.append(entry);
         QCOMPARE(entry.text("name"), std::optional(QStringLiteral("パックマン & <co>")));
         QCOMPARE(
-            list.xml().value(),
+            list.xml(QString()).value(),
             file("<array>\n\t<dict>\n\t\t<key>name</key>\n\t\t<string>パックマン &amp; &lt;co&gt;</string>\n"
                  "\t</dict>\n</array>\n"));
     }
@@ -200,7 +203,7 @@ private Q_SLOTS:
                       QStringLiteral("a\x01\x1F\x7F"
                                      "b\rc\td\r\ne")
                           + QChar(0xFFFE));
-        const auto again = parsed(entry.xml().value());
+        const auto again = parsed(entry.xml(QString()).value());
         QVERIFY(again.has_value());
         QCOMPARE(again->text("k"),
                  std::optional(QStringLiteral("a\uFFFD\uFFFD\x7F"
@@ -209,19 +212,30 @@ private Q_SLOTS:
         const auto broken
             = parsed(binaryFile({"\x51k", "\x52\xFF\x80", QByteArray("\xD1\0\0\0\0\0\0\0\1", 9)}));
         QVERIFY(broken.has_value());
-        QCOMPARE(parsed(broken->xml().value())->text("k"), std::optional(QStringLiteral("\uFFFD\uFFFD")));
+        QCOMPARE(parsed(broken->xml(QString()).value())->text("k"),
+                 std::optional(QStringLiteral("\uFFFD\uFFFD")));
     }
 
     void otherEncodingsAreRead_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         const QString text = QString::fromUtf8(file("<dict><key>k</key><string>ゲーム</string></dict>"));
-        const auto encoded = [&](QStringConverter::Encoding encoding) {
-            return QByteArray(QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(text));
-        };
-        QTest::newRow("UTF-8 with a mark") << encoded(QStringConverter::Utf8);
-        QTest::newRow("UTF-16, little end first") << encoded(QStringConverter::Utf16LE);
-        QTest::newRow("UTF-16, big end first") << encoded(QStringConverter::Utf16BE);
+        const auto row
+            = [&](const char* name, const char* encoding, const char* declared, QStringConverter::Flag mark) {
+                  QString said = text;
+                  said.replace(QStringLiteral("UTF-8"), QLatin1StringView(declared));
+                  QTest::newRow(name) << QByteArray(QStringEncoder(encoding, mark)(said));
+              };
+        const auto marked = QStringConverter::Flag::WriteBom;
+        const auto plain = QStringConverter::Flag::Default;
+        row("UTF-8 with a mark", "UTF-8", "UTF-8", marked);
+        row("UTF-16, little end first", "UTF-16LE", "UTF-16", marked);
+        row("UTF-16, big end first", "UTF-16BE", "UTF-16", marked);
+        row("UTF-16 by its exact name", "UTF-16LE", "UTF-16LE", marked);
+        row("UTF-16 without a mark", "UTF-16BE", "UTF-16", plain);
+        row("UTF-16 that calls itself UTF-8", "UTF-16LE", "UTF-8", marked);
+        row("Shift JIS", "Shift_JIS", "Shift_JIS", plain);
+        row("EUC-JP", "EUC-JP", "euc-jp", plain);
     }
     void otherEncodingsAreRead()
     {
@@ -229,6 +243,53 @@ private Q_SLOTS:
         const auto list = parsed(bytes);
         QVERIFY(list.has_value());
         QCOMPARE(list->text("k"), std::optional(QStringLiteral("ゲーム")));
+    }
+
+    void latinTextsAreReadAsTheyAreDeclared()
+    {
+        const auto list = parsed(QByteArray(file("<dict><key>k</key><string>caf\xE9</string></dict>"))
+                                     .replace("UTF-8", "ISO-8859-1"));
+        QVERIFY(list.has_value());
+        QCOMPARE(list->text("k"), std::optional(QStringLiteral("café")));
+    }
+
+    void anEmptyKeyMayCloseItself()
+    {
+        const auto list = parsed(file("<dict><key/><string>v</string><key>k</key><string/></dict>"));
+        QVERIFY(list.has_value());
+        QCOMPARE(list->text(""), std::optional(QStringLiteral("v")));
+        QCOMPARE(list->text("k"), std::optional(QString()));
+    }
+
+    // A list of a hundred thousand games with options of their own is long, but no mistake.
+    void aLongListIsReadAndWritten()
+    {
+        constexpr int entries = 100'000;
+        QByteArray entry = "<dict>";
+        for (int key = 0; key < 10; ++key)
+            entry += "<key>" + QByteArray::number(key) + "</key><string>value</string>";
+        entry += "</dict>";
+        const auto list = parsed(file("<array>" + entry.repeated(entries) + "</array>"));
+        QVERIFY(list.has_value());
+        const auto written = list->xml(QStringLiteral("y.xml"));
+        QVERIFY(written.has_value());
+        const auto again = parsed(*written);
+        QVERIFY(again.has_value());
+        QCOMPARE(again->items().size(), std::size_t(entries));
+    }
+
+    // Whatever is written is read again: what would be too long for that is not written.
+    void aListThatCouldNotBeReadIsNotWritten()
+    {
+        PropertyList list = PropertyList::dictionary();
+        const QString half(static_cast<qsizetype>(largestPropertyList / 2), u'x');
+        list.setText("a", half);
+        QVERIFY(list.xml(QStringLiteral("y.xml")).has_value());
+        list.setText("b", half);
+        const auto written = list.xml(QStringLiteral("y.xml"));
+        QVERIFY(!written.has_value());
+        QCOMPARE(written.error().key, "failure_plist_large");
+        QCOMPARE(written.error().arguments, QStringList{QStringLiteral("y.xml")});
     }
 
     void brokenFilesAreFailures_data()
@@ -259,14 +320,26 @@ private Q_SLOTS:
         row("no date", file("<array><date>yesterday</date></array>"), "failure_plist_malformed");
         row("no real", file("<array><real>1,5</real></array>"), "failure_plist_malformed");
         row("element in a text", file("<array><string>a<b/></string></array>"), "failure_plist_malformed");
-        row("unknown entity", file("<array><string>&foo;</string></array>"), "failure_plist_library");
+        row("unknown entity", file("<array><string>&foo;</string></array>"), "failure_plist_malformed");
         row("control character", file("<array><string>\x01</string></array>"), "failure_plist_malformed");
         row("no UTF-8", file("<array><string>\xFF\x80</string></array>"), "failure_plist_encoding");
         row("NUL", file(QByteArray("<array><string>a\0b</string></array>", 36)), "failure_plist_encoding");
         row("NUL as a number", file("<array><string>&#0;</string></array>"), "failure_plist_malformed");
-        row("Latin-1, and says so",
-            QByteArray(file("<array><string>\xE9</string></array>")).replace("UTF-8", "ISO-8859-1"),
+        row("Shift JIS, broken",
+            QByteArray(file("<array><string>\x83</string></array>")).replace("UTF-8", "Shift_JIS"),
             "failure_plist_encoding");
+        row("an encoding that nobody knows",
+            QByteArray(file("<array><string>a</string></array>")).replace("UTF-8", "x-nobody"),
+            "failure_plist_encoding");
+        row("UTF-16, half a character",
+            QByteArray(QStringEncoder("UTF-16LE",
+                                      QStringConverter::Flag::WriteBom)(QString::fromUtf8(file("<array/>"))))
+                .chopped(1),
+            "failure_plist_malformed");
+        row("negative beyond the smallest", file("<array><integer>-9223372036854775809</integer></array>"),
+            "failure_plist_malformed");
+        row("no integer behind its sign", file("<array><integer>-0x</integer></array>"),
+            "failure_plist_malformed");
         row("text behind the end", file("<array/>") + "junk", "failure_plist_malformed");
         row("binary, nothing but its name", "bplist00", "failure_plist_binary");
     }
@@ -361,7 +434,7 @@ private Q_SLOTS:
         const auto list = parsed(file("<dict><key>k</key><real>1.5</real></dict>"));
         QVERIFY(list);
         QCOMPARE(list->text("k"), std::optional(QStringLiteral("1.5")));
-        const auto xml = list->xml();
+        const auto xml = list->xml(QString());
         QVERIFY(xml->contains("<real>1.5</real>"));
     }
 

@@ -1,3 +1,4 @@
+#include "core/propertylistcheck.h"
 #include "favourites/favourites.h"
 #include "favourites/favouritespath.h"
 
@@ -152,7 +153,8 @@ private Q_SLOTS:
         row("nested deeply",
             listFile(QByteArray("<array>").repeated(100'000) + QByteArray("</array>").repeated(100'000)),
             "failure_plist_large");
-        row("large", listFile("<string>" + QByteArray(70 << 20, 'x') + "</string>"), "failure_plist_large");
+        row("large", listFile("<string>" + QByteArray(largestPropertyList, 'x') + "</string>"),
+            "failure_plist_large");
     }
     void brokenFilesAreKeptUnderADatedName()
     {

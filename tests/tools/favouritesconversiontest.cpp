@@ -80,7 +80,8 @@ private Q_SLOTS:
         RecordDictionary record;
         for (const std::string_view field : fieldNames)
             record.insert(fieldText(field), QStringLiteral("<ポン> ") + fieldText(field));
-        const auto text = favouritesText({record, {{QStringLiteral("name"), QStringLiteral("qix")}}});
+        const auto text
+            = favouritesText({record, {{QStringLiteral("name"), QStringLiteral("qix")}}}, QString());
         QVERIFY(text);
         const auto list = parsePropertyList(*text, {});
         QVERIFY(list);

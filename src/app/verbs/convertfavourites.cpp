@@ -40,7 +40,7 @@ std::expected<QList<RecordDictionary>, Failure> lookUpIn(const QString& catalogu
 // As in the window, a backup that fails stops nothing.
 std::expected<void, Failure> replace(const QString& favourites, const QList<RecordDictionary>& records)
 {
-    const auto text = favouritesText(records);
+    const auto text = favouritesText(records, favourites);
     if (!text)
         return std::unexpected(text.error());
     if (QFileInfo::exists(favourites)) {

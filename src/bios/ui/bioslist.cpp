@@ -160,7 +160,7 @@ void Bioslist::saveAction()
 {
     if (!keepUnread())
         return;
-    const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries());
+    const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries(), m_parts.ownFile);
     if (!xml) {
         m_parts.desktop.log(xml.error().text());
         return;

@@ -87,7 +87,7 @@ void FavouritesTool::convert(const QString& old)
 bool FavouritesTool::replaceFavorites(const QList<RecordDictionary>& records)
 {
     const QString favourites = m_hooks.pathOfDataFile();
-    const auto text = favouritesText(records);
+    const auto text = favouritesText(records, favourites);
     if (QFileInfo::exists(favourites))
         backUp(favourites);
     m_hooks.dir_make(QFileInfo(favourites).path());

@@ -1,4 +1,4 @@
-#include "catalogue/xmldeclaration.h"
+#include "core/xmldeclaration.h"
 
 namespace tessera {
 

@@ -1,6 +1,6 @@
-#include "catalogue/xmlencoding.h"
+#include "core/xmlencoding.h"
 
-#include "catalogue/xmldeclaration.h"
+#include "core/xmldeclaration.h"
 #include "core/encodings.h"
 
 #include <QLatin1StringView>
