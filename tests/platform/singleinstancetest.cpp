@@ -51,6 +51,30 @@ private Q_SLOTS:
         QCOMPARE(handedOver.at(0).at(0).toString(), path);
     }
 
+    // An alert may stand for as long as a file is opened, and the other start leaves meanwhile.
+    void aFileIsOpenedWhenItsMessageIsDoneWith()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("socket"));
+        SingleInstance first(name);
+        QVERIFY(first.listen());
+        QLocalSocket second;
+        QStringList heard;
+        connect(&first, &SingleInstance::handedOver, &first, [&](const QString& path) {
+            heard << path;
+            if (heard.size() > 1)
+                return;
+            // Within its own message a socket tells of no other.
+            second.write("another\n");
+            QTRY_COMPARE(heard.size(), 2);
+            second.abort();
+        });
+        second.connectToServer(name);
+        QVERIFY(second.waitForConnected());
+        second.write("one\n");
+        QTRY_COMPARE(heard, (QStringList{QStringLiteral("one"), QStringLiteral("another")}));
+    }
+
     void aSocketLeftByAKilledProgramIsTakenOver()
     {
         QTemporaryDir folder;

@@ -62,7 +62,8 @@ void SingleInstance::receive()
                 return;
             const QString path = QString::fromUtf8(socket->readLine(longestPath)).chopped(1);
             socket->write("\n");
-            Q_EMIT handedOver(path);
+            // Later: whoever opens the file may wait for an answer, and this socket is gone by then.
+            QMetaObject::invokeMethod(this, [this, path] { Q_EMIT handedOver(path); }, Qt::QueuedConnection);
         });
     }
 }
