@@ -51,9 +51,12 @@ void UCAppController::saveFavorites()
     const int row = m_selection.firstRow();
     defaults.setValue(keys::FavoriteTable.name, row < 0 ? nothingSelected : row);
     defaults.synchronize();
-    // Deliberate: an edit alone is not written, a cancelled removal is, and a failure is nobody's.
-    if (m_favoritesUpdate)
-        (void)writeFile();
+    // Deliberate: an edit alone is not written, a cancelled removal is. Nobody is asked at quit: the log
+    // alone tells of a failure.
+    if (!m_favoritesUpdate)
+        return;
+    if (const auto written = writeFile(); !written)
+        m_parts.desktop.log(QStringLiteral("save error: ") + written.error().text());
 }
 
 void UCAppController::saveFavoritesNow()
@@ -69,10 +72,8 @@ void UCAppController::saveFavoritesNow()
 std::expected<void, Failure> UCAppController::writeFile()
 {
     const auto text = m_parts.favourites.text();
-    if (!text) {
-        m_parts.desktop.log(QStringLiteral("save error: ") + text.error().text());
+    if (!text)
         return std::unexpected(text.error());
-    }
     dir_make(QFileInfo(pathOfDataFile()).path());
     return m_parts.favourites.write(*text);
 }
