@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
@@ -113,18 +114,25 @@ QColor color(const char* token)
     return QColor();
 }
 
+// Made once, like a mark: rows ask for theirs whenever they are drawn.
 QIcon icon(const QString& name, const char* token)
 {
+    static QHash<std::pair<QString, QByteArray>, QIcon> made;
+    QIcon& icon = made[{name, token}];
     QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
-    if (!file.open(QIODevice::ReadOnly))
-        return QIcon();
-    return QIcon(new DrawnIcon(file.readAll(), token));
+    if (icon.isNull() && file.open(QIODevice::ReadOnly))
+        icon = QIcon(new DrawnIcon(file.readAll(), token));
+    return icon;
 }
 
 QIcon mark(const QString& name)
 {
+    static QHash<QString, QIcon> made;
+    QIcon& picture = made[name];
+    if (!picture.isNull())
+        return picture;
     const QString file = QStringLiteral(":/icons/") + name + QStringLiteral(".svg");
-    QIcon picture(file);
+    picture.addFile(file);
     // In a selected row it keeps its own colours, too.
     picture.addFile(file, QSize(), QIcon::Selected);
     return picture;

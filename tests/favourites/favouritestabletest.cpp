@@ -42,6 +42,18 @@ private Q_SLOTS:
         QCOMPARE(model->rowCount(), 3);
     }
 
+    void aPictureIsMadeOnceForAllRows()
+    {
+        const auto picture = [this](int row) {
+            return m_staged->shown(row, FavouriteColumn::Name, Qt::DecorationRole).value<QIcon>();
+        };
+        // "bare" has a mark, "old" is not in the catalogue.
+        QVERIFY(!picture(0).isNull() && !picture(1).isNull());
+        QCOMPARE(picture(0).cacheKey(), picture(0).cacheKey());
+        QCOMPARE(picture(1).cacheKey(), picture(1).cacheKey());
+        QVERIFY(picture(0).cacheKey() != picture(1).cacheKey());
+    }
+
     void theHeaderIsPlainAndOfItsHeight()
     {
         QCOMPARE(m_staged->table->horizontalHeader()->height(), 22);

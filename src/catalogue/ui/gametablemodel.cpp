@@ -32,14 +32,7 @@ static_assert(headings.size() == GameTableModel::columns.size());
 
 QIcon markIcon(std::string_view status)
 {
-    static const QIcon none = theme::mark(QStringLiteral("plovermark_none"));
-    static QHash<QString, QIcon> icons;
-    const auto name = statusMark(status);
-    if (!name)
-        return none;
-    const QString key = fieldText(*name);
-    auto found = icons.find(key);
-    return found != icons.end() ? *found : *icons.insert(key, theme::mark(key));
+    return theme::mark(fieldText(statusMark(status).value_or(noStatusMark)));
 }
 
 } // namespace
