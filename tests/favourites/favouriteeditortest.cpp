@@ -113,7 +113,7 @@ private Q_SLOTS:
         knowSome();
         QLineEdit* field = m_editor->optionField;
         type(field, QStringLiteral("-cheat -auto"));
-        QAbstractItemView* popup = m_editor->optionField->wordCompleter()->popup();
+        QAbstractItemView* popup = m_editor->optionField->findChild<QCompleter*>()->popup();
         QVERIFY(popup->isVisible());
         QCOMPARE(popup->model()->rowCount(), 2);
         QVERIFY(popup->model()->index(0, 0).data().toString().contains(QStringLiteral("boot into ")));
@@ -153,6 +153,20 @@ private Q_SLOTS:
         m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
         QTest::mouseClick(m_editor->removeButton, Qt::LeftButton);
         QCOMPARE(m_staged->shownNames(), QStringList{QStringLiteral("b")});
+    }
+
+    // The others that are selected stay.
+    void removingFromTheEditorTakesWhatItShows()
+    {
+        m_staged->table->selectAll();
+        QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(2));
+        QCOMPARE(m_editor->field(FavouriteKey::Title)->text(), QStringLiteral("A"));
+        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        QTest::mouseClick(m_editor->removeButton, Qt::LeftButton);
+        QCOMPARE(m_staged->shownNames(), QStringList{QStringLiteral("b")});
+        QCOMPARE(m_editor->field(FavouriteKey::Title)->text(), QStringLiteral("B"));
+        m_staged->favourites.undoStack().undo();
+        QCOMPARE(m_staged->shownNames(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
     }
 
 private:

@@ -27,8 +27,7 @@ FavouriteEditor& FavouriteEditing::editor()
         return *m_editor;
     m_editor = std::make_unique<FavouriteEditor>();
     connect(m_editor.get(), &FavouriteEditor::edited, &m_favourites, &Favourites::setValue);
-    connect(m_editor->removeButton, &QPushButton::clicked, &m_controller,
-            &UCAppController::removeFavoritesTable);
+    connect(m_editor->removeButton, &QPushButton::clicked, &m_controller, &UCAppController::removeShown);
     connect(m_editor->previousButton, &QPushButton::clicked, this, [this] { selectNeighbour(-1); });
     connect(m_editor->nextButton, &QPushButton::clicked, this, [this] { selectNeighbour(1); });
     showSelection();

@@ -30,7 +30,6 @@ public:
     explicit OptionField(QWidget* parent = nullptr);
 
     void setKnownOptions(const QList<KnownOption>& options);
-    QCompleter* wordCompleter() { return m_completer; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -130,10 +130,21 @@ void UCAppController::addFavoritesTable(const GameRecord& game)
 void UCAppController::removeFavoritesTable()
 {
     commitEditing();
+    removeAfterAsking(m_selection.favourites());
+}
+
+void UCAppController::removeShown()
+{
+    commitEditing();
+    const auto shown = m_selection.first();
+    removeAfterAsking(shown ? std::vector{*shown} : std::vector<std::uint32_t>());
+}
+
+void UCAppController::removeAfterAsking(std::vector<std::uint32_t> favourites)
+{
     // Deliberate: also when nothing is selected.
     m_parts.desktop.beep();
-    std::vector<std::uint32_t> selected = m_selection.favourites();
-    if (selected.empty())
+    if (favourites.empty())
         return;
     Alert alert;
     alert.style = Alert::Style::Warning;
@@ -142,7 +153,7 @@ void UCAppController::removeFavoritesTable()
     alert.buttons = {QStringLiteral("Remove"), QStringLiteral("Cancel")};
     // Shows the selection anew as well.
     if (m_parts.desktop.runAlert(alert) == 0)
-        m_parts.favourites.remove(std::move(selected));
+        m_parts.favourites.remove(std::move(favourites));
     // Deliberate: the file is rewritten at quit after a cancel too.
     m_favoritesUpdate = true;
 }

@@ -64,7 +64,6 @@ public:
     void addFavoritesTable(const GameRecord& game);
     /// Only what was played in the last days, or everything.
     void showRecentlyPlayed(bool only);
-    bool showsRecentlyPlayed() const { return m_onlyRecent; }
     /// Whose archives are there, for the colours of the rows.
     void setRomFolders(std::shared_ptr<const RomFolders> folders);
 
@@ -76,6 +75,8 @@ public Q_SLOTS:
     void saveFavoritesNow();
     void addFavorite();
     void removeFavoritesTable();
+    /// The first of the selected ones alone, which is what the editor shows.
+    void removeShown();
     void tableViewSelectionDidChange();
     void romStatus2();
     void tableViewDoubleAction2();
@@ -98,6 +99,7 @@ Q_SIGNALS:
 
 private:
     void joinFavourites();
+    void removeAfterAsking(std::vector<std::uint32_t> favourites);
     void showAgain(const std::vector<std::uint32_t>& selected, int row = -1);
     void showAfterRemoval(const std::vector<std::uint32_t>& gone);
     void markGone();
