@@ -19,6 +19,7 @@
 #include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/bringforward.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -191,10 +192,7 @@ DownloadProcessing& ArtworkDesk::download()
 // The list stays key: the next game is chosen while this one's picture comes.
 void ArtworkDesk::showDownload()
 {
-    DownloadPanel& panel = downloadPanel();
-    panel.setAttribute(Qt::WA_ShowWithoutActivating);
-    panel.show();
-    panel.raise();
+    showBesides(downloadPanel());
 }
 
 DownloadPanel& ArtworkDesk::downloadPanel()

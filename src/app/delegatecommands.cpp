@@ -279,22 +279,15 @@ void Tessera_AppDelegate::windowLog()
 
 void Tessera_AppDelegate::showPrefsWindow()
 {
-    if (m_preferencesWindow->isVisible()) {
-        m_preferencesWindow->close();
-        return;
-    }
     m_options->addPages();
     m_artwork->addPage(*m_preferencesWindow);
     m_info->addPage(*m_preferencesWindow);
-    bringForward(*m_preferencesWindow);
+    toggle(*m_preferencesWindow);
 }
 
 void Tessera_AppDelegate::showHelpWindow()
 {
-    if (helpWindow().isVisible())
-        helpWindow().close();
-    else
-        bringForward(helpWindow());
+    toggle(helpWindow());
 }
 
 void Tessera_AppDelegate::utilityOrderFront()

@@ -134,13 +134,9 @@ void Finding::readRomFolders()
 void Finding::showPredicatePanel()
 {
     FilterPanel& shown = panel();
-    if (shown.isVisible()) {
-        shown.close();
-        return;
-    }
-    if (shown.rowCount() == 0)
+    if (!isShown(shown) && shown.rowCount() == 0)
         shown.addRow();
-    bringForward(shown);
+    toggle(shown);
 }
 
 void Finding::focusSearch()

@@ -145,10 +145,7 @@ void InfoDesk::pathChosen(const QString& key)
 
 void InfoDesk::showHistoryinfo()
 {
-    if (window().isVisible())
-        window().close();
-    else
-        bringForward(window());
+    toggle(window());
 }
 
 void InfoDesk::searchHistoryinfo()
@@ -179,12 +176,8 @@ void InfoDesk::show(const QString& name, const QString& key)
     shown.historySearchField->setText(name);
     shown.showParent(key);
     m_history->searchHistoryInfo(key);
-    if (shown.isVisible())
-        return;
-    shown.setAttribute(Qt::WA_ShowWithoutActivating);
-    shown.show();
-    shown.raise();
-    shown.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (!isShown(shown))
+        showBesides(shown);
 }
 
 void InfoDesk::follow(KeyWindow::Kind list)

@@ -5,6 +5,25 @@
 
 using namespace tessera;
 
+namespace {
+
+/// Notes how a window was last shown.
+class ShowWatch : public QObject
+{
+public:
+    bool withoutActivating = false;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show)
+            withoutActivating = static_cast<QWidget*>(object)->testAttribute(Qt::WA_ShowWithoutActivating);
+        return false;
+    }
+};
+
+} // namespace
+
 class BringForwardTest : public QObject
 {
     Q_OBJECT
@@ -15,6 +34,35 @@ private Q_SLOTS:
         QWidget window;
         bringForward(window);
         QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
+    void togglingClosesOnlyWhatIsOnTheScreen()
+    {
+        QWidget window;
+        toggle(window);
+        QVERIFY(isShown(window));
+        window.setWindowState(window.windowState() | Qt::WindowMinimized);
+        QVERIFY(window.isVisible() && !isShown(window));
+        toggle(window);
+        QVERIFY(isShown(window));
+        toggle(window);
+        QVERIFY(!window.isVisible());
+    }
+
+    // The offscreen platform makes every new window key, so the request alone can be seen here.
+    void aWindowShownBesidesLeavesTheKeyWindow()
+    {
+        QWidget other;
+        ShowWatch watch;
+        other.installEventFilter(&watch);
+        showBesides(other);
+        QVERIFY(watch.withoutActivating);
+        other.setWindowState(other.windowState() | Qt::WindowMinimized);
+        showBesides(other);
+        QVERIFY(isShown(other));
+        other.hide();
+        bringForward(other);
+        QVERIFY(!watch.withoutActivating);
     }
 
     void aMinimisedWindowComesBackAsItWas()

@@ -43,7 +43,7 @@ void ImageWindow::show(const QImage& image, const QString& name)
         qtTrId("image_size").arg(locale.toString(image.width()), locale.toString(image.height())));
     setWindowTitle(name);
     fit(image.size());
-    if (!isVisible())
+    if (!isShown(*this))
         bringForward(*this);
 }
 

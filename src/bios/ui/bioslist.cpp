@@ -102,10 +102,7 @@ QModelIndex Bioslist::selected() const
 
 void Bioslist::ViewBiosList()
 {
-    if (m_parts.panel.isVisible())
-        m_parts.panel.close();
-    else
-        bringForward(m_parts.panel);
+    toggle(m_parts.panel);
 }
 
 void Bioslist::showIcon(const QIcon& icon)

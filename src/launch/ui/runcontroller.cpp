@@ -140,10 +140,7 @@ void RunController::saveLogAction()
 
 void RunController::showLogWindow()
 {
-    if (m_logWindow.isVisible())
-        m_logWindow.close();
-    else
-        windowLog();
+    toggle(m_logWindow);
 }
 
 void RunController::windowLog()
