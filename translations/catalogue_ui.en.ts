@@ -32,6 +32,7 @@
     <message id="remove"><source></source><translation>Remove</translation></message>
     <message id="editor_window"><source></source><translation>Record Editor</translation></message>
     <message id="appearance_font"><source></source><translation>List font</translation></message>
+    <message id="appearance_favoritefont"><source></source><translation>Favourites font</translation></message>
     <message id="appearance_choosefont"><source></source><translation>Choose…</translation></message>
     <message id="appearance_size"><source></source><translation>Size</translation></message>
     <message id="appearance_smaller"><source></source><translation>Smaller</translation></message>

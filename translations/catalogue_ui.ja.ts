@@ -32,6 +32,7 @@
     <message id="remove"><source></source><translation>削除</translation></message>
     <message id="editor_window"><source></source><translation>レコードの編集</translation></message>
     <message id="appearance_font"><source></source><translation>リストのフォント</translation></message>
+    <message id="appearance_favoritefont"><source></source><translation>お気に入りのフォント</translation></message>
     <message id="appearance_choosefont"><source></source><translation>選択…</translation></message>
     <message id="appearance_size"><source></source><translation>サイズ</translation></message>
     <message id="appearance_smaller"><source></source><translation>小さく</translation></message>

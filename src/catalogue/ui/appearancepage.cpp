@@ -59,6 +59,27 @@ QLineEdit* makeShown(const char* objectName, const QString& name, QWidget* paren
     return field;
 }
 
+// Its name says what is chosen, as there are two of them.
+QPushButton* makeChooser(const char* objectName, const QString& chosen, QWidget* parent)
+{
+    auto* button = new QPushButton(qtTrId("appearance_choosefont"), parent);
+    button->setObjectName(QLatin1String(objectName));
+    button->setAccessibleName(chosen + QStringLiteral(" – ") + button->text());
+    return button;
+}
+
+// A font's name in that font, in the size of the page.
+void showFont(QLineEdit& field, const QString& name)
+{
+    if (field.text() == name)
+        return;
+    QFont font = namedFont(name);
+    font.setPixelSize(field.parentWidget()->fontInfo().pixelSize());
+    field.setText(name);
+    field.setCursorPosition(0);
+    field.setFont(font);
+}
+
 bool isInitial(const QColor& color, const Key<QLatin1StringView>& key)
 {
     return color == QColor::fromString(key.initial);
@@ -69,7 +90,9 @@ bool isInitial(const QColor& color, const Key<QLatin1StringView>& key)
 AppearancePage::AppearancePage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
     , fontSampleField(makeShown("fontSampleField", qtTrId("appearance_font"), this))
-    , fontButton(new QPushButton(qtTrId("appearance_choosefont"), this))
+    , fontButton(makeChooser("fontButton", qtTrId("appearance_font"), this))
+    , favoriteFontField(makeShown("favoriteFontField", qtTrId("appearance_favoritefont"), this))
+    , favoriteFontButton(makeChooser("favoriteFontButton", qtTrId("appearance_favoritefont"), this))
     , fontSizeField(makeShown("fontSizeField", qtTrId("appearance_size"), this))
     , smallerButton(makeButton("smaller", qtTrId("appearance_smaller"), "smallerButton"))
     , biggerButton(makeButton("bigger", qtTrId("appearance_bigger"), "biggerButton"))
@@ -82,7 +105,6 @@ AppearancePage::AppearancePage(DefaultsController& defaults, QWidget* parent)
     , m_defaults(defaults)
     , m_colors(defaults.defaults())
 {
-    fontButton->setObjectName(QStringLiteral("fontButton"));
     coloringBox->setObjectName(QStringLiteral("coloringBox"));
     languagePop->setObjectName(QStringLiteral("languagePop"));
     languagePop->setAccessibleName(qtTrId("appearance_language"));
@@ -115,6 +137,7 @@ void AppearancePage::layOut()
 {
     fontSizeField->setFixedWidth(sizeFieldWidth);
     addRow(qtTrId("appearance_font"), beside({fontSampleField, fontButton}, true, this));
+    addRow(qtTrId("appearance_favoritefont"), beside({favoriteFontField, favoriteFontButton}, true, this));
     addRow(qtTrId("appearance_size"), beside({fontSizeField, smallerButton, biggerButton}, false, this));
     addLine();
     addRow(qtTrId("appearance_rows"), coloringBox);
@@ -135,11 +158,11 @@ void AppearancePage::bindControls(DefaultsController& defaults)
     bind(*fontSizeField, defaults, keys::fontSize);
     // Not gamelist_coloring: the list reads this one.
     bind(*coloringBox, defaults, keys::GamelistColoring);
-    connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showFont);
+    connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showFonts);
     connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showColors);
     connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showLanguage);
     connect(languagePop, &QComboBox::activated, this, &AppearancePage::storeLanguage);
-    showFont();
+    showFonts();
     showColors();
     showLanguage();
 }
@@ -162,16 +185,10 @@ void AppearancePage::storeLanguage(int position)
             keys::Language.name, QString::fromLatin1(languages[static_cast<std::size_t>(position)].code));
 }
 
-void AppearancePage::showFont()
+void AppearancePage::showFonts()
 {
-    const QString name = m_defaults.text(keys::TablefontName);
-    if (fontSampleField->text() == name)
-        return;
-    QFont font = namedFont(name);
-    font.setPixelSize(fontInfo().pixelSize());
-    fontSampleField->setText(name);
-    fontSampleField->setCursorPosition(0);
-    fontSampleField->setFont(font);
+    showFont(*fontSampleField, m_defaults.text(keys::TablefontName));
+    showFont(*favoriteFontField, m_defaults.text(keys::FavoritefontName));
 }
 
 void AppearancePage::showColors()

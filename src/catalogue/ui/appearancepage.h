@@ -14,7 +14,7 @@ namespace tessera {
 class ColorWell;
 class DefaultsController;
 
-/// How the game list looks: the font of its rows and their colours; and the language of the windows.
+/// How the lists look: the fonts of their rows and their colours; and the language of the windows.
 class AppearancePage : public FormPage
 {
     Q_OBJECT
@@ -24,6 +24,8 @@ public:
 
     QLineEdit* fontSampleField; ///< the font's name in that font
     QPushButton* fontButton;
+    QLineEdit* favoriteFontField; ///< the same of the favourites' list
+    QPushButton* favoriteFontButton;
     QLineEdit* fontSizeField;
     QToolButton* smallerButton;
     QToolButton* biggerButton;
@@ -39,7 +41,7 @@ private:
     void bindControls(DefaultsController& defaults);
     QToolButton* makeButton(const char* icon, const QString& name, const char* objectName);
     ColorWell* makeWell(const QString& name, const char* objectName);
-    void showFont();
+    void showFonts();
     void showColors();
     void showLanguage();
     void storeLanguage(int position);

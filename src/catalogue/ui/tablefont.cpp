@@ -13,6 +13,7 @@
 #include <QToolButton>
 
 #include <cmath>
+#include <utility>
 
 namespace tessera {
 
@@ -29,6 +30,7 @@ TableFont::TableFont(Desktop& desktop, DefaultsController& defaults, AppearanceP
     connect(page.biggerButton, &QToolButton::clicked, this, &TableFont::makeTextBigger);
     connect(page.smallerButton, &QToolButton::clicked, this, &TableFont::makeTextSmaller);
     connect(page.fontButton, &QPushButton::clicked, this, &TableFont::showFontPanel1);
+    connect(page.favoriteFontButton, &QPushButton::clicked, this, &TableFont::showFontPanel2);
     connect(&defaults, &DefaultsController::changed, this, &TableFont::settingChanged);
 }
 
@@ -66,7 +68,7 @@ FontPanel& TableFont::fontPanel()
     if (!m_panel) {
         m_panel = std::make_unique<FontPanel>();
         m_panel->setModes(validModesForFontPanel());
-        m_panel->setPanelFont(namedFont(m_defaults.text(keys::TablefontName)));
+        m_panel->setPanelFont(namedFont(m_defaults.text(*m_chosen)));
         connect(m_panel.get(), &FontPanel::fontChosen, this, [this] { changeFont(*m_panel); });
     }
     return *m_panel;
@@ -75,7 +77,7 @@ FontPanel& TableFont::fontPanel()
 void TableFont::changeFont(const FontPanel& panel)
 {
     const QFont font = panel.convertFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
-    m_defaults.setText(keys::TablefontName, fontName(font));
+    m_defaults.setText(*m_chosen, fontName(font));
     UserDefaults& stored = m_defaults.defaults();
     if (!stored.synchronize())
         Q_EMIT statusMessage(Failure{"failure_settings", {stored.path()}}.text());
@@ -83,18 +85,32 @@ void TableFont::changeFont(const FontPanel& panel)
 
 void TableFont::showFontPanel1()
 {
+    showPanelFor(keys::TablefontName);
+}
+
+void TableFont::showFontPanel2()
+{
+    showPanelFor(keys::FavoritefontName);
+}
+
+void TableFont::showPanelFor(const keys::Text& font)
+{
     FontPanel& panel = fontPanel();
-    if (panel.isVisible() && !panel.isMinimized())
-        return;
-    bringForward(panel);
+    const bool isOther = std::exchange(m_chosen, &font) != &font;
+    if (isOther)
+        panel.setPanelFont(namedFont(m_defaults.text(font)));
+    panel.setWindowTitle(qtTrId(m_chosen == &keys::TablefontName ? textKey("appearance_font")
+                                                                 : textKey("appearance_favoritefont")));
+    if (isOther || !isShown(panel))
+        bringForward(panel);
 }
 
 // A reset, say, while the panel is open.
 void TableFont::settingChanged(const QString& setting)
 {
-    if (!m_panel || (!setting.isEmpty() && setting != keys::TablefontName.name))
+    if (!m_panel || (!setting.isEmpty() && setting != m_chosen->name))
         return;
-    const QString name = m_defaults.text(keys::TablefontName);
+    const QString name = m_defaults.text(*m_chosen);
     if (fontName(m_panel->convertFont(QFont())) != name)
         m_panel->setPanelFont(namedFont(name));
 }

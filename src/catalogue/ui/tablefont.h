@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/settingskeys.h"
 #include "widgets/fontpanel.h"
 
 #include <QObject>
@@ -12,7 +13,8 @@ class AppearancePage;
 class DefaultsController;
 class Desktop;
 
-/// The commands on the font of the game table: its size, and the font itself through a font panel.
+/// The commands on the fonts of the two tables: the size of both, and each font itself through one font
+/// panel.
 class TableFont : public QObject
 {
     Q_OBJECT
@@ -33,6 +35,8 @@ public Q_SLOTS:
     void changeFont(const FontPanel& panel);
     /// Brings the font panel to the front unless it is open already.
     void showFontPanel1();
+    /// The same for the favourites' table.
+    void showFontPanel2();
 
 Q_SIGNALS:
     void statusMessage(const QString& sentence);
@@ -41,11 +45,13 @@ private:
     /// Beeps and changes nothing unless the shown size lies within `smallest` and `largest`.
     void step(int by, int smallest, int largest);
     void settingChanged(const QString& setting);
+    void showPanelFor(const keys::Text& font);
 
     Desktop& m_desktop;
     DefaultsController& m_defaults;
     AppearancePage& m_page;
     std::unique_ptr<FontPanel> m_panel;
+    const keys::Text* m_chosen = &keys::TablefontName; ///< what is chosen in the panel
 };
 
 } // namespace tessera

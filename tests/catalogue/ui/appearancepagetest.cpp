@@ -76,10 +76,11 @@ private Q_SLOTS:
         StagedPage at;
         QSet<QString> names;
         const QList<QWidget*> controls{
-            at.page.fontSampleField,     at.page.fontButton,         at.page.fontSizeField,
-            at.page.smallerButton,       at.page.biggerButton,       at.page.coloringBox,
-            at.page.textColorWell,       at.page.initialColorButton, at.page.textColorWell2,
-            at.page.initialColorButton2, at.page.languagePop,
+            at.page.fontSampleField,    at.page.fontButton,     at.page.favoriteFontField,
+            at.page.favoriteFontButton, at.page.fontSizeField,  at.page.smallerButton,
+            at.page.biggerButton,       at.page.coloringBox,    at.page.textColorWell,
+            at.page.initialColorButton, at.page.textColorWell2, at.page.initialColorButton2,
+            at.page.languagePop,
         };
         for (QWidget* control : controls) {
             const QString name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
@@ -119,8 +120,10 @@ private Q_SLOTS:
         at.page.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&at.page));
         at.page.fontSampleField->setFocus();
-        const QList<QWidget*> order{at.page.fontButton,         at.page.fontSizeField, at.page.smallerButton,
-                                    at.page.biggerButton,       at.page.coloringBox,   at.page.textColorWell,
+        const QList<QWidget*> order{at.page.fontButton,         at.page.favoriteFontField,
+                                    at.page.favoriteFontButton, at.page.fontSizeField,
+                                    at.page.smallerButton,      at.page.biggerButton,
+                                    at.page.coloringBox,        at.page.textColorWell,
                                     at.page.initialColorButton, at.page.textColorWell2};
         for (const QWidget* next : order) {
             QTest::keyClick(at.page.focusWidget(), Qt::Key_Tab);

@@ -175,6 +175,27 @@ private Q_SLOTS:
         QCOMPARE(at.controller.text(keys::TablefontName), QStringLiteral("DejaVu Sans"));
     }
 
+    void theFavouritesFontIsChosenByItself()
+    {
+        StagedPage at;
+        QCOMPARE(at.page.favoriteFontField->text(), QStringLiteral("DejaVu Sans"));
+        at.page.favoriteFontButton->click();
+        chooseFamily(at.font.fontPanel(), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(at.controller.text(keys::FavoritefontName), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(at.page.favoriteFontField->text(), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(fontName(at.page.favoriteFontField->font()), QStringLiteral("DejaVu Serif"));
+        QVERIFY(!at.defaults.value(keys::TablefontName.name));
+        // The open panel goes over to the other list, with its font.
+        at.page.fontButton->click();
+        QCOMPARE(at.font.fontPanel().familyList->currentIndex().data().toString(),
+                 QStringLiteral("DejaVu Sans"));
+        chooseFamily(at.font.fontPanel(), QStringLiteral("DejaVu Sans Mono"));
+        QCOMPARE(at.controller.text(keys::TablefontName), QStringLiteral("DejaVu Sans Mono"));
+        QCOMPARE(at.controller.text(keys::FavoritefontName), QStringLiteral("DejaVu Serif"));
+        at.controller.revertToInitialValues();
+        QCOMPARE(at.page.favoriteFontField->text(), QStringLiteral("DejaVu Sans"));
+    }
+
     void aChoiceThatCannotBeWrittenIsSaid()
     {
         const QTemporaryDir folder;
