@@ -75,12 +75,17 @@ Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& default
 
 Tessera_AppDelegate::~Tessera_AppDelegate() = default;
 
-void Tessera_AppDelegate::run(const QString& file)
+bool Tessera_AppDelegate::run(const QString& file)
 {
     loadInterface();
+    if (m_isEnding)
+        return false;
     awakeFromNib();
+    m_isRestored = true;
     m_mainWindow->show();
     applicationDidFinishLaunching();
+    if (m_isEnding)
+        return false;
     // The emulator's options are asked of it once, so that no launch waits for them.
     afterFirstPaint(*m_mainWindow, [this] {
         DeletionFocusRing::awakeFromNib(*m_mainWindow);
@@ -91,6 +96,9 @@ void Tessera_AppDelegate::run(const QString& file)
     if (m_buildWanted)
         QTimer::singleShot(0, m_rebuild.get(), &CatalogueRebuild::build);
     application_openFile(file);
+    if (m_wanted)
+        comeForward(*std::exchange(m_wanted, std::nullopt));
+    return !m_isEnding;
 }
 
 void Tessera_AppDelegate::initialize()
@@ -160,7 +168,11 @@ QAction* Tessera_AppDelegate::findMenuItemNamed(const QString& title) const
 
 void Tessera_AppDelegate::comeForward(const QString& file)
 {
-    windowMain();
+    if (!m_isRestored) {
+        m_wanted = file;
+        return;
+    }
+    m_switching->comeForward();
     application_openFile(file);
 }
 
@@ -224,6 +236,7 @@ void Tessera_AppDelegate::terminate()
 {
     if (!applicationShouldTerminate())
         return;
+    m_isEnding = true;
     applicationWillTerminate();
     // Not quit(): that would close the windows, which ask for the end of the program again.
     QCoreApplication::exit(0);
@@ -240,6 +253,8 @@ bool Tessera_AppDelegate::applicationShouldTerminate()
 
 void Tessera_AppDelegate::saveForSessionEnd()
 {
+    if (!m_isRestored)
+        return;
     m_editing->commitEditing();
     m_gameList->commitEditing();
     if (m_catalogue.hasChanges()) {
@@ -251,9 +266,12 @@ void Tessera_AppDelegate::saveForSessionEnd()
 
 void Tessera_AppDelegate::endWithSession()
 {
+    m_isEnding = true;
     saveForSessionEnd();
     forgetRecording();
-    applicationWillTerminate();
+    // What was not restored yet stays stored as it was.
+    if (m_isRestored)
+        applicationWillTerminate();
     QCoreApplication::exit(0);
 }
 

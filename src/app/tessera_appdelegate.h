@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class QAction;
 
@@ -61,8 +62,9 @@ public:
                         const QString& cataloguePath);
     ~Tessera_AppDelegate() override;
 
-    /// Start-up in its order, then the file that the program was opened with.
-    void run(const QString& file);
+    /// Start-up in its order, then the file that the program was opened with. False where it was told
+    /// meanwhile, during an alert, to end: then there is nothing to go on with.
+    bool run(const QString& file);
 
     // The catalogue
     QString applicationSupportFolder() const;
@@ -71,7 +73,7 @@ public:
     /// True for "terminate now".
     bool applicationShouldTerminate();
     void applicationWillTerminate();
-    /// Saves everything, the favourites' edits too, without a question: nobody may be there to answer.
+    /// Saves what quitting saves, without a question: nobody may be there to answer.
     void saveForSessionEnd();
 
     bool application_openFile(const QString& path);
@@ -238,6 +240,9 @@ private:
     std::unique_ptr<CatalogueRebuild> m_rebuild;
     std::unique_ptr<ChangesDesk> m_changes;
     bool m_buildWanted = false;
+    bool m_isRestored = false; ///< the windows and lists stand as they were left
+    bool m_isEnding = false;
+    std::optional<QString> m_wanted; ///< by another start, before this one had come so far
 };
 
 } // namespace tessera

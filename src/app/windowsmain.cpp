@@ -32,7 +32,8 @@ int runWindows(QApplication& application, UserDefaults& defaults, const QString&
     const SessionEnd sessionEnd;
     QObject::connect(&sessionEnd, &SessionEnd::mayEnd, &delegate, &Tessera_AppDelegate::saveForSessionEnd);
     QObject::connect(&sessionEnd, &SessionEnd::ended, &delegate, &Tessera_AppDelegate::endWithSession);
-    delegate.run(file);
+    if (!delegate.run(file))
+        return 0;
     // Drawing it in all its sizes is nothing that the list has to wait for.
     afterFirstPaint(delegate.mainWindow(),
                     [] { QGuiApplication::setWindowIcon(theme::mark(QStringLiteral("tessera"))); });

@@ -59,6 +59,17 @@ void WindowSwitching::windowMini()
     bringForward(*m_mini);
 }
 
+void WindowSwitching::comeForward()
+{
+    for (QWidget* window : {m_favorites, m_mini}) {
+        if (window != nullptr && window->isVisible()) {
+            bringForward(*window);
+            return;
+        }
+    }
+    bringForward(m_main);
+}
+
 void WindowSwitching::windowAdjustment()
 {
     if (m_favorites == nullptr)

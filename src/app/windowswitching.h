@@ -19,6 +19,8 @@ public:
     void windowMain();
     void windowMini();
     void windowFavorites();
+    /// Brings forward the one that is shown.
+    void comeForward();
     /// Gives the main or the favourites window, whichever is hidden, the place and size of the other.
     void windowAdjustment();
 

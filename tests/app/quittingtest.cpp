@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -181,6 +182,35 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(staged.app->favorites().favourites().path()));
         QVERIFY(!staged.defaults.flag(keys::Movierecord.name));
         QCOMPARE(staged.desktop.takeTranscript(), QStringList());
+    }
+
+    // Nothing has been restored yet, so nothing may be stored either.
+    void aSignalDuringTheStartUpAlertEndsTheProgram()
+    {
+        QTemporaryDir folder;
+        const QString settings = folder.filePath(QStringLiteral("Tessera/Tessera.ini"));
+        const QByteArray stored("[General]\nFavoriteTable=2\nMainWindowGeometry=a place\n");
+        QVERIFY(QDir().mkpath(QFileInfo(settings).path()));
+        QFile file(settings);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(stored) == stored.size());
+        file.close();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+            environment.insert(QLatin1StringView(place), folder.path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(TESSERA_PROGRAM), QStringList());
+        // Made just before the alert that says that there is no catalogue.
+        QTRY_VERIFY(QFileInfo::exists(folder.filePath(QStringLiteral("data/Tessera"))));
+        program.terminate();
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        const UserDefaults left(settings);
+        QCOMPARE(left.value(keys::FavoriteTable.name).value().toInt(), 2);
+        QCOMPARE(left.value(keys::MainWindowGeometry.name).value().toString(), QStringLiteral("a place"));
     }
 
     void aSessionEndThatCannotSaveIsOnlyLogged()
