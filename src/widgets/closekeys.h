@@ -4,7 +4,8 @@ class QWidget;
 
 namespace tessera {
 
-/// Escape and the desktop's own shortcut (Ctrl+W) close the window.
+/// Escape and the desktop's own shortcut (Ctrl+W) close the window; while a pop-up is open, Escape closes
+/// that one alone.
 void closeByKeyboard(QWidget& window);
 
 } // namespace tessera
