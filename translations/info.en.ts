@@ -26,6 +26,8 @@
     <message id="infosite_number"><source></source><translation>Information site %1</translation></message>
     <message id="infosite_site"><source></source><translation>&amp;Site</translation></message>
     <message id="infosite_host"><source></source><translation>&amp;Host</translation></message>
+    <message id="infosite_choice"><source></source><translation>Information site</translation></message>
+    <message id="infosite_address"><source></source><translation>Address of another site</translation></message>
     <message id="infosite_template"><source></source><translation>&amp;Page</translation></message>
     <message id="infosite_note"><source></source><translation>{$gamename} stands for the set name. Sites come and go, so each needs its host here before it can be asked.</translation></message>
     <message id="infosite_url"><source></source><translation>&amp;Address</translation></message>

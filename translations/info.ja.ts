@@ -26,6 +26,8 @@
     <message id="infosite_number"><source></source><translation>情報サイト %1</translation></message>
     <message id="infosite_site"><source></source><translation>サイト(&amp;S)</translation></message>
     <message id="infosite_host"><source></source><translation>ホスト(&amp;H)</translation></message>
+    <message id="infosite_choice"><source></source><translation>情報サイト</translation></message>
+    <message id="infosite_address"><source></source><translation>ほかのサイトのアドレス</translation></message>
     <message id="infosite_template"><source></source><translation>ページ(&amp;P)</translation></message>
     <message id="infosite_note"><source></source><translation>{$gamename} はセット名に置き換えられます。サイトは移り変わるため、使う前にホストを入力してください。</translation></message>
     <message id="infosite_url"><source></source><translation>アドレス(&amp;A)</translation></message>

@@ -6,6 +6,7 @@
 #include "catalogue/ui/factspanel.h"
 #include "favourites/ui/favouritestable.h"
 #include "favourites/ui/favouritestablemodel.h"
+#include "info/ui/sitechoice.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bar.h"
 #include "widgets/plaintooltip.h"
@@ -51,6 +52,7 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     : favoritesTable(new FavouritesTable(defaults))
     , sidePanel(new SidePanel(defaults, QStringLiteral("SecondSplitView2")))
     , factsPanel(sidePanel->factsPanel)
+    , siteChoice(new SiteChoice(defaults))
     , emptyState(new EmptyState)
     , m_defaults(defaults)
     , m_split(new SplitView_custom(this))
@@ -64,6 +66,7 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     favoritesTable->setObjectName(QStringLiteral("favoritesTable"));
     favoritesTable->setAccessibleName(qtTrId("favorites_list"));
     emptyState->say(qtTrId("favorites_empty"), qtTrId("mini_main"));
+    sidePanel->addSites(siteChoice);
 
     m_pages->addWidget(favoritesTable);
     m_pages->addWidget(emptyState);

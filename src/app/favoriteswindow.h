@@ -18,6 +18,7 @@ class EmptyState;
 class FactsPanel;
 class FavouritesTable;
 class SidePanel;
+class SiteChoice;
 class SplitView_custom;
 
 /// The favourites with their side panel. It takes the main window's place.
@@ -31,6 +32,7 @@ public:
     FavouritesTable* favoritesTable;
     SidePanel* sidePanel;
     FactsPanel* factsPanel; ///< in the side panel
+    SiteChoice* siteChoice; ///< in the side panel too
     EmptyState* emptyState;
     QPushButton* playButton;
     QToolButton* stopButton;

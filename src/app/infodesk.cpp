@@ -14,6 +14,7 @@
 #include "info/ui/historywindow.h"
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
+#include "info/ui/sitechoice.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"
@@ -45,7 +46,9 @@ void addToMenu(QAbstractItemView& list, InfoDesk& desk, int tag)
     auto* history = new QAction(qtTrId("menu_history"), &list);
     QObject::connect(history, &QAction::triggered, &desk, [&desk, tag] { desk.searchHistoryinfo_menu(tag); });
     auto* page = new QAction(qtTrId("menu_rominfo"), &list);
-    QObject::connect(page, &QAction::triggered, &desk, &InfoDesk::openROMinfo);
+    const bool isFavorites = tag == listMenus.back().tag;
+    QObject::connect(page, &QAction::triggered, &desk,
+                     isFavorites ? &InfoDesk::openROMinfo2 : &InfoDesk::openROMinfo);
     list.addActions({history, page});
     list.setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -193,6 +196,17 @@ void InfoDesk::openROMinfo()
 {
     const Subject* asked = subject();
     sites().openROMinfo(asked != nullptr && asked->site ? asked->site() : QString());
+}
+
+// Deliberate: the favourites window's own commands go by its own choice of a site, the menu bar's by that of
+// the preferences.
+void InfoDesk::openROMinfo2()
+{
+    FavoritesDesk& favorites = m_hub.favorites();
+    const QString name = favorites.controller().tableViewSelectionROM2();
+    const auto page = name.isEmpty() ? std::nullopt : favorites.window().siteChoice->page(name);
+    if (!page || !m_desktop.openUrl(*page))
+        m_desktop.beep();
 }
 
 bool InfoDesk::isKey() const

@@ -45,6 +45,8 @@ public:
     /// For the list whose menu was used: 2 the game list, 3 the favourites; any other tag, nothing.
     void searchHistoryinfo_menu(int tag);
     void openROMinfo();
+    /// The page of the selected favourite, by the favourites window's own choice of a site.
+    void openROMinfo2();
     /// Where the history window is key, what else has the same key.
     bool isKey() const;
 

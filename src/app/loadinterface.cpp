@@ -275,6 +275,8 @@ void Tessera_AppDelegate::joinArtwork()
     m_artwork->fillMenu(*m_mainWindow->menuBar());
     m_artwork->addContextMenu(*m_mainWindow->gameTable);
     joinSidePanel(*m_mainWindow->sidePanel);
+    connect(m_mainWindow->sidePanel->pageButton, &QPushButton::clicked, this,
+            &Tessera_AppDelegate::openROMinfo);
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_chooser.get(), &PathChooser::chosen, m_artwork.get(), &ArtworkDesk::pathChosen);
 }
@@ -282,7 +284,6 @@ void Tessera_AppDelegate::joinArtwork()
 void Tessera_AppDelegate::joinSidePanel(SidePanel& panel)
 {
     connect(panel.historyButton, &QPushButton::clicked, this, &Tessera_AppDelegate::searchHistoryinfo);
-    connect(panel.pageButton, &QPushButton::clicked, this, &Tessera_AppDelegate::openROMinfo);
     connect(panel.revealButton, &QPushButton::clicked, this, &Tessera_AppDelegate::display_rom_Finder);
     connect(panel.verifyButton, &QPushButton::clicked, this, [this] { m_commands->verifySelected(); });
 }
@@ -364,6 +365,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &FavoritesWindow::say);
     window.sidePanel->verifyButton->hide();
     joinSidePanel(*window.sidePanel);
+    connect(window.sidePanel->pageButton, &QPushButton::clicked, m_info.get(), &InfoDesk::openROMinfo2);
     connect(window.stopButton, &QToolButton::clicked, this, &Tessera_AppDelegate::stopGame);
     connect(m_launch.get(), &LaunchController::runningChanged, &window, [this, &window](bool running) {
         window.setRunning(running);

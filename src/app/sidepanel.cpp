@@ -51,21 +51,26 @@ SidePanel::SidePanel(DefaultsController& defaults, const QString& identifier, QW
     layout->addWidget(splitView);
 }
 
+void SidePanel::addSites(QWidget* sites)
+{
+    m_actions->addWidget(sites, m_actions->rowCount(), 0, 1, m_actions->columnCount());
+}
+
 QWidget* SidePanel::makeLower()
 {
-    auto* actions = new QGridLayout;
-    actions->setContentsMargins(12, 4, 12, 12);
-    actions->setSpacing(8);
-    actions->addWidget(historyButton, 0, 0);
-    actions->addWidget(pageButton, 0, 1);
-    actions->addWidget(revealButton, 1, 0);
-    actions->addWidget(verifyButton, 1, 1);
+    m_actions = new QGridLayout;
+    m_actions->setContentsMargins(12, 4, 12, 12);
+    m_actions->setSpacing(8);
+    m_actions->addWidget(historyButton, 0, 0);
+    m_actions->addWidget(pageButton, 0, 1);
+    m_actions->addWidget(revealButton, 1, 0);
+    m_actions->addWidget(verifyButton, 1, 1);
     auto* content = new QWidget;
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(factsPanel);
-    layout->addLayout(actions);
+    layout->addLayout(m_actions);
     layout->addStretch(1);
     auto* area = new QScrollArea;
     area->setObjectName(QStringLiteral("factsArea"));

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QGridLayout;
 class QPushButton;
 class QSplitter;
 
@@ -22,6 +23,9 @@ public:
 
     PicturePane* picturePane;
     FactsPanel* factsPanel;
+    /// Beneath the button of the page: which page that is.
+    void addSites(QWidget* sites);
+
     QSplitter* splitView;
     QPushButton* historyButton;
     QPushButton* pageButton;
@@ -30,6 +34,8 @@ public:
 
 private:
     QWidget* makeLower();
+
+    QGridLayout* m_actions = nullptr;
 };
 
 } // namespace tessera

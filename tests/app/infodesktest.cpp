@@ -8,6 +8,7 @@
 #include "app/minidesk.h"
 #include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
+#include "app/sidepanel.h"
 #include "bios/ui/biospanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -18,6 +19,7 @@
 #include "info/ui/historywindow.h"
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
+#include "info/ui/sitechoice.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/pathchooser.h"
 #include "support/testmain.h"
@@ -26,6 +28,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -137,6 +140,70 @@ private Q_SLOTS:
         QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
         m_staged->app->openROMinfo();
         QVERIFY(m_staged->desktop.takeTranscript().contains("url http://a.test/game/qix"));
+    }
+
+    void theFavouritesWindowHasASiteOfItsOwn_data()
+    {
+        QTest::addColumn<int>("item");
+        QTest::addColumn<QString>("said"); // the transcript's line
+        QTest::newRow("site 1") << 0 << QStringLiteral("url https://site1.test/index.php?p=roms&jeu=qix");
+        QTest::newRow("site 2") << 1
+                                << QStringLiteral(
+                                       "url https://site2.test/php/emulator_game.php?id=mame&game=qix");
+        QTest::newRow("site 3") << 2 << QStringLiteral("url https://site3.test/game/qix");
+        QTest::newRow("site 4") << 3 << QStringLiteral("url https://site4.test/r/qix");
+        QTest::newRow("site 5") << 4 << QStringLiteral("url https://site5.test/maws/romset/qix");
+        QTest::newRow("without an address") << 5 << QStringLiteral("beep");
+        QTest::newRow("a typed one") << 6 << QStringLiteral("url https://own.test/qix/qix.html");
+    }
+    void theFavouritesWindowHasASiteOfItsOwn()
+    {
+        QFETCH(int, item);
+        QFETCH(QString, said);
+        for (int site = 1; site <= 7; ++site)
+            m_staged->defaults.setValue(
+                QLatin1StringView(QStringLiteral("InfositeHost%1").arg(site).toLatin1()),
+                QStringLiteral("https://site%1.test").arg(site));
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->windowFavorites();
+        FavoritesWindow& window = m_staged->app->favorites().window();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
+        window.favoritesTable->selectRow(0);
+        QComboBox& popup = *window.siteChoice->infositePop2;
+        QCOMPARE(popup.count(), 7);
+        QCOMPARE(popup.itemText(6), QStringLiteral("Other site"));
+        popup.setCurrentIndex(item);
+        QCOMPARE(window.siteChoice->addressField2->isVisible(), item == 6);
+        if (item == 6) {
+            window.siteChoice->addressField2->setText(QString());
+            QTest::keyClicks(window.siteChoice->addressField2,
+                             QStringLiteral("https://own.test/{$gamename}/{$gamename}.html"));
+        }
+        m_staged->desktop.takeTranscript();
+        QTest::mouseClick(window.sidePanel->pageButton, Qt::LeftButton);
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{said});
+        // The menu's command goes by the preferences.
+        m_staged->app->openROMinfo();
+        QCOMPARE(m_staged->desktop.takeTranscript(),
+                 QStringList{QStringLiteral("url https://site3.test/game/qix")});
+        window.favoritesTable->clearSelection();
+        QTest::mouseClick(window.sidePanel->pageButton, Qt::LeftButton);
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void theFavouritesSitesAreTitledByTheirAddresses()
+    {
+        const QComboBox& popup = *m_staged->app->favorites().window().siteChoice->infositePop2;
+        QCOMPARE(popup.currentIndex(), 2); // as in the preferences, at first
+        QCOMPARE(popup.itemText(1), QStringLiteral("infosite_number"));
+        QCOMPARE(popup.itemText(2), QStringLiteral("http://a.test/game/{$gamename}"));
+        m_staged->app->showPrefsWindow();
+        auto* host = m_staged->app->preferencesWindow().findChild<QLineEdit*>(QStringLiteral("hostField"));
+        QVERIFY(host != nullptr);
+        host->selectAll();
+        QTest::keyClicks(host, QStringLiteral("b.test"));
+        QCOMPARE(popup.itemText(2), QStringLiteral("http://b.test/game/{$gamename}"));
     }
 
     void eachListsMenuIsAboutThatList()

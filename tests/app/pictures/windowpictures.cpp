@@ -27,6 +27,7 @@
 #include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
+#include "info/ui/sitechoice.h"
 #include "launch/ui/logwindow.h"
 #include "support/installedtexts.h"
 #include "tools/ui/changeswindow.h"
@@ -35,6 +36,7 @@
 #include "widgets/theme.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QListWidget>
 #include <QPainter>
@@ -109,6 +111,7 @@ void stage(test::StagedApp& staged, const QString& catalogue)
         staged.path(QStringLiteral("history.dat")),
         "$info=pong,\r\n$bio\r\n\r\nPong (c) 11/1972 Atari.\r\n\r\nTwo bats, one ball.\r\n\r\n$end\r\n");
     staged.defaults.setValue(keys::SnapPath.name, staged.path(QStringLiteral("snap")));
+    staged.defaults.setValue(keys::InfositeHost1.name, QStringLiteral("roms.example"));
     staged.defaults.setValue(keys::HistoryPath.name, staged.path(QStringLiteral("history.dat")));
 }
 
@@ -124,6 +127,9 @@ void takeViews(Tessera_AppDelegate& app, Album& album)
     app.windowFavorites();
     app.favorites().window().favoritesTable->selectRow(0);
     album.take(app.favorites().window(), QStringLiteral("favourites"));
+    QComboBox& sites = *app.favorites().window().siteChoice->infositePop2;
+    sites.setCurrentIndex(sites.count() - 1);
+    album.take(app.favorites().window(), QStringLiteral("favourites-own-site"));
     app.windowMini();
     app.mini().setGame(QStringLiteral("pong"));
     album.take(app.mini().window(), QStringLiteral("mini"));

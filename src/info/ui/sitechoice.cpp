@@ -1,0 +1,98 @@
+#include "info/ui/sitechoice.h"
+
+#include "core/failure.h"
+#include "info/informationsites.h"
+#include "platform/defaultscontroller.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace tessera {
+
+namespace {
+
+constexpr int templates = 5; ///< items whose title is the template
+constexpr int ownItem = 6;
+
+// A site without a host has no address; its name stands there.
+QString titleOf(int item, const DefaultsController& defaults)
+{
+    const QString name
+        = qtTrId("infosite_number").arg(informationSites[static_cast<std::size_t>(item)].number);
+    if (item >= templates)
+        return name;
+    const auto text = tessera::siteTemplate(item, [&](const ChosenKey& key) { return defaults.text(key); });
+    return text && !text->isEmpty() ? *text : name;
+}
+
+} // namespace
+
+SiteChoice::SiteChoice(DefaultsController& defaults, QWidget* parent)
+    : QWidget(parent)
+    , infositePop2(new QComboBox(this))
+    , addressField2(new QLineEdit(this))
+    , m_defaults(defaults)
+{
+    infositePop2->setObjectName(QStringLiteral("infositePop2"));
+    infositePop2->setAccessibleName(qtTrId("infosite_choice"));
+    // Addresses are long, and the window is not.
+    infositePop2->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    infositePop2->setMinimumContentsLength(8);
+    for (int item = 0; item < ownItem; ++item)
+        infositePop2->addItem(QString());
+    infositePop2->addItem(ownSite);
+    addressField2->setObjectName(QStringLiteral("addressField2"));
+    addressField2->setAccessibleName(qtTrId("infosite_address"));
+    addressField2->setPlaceholderText(QStringLiteral("https://…/{$gamename}"));
+    addressField2->setText(defaults.text(keys::VisitedRomPath));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(infositePop2);
+    layout->addWidget(addressField2);
+
+    const int chosen = defaults.index(keys::Rominfosite);
+    infositePop2->setCurrentIndex(chosen >= 0 && chosen < templates ? chosen
+                                      : chosen == keptSite + 1      ? ownItem
+                                                                    : 0);
+    connect(infositePop2, &QComboBox::currentIndexChanged, this, &SiteChoice::showField);
+    connect(&defaults, &DefaultsController::changed, this, &SiteChoice::showTitles);
+    showTitles();
+    showField();
+}
+
+// The hosts are settings.
+void SiteChoice::showTitles()
+{
+    for (int item = 0; item < ownItem; ++item) {
+        const QString title = titleOf(item, m_defaults);
+        if (infositePop2->itemText(item) == title)
+            continue;
+        infositePop2->setItemText(item, title);
+        infositePop2->setItemData(item, title, Qt::ToolTipRole);
+    }
+    infositePop2->setToolTip(infositePop2->currentText());
+}
+
+void SiteChoice::showField()
+{
+    addressField2->setVisible(infositePop2->currentIndex() == ownItem);
+    infositePop2->setToolTip(infositePop2->currentText());
+}
+
+// Deliberate: the item between the templates and the own address has none.
+QString SiteChoice::siteTemplate() const
+{
+    const int item = infositePop2->currentIndex();
+    if (item == ownItem)
+        return addressField2->text();
+    return item >= 0 && item < templates ? infositePop2->currentText() : QString();
+}
+
+std::optional<QUrl> SiteChoice::page(const QString& name) const
+{
+    return gamePage(siteTemplate(), name);
+}
+
+} // namespace tessera
