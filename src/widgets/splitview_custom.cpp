@@ -8,10 +8,12 @@ namespace tessera {
 
 namespace {
 
+/// Added to the smallest and to the largest position that is proposed for a divider: to nought, and to where
+/// the second pane ends.
 struct DividerLimits {
     QLatin1StringView identifier;
-    int smallest; ///< added to the smallest position that is proposed
-    int largest; ///< added to the largest
+    int smallest;
+    int largest;
 };
 
 // clang-format off
@@ -44,31 +46,21 @@ void setLeast(QWidget& pane, Qt::Orientation orientation, int extent)
 // The split view itself lets a divider go from end to end; a pane's least extent is what stops it.
 void apply(QSplitter& splitView)
 {
-    const QString identifier = splitView.objectName();
+    const DividerLimits& limits = limitsOf(splitView.objectName());
     for (int i = 0; i < splitView.count(); ++i) {
         splitView.setStretchFactor(i, i == 0 ? 0 : 1);
         splitView.setCollapsible(i, false);
     }
     if (splitView.count() < 2)
         return;
-    setLeast(*splitView.widget(0), splitView.orientation(), smallestDividerPosition(identifier, 0));
-    const int room = -largestDividerPosition(identifier, 0);
+    setLeast(*splitView.widget(0), splitView.orientation(), limits.smallest);
+    const int room = -limits.largest;
     // A least extent of nought would mean the pane's own.
     setLeast(*splitView.widget(1), splitView.orientation(), qMax(1, room));
     splitView.setCollapsible(1, room == 0);
 }
 
 } // namespace
-
-int smallestDividerPosition(const QString& identifier, int proposed)
-{
-    return proposed + limitsOf(identifier).smallest;
-}
-
-int largestDividerPosition(const QString& identifier, int proposed)
-{
-    return proposed + limitsOf(identifier).largest;
-}
 
 void SplitView_custom::setSplitView(QSplitter* splitView)
 {

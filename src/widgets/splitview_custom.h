@@ -7,11 +7,6 @@ class QSplitter;
 
 namespace tessera {
 
-/// How far a divider goes, in pixels: `proposed` is where the split view itself would let it go. Split views
-/// are told apart by their identifiers.
-int smallestDividerPosition(const QString& identifier, int proposed);
-int largestDividerPosition(const QString& identifier, int proposed);
-
 /// Keeps the dividers of split views within their limits, and the first pane at its size when the window is
 /// resized. A split view's identifier is its object name; its panes stand in it already.
 class SplitView_custom : public QObject

@@ -126,6 +126,7 @@ void TransparentWindow::mousePressEvent(QMouseEvent* event)
     // Then no release is heard of.
     if (handOver())
         m_isResizing = m_isDragging = false;
+    QWidget::mousePressEvent(event);
 }
 
 void TransparentWindow::mouseMoveEvent(QMouseEvent* event)

@@ -96,13 +96,19 @@ private Q_SLOTS:
 
     void theKnobIsBrighterUnderThePointer()
     {
-        MyScrollers bar(Qt::Vertical);
-        bar.resize(12, 300);
-        bar.setRange(0, 100);
-        bar.setAttribute(Qt::WA_UnderMouse, false);
-        QCOMPARE(middle(bar), theme::color("border"));
-        bar.setAttribute(Qt::WA_UnderMouse, true);
-        QCOMPARE(middle(bar), theme::color("faint"));
+        QWidget window;
+        window.resize(100, 300);
+        auto* bar = new MyScrollers(Qt::Vertical, &window);
+        bar->setGeometry(80, 0, 12, 300);
+        bar->setRange(0, 100);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTest::mouseMove(&window, QPoint(10, 10));
+        QTRY_COMPARE(middle(*bar), theme::color("border"));
+        QTest::mouseMove(bar, QPoint(6, 150));
+        QTRY_COMPARE(middle(*bar), theme::color("faint"));
+        QTest::mouseMove(&window, QPoint(10, 10));
+        QTRY_COMPARE(middle(*bar), theme::color("border"));
     }
 };
 

@@ -45,30 +45,6 @@ class SplitView_customTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void dividersHaveTheirLimits_data()
-    {
-        QTest::addColumn<int>("smallest");
-        QTest::addColumn<int>("largest");
-        QTest::newRow("MainSplitView") << 236 << -18;
-        QTest::newRow("MainSplitView2") << 236 << -18;
-        QTest::newRow("SecondSplitView") << 173 << 0;
-        QTest::newRow("SecondSplitView2") << 173 << 0;
-        QTest::newRow("AnyOther") << 173 << -18;
-        QTest::newRow("mainsplitview") << 173 << -18;
-        QTest::newRow("") << 173 << -18;
-    }
-
-    void dividersHaveTheirLimits()
-    {
-        QFETCH(int, smallest);
-        QFETCH(int, largest);
-        const QString identifier = QLatin1String(QTest::currentDataTag());
-        QCOMPARE(smallestDividerPosition(identifier, 0), smallest);
-        QCOMPARE(smallestDividerPosition(identifier, 40), 40 + smallest);
-        QCOMPARE(largestDividerPosition(identifier, 0), largest);
-        QCOMPARE(largestDividerPosition(identifier, 640), 640 + largest);
-    }
-
     void aDraggedDividerStopsThere_data()
     {
         QTest::addColumn<QString>("identifier");
@@ -77,7 +53,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("second");
         QTest::newRow("main") << "MainSplitView" << Qt::Horizontal << 236 << 18;
         QTest::newRow("second") << "SecondSplitView" << Qt::Horizontal << 173 << 0;
+        QTest::newRow("the favourites' main") << "MainSplitView2" << Qt::Horizontal << 236 << 18;
+        QTest::newRow("the favourites' second") << "SecondSplitView2" << Qt::Horizontal << 173 << 0;
         QTest::newRow("another") << "Another" << Qt::Horizontal << 173 << 18;
+        QTest::newRow("in other letters") << "mainsplitview" << Qt::Horizontal << 173 << 18;
+        QTest::newRow("without a name") << "" << Qt::Horizontal << 173 << 18;
         QTest::newRow("main, one above the other") << "MainSplitView" << Qt::Vertical << 236 << 18;
     }
 

@@ -7,6 +7,8 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QToolButton>
+#include <QWindow>
 
 using namespace tessera;
 
@@ -89,6 +91,17 @@ private Q_SLOTS:
         QCOMPARE(line(m_window->frame()), QStringLiteral("-300,150 300x200"));
     }
 
+    void aPressIsPassedOnToTheStandardHandling()
+    {
+        // Which leaves it to whoever is behind.
+        const QPointF place = m_window->rect().center();
+        QMouseEvent press(QEvent::MouseButtonPress, place, m_window->mapToGlobal(place), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &press);
+        QVERIFY(m_window->isDragging());
+        QVERIFY(!press.isAccepted());
+    }
+
     void movingUpStopsAtTheUpperEdge()
     {
         Hand hand(*m_window);
@@ -127,15 +140,32 @@ private Q_SLOTS:
         QVERIFY(!m_window->isDragging());
     }
 
+    void itsButtonsPutItAway_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("pressed") << false;
+        QTest::newRow("by their keys") << true;
+    }
     void itsButtonsPutItAway()
     {
+        QFETCH(bool, byKey);
+        const auto press = [&](QToolButton* button, Qt::Key key) {
+            QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+            if (byKey)
+                QTest::keyClick(m_window->windowHandle(), key, Qt::ControlModifier);
+            else
+                QTest::mouseClick(button, Qt::LeftButton);
+        };
         QSignalSpy out(m_window.get(), &TransparentWindow::orderedOut);
-        m_window->panel()->orderOut();
-        QVERIFY(!m_window->isVisible());
+        m_window->activateWindow();
+        press(m_window->panel()->closeButton, Qt::Key_W);
+        QTRY_VERIFY(!m_window->isVisible());
         QCOMPARE(out.size(), 1);
         m_window->show();
-        m_window->panel()->miniaturize();
-        QVERIFY(m_window->isMinimized());
+        m_window->activateWindow();
+        press(m_window->panel()->minimiseButton, Qt::Key_M);
+        QTRY_VERIFY(m_window->isMinimized());
+        QCOMPARE(out.size(), 1);
     }
 
     void aboveOthersIsAnOption()
