@@ -38,6 +38,10 @@
     <message id="main_progress"><source></source><translation>Working</translation></message>
     <message id="main_no_emulator"><source></source><translation>No emulator chosen</translation></message>
     <message id="preferences_title"><source></source><translation>Preferences</translation></message>
+    <message id="reset_Message"><source></source><translation>Reset all settings?</translation></message>
+    <message id="reset_Info"><source></source><translation>Every page of the preferences goes back to its first values. The paths that you chose stay. This cannot be undone.</translation></message>
+    <message id="reset_reset"><source></source><translation>Reset</translation></message>
+    <message id="reset_cancel"><source></source><translation>Cancel</translation></message>
     <message id="preferences_reset"><source></source><translation>Reset all settings</translation></message>
     <message id="preferences_ini"><source></source><translation>All settings are back at their initial values. Chosen files and folders were kept.</translation></message>
     <message id="empty_catalogue"><source></source><translation>The catalogue holds no machine. Build it from the MAME on this computer: it lists every machine that it knows.</translation></message>

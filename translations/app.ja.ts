@@ -38,6 +38,10 @@
     <message id="main_progress"><source></source><translation>処理中</translation></message>
     <message id="main_no_emulator"><source></source><translation>エミュレータが選択されていません</translation></message>
     <message id="preferences_title"><source></source><translation>環境設定</translation></message>
+    <message id="reset_Message"><source></source><translation>すべての設定を初期値に戻しますか?</translation></message>
+    <message id="reset_Info"><source></source><translation>環境設定のすべてのページが初期値に戻ります。選択したパスはそのままです。この操作は取り消せません。</translation></message>
+    <message id="reset_reset"><source></source><translation>初期値に戻す</translation></message>
+    <message id="reset_cancel"><source></source><translation>キャンセル</translation></message>
     <message id="preferences_reset"><source></source><translation>すべての設定を初期値に戻す</translation></message>
     <message id="preferences_ini"><source></source><translation>すべての設定を初期値に戻しました。選択したファイルとフォルダはそのままです。</translation></message>
     <message id="empty_catalogue"><source></source><translation>カタログにマシンがありません。このコンピュータの MAME から作成すると、MAME が知っているすべてのマシンが並びます。</translation></message>

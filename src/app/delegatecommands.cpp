@@ -361,6 +361,17 @@ void Tessera_AppDelegate::showFontPanel1()
     m_tableFont->showFontPanel1();
 }
 
+void Tessera_AppDelegate::resetSettings()
+{
+    Alert alert;
+    alert.style = Alert::Style::Warning;
+    alert.message = qtTrId("reset_Message");
+    alert.informative = qtTrId("reset_Info");
+    alert.buttons = {qtTrId("reset_reset"), qtTrId("reset_cancel")};
+    if (m_desktop.runAlert(alert) == 0)
+        DefaultAction();
+}
+
 void Tessera_AppDelegate::DefaultAction()
 {
     m_mainWindow->setBusy(true);

@@ -61,7 +61,9 @@
 #include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/calmwheel.h"
 #include "widgets/deletionfocusring.h"
+#include "widgets/filedrop.h"
 #include "widgets/theme.h"
 
 #include <QApplication>
@@ -74,6 +76,7 @@ namespace tessera {
 
 void Tessera_AppDelegate::loadInterface()
 {
+    new CalmWheel(this);
     m_mainWindow = std::make_unique<MainWindow>(m_defaults);
     fillMainMenu(*m_mainWindow->menuBar(), *this);
     // Here it costs least: the main window's widgets take it together, the others when they are first shown.
@@ -192,7 +195,7 @@ void Tessera_AppDelegate::joinRooms()
             &Tessera_AppDelegate::showPrefsWindow);
     connect(m_mainWindow->rebuildButton, &QPushButton::clicked, this, &Tessera_AppDelegate::rebuildCatalogue);
     connect(m_preferencesWindow->resetButton, &QPushButton::clicked, this,
-            &Tessera_AppDelegate::DefaultAction);
+            &Tessera_AppDelegate::resetSettings);
     connect(m_launch.get(), &LaunchController::launchModeChanged, this, &Tessera_AppDelegate::Setwindowtitle);
     connect(m_launch.get(), &LaunchController::launchModeChanged, this,
             [this] { m_modeMenu->mark(m_pages->general().launchusingPop->currentText()); });
@@ -335,10 +338,17 @@ void Tessera_AppDelegate::joinWindow(QWidget& window, KeyWindow::Kind kind, cons
     DeletionFocusRing::awakeFromNib(window);
 }
 
+// A file that is dropped on one of the list windows is opened.
+void Tessera_AppDelegate::openDropped(QWidget& window)
+{
+    connect(new FileDrop(window), &FileDrop::dropped, this, &Tessera_AppDelegate::application_openFile);
+}
+
 void Tessera_AppDelegate::joinWindows()
 {
     using Kind = KeyWindow::Kind;
     m_keyCommands->watch(*m_mainWindow, Kind::Main);
+    openDropped(*m_mainWindow);
     joinWindow(*m_logWindow, Kind::Log, keys::LogWindowGeometry.name.data());
     // Without a menu bar of its own a window still takes the menus' keys.
     carryMenuKeys(*m_mainWindow->menuBar(), *m_logWindow);
@@ -374,6 +384,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     });
     connect(m_launch.get(), &LaunchController::statusMessage, &window, &FavoritesWindow::say);
     joinWindow(window, KeyWindow::Kind::Favorites, keys::FavoritesWindowGeometry.name.data());
+    openDropped(window);
     // It is shown in the main window's place, if not in its own.
     m_places.restore(window);
 }
@@ -388,6 +399,7 @@ void Tessera_AppDelegate::joinMiniWindow()
     m_artwork->joinMini(window);
     carryMenuKeys(*m_mainWindow->menuBar(), window);
     joinWindow(window, KeyWindow::Kind::Mini, keys::MiniWindowGeometry.name.data());
+    openDropped(window);
 }
 
 UtilityObject& Tessera_AppDelegate::utility()

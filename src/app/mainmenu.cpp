@@ -57,7 +57,7 @@ constexpr std::array rows{
     MenuRow{edit,     textKey("menu_removerecord"), "Delete", &Hub::removeOfKeyWindow},
     MenuRow{edit,     nullptr,                     nullptr,        nullptr},
     MenuRow{edit,     textKey("menu_preferences"), "Ctrl+,",       &Hub::showPrefsWindow},
-    MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::DefaultAction},
+    MenuRow{edit,     textKey("menu_reset"),       nullptr,        &Hub::resetSettings},
     MenuRow{view,     textKey("menu_filter"),      "Ctrl+Shift+F", &Hub::showPredicatePanel},
     MenuRow{view,     textKey("menu_showall"),     "Ctrl+Shift+A", &Hub::showAllGames},
     MenuRow{view,     textKey("menu_home"),        "Home",         &Hub::scrollsHomeAction},

@@ -99,7 +99,6 @@ public:
     KeyWindow::Kind keyWindow() const;
     /// The list of the key window; null where it has none.
     GameTableView* listOfKeyWindow();
-    TableFont& tableFont() { return *m_tableFont; }
     Catalogue& catalogue() { return m_catalogue; }
     /// The path of the emulator that is used; empty where none is chosen or found.
     QString emulator();
@@ -162,6 +161,8 @@ public Q_SLOTS:
     void makeTextBigger();
     void makeTextSmaller();
     void showFontPanel1();
+    /// Asks first.
+    void resetSettings();
     void DefaultAction();
     void Setwindowtitle();
     /// The main menu's item with this title, or nothing; see widgets/menusearch.h.
@@ -181,6 +182,7 @@ private:
     void joinViews();
     void joinCommands();
     void joinWindow(QWidget& window, KeyWindow::Kind kind, const char* place);
+    void openDropped(QWidget& window);
     void joinWindows();
     void offerKnownOptions();
     void joinFavoritesWindow();

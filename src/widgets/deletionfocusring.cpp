@@ -7,10 +7,8 @@ namespace tessera {
 void DeletionFocusRing::awakeFromNib(QWidget& window)
 {
     for (const QLatin1StringView name : controls) {
-        if (auto* control = window.findChild<QWidget*>(name)) {
-            control->setAttribute(Qt::WA_MacShowFocusRect, false);
+        if (auto* control = window.findChild<QWidget*>(name))
             control->setProperty("focusring", QStringLiteral("none"));
-        }
     }
 }
 

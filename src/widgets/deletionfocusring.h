@@ -8,7 +8,8 @@ class QWidget;
 
 namespace tessera {
 
-/// Switches the focus rings of some controls off. Their border still shows the focus.
+/// Switches the focus rings of some controls off. Decided: our own border shows the focus on them all the
+/// same, since whoever uses the keyboard has to see where it is; the ring that goes is the toolkit's.
 class DeletionFocusRing
 {
 public:
@@ -29,6 +30,13 @@ public:
         QLatin1StringView("buttonvsdown"),
     };
     static_assert(controls.size() == 27);
+
+    /// Six of them are no controls of ours: what they did needs none here, or stands in a menu.
+    static constexpr std::array without{
+        QLatin1StringView("editAdd"),       QLatin1StringView("titleSearchField2"),
+        QLatin1StringView("historyUpdate"), QLatin1StringView("buttonviso"),
+        QLatin1StringView("buttonvisr"),    QLatin1StringView("buttonvsdown"),
+    };
 
     /// Those controls that stand in this window.
     static void awakeFromNib(QWidget& window);

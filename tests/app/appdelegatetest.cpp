@@ -1,11 +1,13 @@
 #include "stagedapp.h"
 
+#include "app/favoritesdesk.h"
+#include "app/infodesk.h"
 #include "app/mainwindow.h"
 #include "app/preferenceswindow.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
-#include "catalogue/ui/tablefont.h"
+#include "catalogue/ui/recordediting.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
@@ -13,6 +15,8 @@
 #include "support/testmain.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "widgets/deletionfocusring.h"
+#include "widgets/fontpanel.h"
 
 #include <QAction>
 #include <QApplication>
@@ -27,6 +31,7 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -170,6 +175,9 @@ private Q_SLOTS:
         staged.app->showPrefsWindow();
         for (const char* name : {"checkMovierecord", "checkBoxReplay"})
             QVERIFY(!staged.app->preferencesWindow().findChild<QCheckBox*>(QLatin1String(name))->isChecked());
+        // What a launch reads.
+        QCOMPARE(staged.defaults.value(keys::Movierecord.name), QVariant(false));
+        QCOMPARE(staged.defaults.value(keys::Replaymove.name), QVariant(false));
     }
 
     void openingNoFileStartsNothing()
@@ -225,18 +233,87 @@ private Q_SLOTS:
             = staged.app->preferencesWindow().findChild<QCheckBox*>(QStringLiteral("checkboxMaximize"));
         maximize->click();
         staged.defaults.setValue(keys::Videodriver.name, 0);
+        staged.defaults.setValue(keys::Launchgamesusing.name, 2);
         staged.defaults.setValue(keys::GamelistColoring.name, true);
-        QSignalSpy posted(staged.app.get(), &Tessera_AppDelegate::defaultAction);
+        LogView& log = *staged.app->logWindow().infomationTextView;
+        const QProgressBar& progress = *staged.app->mainWindow().progressIndicator;
+        log.replace(QStringLiteral("before"));
+        QStringList steps;
+        const auto note = [&](const char* step) {
+            steps << QStringLiteral("%1: %2, %3, %4")
+                         .arg(QLatin1StringView(step),
+                              staged.defaults.value(keys::Videodriver.name) == QVariant(2.0)
+                                  ? QStringLiteral("reverted")
+                                  : QStringLiteral("not reverted"),
+                              progress.isHidden() ? QStringLiteral("at rest") : QStringLiteral("busy"),
+                              log.text());
+        };
+        connect(staged.app.get(), &Tessera_AppDelegate::defaultAction, this, [&] { note("posted"); });
+        connect(&staged.app->launcher(), &LaunchController::launchModeChanged, this, [&] { note("mode"); });
 
+        staged.desktop.answerAlert(QStringLiteral("reset_Message"), 0);
         staged.app->preferencesWindow().resetButton->click();
 
+        QCOMPARE(steps,
+                 (QStringList{QStringLiteral("posted: reverted, busy, before"),
+                              QStringLiteral("mode: reverted, busy, before")}));
+        note("end");
+        QCOMPARE(steps.constLast(), QStringLiteral("end: reverted, at rest, preferences_ini"));
         QVERIFY(!maximize->isChecked());
-        QCOMPARE(posted.count(), 1);
-        QCOMPARE(staged.defaults.value(keys::Videodriver.name), QVariant(2.0));
+        QCOMPARE(staged.app->mainWindow().windowTitle(), QStringLiteral("Tessera  |  SDL MAME"));
         QCOMPARE(staged.defaults.value(keys::GamelistColoring.name), QVariant(true));
         QCOMPARE(staged.defaults.string(keys::ExecutionPath.name), QStringLiteral(TESSERA_FAKEEMULATOR));
-        QCOMPARE(staged.app->logWindow().infomationTextView->text(), QStringLiteral("preferences_ini"));
-        QCOMPARE(staged.desktop.transcript(), QStringList{QStringLiteral("sound Tink")});
+        QCOMPARE(staged.desktop.transcript(),
+                 (QStringList{QStringLiteral("alert reset_Message"), QStringLiteral("sound Tink")}));
+    }
+
+    void resetAsksFirst_data()
+    {
+        QTest::addColumn<bool>("byMenu");
+        QTest::newRow("the button") << false;
+        QTest::newRow("the menu") << true;
+    }
+    void resetAsksFirst()
+    {
+        QFETCH(bool, byMenu);
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.defaults.setValue(keys::Videodriver.name, 0);
+        staged.desktop.answerAlert(QStringLiteral("reset_Message"), 1);
+        if (byMenu)
+            staged.app->mainWindow().menuBar()->findChild<QAction*>(QStringLiteral("menu_reset"))->trigger();
+        else
+            staged.app->preferencesWindow().resetButton->click();
+        QCOMPARE(staged.defaults.value(keys::Videodriver.name), QVariant(0));
+        QCOMPARE(staged.desktop.transcript(), QStringList{QStringLiteral("alert reset_Message")});
+        // Escape presses the last button.
+        const Alert& alert = staged.desktop.alerts.back();
+        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("reset_reset"), QStringLiteral("reset_cancel")}));
+        QVERIFY(!alert.escape);
+    }
+
+    void theWheelOverAPreferenceChangesNothing()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->showPrefsWindow();
+        int popups = 0;
+        for (QComboBox* popup : staged.app->preferencesWindow().findChildren<QComboBox*>()) {
+            if (popup->count() < 2 || popup->hasFocus())
+                continue;
+            ++popups;
+            const int before = popup->currentIndex();
+            for (const int angle : {-120, 120}) {
+                QWheelEvent wheel(QPointF(4, 4), popup->mapToGlobal(QPointF(4, 4)), QPoint(),
+                                  QPoint(0, angle), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                QSpontaneKeyEvent::setSpontaneous(&wheel);
+                qApp->notify(popup, &wheel);
+                QVERIFY2(popup->currentIndex() == before, qPrintable(popup->objectName()));
+            }
+        }
+        QVERIFY(popups > 10);
     }
 
     void escapeClosesTheOtherWindows()
@@ -313,9 +390,14 @@ private Q_SLOTS:
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
-        QVERIFY(!staged.app->tableFont().fontPanel().isVisible());
+        const auto panelIsShown = [] {
+            return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+                return qobject_cast<const FontPanel*>(window) != nullptr && window->isVisible();
+            });
+        };
+        QVERIFY(!panelIsShown());
         staged.app->findMenuItemNamed(QStringLiteral("menu_font"))->trigger();
-        QVERIFY(staged.app->tableFont().fontPanel().isVisible());
+        QVERIFY(panelIsShown());
     }
 
     void menuItemsAreFoundByTheirTitle()
@@ -367,17 +449,31 @@ private Q_SLOTS:
         QVERIFY(preferences.focusWidget() != preferences.resetButton);
     }
 
-    void theirChoosersHaveNoFocusRing()
+    // By name, so that a control that gets another one is noticed.
+    void theFocusRingsOfTheirControlsAreOff()
     {
         StagedApp staged;
         staged.writeCatalogue();
         staged.start();
+        staged.app->gameList().selectRow(0);
+        staged.app->addFavorite();
         staged.app->showPrefsWindow();
-        for (const char* name : {"buttonexe", "buttonroms", "buttonsnap", "buttontitle", "buttonflayer",
-                                 "buttonhistory", "buttonmameinfo"}) {
-            const auto* button = staged.app->preferencesWindow().findChild<QPushButton*>(QLatin1String(name));
-            QVERIFY2(button != nullptr, name);
-            QCOMPARE(button->property("focusring").toString(), QStringLiteral("none"));
+        staged.app->editing().editRecord();
+        staged.app->info().window();
+        staged.app->windowMini();
+        staged.app->windowFavorites();
+        staged.app->favorites().editing().editRecord();
+        staged.app->windowMain();
+        for (const QLatin1StringView name : DeletionFocusRing::controls) {
+            QWidgetList found;
+            for (const QWidget* window : QApplication::topLevelWidgets())
+                found += window->findChildren<QWidget*>(name);
+            QCOMPARE(found.isEmpty(),
+                     std::ranges::find(DeletionFocusRing::without, name) != DeletionFocusRing::without.end());
+            for (const QWidget* control : found) {
+                QVERIFY2(control->focusPolicy() & Qt::TabFocus, name.data());
+                QTRY_COMPARE(control->property("focusring").toString(), QStringLiteral("none"));
+            }
         }
     }
 

@@ -6,10 +6,11 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
-#include "catalogue/ui/tablefont.h"
 #include "support/testmain.h"
+#include "widgets/fontpanel.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QHeaderView>
@@ -239,9 +240,13 @@ private Q_SLOTS:
 
     void rowsHaveTheChosenFont()
     {
-        FontPanel& panel = m_staged->app->tableFont().fontPanel();
-        panel.setPanelFont(QFontDatabase::font(QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 12));
-        m_staged->app->tableFont().changeFont(panel);
+        m_staged->app->showFontPanel1();
+        FontPanel* panel = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets())
+            panel = panel != nullptr ? panel : qobject_cast<FontPanel*>(window);
+        QVERIFY(panel != nullptr);
+        panel->setPanelFont(QFontDatabase::font(QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 12));
+        Q_EMIT panel->fontChosen();
         const auto font = m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>();
         QCOMPARE(font.family(), QStringLiteral("DejaVu Sans"));
         QCOMPARE(font.styleName(), QStringLiteral("Bold"));

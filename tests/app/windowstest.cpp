@@ -14,15 +14,19 @@
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
+#include "widgets/bringforward.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
+#include <QDragEnterEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QMimeDatabase>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -168,13 +172,15 @@ private Q_SLOTS:
         QCOMPARE(favorites().favoritesTable->model()->index(0, 0).data().toString(), QStringLiteral("pong"));
     }
 
-    void fromTheMiniWindowEachComesBackToItsOwnPlace()
+    void fromTheMiniWindowEachComesBackToItsOwnLastPlace()
     {
         main().setGeometry(40, 50, 900, 600);
-        m_staged->app->windowMini();
-        QVERIFY(!main().isVisible());
-        QVERIFY(mini().isVisible());
+        m_staged->app->windowFavorites();
+        // It was moved while it was shown, and the main window was not.
         favorites().setGeometry(5, 6, 700, 500);
+        m_staged->app->windowMini();
+        QVERIFY(!main().isVisible() && !favorites().isVisible());
+        QVERIFY(mini().isVisible());
         m_staged->app->windowFavorites();
         QVERIFY(!mini().isVisible());
         QCOMPARE(favorites().geometry(), QRect(5, 6, 700, 500));
@@ -183,15 +189,46 @@ private Q_SLOTS:
         QCOMPARE(main().geometry(), QRect(40, 50, 900, 600));
     }
 
+    // First the selection, as if it had changed, and only then the places.
+    void switchingRefreshesTheSelection_data()
+    {
+        QTest::addColumn<bool>("fromFavorites");
+        QTest::newRow("to the favourites") << false;
+        QTest::newRow("to the main window") << true;
+    }
     void switchingRefreshesTheSelection()
     {
-        QSignalSpy refreshed(&m_staged->app->gameList(), &GameListController::selectionChanged);
+        QFETCH(bool, fromFavorites);
+        QVERIFY(m_staged->app->gameList().selectGame(QStringLiteral("1943")));
         m_staged->app->windowFavorites();
-        QCOMPARE(refreshed.count(), 1);
+        if (!fromFavorites)
+            m_staged->app->windowMain();
+        QWidget& shown = fromFavorites ? static_cast<QWidget&>(favorites()) : main();
+        QWidget& next = fromFavorites ? static_cast<QWidget&>(main()) : favorites();
+        shown.setGeometry(70, 80, 1000, 640);
+        QStringList steps;
+        const auto note = [&](const char* what) {
+            steps << QStringLiteral("%1, %2, %3")
+                         .arg(QLatin1StringView(what), shown.isVisible() ? u"not switched" : u"switched",
+                              next.geometry() == shown.geometry() ? u"adjusted" : u"not adjusted");
+        };
+        connect(&m_staged->app->gameList(), &GameListController::selectionChanged, this,
+                [&] { note("picture"); });
+        connect(&m_staged->app->gameList(), &GameListController::markChanged, this,
+                [&](const QString& mark) { note(mark.toLatin1().constData()); });
+        if (fromFavorites)
+            m_staged->app->windowMain();
+        else
+            m_staged->app->windowFavorites();
+        QCOMPARE(steps,
+                 (QStringList{QStringLiteral("picture, not switched, not adjusted"),
+                              QStringLiteral("plovermark_imperfect, not switched, not adjusted")}));
+        QVERIFY(next.isVisible() && !shown.isVisible());
+        QCOMPARE(next.geometry(), QRect(70, 80, 1000, 640));
+        // The mini window shows nothing of it.
+        steps.clear();
         m_staged->app->windowMini();
-        QCOMPARE(refreshed.count(), 1);
-        m_staged->app->windowMain();
-        QCOMPARE(refreshed.count(), 2);
+        QCOMPARE(steps, QStringList());
     }
 
     void closingOneOfTheOthersBringsTheMainWindowBack()
@@ -208,6 +245,123 @@ private Q_SLOTS:
         mini().close();
         QVERIFY(main().isVisible());
         QVERIFY(!mini().isVisible());
+    }
+
+    void aMinimisedWindowIsBroughtForward_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<bool>("closes");
+        const auto row = [](const char* command, const char* window, bool closes = true) {
+            QTest::newRow(window) << QString::fromLatin1(command)
+                                  << QStringLiteral("tessera::") + QLatin1StringView(window) << closes;
+        };
+        row("menu_log", "LogWindow");
+        row("menu_preferences", "PreferencesWindow");
+        row("menu_showhelp", "HelpWindow");
+        row("menu_historywindow", "HistoryWindow");
+        row("menu_filter", "FilterPanel");
+        row("menu_bioslist", "BiosPanel");
+        row("menu_showpicture", "ImageWindow", false);
+    }
+    void aMinimisedWindowIsBroughtForward()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, window);
+        QFETCH(bool, closes);
+        m_staged->app->gameList().selectGame(QStringLiteral("pong"));
+        const auto choose = [&] { main().menuBar()->findChild<QAction*>(command)->trigger(); };
+        choose();
+        QTRY_VERIFY(windowNamed(window) != nullptr);
+        QWidget* shown = windowNamed(window);
+        QTRY_VERIFY(isShown(*shown));
+        shown->setWindowState(shown->windowState() | Qt::WindowMinimized);
+        choose();
+        QTRY_VERIFY(isShown(*shown));
+        choose();
+        QCOMPARE(shown->isVisible(), !closes);
+    }
+
+    void anotherStartBringsForwardWhatIsShown_data()
+    {
+        QTest::addColumn<QString>("window");
+        for (const char* name : {"MainWindow", "FavoritesWindow", "MiniWindow"})
+            QTest::newRow(name) << QStringLiteral("tessera::") + QLatin1StringView(name);
+    }
+    void anotherStartBringsForwardWhatIsShown()
+    {
+        QFETCH(QString, window);
+        m_staged->app->windowFavorites();
+        m_staged->app->windowMini();
+        m_staged->app->windowMain();
+        if (window.endsWith(QStringLiteral("FavoritesWindow")))
+            m_staged->app->windowFavorites();
+        else if (window.endsWith(QStringLiteral("MiniWindow")))
+            m_staged->app->windowMini();
+        QWidget* shown = windowNamed(window);
+        shown->setWindowState(shown->windowState() | Qt::WindowMinimized);
+        m_staged->app->comeForward(QString());
+        QVERIFY(isShown(*shown));
+        QVERIFY(QTest::qWaitForWindowActive(shown));
+        for (const QWidget* each : std::initializer_list<QWidget*>{&main(), &favorites(), &mini()})
+            QCOMPARE(each->isVisible(), each == shown);
+    }
+
+    void aDroppedFileIsOpened_data()
+    {
+        QTest::addColumn<QString>("on");
+        QTest::newRow("the list") << QStringLiteral("gameTable");
+        QTest::newRow("the search field") << QStringLiteral("titleSearchField");
+        QTest::newRow("the mini window") << QStringLiteral("miniImageView");
+        QTest::newRow("its field") << QStringLiteral("setnameTextField2");
+    }
+    void aDroppedFileIsOpened()
+    {
+        QFETCH(QString, on);
+        const bool isMini
+            = on == QStringLiteral("miniImageView") || on == QStringLiteral("setnameTextField2");
+        if (isMini)
+            m_staged->app->windowMini();
+        QWidget& window = isMini ? static_cast<QWidget&>(mini()) : main();
+        auto* target = window.findChild<QWidget*>(on);
+        QVERIFY(target != nullptr);
+        if (auto* list = qobject_cast<QAbstractItemView*>(target))
+            target = list->viewport();
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(QStringLiteral("/roms/galaga.zip"))});
+        dragged.setText(QStringLiteral("/roms/galaga.zip"));
+        const QPoint place = target->rect().center();
+        QDragEnterEvent enter(place, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(place, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QApplication::sendEvent(target, &drop);
+        QVERIFY(drop.isAccepted());
+        QTRY_VERIFY(logText().contains(QStringLiteral("galaga")));
+        QTRY_VERIFY(main().stopButton->isEnabled());
+        m_staged->app->stopGame();
+        QTRY_VERIFY(!main().stopButton->isEnabled());
+    }
+
+    void fileManagersOfferTheProgramForArchives_data()
+    {
+        QTest::addColumn<QString>("archive");
+        QTest::newRow("zip") << QStringLiteral("pong.zip");
+        QTest::newRow("7z") << QStringLiteral("pong.7z");
+    }
+    void fileManagersOfferTheProgramForArchives()
+    {
+        QFETCH(QString, archive);
+        QFile file(QStringLiteral(TESSERA_DESKTOP_ENTRY));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QString types;
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            if (line.startsWith("MimeType="))
+                types = QString::fromUtf8(line.mid(9));
+        }
+        const QString type = QMimeDatabase().mimeTypeForFile(archive, QMimeDatabase::MatchExtension).name();
+        QVERIFY2(types.split(u';', Qt::SkipEmptyParts).contains(type), qPrintable(type));
+        QVERIFY(types.endsWith(u';'));
     }
 
     void titlesNameTheKindOfEmulator()
@@ -370,6 +524,15 @@ private:
     MainWindow& main() const { return m_staged->app->mainWindow(); }
     FavoritesWindow& favorites() const { return m_staged->app->favorites().window(); }
     MiniWindow& mini() const { return m_staged->app->mini().window(); }
+
+    static QWidget* windowNamed(const QString& name)
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (QString::fromLatin1(window->metaObject()->className()) == name)
+                return window;
+        }
+        return nullptr;
+    }
 
     void add(const char* set)
     {

@@ -1,9 +1,11 @@
 #include "widgets/deletionfocusring.h"
 
 #include "support/testmain.h"
+#include "widgets/theme.h"
 
-#include <QLineEdit>
+#include <QApplication>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using namespace tessera;
 
@@ -12,23 +14,33 @@ class DeletionFocusRingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void itsControlsHaveNoRing()
+    void itsControlsHaveNoRingButOurBorder()
     {
+        theme::applyStyleSheet(*qApp);
         QWidget window;
-        auto* group = new QWidget(&window);
-        for (const QLatin1StringView name : DeletionFocusRing::controls)
-            (new QLineEdit(group))->setObjectName(name);
-        auto* other = new QPushButton(group);
-        other->setObjectName(QStringLiteral("other"));
+        auto* layout = new QVBoxLayout(&window);
+        const auto addButton = [&](const char* name) {
+            auto* button = new QPushButton(QStringLiteral("Choose…"));
+            button->setObjectName(QLatin1StringView(name));
+            button->setProperty("role", QStringLiteral("accent"));
+            layout->addWidget(button);
+            return button;
+        };
+        QPushButton* with = addButton("other");
+        QPushButton* without = addButton("buttonroms");
         DeletionFocusRing::awakeFromNib(window);
-        int without = 0;
-        for (const QLineEdit* each : group->findChildren<QLineEdit*>()) {
-            QVERIFY(!each->testAttribute(Qt::WA_MacShowFocusRect));
-            QCOMPARE(each->property("focusring").toString(), QStringLiteral("none"));
-            ++without;
-        }
-        QCOMPARE(without, 27);
-        QVERIFY(!other->property("focusring").isValid());
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const auto shown = [](QWidget* button, bool focused) {
+            for (int i = 0; i < 2 && button->hasFocus() != focused; ++i)
+                QTest::keyClick(button->window(), Qt::Key_Tab);
+            return button->grab().toImage();
+        };
+        QVERIFY(shown(with, true) != shown(with, false));
+        QCOMPARE(shown(without, false), shown(with, false));
+        QVERIFY(shown(without, true) != shown(with, true));
+        QVERIFY(shown(without, true) != shown(without, false));
+        qApp->setStyleSheet(QString());
     }
 
     void aWindowMayHoldSomeOfThem()
