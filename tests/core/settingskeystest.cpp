@@ -2,8 +2,6 @@
 
 #include "support/testmain.h"
 
-#include <QSet>
-
 using namespace tessera;
 using namespace Qt::Literals::StringLiterals;
 
@@ -120,48 +118,6 @@ private Q_SLOTS:
         const InitialSetting& row = initialSettings[size_t(position)];
         QCOMPARE(row.name, expected[size_t(position)].name);
         QVERIFY(row.value == expected[size_t(position)].value);
-    }
-
-    void chosenKeysHaveTheirNamesAndNoInitialValue()
-    {
-        const QSet<QString> names{
-            keys::ExecutionPath.name,
-            keys::MameosxPath.name,
-            keys::ApplicationPath.name,
-            keys::RomsPath.name,
-            keys::SnapPath.name,
-            keys::TitlesnapPath.name,
-            keys::GameflyersPath.name,
-            keys::HistoryPath.name,
-            keys::MameinfoPath.name,
-            keys::snapdownloadPath.name,
-            keys::titlessdownloadPath.name,
-            keys::flyersdownloadPath.name,
-            keys::FavoriteTable.name,
-            keys::GamelistColoring.name,
-            keys::listfullPath.name,
-            keys::romsfolderPath.name,
-            keys::movefolderPath.name,
-            keys::listxmlPath.name,
-            keys::localizePath.name,
-            keys::verifyromsText.name,
-        };
-        QCOMPARE(
-            names,
-            (QSet<QString>{
-                u"ExecutionPath"_s,  u"MameosxPath"_s,      u"ApplicationPath"_s,     u"RomsPath"_s,
-                u"SnapPath"_s,       u"TitlesnapPath"_s,    u"GameflyersPath"_s,      u"HistoryPath"_s,
-                u"MameinfoPath"_s,   u"snapdownloadPath"_s, u"titlessdownloadPath"_s, u"flyersdownloadPath"_s,
-                u"FavoriteTable"_s,  u"GamelistColoring"_s, u"listfullPath"_s,        u"romsfolderPath"_s,
-                u"movefolderPath"_s, u"listxmlPath"_s,      u"localizePath"_s,        u"verifyromsText"_s,
-            }));
-        for (const InitialSetting& row : initialSettings)
-            QVERIFY(!names.contains(row.name));
-    }
-
-    void theTwoColouringKeysAreDifferent()
-    {
-        QVERIFY(keys::gamelist_coloring.name != keys::GamelistColoring.name);
     }
 };
 
