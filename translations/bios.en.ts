@@ -18,6 +18,12 @@
     <message id="bios_asking"><source></source><translation>Asking the emulator…</translation></message>
     <message id="bios_added"><source></source><translation>%1 sets added.</translation></message>
     <message id="bios_none_found"><source></source><translation>The emulator names no BIOS here.</translation></message>
+    <message id="bios_removed"><source></source><translation>“%1” was removed. Ctrl+Z brings it back.</translation></message>
+    <message id="bios_set_now"><source></source><translation>Set now: %1</translation></message>
+    <message id="undo_add_bios"><source></source><translation>Add BIOS</translation></message>
+    <message id="undo_edit_bios"><source></source><translation>Edit BIOS</translation></message>
+    <message id="undo_remove_bios"><source></source><translation>Remove BIOS</translation></message>
+    <message id="undo_extend_bios"><source></source><translation>Extend BIOS List</translation></message>
     <message id="bios_no_list"><source></source><translation>“%1” is not a BIOS list.</translation></message>
     <message id="bios_not_started"><source></source><translation>“%1” could not be started: %2</translation></message>
     <message id="bios_no_answer"><source></source><translation>“%1” gave no list.</translation></message>

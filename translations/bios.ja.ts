@@ -18,6 +18,12 @@
     <message id="bios_asking"><source></source><translation>エミュレータに問い合わせ中…</translation></message>
     <message id="bios_added"><source></source><translation>%1 件のセットを追加しました。</translation></message>
     <message id="bios_none_found"><source></source><translation>選べる BIOS はありません。</translation></message>
+    <message id="bios_removed"><source></source><translation>“%1”を削除しました。Ctrl+Z で元に戻せます。</translation></message>
+    <message id="bios_set_now"><source></source><translation>現在の設定: %1</translation></message>
+    <message id="undo_add_bios"><source></source><translation>BIOS の追加</translation></message>
+    <message id="undo_edit_bios"><source></source><translation>BIOS の編集</translation></message>
+    <message id="undo_remove_bios"><source></source><translation>BIOS の削除</translation></message>
+    <message id="undo_extend_bios"><source></source><translation>BIOS リストの拡張</translation></message>
     <message id="bios_no_list"><source></source><translation>“%1”は BIOS リストではありません。</translation></message>
     <message id="bios_not_started"><source></source><translation>“%1”を起動できませんでした: %2</translation></message>
     <message id="bios_no_answer"><source></source><translation>“%1”からリストを取得できませんでした。</translation></message>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QUndoStack>
 
 #include <functional>
 #include <memory>
@@ -23,9 +24,12 @@ public:
 
     BiosPanel& panel();
     Bioslist& list();
+    /// Of the list's edits.
+    QUndoStack& undoStack() { return m_undo; }
 
 private:
     std::function<BiosParts(BiosPanel& panel)> m_parts;
+    QUndoStack m_undo;
     std::unique_ptr<BiosPanel> m_panel;
     std::unique_ptr<Bioslist> m_list;
 };

@@ -1,5 +1,6 @@
 #include "app/keytable.h"
 
+#include "app/biosdesk.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
 #include "app/infodesk.h"
@@ -54,6 +55,7 @@ std::vector<KeyCommands::Row> keyTable(Tessera_AppDelegate& hub)
         {Kind::History,         nullptr,                                    page(history, QAbstractSlider::SliderPageStepSub), page(history, QAbstractSlider::SliderPageStepAdd), nullptr,                    nullptr, save,  edits},
         {Kind::Editor,          nullptr,                                    nullptr,                                  nullptr,                                     game,                                 nullptr, save,  edits},
         {Kind::FavoritesEditor, nullptr,                                    nullptr,                                  nullptr,                                     favorite,                             nullptr, save2, edits2},
+        {Kind::Bios,            nullptr,                                    nullptr,                                  nullptr,                                     nullptr,                              nullptr, save,  &hub.bios().undoStack()},
         {Kind::Other,           nullptr,                                    nullptr,                                  nullptr,                                     nullptr,                              nullptr, save,  edits},
     };
     // clang-format on

@@ -122,6 +122,7 @@ void Tessera_AppDelegate::loadInterface()
         if (!openGame(*this, name))
             m_desktop.beep();
     });
+    m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
     m_keyCommands
         = std::make_unique<KeyCommands>(keyTable(*this), [this](const QString& game) { runGame(game); });
     joinRooms();
@@ -225,7 +226,8 @@ void Tessera_AppDelegate::joinViews()
     QObject* keys = m_keyCommands.get();
     const auto follow = [this] { followUndo(); };
     connect(m_keyCommands.get(), &KeyCommands::keyWindowChanged, keys, follow);
-    for (QUndoStack* stack : {&m_catalogue.undoStack(), &m_favorites->favourites().undoStack()}) {
+    for (QUndoStack* stack :
+         {&m_catalogue.undoStack(), &m_favorites->favourites().undoStack(), &m_bios->undoStack()}) {
         connect(stack, &QUndoStack::canUndoChanged, keys, follow);
         connect(stack, &QUndoStack::canRedoChanged, keys, follow);
     }
@@ -264,7 +266,6 @@ void Tessera_AppDelegate::joinInfo()
                                         [this](HistoryWindow& window) { takeHistoryWindow(window); });
     m_info->addContextMenu(*m_mainWindow->gameTable, KeyWindow::Kind::Main);
     connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
-    m_bios = std::make_unique<BiosDesk>([this](BiosPanel& panel) { return takeBiosPanel(panel); });
 }
 
 void Tessera_AppDelegate::joinArtwork()
@@ -302,11 +303,13 @@ void Tessera_AppDelegate::takeHistoryWindow(HistoryWindow& window)
 BiosParts Tessera_AppDelegate::takeBiosPanel(BiosPanel& panel)
 {
     m_places.keep(panel, keys::BiosPanelGeometry.name.data());
+    m_keyCommands->watch(panel, KeyWindow::Kind::Bios);
     carryMenuKeys(*m_mainWindow->menuBar(), panel);
     return {m_desktop,
             m_defaults,
             panel,
             *m_pages->misc().biosPop,
+            m_bios->undoStack(),
             applicationSupportFolder() + QStringLiteral("/bioslist.xml"),
             [this] { return emulator(); },
             [this] { return m_gameList->tableViewSelectionROM(); }};

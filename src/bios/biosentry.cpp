@@ -101,6 +101,18 @@ QStringList biosNames(const BiosEntries& entries)
     return names;
 }
 
+std::vector<int> firstDifference(const BiosEntries& one, const BiosEntries& other)
+{
+    const auto [left, right] = std::ranges::mismatch(one, other);
+    std::vector<int> place{static_cast<int>(right - other.begin())};
+    if (left == one.end() || right == other.end() || left->rom != right->rom || left->bios != right->bios
+        || left->name != right->name)
+        return place;
+    const std::vector<int> beneath = firstDifference(left->children, right->children);
+    place.insert(place.end(), beneath.begin(), beneath.end());
+    return place;
+}
+
 bool hasArchive(const QString& folder, const QString& rom)
 {
     if (folder.isEmpty() || rom.isEmpty() || rom.contains(u'/') || rom.contains(QChar(0)))

@@ -17,6 +17,12 @@ struct BiosEntry {
     std::vector<BiosEntry> children;
     /// What a file held besides.
     std::optional<PropertyList> kept = std::nullopt;
+
+    /// What is shown of them; what a file held besides goes with it.
+    bool operator==(const BiosEntry& other) const
+    {
+        return bios == other.bios && rom == other.rom && name == other.name && children == other.children;
+    }
 };
 
 using BiosEntries = std::vector<BiosEntry>;
@@ -33,6 +39,9 @@ std::expected<QByteArray, Failure> biosEntriesXml(const BiosEntries& entries, co
 /// Both lists as one: `known` first, each with what only the other one has beneath it, then what only the
 /// other one has. Entries are the same that have the same archive and BIOS.
 BiosEntries mergedBiosEntries(BiosEntries known, const BiosEntries& found);
+
+/// Where the second list first differs from the first one: a row, then one beneath it, and so on.
+std::vector<int> firstDifference(const BiosEntries& one, const BiosEntries& other);
 
 /// Every BIOS that an entry names, once, in their order.
 QStringList biosNames(const BiosEntries& entries);

@@ -1,5 +1,7 @@
 #include "bios/biosquestion.h"
 
+#include "launch/emulatoridentity.h"
+
 #include <QProcessEnvironment>
 
 #include <algorithm>
@@ -23,10 +25,7 @@ BiosQuestion::BiosQuestion(const QString& emulator, const QString& set, QObject*
     , m_set(set)
     , m_sets(set.isEmpty() ? BiosSets::Machines::BiosOnly : BiosSets::Machines::All)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // A comma as decimal sign would not be what other versions print.
-    environment.insert(QStringLiteral("LC_NUMERIC"), QStringLiteral("C"));
-    m_process.setProcessEnvironment(environment);
+    m_process.setProcessEnvironment(emulatorEnvironment());
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
     connect(&m_process, &QProcess::readyReadStandardOutput, this, [this] {

@@ -42,8 +42,9 @@ QStringList newTitles(const DefaultsController& defaults, const GrowingItems& it
 
 void keepTitles(DefaultsController& defaults, const GrowingItems& items, const QStringList& titles)
 {
-    const QStringList kept = keptTitles(defaults, items) + newTitles(defaults, items, titles);
-    defaults.setText(items.kept, kept.join(u' '));
+    const QStringList added = newTitles(defaults, items, titles);
+    if (!added.isEmpty())
+        defaults.setText(items.kept, (keptTitles(defaults, items) + added).join(u' '));
 }
 
 PopupState storedState(const DefaultsController& defaults, const Key<float>& key, const GrowingItems& items)

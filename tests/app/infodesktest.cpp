@@ -9,6 +9,7 @@
 #include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/sidepanel.h"
+#include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -35,6 +36,8 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QToolButton>
+#include <QTreeView>
 
 using namespace tessera;
 using test::StagedApp;
@@ -372,6 +375,25 @@ private Q_SLOTS:
         QVERIFY(m_staged->app->bios().panel().isVisible());
         m_staged->app->ViewBiosList();
         QVERIFY(!m_staged->app->bios().panel().isVisible());
+    }
+
+    void inTheBiosPanelUndoBringsBackItsEntry()
+    {
+        BiosPanel& panel = m_staged->app->bios().panel();
+        BiosModel& list = *panel.treeController_list;
+        m_staged->app->ViewBiosList();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+        QAction& undo = *m_staged->app->mainWindow().findChild<QAction*>(QStringLiteral("menu_undo"));
+        QVERIFY(!undo.isEnabled());
+        const int rows = list.rowCount();
+        panel.biosView->setCurrentIndex(list.index(2, 0));
+        QTest::mouseClick(panel.removeButton, Qt::LeftButton);
+        QCOMPARE(list.rowCount(), rows - 1);
+        QVERIFY(undo.isEnabled());
+        QTest::keyClick(panel.biosView, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(list.rowCount(), rows);
+        QTest::keyClick(panel.biosView, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(list.rowCount(), rows - 1);
     }
 
 private:

@@ -121,6 +121,33 @@ private Q_SLOTS:
         QCOMPARE(shown(mergedBiosEntries(merged, found)), shown(merged));
     }
 
+    void theFirstDifferenceIsAPlaceInTheTree_data()
+    {
+        QTest::addColumn<QList<int>>("change"); // a place in the list, whose entry is taken out
+        QTest::addColumn<QList<int>>("place");
+        QTest::newRow("a set") << QList<int>{1} << QList<int>{1};
+        QTest::newRow("beneath a set") << QList<int>{1, 0} << QList<int>{1, 0};
+        QTest::newRow("the last one beneath") << QList<int>{1, 1} << QList<int>{1, 1};
+        QTest::newRow("the last set") << QList<int>{2} << QList<int>{2};
+    }
+
+    void theFirstDifferenceIsAPlaceInTheTree()
+    {
+        QFETCH(QList<int>, change);
+        QFETCH(QList<int>, place);
+        const BiosEntries all{
+            {"a", "A", "", {}}, {"b", "B", "", {{"c", "B", "", {}}, {"d", "B", "", {}}}}, {"e", "E", "", {}}};
+        BiosEntries fewer = all;
+        BiosEntries& list = change.size() > 1 ? fewer[1].children : fewer;
+        list.erase(list.begin() + change.constLast());
+        const auto found = firstDifference(fewer, all);
+        QCOMPARE(QList<int>(found.begin(), found.end()), place);
+        BiosEntries other = all;
+        (change.size() > 1 ? other[1].children : other)[std::size_t(change.constLast())].name = "other";
+        const auto edited = firstDifference(all, other);
+        QCOMPARE(QList<int>(edited.begin(), edited.end()), place);
+    }
+
     void anArchiveLiesInTheFolderOrNot_data()
     {
         QTest::addColumn<QString>("rom");

@@ -3,6 +3,10 @@
 
 #include "support/testmain.h"
 
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
 using namespace tessera;
 
 namespace {
@@ -87,6 +91,24 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(bool, is);
         QCOMPARE(isSetName(name), is);
+    }
+
+    // LC_ALL, which the tests set, would outvote LC_NUMERIC.
+    void theEmulatorPrintsNumbersWithAPoint()
+    {
+        const QTemporaryDir folder;
+        QFile emulator(folder.filePath("emulator"));
+        QVERIFY(emulator.open(QIODevice::WriteOnly) && emulator.write(R"(#!/bin/sh
+echo '<machine name="n" isbios="yes"><description>'"$LC_NUMERIC ${LC_ALL-unset}"'</description>'
+echo '<biosset name="b" description="B"/></machine>'
+)") > 0);
+        emulator.close();
+        QVERIFY(emulator.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        BiosQuestion question(emulator.fileName(), QString());
+        QSignalSpy answered(&question, &BiosQuestion::answered);
+        question.ask();
+        QTRY_COMPARE(answered.count(), 1);
+        QCOMPARE(question.entries().at(0).name, QStringLiteral("C unset"));
     }
 };
 

@@ -1,6 +1,7 @@
 #include "bios/ui/bioslist.h"
 
 #include "bios/biosquestion.h"
+#include "bios/ui/biosediting.h"
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
 #include "core/atomicfile.h"
@@ -40,6 +41,7 @@ constexpr QLatin1StringView changed("Changed the BIOS setting to \"%1\"");
 Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     : QObject(parent)
     , m_parts(parts)
+    , m_editing(std::make_unique<BiosEditing>(parts.panel, parts.undo))
 {
     BiosPanel& panel = m_parts.panel;
     connect(panel.biosView, &QTreeView::doubleClicked, this, &Bioslist::tableViewDoubleAction);
@@ -50,7 +52,7 @@ Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     }
     connect(panel.biosView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &Bioslist::outlineViewSelectionDidChange);
-    connect(panel.treeController_list, &BiosModel::edited, this, &Bioslist::saveAction);
+    connect(m_editing.get(), &BiosEditing::edited, this, &Bioslist::takeEdit);
     connect(panel.treeController_list, &BiosModel::dataChanged, this,
             &Bioslist::outlineViewSelectionDidChange);
     connect(panel.treeController_list, &BiosModel::modelReset, this,
@@ -59,6 +61,8 @@ Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     connect(panel.removeButton, &QToolButton::clicked, this, &Bioslist::removeEntry);
     connect(panel.gameButton, &QPushButton::clicked, this, &Bioslist::addOfGame);
     connect(panel.rebuildButton, &QPushButton::clicked, this, &Bioslist::rebuild);
+    connect(&m_parts.popup_bios, &QComboBox::currentTextChanged, this, &Bioslist::showSetting);
+    showSetting();
 }
 
 Bioslist::~Bioslist() = default;
@@ -74,13 +78,34 @@ void Bioslist::awakeFromNib()
     if (!QFileInfo::exists(path)) {
         m_parts.desktop.log(QStringLiteral("bioslist.xml not found"));
     } else if (const auto entries = readBiosEntries(path)) {
-        m_parts.panel.treeController_list->setEntries(*entries);
+        m_editing->load(*entries);
+        learn();
     } else {
         m_parts.desktop.log(entries.error().text());
         m_isUnread = path == m_parts.ownFile;
     }
-    m_parts.panel.expandAll();
     outlineViewSelectionDidChange();
+}
+
+// A BIOS that stands in the list can be set: what the pop-up lacks goes behind its items, where it stays
+// when it is removed here.
+void Bioslist::learn()
+{
+    keepTitles(m_parts.defaults, growingBiosSets, biosNames(m_parts.panel.treeController_list->entries()));
+}
+
+void Bioslist::takeEdit()
+{
+    learn();
+    saveAction();
+}
+
+void Bioslist::showSetting()
+{
+    const QComboBox& popup = m_parts.popup_bios;
+    m_parts.panel.treeController_list->setChosen(popup.currentIndex() == 0 ? QString(defaultBios)
+                                                                           : popup.currentText());
+    m_parts.panel.showSetting(popup.currentText());
 }
 
 // Before the first edit writes over it.
@@ -126,7 +151,7 @@ void Bioslist::outlineViewSelectionDidChange()
     const auto entry = list.entry(current);
     const auto fixed = list.fixedRow(current);
     QLabel& text = *m_parts.panel.text_infomation;
-    m_parts.panel.removeButton->setEnabled(entry && !fixed);
+    m_parts.panel.removeButton->setEnabled(entry && !fixed && !isAsking());
     if (entry && !fixed) {
         const bool isThere = hasArchive(m_parts.defaults.text(keys::RomsPath), entry->rom);
         showIcon(isThere ? iconOf(*entry) : theme::icon(QStringLiteral("no_romfile"), "faint"));
@@ -170,15 +195,17 @@ void Bioslist::saveAction()
 
 void Bioslist::addEntry()
 {
-    const QModelIndex added = m_parts.panel.treeController_list->add({});
-    m_parts.panel.biosView->setCurrentIndex(added);
-    m_parts.panel.biosView->edit(added);
+    m_editing->addEntry();
 }
 
 void Bioslist::removeEntry()
 {
-    if (!m_parts.panel.treeController_list->remove(selected()))
+    const QModelIndex row = selected();
+    const QString name = row.siblingAtColumn(BiosModel::Name).data().toString();
+    if (isAsking() || !m_editing->removeEntry())
         m_parts.desktop.beep();
+    else
+        m_parts.panel.text_infomation->setText(qtTrId("bios_removed").arg(name));
 }
 
 void Bioslist::rebuild()
@@ -201,11 +228,11 @@ void Bioslist::ask(const QString& set)
         m_parts.desktop.beep();
         return;
     }
-    m_askedGame = set;
     m_question = std::make_unique<BiosQuestion>(emulator, set);
     connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::take);
     connect(m_question.get(), &BiosQuestion::failed, this, &Bioslist::fail);
     m_parts.panel.setAsking(true);
+    outlineViewSelectionDidChange();
     m_parts.panel.text_infomation->setText(qtTrId("bios_asking"));
     m_question->ask();
 }
@@ -213,17 +240,12 @@ void Bioslist::ask(const QString& set)
 // Nobody's own entries get lost, and what was known stays where it was.
 void Bioslist::take()
 {
-    BiosModel& list = *m_parts.panel.treeController_list;
     const BiosEntries found = m_question->entries();
     m_question.release()->deleteLater();
-    const BiosEntries known = list.entries();
+    const BiosEntries known = m_parts.panel.treeController_list->entries();
     const BiosEntries merged = mergedBiosEntries(known, found);
-    list.setEntries(merged);
-    m_parts.panel.expandAll();
-    saveAction();
-    if (!m_askedGame.isEmpty())
-        keepTitles(m_parts.defaults, growingBiosSets, biosNames(found));
     m_parts.panel.setAsking(false);
+    m_editing->replace(merged, qtTrId("undo_extend_bios"));
     const auto sets = static_cast<int>(merged.size() - known.size());
     m_parts.panel.text_infomation->setText(
         found.empty() ? qtTrId("bios_none_found") : qtTrId("bios_added").arg(QLocale().toString(sets)));
@@ -234,6 +256,7 @@ void Bioslist::fail(const Failure& failure)
 {
     m_question.release()->deleteLater();
     m_parts.panel.setAsking(false);
+    outlineViewSelectionDidChange();
     m_parts.panel.text_infomation->setText(failure.text());
     m_parts.desktop.beep();
     Q_EMIT asked();

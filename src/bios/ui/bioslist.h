@@ -10,9 +10,11 @@
 
 class QComboBox;
 class QIcon;
+class QUndoStack;
 
 namespace tessera {
 
+class BiosEditing;
 class BiosPanel;
 class BiosQuestion;
 class DefaultsController;
@@ -24,6 +26,7 @@ struct BiosParts {
     DefaultsController& defaults;
     BiosPanel& panel;
     QComboBox& popup_bios; ///< of the launch options
+    QUndoStack& undo; ///< of the list
     QString ownFile; ///< the user's copy of the list
     std::function<QString()> emulator; ///< its path, empty where there is none
     std::function<QString()> game; ///< the selected game's set name
@@ -52,7 +55,7 @@ public Q_SLOTS:
     void saveAction();
     /// Adds what the user's emulator knows.
     void rebuild();
-    /// Adds what the selected game can choose from, and its names to the pop-up.
+    /// Adds what the selected game can choose from.
     void addOfGame();
     void addEntry();
     void removeEntry();
@@ -68,12 +71,15 @@ private:
     void ask(const QString& set);
     void take();
     void fail(const Failure& failure);
+    void takeEdit();
+    void learn();
+    void showSetting();
     void showIcon(const QIcon& icon);
     QIcon iconOf(const BiosEntry& entry) const;
 
     BiosParts m_parts;
+    std::unique_ptr<BiosEditing> m_editing;
     std::unique_ptr<BiosQuestion> m_question;
-    QString m_askedGame; ///< empty for all
     bool m_isUnread = false; ///< the user's copy is there, and could not be read
 };
 

@@ -1,5 +1,9 @@
 #include "bios/ui/biosmodel.h"
 
+#include "widgets/theme.h"
+
+#include <QIcon>
+
 #include <algorithm>
 #include <array>
 
@@ -18,6 +22,8 @@ struct BiosModel::Node {
     BiosEntry entry; ///< without its children
     std::vector<std::unique_ptr<Node>> children;
 
+    // What a file held is never blank.
+    bool isBlank() const { return !entry.kept && children.empty() && entry == BiosEntry(); }
     int row() const
     {
         const auto own = std::ranges::find(parent->children, this, &std::unique_ptr<Node>::get);
@@ -49,6 +55,8 @@ BiosEntries BiosModel::entriesOf(const Node& node)
 {
     BiosEntries entries;
     for (const auto& child : node.children) {
+        if (child->isBlank())
+            continue;
         entries.push_back(child->entry);
         entries.back().children = entriesOf(*child);
     }
@@ -84,13 +92,35 @@ std::optional<int> BiosModel::fixedRow(const QModelIndex& index) const
     return isFixed ? std::optional(index.row()) : std::nullopt;
 }
 
+QModelIndex BiosModel::at(const std::vector<int>& place) const
+{
+    QModelIndex found;
+    for (const int row : place) {
+        if (const int rows = rowCount(found); rows > 0)
+            found = index(std::min(row, rows - 1), Name, found);
+    }
+    return found;
+}
+
+bool BiosModel::isBlank(const QModelIndex& index) const
+{
+    return index.isValid() && nodeAt(index)->isBlank();
+}
+
+void BiosModel::setChosen(const QString& bios)
+{
+    // Any number of rows, anywhere in the tree.
+    Q_EMIT layoutAboutToBeChanged();
+    m_chosen = bios;
+    Q_EMIT layoutChanged();
+}
+
 QModelIndex BiosModel::add(const BiosEntry& entry)
 {
     const auto row = static_cast<int>(m_root->children.size());
     beginInsertRows({}, row, row);
     fill(*m_root, {entry});
     endInsertRows();
-    Q_EMIT edited();
     return index(row, Name);
 }
 
@@ -102,7 +132,6 @@ bool BiosModel::remove(const QModelIndex& index)
     beginRemoveRows(index.parent(), index.row(), index.row());
     above->children.erase(above->children.begin() + index.row());
     endRemoveRows();
-    Q_EMIT edited();
     return true;
 }
 
@@ -133,9 +162,17 @@ int BiosModel::columnCount(const QModelIndex&) const
 
 QVariant BiosModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid())
         return {};
     const BiosEntry& entry = nodeAt(index)->entry;
+    if (index.column() == Bios && !m_chosen.isEmpty() && entry.bios == m_chosen) {
+        if (role == Qt::DecorationRole)
+            return theme::icon(QStringLiteral("chosen"), "accent");
+        if (role == Qt::AccessibleDescriptionRole)
+            return qtTrId("bios_set_now").arg(entry.bios.trimmed());
+    }
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return {};
     switch (index.column()) {
     case Name:
         // The file's names for these two are no one's language.

@@ -25,7 +25,13 @@ public:
     std::optional<BiosEntry> entry(const QModelIndex& index) const;
     /// The row among the fixed ones, counted from 0, or nothing for a real entry.
     std::optional<int> fixedRow(const QModelIndex& index) const;
+    /// The row at a place, or the last one before it where there are fewer; see firstDifference().
+    QModelIndex at(const std::vector<int>& place) const;
+    /// A row that is to be filled in; while it is blank it is in no list.
     QModelIndex add(const BiosEntry& entry);
+    bool isBlank(const QModelIndex& index) const;
+    /// How the BIOS reads that is set now; its rows are marked.
+    void setChosen(const QString& bios);
     /// False for a fixed row.
     bool remove(const QModelIndex& index);
 
@@ -39,7 +45,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 Q_SIGNALS:
-    /// The user changed something.
+    /// The user changed a cell.
     void edited();
 
 private:
@@ -51,6 +57,7 @@ private:
     Node* nodeAt(const QModelIndex& index) const;
 
     std::unique_ptr<Node> m_root;
+    QString m_chosen;
 };
 
 } // namespace tessera

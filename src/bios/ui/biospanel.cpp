@@ -1,6 +1,7 @@
 #include "bios/ui/biospanel.h"
 
 #include "bios/ui/biosmodel.h"
+#include "bios/ui/biosview.h"
 #include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/myscrollers.h"
@@ -11,7 +12,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace tessera {
@@ -26,7 +26,7 @@ constexpr int biosWidth = 110;
 BiosPanel::BiosPanel(QWidget* parent)
     : QWidget(parent, Qt::Window)
     , treeController_list(new BiosModel(this))
-    , biosView(new QTreeView)
+    , biosView(new BiosView)
 {
     setObjectName(QStringLiteral("panel_bios"));
     setWindowTitle(qtTrId("bios_title"));
@@ -86,12 +86,18 @@ QWidget* BiosPanel::makeFoot()
     QHBoxLayout* layout = foot->row();
     layout->setSpacing(12);
     layout->addWidget(image_icon);
+    text_setting = new QLabel;
+    text_setting->setObjectName(QStringLiteral("text_setting"));
+    text_setting->setTextFormat(Qt::PlainText);
     layout->addWidget(text_infomation, 1);
+    layout->addWidget(text_setting);
     return foot;
 }
 
 void BiosPanel::expandAll()
 {
+    // Rows are measured now, once for all of them: as the style sheet has them, shown or not.
+    biosView->ensurePolished();
     biosView->expandAll();
     biosView->scrollToTop();
 }
@@ -100,6 +106,13 @@ void BiosPanel::setAsking(bool asking)
 {
     gameButton->setEnabled(!asking);
     rebuildButton->setEnabled(!asking);
+    addButton->setEnabled(!asking);
+    biosView->setEditTriggers(asking ? QAbstractItemView::NoEditTriggers : QAbstractItemView::EditKeyPressed);
+}
+
+void BiosPanel::showSetting(const QString& title)
+{
+    text_setting->setText(title.isEmpty() ? QString() : qtTrId("bios_set_now").arg(title));
 }
 
 void BiosPanel::showEvent(QShowEvent* event)

@@ -23,6 +23,7 @@ public:
     QTreeView* biosView;
     QLabel* image_icon; ///< of the selected entry's archive
     QLabel* text_infomation;
+    QLabel* text_setting; ///< which BIOS is set now
     QToolButton* addButton;
     QToolButton* removeButton;
     QPushButton* gameButton; ///< the BIOS of the selected game
@@ -30,8 +31,10 @@ public:
 
     /// Every entry is shown, the first one in view.
     void expandAll();
-    /// While an emulator is asked.
+    /// While an emulator is asked the list stays as it is.
     void setAsking(bool asking);
+    /// The title of the pop-up's selected item.
+    void showSetting(const QString& title);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "bios/ui/bioslist.h"
+#include "bios/ui/biosmodel.h"
+#include "bios/ui/biospanel.h"
+#include "launch/growingitems.h"
+#include "launch/popupitems.h"
+#include "launch/ui/growingpopup.h"
+#include "platform/defaultscontroller.h"
+#include "support/scripteddesktop.h"
+#include "widgets/boundcontrols.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+#include <QUndoStack>
+
+namespace tessera::test {
+
+/// The BIOS panel with the shipped list and the pop-up of the preferences; no game runs.
+struct BiosRoom {
+    BiosRoom()
+        : stored(folder.filePath("settings.ini"))
+        , defaults(stored)
+    {
+        defaults.setInitialValues(QString(), QString());
+        defaults.setText(keys::RomsPath, folder.path());
+        for (const PopupItem& item : biosSets)
+            popup.addItem(item.title != nullptr ? QString::fromLatin1(item.title) : QStringLiteral("none"));
+        new GrowingPopup(popup, defaults, growingBiosSets);
+        bind(popup, defaults, keys::Biostype);
+        make();
+    }
+
+    /// As at the next start.
+    void make()
+    {
+        list.reset();
+        panel = std::make_unique<BiosPanel>();
+        list = std::make_unique<Bioslist>(BiosParts{desktop, defaults, *panel, popup, undo, ownFile(),
+                                                    [this] { return emulator; }, [this] { return game; }});
+        list->awakeFromNib();
+    }
+
+    QString ownFile() const { return folder.filePath("bioslist.xml"); }
+    QString info() const { return panel->text_infomation->text(); }
+    BiosModel& model() const { return *panel->treeController_list; }
+    QTreeView& view() const { return *panel->biosView; }
+    void select(const QModelIndex& index) const { panel->biosView->setCurrentIndex(index); }
+    QString selectedName() const
+    {
+        return view().currentIndex().siblingAtColumn(BiosModel::Name).data().toString();
+    }
+
+    /// What the stand-in prints for -listxml.
+    void setListed(const char* text) const
+    {
+        QFile file(folder.filePath("list.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+        qputenv("FAKE_LISTXML", QFile::encodeName(file.fileName()));
+    }
+
+    QTemporaryDir folder;
+    ScriptedDesktop desktop;
+    UserDefaults stored;
+    DefaultsController defaults;
+    QUndoStack undo;
+    QComboBox popup;
+    QString emulator = QStringLiteral(TESSERA_FAKEEMULATOR);
+    QString game = QStringLiteral("pong");
+    std::unique_ptr<BiosPanel> panel;
+    std::unique_ptr<Bioslist> list;
+};
+
+} // namespace tessera::test
