@@ -13,21 +13,44 @@ namespace tessera {
 
 namespace {
 
+constexpr int patience = 2000; // milliseconds
+
 // Everything that the emulator prints goes into the file as it comes.
+bool writePrinted(QProcess& process, QFile& file)
+{
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    const auto write = [&] {
+        const QByteArray piece = process.readAll();
+        return file.write(piece) == piece.size() && file.flush();
+    };
+    while (write()) {
+        if (!process.waitForReadyRead(-1)) {
+            process.waitForFinished(-1);
+            // What came with its end.
+            return write();
+        }
+    }
+    return false;
+}
+
+// A file that is there loses what it holds only to an emulator that runs.
 int exportInto(const QString& path, const QString& executable, int position)
 {
-    if (QFile file(path); !file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return failed(Failure{"failure_write", {path, file.errorString()}});
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(path);
     process.setProcessEnvironment(emulatorEnvironment());
     process.setWorkingDirectory(QFileInfo(executable).path());
     process.start(executable, exportArguments(position));
-    process.waitForFinished(-1);
-    if (process.error() == QProcess::FailedToStart)
+    if (!process.waitForStarted(-1))
         return failed(Failure{"launch_notstarted", {executable, process.errorString()}});
+    QFile file(path);
+    if (!writePrinted(process, file)) {
+        process.kill();
+        process.waitForFinished(patience);
+        return failed(Failure{"failure_write", {path, file.errorString()}});
+    }
     print(QString(exportCompleted).trimmed());
     if (const int status = process.exitCode(); status != 0 || process.exitStatus() != QProcess::NormalExit)
         return failed(Failure{"launch_endedbadly", {executable, QString::number(status)}});
