@@ -72,11 +72,11 @@ ScriptEmulator scriptEmulatorAt(int position)
 
 QString scriptText(const ScriptRequest& request)
 {
-    QString text;
-    if (request.emulator != ScriptEmulator::None && request.format != ScriptFormat::None)
-        text = filled(
-            templates[static_cast<std::size_t>(request.emulator)][static_cast<std::size_t>(request.format)],
-            valuesOf(request));
+    if (request.emulator == ScriptEmulator::None || request.format == ScriptFormat::None)
+        return {};
+    QString text = filled(
+        templates[static_cast<std::size_t>(request.emulator)][static_cast<std::size_t>(request.format)],
+        valuesOf(request));
     if (!request.options.isEmpty() && request.emulator != ScriptEmulator::OtherApplication) {
         QString options = QLatin1Char(' ') + request.options.join(QLatin1Char(' '));
         // Within the string that the script hands to the shell.

@@ -33,9 +33,11 @@ private Q_SLOTS:
         row(2, 2,
             "do shell script \"open -a \\\"/my apps/mame\\\" "
             "\\\"/home/me/Documents/MacMAME User Data/ROMs/pong.zip\\\"\"");
-        row(3, 1, " -a \"b c\"");
-        row(-1, 2, " -a \\\"b c\\\"\"");
-        row(0, 3, " -a \"b c\"");
+        row(3, 0, "");
+        row(3, 1, "");
+        row(-1, 2, "");
+        row(0, 3, "");
+        row(2, -1, "");
     }
 
     void everyTemplate()

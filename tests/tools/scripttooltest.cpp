@@ -2,6 +2,7 @@
 
 #include "tools/ui/scriptpage.h"
 #include "utilitystage.h"
+#include "widgets/theme.h"
 
 #include <QComboBox>
 
@@ -116,13 +117,63 @@ private Q_SLOTS:
     void thePictureIsTheFormats()
     {
         Stage stage;
-        const auto picture = [&] { return stage.page.scriptimageView->accessibleName(); };
-        QCOMPARE(picture(), QString("script_tool"));
-        stage.page.formatPop->setCurrentIndex(2);
-        QCOMPARE(picture(), QString("script_scpt"));
+        QLabel& view = *stage.page.scriptimageView;
+        const auto picture
+            = [&](const char* name) { return theme::icon(name).pixmap(view.size()).toImage(); };
+        constexpr std::array names{"script_com", "script_sh", "script_apple"};
+        constexpr std::array formats{"script_tool", "script_sh", "script_scpt"};
+        for (const std::size_t format : {0U, 1U, 2U}) {
+            stage.page.formatPop->setCurrentIndex(static_cast<int>(format));
+            QCOMPARE(view.pixmap().toImage(), picture(names[format]));
+            QCOMPARE(view.accessibleName(), QString(formats[format]));
+            QVERIFY(picture(names[format]) != picture(names[(format + 1) % 3]));
+        }
         // Any other position changes nothing.
         stage.page.formatPop->setCurrentIndex(-1);
-        QCOMPARE(picture(), QString("script_scpt"));
+        QCOMPARE(view.pixmap().toImage(), picture("script_apple"));
+        QCOMPARE(view.accessibleName(), QString("script_scpt"));
+    }
+
+    void theFirstPictureIsTheStoredFormats()
+    {
+        Stage stage;
+        QCOMPARE(stage.page.scriptimageView->pixmap().toImage(),
+                 theme::icon("script_com").pixmap(stage.page.scriptimageView->size()).toImage());
+        QVERIFY(!stage.page.scriptimageView->pixmap().isNull());
+    }
+
+    void anotherApplicationOpensTheArchiveWithoutOptions()
+    {
+        Stage stage;
+        stage.controller.setIndex(keys::script_emu, 2);
+        stage.desktop.answerSave("pong.tool", stage.path("out.tool"));
+        stage.press(stage.page.button_make);
+        QCOMPARE(QString::fromUtf8(stage.read("out.tool")),
+                 QString("open -a \"%1\" \"%2/Documents/MacMAME User Data/ROMs/pong.zip\"")
+                     .arg(stage.path("apps/2"), QDir::homePath()));
+    }
+
+    void aPositionWithoutItemMakesAnEmptyScript_data()
+    {
+        QTest::addColumn<int>("emulator");
+        QTest::addColumn<int>("format");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("emulator") << -1 << 2 << "pong.scpt";
+        QTest::newRow("format") << 0 << -1 << "pong";
+    }
+
+    void aPositionWithoutItemMakesAnEmptyScript()
+    {
+        QFETCH(int, emulator);
+        QFETCH(int, format);
+        QFETCH(QString, name);
+        Stage stage;
+        stage.page.emulatorPop->setCurrentIndex(emulator);
+        stage.page.formatPop->setCurrentIndex(format);
+        stage.desktop.answerSave(name, stage.path("out"));
+        stage.press(stage.page.button_make);
+        QVERIFY(QFile::exists(stage.path("out")));
+        QCOMPARE(stage.read("out"), QByteArray());
     }
 };
 
