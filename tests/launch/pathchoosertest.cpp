@@ -10,6 +10,7 @@
 #include "widgets/pathfield.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -252,18 +253,22 @@ private Q_SLOTS:
     {
         Room room;
         const QString place = room.folder.path();
-        room.defaults.setText(keys::ExecutionPath, place + "/mame");
-        room.defaults.setText(keys::MameosxPath, place + "/MAME.app");
-        room.defaults.setText(keys::ApplicationPath, place + "/other");
+        const QStringList folders{place + "/a", place + "/b", place + "/c", place + "/roms"};
+        for (const QString& folder : folders)
+            QVERIFY(QDir().mkpath(folder));
+        room.defaults.setText(keys::ExecutionPath, folders[0] + "/mame");
+        room.defaults.setText(keys::MameosxPath, folders[1] + "/MAME.app");
+        room.defaults.setText(keys::ApplicationPath, folders[2] + "/other");
         for (const int mode : {0, 1, 2}) {
             room.defaults.setIndex(keys::Launchgamesusing, mode);
             room.chooser->openCurrentdir();
         }
         room.chooser->openROMfolder();
-        room.defaults.setText(keys::RomsPath, place);
+        room.defaults.setText(keys::RomsPath, folders[3]);
         room.chooser->openROMfolder();
-        const QString folder = "folder " + place;
-        QCOMPARE(room.desktop.transcript(), QStringList({folder, folder, folder, "beep", folder}));
+        QCOMPARE(room.desktop.transcript(),
+                 QStringList({"folder " + folders[0], "folder " + folders[1], "folder " + folders[2], "beep",
+                              "folder " + folders[3]}));
     }
 
     void theOtherAlertsOfferTheirChooser_data()
