@@ -74,5 +74,6 @@
     <message id="appearance_language"><source></source><translation>Language</translation></message>
     <message id="appearance_language_system"><source></source><translation>That of the system</translation></message>
     <message id="appearance_language_note"><source></source><translation>The windows are in it from the next start on.</translation></message>
+    <message id="choose_archive"><source></source><translation>Choose a ROM Archive</translation></message>
 </context>
 </TS>

@@ -74,5 +74,6 @@
     <message id="appearance_language"><source></source><translation>言語</translation></message>
     <message id="appearance_language_system"><source></source><translation>システムの言語</translation></message>
     <message id="appearance_language_note"><source></source><translation>次に起動したときから変わります。</translation></message>
+    <message id="choose_archive"><source></source><translation>ROM のアーカイブを選択</translation></message>
 </context>
 </TS>

@@ -155,5 +155,16 @@
     <message id="folder_use"><source></source><translation>Use</translation></message>
     <message id="launch_nolog"><source></source><translation>The log file cannot be written to “%1”.</translation></message>
     <message id="snaps_proposed"><source></source><translation>MAME itself puts its snapshots here:</translation></message>
+    <message id="choose_emulator"><source></source><translation>Choose the MAME Executable</translation></message>
+    <message id="choose_osx"><source></source><translation>Choose the MAME OS X Application</translation></message>
+    <message id="choose_application"><source></source><translation>Choose Another Emulator</translation></message>
+    <message id="choose_roms"><source></source><translation>Choose the ROM Folder</translation></message>
+    <message id="choose_snap"><source></source><translation>Choose the Folder of Snapshots</translation></message>
+    <message id="choose_titles"><source></source><translation>Choose the Folder of Title Screens</translation></message>
+    <message id="choose_flyers"><source></source><translation>Choose the Folder of Flyers</translation></message>
+    <message id="choose_history"><source></source><translation>Choose the History File</translation></message>
+    <message id="choose_mameinfo"><source></source><translation>Choose the Notes File</translation></message>
+    <message id="choose_playback"><source></source><translation>Choose the Recorded Inputs to Play</translation></message>
+    <message id="choose_effect"><source></source><translation>Choose the Effect Picture</translation></message>
 </context>
 </TS>

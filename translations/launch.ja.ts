@@ -155,5 +155,16 @@
     <message id="folder_use"><source></source><translation>これを使う</translation></message>
     <message id="launch_nolog"><source></source><translation>ログファイルを“%1”に書き込めません。</translation></message>
     <message id="snaps_proposed"><source></source><translation>MAME自身がスナップショットを保存している場所:</translation></message>
+    <message id="choose_emulator"><source></source><translation>MAME の実行ファイルを選択</translation></message>
+    <message id="choose_osx"><source></source><translation>MAME OS X のアプリケーションを選択</translation></message>
+    <message id="choose_application"><source></source><translation>ほかのエミュレータを選択</translation></message>
+    <message id="choose_roms"><source></source><translation>ROM フォルダを選択</translation></message>
+    <message id="choose_snap"><source></source><translation>スナップショットのフォルダを選択</translation></message>
+    <message id="choose_titles"><source></source><translation>タイトル画面のフォルダを選択</translation></message>
+    <message id="choose_flyers"><source></source><translation>フライヤーのフォルダを選択</translation></message>
+    <message id="choose_history"><source></source><translation>履歴ファイルを選択</translation></message>
+    <message id="choose_mameinfo"><source></source><translation>解説ファイルを選択</translation></message>
+    <message id="choose_playback"><source></source><translation>再生する入力記録を選択</translation></message>
+    <message id="choose_effect"><source></source><translation>エフェクトの画像を選択</translation></message>
 </context>
 </TS>

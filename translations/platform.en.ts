@@ -11,5 +11,6 @@
     <message id="color_code_help"><source></source><translation>#AARRGGBB: opacity, red, green, blue, each from 00 to ff</translation></message>
     <message id="color_ok"><source></source><translation>OK</translation></message>
     <message id="color_cancel"><source></source><translation>Cancel</translation></message>
+    <message id="panel_all_files"><source></source><translation>All files</translation></message>
 </context>
 </TS>

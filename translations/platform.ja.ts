@@ -11,5 +11,6 @@
     <message id="color_code_help"><source></source><translation>#AARRGGBB: 不透明度・赤・緑・青、それぞれ 00〜ff</translation></message>
     <message id="color_ok"><source></source><translation>OK</translation></message>
     <message id="color_cancel"><source></source><translation>キャンセル</translation></message>
+    <message id="panel_all_files"><source></source><translation>すべてのファイル</translation></message>
 </context>
 </TS>

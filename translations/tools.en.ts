@@ -171,5 +171,12 @@
     <message id="emulator_silent"><source></source><translation>“%1 %2” printed nothing.</translation></message>
     <message id="script_launcher"><source></source><translation>Save as &amp;Launcher…</translation></message>
     <message id="script_launcher_tip"><source></source><translation>A desktop entry that starts the selected game as it would be started now</translation></message>
+    <message id="choose_oldfavourites"><source></source><translation>Choose the Old Favourites File</translation></message>
+    <message id="choose_listxml"><source></source><translation>Choose the Saved -listxml File</translation></message>
+    <message id="choose_titlelist"><source></source><translation>Choose the List of Japanese Titles</translation></message>
+    <message id="choose_verifyroms"><source></source><translation>Choose the Saved -verifyroms File</translation></message>
+    <message id="choose_listfull"><source></source><translation>Choose the Saved -listfull File</translation></message>
+    <message id="choose_oldroms"><source></source><translation>Choose the ROM Folder to Sort Out</translation></message>
+    <message id="choose_movefolder"><source></source><translation>Choose the Folder to Copy To</translation></message>
 </context>
 </TS>

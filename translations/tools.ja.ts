@@ -171,5 +171,12 @@
     <message id="emulator_silent"><source></source><translation>“%1 %2”は何も出力しませんでした。</translation></message>
     <message id="script_launcher"><source></source><translation>ランチャーとして保存(&amp;L)…</translation></message>
     <message id="script_launcher_tip"><source></source><translation>選択したゲームを現在の設定で起動するデスクトップエントリを作成します</translation></message>
+    <message id="choose_oldfavourites"><source></source><translation>旧形式のお気に入りファイルを選択</translation></message>
+    <message id="choose_listxml"><source></source><translation>保存した -listxml のファイルを選択</translation></message>
+    <message id="choose_titlelist"><source></source><translation>日本語タイトルリストを選択</translation></message>
+    <message id="choose_verifyroms"><source></source><translation>保存した -verifyroms のファイルを選択</translation></message>
+    <message id="choose_listfull"><source></source><translation>保存した -listfull のファイルを選択</translation></message>
+    <message id="choose_oldroms"><source></source><translation>整理する ROM フォルダーを選択</translation></message>
+    <message id="choose_movefolder"><source></source><translation>コピー先のフォルダーを選択</translation></message>
 </context>
 </TS>

@@ -51,6 +51,8 @@ int main(int argc, char* argv[])
     QTranslator texts;
     UserDefaults defaults(UserDefaults::standardPath());
     installTexts(texts, defaults.string(keys::Language.name));
+    QTranslator toolkit;
+    installToolkitTexts(toolkit, defaults.string(keys::Language.name));
     const QString file = application.arguments().value(1);
     if (file.startsWith(QLatin1Char('-')) || application.arguments().size() > 2) {
         std::fputs("Usage: tessera [FILE]\n\"tessera --help\" tells more.\n", stderr);

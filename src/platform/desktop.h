@@ -27,8 +27,12 @@ struct Alert {
 struct OpenRequest {
     bool files = true;
     bool folders = false;
-    QUrl directory; ///< starting place; invalid for none
-    QStringList extensions; ///< without dots; empty for any file
+    QUrl directory = {}; ///< starting place; invalid for none, and none where it does not exist
+    QStringList extensions = {}; ///< without dots; empty for any file
+    QString title = {};
+    /// The extensions of the kind that is wanted: offered as a filter, while every file is shown at first.
+    QStringList kind = {};
+    bool applications = false; ///< a folder that is an application bundle can be chosen like a file
 };
 
 /// A modal save panel; it asks itself before an existing file is replaced.

@@ -143,6 +143,30 @@ private Q_SLOTS:
         QCOMPARE(room.desktop.openRequests.at(0).folders, folder);
         QCOMPARE(room.desktop.openRequests.at(0).files, !folder);
         QCOMPARE(room.desktop.openRequests.at(0).directory.toLocalFile(), startsIn);
+        // Only there an application is a folder.
+        QCOMPARE(room.desktop.openRequests.at(0).applications, key == keys::MameosxPath.name);
+        // Every file is shown at first.
+        QVERIFY(room.desktop.openRequests.at(0).extensions.isEmpty());
+    }
+
+    void everyPanelSaysWhatIsChosen()
+    {
+        using C = PathChooser;
+        QStringList titles;
+        QStringList kinds;
+        for (const Select select :
+             {&C::exeSelect, &C::osxSelect, &C::appSelect, &C::romfolSelect, &C::snapfolSelect,
+              &C::titlefolSelect, &C::fryerfolSelect, &C::historybatSelect, &C::mameinfobatSelect,
+              &C::playbackfileSelect, &C::effectfileSelect}) {
+            Room room;
+            room.desktop.answerOpen(std::nullopt);
+            (room.chooser.get()->*select)();
+            const QString title = room.desktop.openRequests.at(0).title;
+            QVERIFY2(title.startsWith("choose_") && !titles.contains(title), qPrintable(title));
+            titles << title;
+            kinds << room.desktop.openRequests.at(0).kind.join(u' ');
+        }
+        QCOMPARE(kinds, (QStringList{"", "", "", "", "", "", "", "dat xml", "dat", "inp", "png"}));
     }
 
     void theFieldsShowWhatWasChosen()

@@ -285,6 +285,7 @@ void GameListController::openROMfile()
 {
     OpenRequest request;
     request.extensions = {QStringLiteral("zip")};
+    request.title = qtTrId("choose_archive");
     if (const auto path = m_desktop.openPanel(request))
         Q_EMIT launchRequested(*path);
 }

@@ -24,21 +24,23 @@ struct Member {
     QLatin1StringView key;
     bool isFolder;
     const char* startsIn; ///< this folder beside the emulator, and then only the file's name is kept
+    const char* title; ///< of the panel
+    const char* kind; ///< extensions, where the kind of file is known
 };
 
 // clang-format off
 constexpr std::array members{
-    Member{keys::ExecutionPath.name,    false, nullptr},
-    Member{keys::MameosxPath.name,      false, nullptr},
-    Member{keys::ApplicationPath.name,  false, nullptr},
-    Member{keys::RomsPath.name,         true,  nullptr},
-    Member{keys::SnapPath.name,         true,  nullptr},
-    Member{keys::TitlesnapPath.name,    true,  nullptr},
-    Member{keys::GameflyersPath.name,   true,  nullptr},
-    Member{keys::HistoryPath.name,      false, nullptr},
-    Member{keys::MameinfoPath.name,     false, nullptr},
-    Member{keys::Playbackfilename.name, false, "inp"},
-    Member{keys::Effectname.name,       false, "artwork"},
+    Member{keys::ExecutionPath.name,    false, nullptr,   textKey("choose_emulator"),    nullptr},
+    Member{keys::MameosxPath.name,      false, nullptr,   textKey("choose_osx"),         nullptr},
+    Member{keys::ApplicationPath.name,  false, nullptr,   textKey("choose_application"), nullptr},
+    Member{keys::RomsPath.name,         true,  nullptr,   textKey("choose_roms"),        nullptr},
+    Member{keys::SnapPath.name,         true,  nullptr,   textKey("choose_snap"),        nullptr},
+    Member{keys::TitlesnapPath.name,    true,  nullptr,   textKey("choose_titles"),      nullptr},
+    Member{keys::GameflyersPath.name,   true,  nullptr,   textKey("choose_flyers"),      nullptr},
+    Member{keys::HistoryPath.name,      false, nullptr,   textKey("choose_history"),     "dat xml"},
+    Member{keys::MameinfoPath.name,     false, nullptr,   textKey("choose_mameinfo"),    "dat"},
+    Member{keys::Playbackfilename.name, false, "inp",     textKey("choose_playback"),    "inp"},
+    Member{keys::Effectname.name,       false, "artwork", textKey("choose_effect"),      "png"},
 };
 
 struct RecordFile {
@@ -102,6 +104,9 @@ QString PathChooser::openPanelpath(const PathRequest& request)
     panel.files = request.chooseFile;
     panel.folders = request.chooseDirect;
     panel.directory = startingPlace(request.directory);
+    panel.title = request.title;
+    panel.kind = request.kind;
+    panel.applications = request.chooseApplication;
     return m_desktop.openPanel(panel).value_or(QString());
 }
 
@@ -138,8 +143,13 @@ void PathChooser::select(QLatin1StringView key)
 {
     const Member& member = *std::ranges::find(members, key, &Member::key);
     const bool keepsName = member.startsIn != nullptr;
-    const QString path = openPanelpath(
-        {!member.isFolder, member.isFolder, keepsName ? besideEmulator(member.startsIn) : QString()});
+    const QString path
+        = openPanelpath({.chooseFile = !member.isFolder,
+                         .chooseDirect = member.isFolder,
+                         .directory = keepsName ? besideEmulator(member.startsIn) : QString(),
+                         .title = qtTrId(member.title),
+                         .kind = QString::fromLatin1(member.kind).split(u' ', Qt::SkipEmptyParts),
+                         .chooseApplication = key == keys::MameosxPath.name});
     if (path.isEmpty())
         return;
     store(key, keepsName ? QFileInfo(path).fileName() : path);

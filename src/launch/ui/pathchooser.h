@@ -16,7 +16,10 @@ class LaunchPages;
 struct PathRequest {
     bool chooseFile = true;
     bool chooseDirect = false;
-    QString directory; ///< starting place, read as a URL; empty for none
+    QString directory = {}; ///< starting place, read as a URL; empty for none
+    QString title = {};
+    QStringList kind = {}; ///< extensions that are offered as a filter
+    bool chooseApplication = false; ///< a folder that is an application bundle, too
 };
 
 /// The choosers of emulators, folders and files, the alerts that offer them, and the commands that show what

@@ -3,13 +3,12 @@
 #include "platform/desktopentry.h"
 #include "platform/qt/alertdialog.h"
 #include "platform/qt/colordialog.h"
+#include "platform/qt/filepanel.h"
 
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDesktopServices>
-#include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSoundEffect>
@@ -21,21 +20,6 @@ namespace tessera {
 namespace {
 
 constexpr int fileManagerTimeout = 2000; // milliseconds; one that does not answer must not hang us
-
-QStringList filters(const QStringList& extensions)
-{
-    QStringList patterns;
-    for (const QString& extension : extensions)
-        patterns << QStringLiteral("*.") + extension;
-    return patterns.isEmpty() ? QStringList() : QStringList{patterns.join(QLatin1Char(' '))};
-}
-
-std::optional<QString> run(QFileDialog& dialog)
-{
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return dialog.selectedFiles().constFirst();
-}
 
 bool showInFileManager(const QString& path)
 {
@@ -78,29 +62,12 @@ int QtDesktop::runAlert(const Alert& alert)
 
 std::optional<QString> QtDesktop::openPanel(const OpenRequest& request)
 {
-    QFileDialog dialog(QApplication::activeWindow());
-    // A panel that takes folders only shows folders; one that takes both must show files, and a folder is
-    // taken by name.
-    dialog.setFileMode(request.files ? QFileDialog::ExistingFile : QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly, !request.files);
-    if (request.directory.isValid())
-        dialog.setDirectoryUrl(request.directory);
-    if (request.files && !request.extensions.isEmpty())
-        dialog.setNameFilters(filters(request.extensions));
-    return run(dialog);
+    return FilePanel(request, QApplication::activeWindow()).run();
 }
 
 std::optional<QString> QtDesktop::savePanel(const SaveRequest& request)
 {
-    QFileDialog dialog(QApplication::activeWindow(), request.title);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (!request.extensions.isEmpty()) {
-        dialog.setNameFilters(filters(request.extensions));
-        dialog.setDefaultSuffix(request.extensions.constFirst());
-    }
-    dialog.selectFile(request.name);
-    return run(dialog);
+    return FilePanel(request, QApplication::activeWindow()).run();
 }
 
 std::optional<QString> QtDesktop::colorPanel(const ColorRequest& request)

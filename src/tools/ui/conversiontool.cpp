@@ -109,12 +109,16 @@ void ConversionTool::useAsCatalogue()
 
 void ConversionTool::selectlistxml()
 {
-    m_workbench.choose(*m_page.listxmlTextField, keys::listxmlPath, Workbench::Choice::File);
+    m_workbench.choose(*m_page.listxmlTextField, keys::listxmlPath,
+                       {Workbench::Choice::File, textKey("choose_listxml"), {QStringLiteral("xml")}});
 }
 
 void ConversionTool::selectlocalize()
 {
-    m_workbench.choose(*m_page.mame32jpTextField, keys::localizePath, Workbench::Choice::File);
+    m_workbench.choose(*m_page.mame32jpTextField, keys::localizePath,
+                       {Workbench::Choice::File,
+                        textKey("choose_titlelist"),
+                        {QStringLiteral("lst"), QStringLiteral("txt")}});
 }
 
 } // namespace tessera

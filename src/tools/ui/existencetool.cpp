@@ -197,12 +197,14 @@ void ExistenceTool::write(const QString& path)
 
 void ExistenceTool::selectListfull2()
 {
-    m_workbench.choose(*m_page.listfullTextField2, keys::listfullPath, Workbench::Choice::File);
+    m_workbench.choose(*m_page.listfullTextField2, keys::listfullPath,
+                       {Workbench::Choice::File, textKey("choose_listfull"), {QStringLiteral("txt")}});
 }
 
 void ExistenceTool::selectROMsfolder2()
 {
-    m_workbench.choose(*m_page.rompathTextField2, keys::RomsPath, Workbench::Choice::Folder);
+    m_workbench.choose(*m_page.rompathTextField2, keys::RomsPath,
+                       {Workbench::Choice::Folder, textKey("choose_roms")});
 }
 
 void ExistenceTool::clear_reportController()

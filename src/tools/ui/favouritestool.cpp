@@ -124,7 +124,8 @@ void FavouritesTool::trash(const QString& old)
 // Deliberate: the path is stored where that of the -listxml text is.
 void FavouritesTool::selectFavoritesxml()
 {
-    m_workbench.choose(*m_page.favoritesTextField, keys::listxmlPath, Workbench::Choice::File);
+    m_workbench.choose(*m_page.favoritesTextField, keys::listxmlPath,
+                       {Workbench::Choice::File, textKey("choose_oldfavourites"), {QStringLiteral("xml")}});
 }
 
 } // namespace tessera

@@ -182,17 +182,20 @@ void SeparationTool::movefile(const QString& fileName)
 
 void SeparationTool::selectROMsfolder1()
 {
-    m_workbench.choose(*m_page.rompathTextField1, keys::romsfolderPath, Workbench::Choice::Folder);
+    m_workbench.choose(*m_page.rompathTextField1, keys::romsfolderPath,
+                       {Workbench::Choice::Folder, textKey("choose_oldroms")});
 }
 
 void SeparationTool::selectListfull1()
 {
-    m_workbench.choose(*m_page.listfullTextField1, keys::listfullPath, Workbench::Choice::File);
+    m_workbench.choose(*m_page.listfullTextField1, keys::listfullPath,
+                       {Workbench::Choice::File, textKey("choose_listfull"), {QStringLiteral("txt")}});
 }
 
 void SeparationTool::selectMovefolder()
 {
-    m_workbench.choose(*m_page.movepathTextField, keys::movefolderPath, Workbench::Choice::Folder);
+    m_workbench.choose(*m_page.movepathTextField, keys::movefolderPath,
+                       {Workbench::Choice::Folder, textKey("choose_movefolder")});
 }
 
 void SeparationTool::clear_separatorController()

@@ -159,7 +159,8 @@ void VerificationTool::takeVerified(std::expected<std::vector<VerifiedSet>, Fail
 
 void VerificationTool::selectVerifytxt()
 {
-    m_workbench.choose(*m_page.verifyromsTextField, keys::verifyromsText, Workbench::Choice::File);
+    m_workbench.choose(*m_page.verifyromsTextField, keys::verifyromsText,
+                       {Workbench::Choice::File, textKey("choose_verifyroms"), {QStringLiteral("txt")}});
 }
 
 } // namespace tessera

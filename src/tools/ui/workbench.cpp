@@ -113,14 +113,21 @@ std::function<void(qint64)> Workbench::progressOf(const Job& job, const QString&
     };
 }
 
-QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect)
+QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect, const QString& title,
+                                 const QStringList& kind)
 {
-    return m_desktop.openPanel({chooseFile, chooseDirect, {}, {}}).value_or(QString());
+    OpenRequest panel;
+    panel.files = chooseFile;
+    panel.folders = chooseDirect;
+    panel.title = title;
+    panel.kind = kind;
+    return m_desktop.openPanel(panel).value_or(QString());
 }
 
-void Workbench::choose(QLineEdit& field, const ChosenKey& key, Choice choice)
+void Workbench::choose(QLineEdit& field, const ChosenKey& key, const WantedItem& item)
 {
-    const QString path = openPanelpath(choice == Choice::File, choice == Choice::Folder);
+    const QString path = openPanelpath(item.choice == Choice::File, item.choice == Choice::Folder,
+                                       qtTrId(item.titleKey), item.kind);
     if (!path.isEmpty())
         take(field, key, path);
 }

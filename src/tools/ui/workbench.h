@@ -48,6 +48,12 @@ class Workbench : public QObject
 
 public:
     enum class Choice { File, Folder };
+    /// What a path chooser asks for.
+    struct WantedItem {
+        Choice choice;
+        const char* titleKey;
+        QStringList kind = {}; ///< extensions that are offered as a filter
+    };
 
     Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent = nullptr);
     /// A job that goes on is stopped.
@@ -71,9 +77,10 @@ public:
     std::function<void(qint64 more)> progressOf(const Job& job, const QString& path);
 
     /// The chosen path; empty after Cancel.
-    QString openPanelpath(bool chooseFile, bool chooseDirect);
+    QString openPanelpath(bool chooseFile, bool chooseDirect, const QString& title = {},
+                          const QStringList& kind = {});
     /// Fills the field, stores the path and flushes; nothing after Cancel.
-    void choose(QLineEdit& field, const ChosenKey& key, Choice choice);
+    void choose(QLineEdit& field, const ChosenKey& key, const WantedItem& item);
     /// The same with a path that is known.
     void take(QLineEdit& field, const ChosenKey& key, const QString& path);
 
