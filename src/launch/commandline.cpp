@@ -33,15 +33,23 @@ bool takesLogFile(const QString& folder)
     return log.exists() ? log.isWritable() : QFileInfo(folder).isWritable();
 }
 
-CommandLine withoutUnwritableLog(CommandLine line, const QString& folder)
+// The place of the option in the builder's list, where a value may read the same; -1 for none.
+qsizetype logOption(const QStringList& built)
 {
-    // No value is taken for the option: the builder sends it with the other switches of its group.
-    const qsizetype log = line.arguments.indexOf(QStringLiteral("-log"));
-    if (folder.isEmpty() || log < 1 || takesValue(line.arguments[log - 1]) || takesLogFile(folder))
-        return line;
+    const QString option = QStringLiteral("-log");
+    qsizetype at = built.indexOf(option);
+    while (at > 0 && takesValue(built[at - 1]))
+        at = built.indexOf(option, at + 1);
+    return at;
+}
+
+void leaveUnwritableLogOut(CommandLine& line, const QString& folder)
+{
+    const qsizetype log = logOption(line.arguments);
+    if (folder.isEmpty() || log < 0 || takesLogFile(folder))
+        return;
     line.leftOut << line.arguments.takeAt(log);
     line.unwritable = folder;
-    return line;
 }
 
 } // namespace
@@ -63,12 +71,15 @@ CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QSt
     if (!profile)
         return {QStringList{game} + built + own, {}};
     auto [arguments, leftOut] = profile->fit(built);
+    CommandLine line{arguments, leftOut};
+    leaveUnwritableLogOut(line, where);
     const QString folder = QFileInfo(game).path();
     // A folder with a separator in its name would read as two.
-    if (!QDir::isAbsolutePath(game) || folder.contains(folderSeparator))
-        return withoutUnwritableLog({QStringList{game} + arguments + own, leftOut}, where);
-    putFolderFirst(folder, profile->romFolders(), arguments);
-    return withoutUnwritableLog({QStringList{gameName(game)} + arguments + own, leftOut}, where);
+    const bool goesByName = QDir::isAbsolutePath(game) && !folder.contains(folderSeparator);
+    if (goesByName)
+        putFolderFirst(folder, profile->romFolders(), line.arguments);
+    line.arguments = QStringList{goesByName ? gameName(game) : game} + line.arguments + own;
+    return line;
 }
 
 QStringList ownOptions(const QString& text)

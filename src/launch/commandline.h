@@ -16,8 +16,8 @@ struct CommandLine {
 
 /// `game` is a short name or the absolute path of an archive; `built` is argumentsArray(), `own` the options
 /// of a favourite, which go as they are. Without a profile everything does. With `where`, the folder that
-/// the emulator works in, its log file is left out when it cannot be written there, which would end the
-/// emulator.
+/// the emulator works in, the builder's log file is left out when it cannot be written there, which would end
+/// the emulator.
 CommandLine commandLine(const std::optional<EmulatorProfile>& profile, const QString& game,
                         const QStringList& built, const QStringList& own, const QString& where = QString());
 

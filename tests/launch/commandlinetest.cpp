@@ -94,6 +94,7 @@ private Q_SLOTS:
         QTest::newRow("nobody knows where") << log << "" << false;
         QTest::newRow("no log") << QStringList{"-nolog", "-noverbose"} << "others" << false;
         QTest::newRow("a value of that name") << QStringList{"-effect", "-log"} << "others" << false;
+        QTest::newRow("as a favourite's own") << QStringList{} << "others" << false;
     }
 
     void aLogFileThatCannotBeWrittenIsLeftOut()
@@ -117,12 +118,20 @@ private Q_SLOTS:
         {
             const test::OrdinaryUser user;
             QVERIFY(user.holds());
-            const CommandLine line = commandLine(profile(), "pong", sent, {},
+            const QStringList own{"-log", "-cheat"};
+            const CommandLine line = commandLine(profile(), "pong", sent, own,
                                                  where.isEmpty() ? QString() : folder.filePath(where));
-            QCOMPARE(line.arguments, QStringList("pong") + (leftOut ? sent.mid(1) : sent));
+            QCOMPARE(line.arguments, QStringList("pong") + (leftOut ? sent.mid(1) : sent) + own);
             QCOMPARE(line.leftOut, leftOut ? QStringList("-log") : QStringList());
             QCOMPARE(line.leftOutLine().contains("launch_nolog"), leftOut);
         }
+    }
+
+    void aValueThatReadsLikeTheLogOptionDoesNotHideIt()
+    {
+        const CommandLine line
+            = commandLine(profile(), "pong", {"-effect", "-log", "-log", "-noverbose"}, {}, "/missing");
+        QCOMPARE(line.arguments, QStringList({"pong", "-effect", "-log", "-noverbose"}));
     }
 
     void ownOptionsArePartedAtEverySingleBlank()
