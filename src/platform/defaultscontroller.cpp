@@ -1,8 +1,12 @@
 #include "platform/defaultscontroller.h"
 
+#include <QLocale>
+
 namespace tessera {
 
 namespace {
+
+constexpr int shortest = QLocale::FloatingPointShortest; // digits
 
 QVariant toVariant(const InitialValue& value)
 {
@@ -47,7 +51,8 @@ QVariant DefaultsController::shown(QLatin1StringView name) const
 
 void DefaultsController::store(QLatin1StringView name, const QVariant& value)
 {
-    if (m_defaults.value(name) == value)
+    // A number equals every text that reads as it, "1.5" and "1.50".
+    if (const auto stored = m_defaults.value(name); stored == value && stored->toString() == value.toString())
         return;
     m_defaults.setValue(name, value);
     Q_EMIT changed(name);
@@ -74,9 +79,9 @@ double DefaultsController::number(const Key<float>& key) const
 QString DefaultsController::text(const Key<float>& key) const
 {
     const QVariant value = shown(key.name);
-    bool isNumber = false;
-    const double number = value.toDouble(&isNumber);
-    return isNumber ? QString::number(number) : value.toString();
+    // Stored as a text, which a settings file makes of every number, it stands as it was typed.
+    return value.typeId() == QMetaType::Double ? QString::number(value.toDouble(), 'g', shortest)
+                                               : value.toString();
 }
 
 QString DefaultsController::text(const Key<QLatin1StringView>& key) const
@@ -103,7 +108,8 @@ void DefaultsController::setText(const Key<float>& key, const QString& text)
 {
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
-    store(key.name, isNumber ? QVariant(number) : QVariant(text));
+    const bool readsBack = isNumber && QString::number(number, 'g', shortest) == text;
+    store(key.name, readsBack ? QVariant(number) : QVariant(text));
 }
 
 void DefaultsController::setText(const Key<QLatin1StringView>& key, const QString& text)

@@ -167,12 +167,44 @@ private Q_SLOTS:
             field->setFocus();
             QTest::keyClicks(field, "9");
         }
-        for (const QLatin1StringView name : launchKeys()) {
-            // The BIOS pop-up has one item, and with one there is nothing to choose.
-            if (name != keys::Biostype.name)
-                QVERIFY2(m_settings->value(name), name.data());
-        }
+        for (const QLatin1StringView name : launchKeys())
+            QVERIFY2(m_settings->value(name), name.data());
         QVERIFY(liveOptions(*shown, selected) == storedOptions(*m_defaults, selected));
+    }
+
+    void numbersAreSentAsTheyAreTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        for (const char* typed : {"01.50", "1.50", "0.1234567", "1234567", "1.", ".5", "1e3", "a word"})
+            QTest::newRow(typed) << QString::fromLatin1(typed);
+    }
+
+    // Now, and after the next start.
+    void numbersAreSentAsTheyAreTyped()
+    {
+        QFETCH(QString, typed);
+        const auto shown = pages();
+        const std::array fields{shown->effects().beemTextField, shown->effects().flickerTextField,
+                                shown->sound().soundvolumetextField, shown->sound().soundlatencytextField};
+        for (QLineEdit* field : fields) {
+            field->selectAll();
+            QTest::keyClicks(field, typed);
+            QCOMPARE(field->text(), typed);
+        }
+        const QStringList live = argumentsArray(liveOptions(*shown, selected));
+        for (const char* option : {"-beam", "-flicker", "-volume", "-audio_latency"})
+            QCOMPARE(live.value(live.indexOf(option) + 1), typed);
+        QCOMPARE(argumentsArray(storedOptions(*m_defaults, selected)), live);
+
+        QVERIFY(m_settings->synchronize());
+        const QString copy = m_folder->filePath("copy.ini");
+        QVERIFY(QFile::copy(m_settings->path(), copy));
+        UserDefaults again(copy);
+        DefaultsController later(again);
+        later.setInitialValues("Sans", "/home/me");
+        const LaunchPages pagesLater(later, [] { return QString(); });
+        QCOMPARE(argumentsArray(liveOptions(pagesLater, selected)), live);
+        QCOMPARE(argumentsArray(storedOptions(later, selected)), live);
     }
 
     void showingWritesNothing()

@@ -63,12 +63,41 @@ private Q_SLOTS:
     void floatsReadWithoutAFraction()
     {
         QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1"));
-        m_controller->setText(keys::Displaybeam, QStringLiteral("1.0"));
-        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1"));
-        m_controller->setText(keys::Displaybeam, QStringLiteral("1.25"));
-        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1.25"));
-        m_controller->setText(keys::Displaybeam, QString());
-        QCOMPARE(m_controller->text(keys::Displaybeam), QString());
+        m_controller->setIndex(keys::Displaybeam, 1234567);
+        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("1234567"));
+        m_controller->setIndex(keys::Displaybeam, 0.1234567);
+        QCOMPARE(m_controller->text(keys::Displaybeam), QStringLiteral("0.1234567"));
+    }
+
+    void numbersComeBackAsTheyWereTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        for (const char* typed :
+             {"1", "1.0", "01.50", "1.25", "0.1234567", "1234567", "100000", "1e3", " 2", "-0", "1.", ".5",
+              "12345678901234567890", "0.1000000000000000055", "nan", "", "typed"})
+            QTest::newRow(*typed ? typed : "empty") << QString::fromLatin1(typed);
+    }
+
+    // In this run, and in the next one.
+    void numbersComeBackAsTheyWereTyped()
+    {
+        QFETCH(QString, typed);
+        // Letter by letter, as a field stores it.
+        for (qsizetype length = 0; length <= typed.size(); ++length) {
+            m_controller->setText(keys::Displaybeam, typed.left(length));
+            QCOMPARE(m_controller->text(keys::Displaybeam), typed.left(length));
+        }
+        QVERIFY(m_defaults->synchronize());
+        const QString copy = m_folder->filePath(QStringLiteral("copy.ini"));
+        QVERIFY(QFile::copy(path(), copy));
+        UserDefaults again(copy);
+        DefaultsController controller(again);
+        controller.setInitialValues(QString(), QString());
+        QCOMPARE(controller.text(keys::Displaybeam), typed);
+        bool isNumber = false;
+        const double number = typed.toDouble(&isNumber);
+        if (isNumber && number < 1e9)
+            QCOMPARE(controller.number(keys::Displaybeam), number);
     }
 
     void valuesSurviveTheFile()
