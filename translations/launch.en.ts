@@ -13,6 +13,7 @@
     <message id="launch_running"><source></source><translation>%1 is running.</translation></message>
     <message id="launch_ended"><source></source><translation>%1 has ended.</translation></message>
     <message id="launch_endedbadly"><source></source><translation>%1 has ended with status %2.</translation></message>
+    <message id="launch_stopping"><source></source><translation>%1 is being stopped…</translation></message>
     <message id="launch_stopped"><source></source><translation>%1 was stopped.</translation></message>
     <message id="launch_notstarted"><source></source><translation>“%1” could not be started: %2.</translation></message>
     <message id="launch_leftout"><source></source><translation>Left out for this emulator: %1</translation></message>

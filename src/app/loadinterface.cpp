@@ -92,7 +92,7 @@ void Tessera_AppDelegate::loadInterface()
 
     m_gameList = std::make_unique<GameListController>(m_catalogue, m_desktop, m_defaults);
     m_gameList->setTable(m_mainWindow->gameTable);
-    m_task = std::make_unique<EmulatorTask>();
+    m_task = std::make_unique<EmulatorTask>(m_desktop);
     m_profiles = std::make_unique<ProfileCache>();
     // Before the editing: what a search keeps of the records follows a removal first.
     m_finding = std::make_unique<Finding>(*m_mainWindow, m_catalogue, *m_gameList, m_defaults, *m_profiles,

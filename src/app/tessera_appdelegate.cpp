@@ -302,12 +302,13 @@ bool Tessera_AppDelegate::saveBeforeQuitting()
 void Tessera_AppDelegate::applicationWillTerminate()
 {
     m_rebuild->cancel();
-    m_launch->stopProcess();
     m_favorites->controller().saveFavorites();
     m_mainWindow->remember();
     m_favorites->remember();
     m_places.remember();
     m_defaults.defaults().synchronize();
+    // Last, as it takes its time.
+    m_launch->stopAndWait();
 }
 
 } // namespace tessera

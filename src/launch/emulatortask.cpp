@@ -8,12 +8,15 @@
 #include <QTimer>
 
 #include <chrono>
+#include <csignal>
+
+#include <unistd.h>
 
 namespace tessera {
 
 namespace {
 
-constexpr std::chrono::seconds graceTime(5);
+constexpr std::chrono::milliseconds lookAgain(20); // at what a run has left behind
 constexpr int quitGraceTime = 2000; // milliseconds
 // A turn of the event loop takes no more, so that a program that floods us does not keep the windows from
 // answering.
@@ -39,10 +42,17 @@ QString decoded(std::string_view bytes)
     return QString::fromStdString(text);
 }
 
+// Each run leads a process group of its own.
+pid_t groupOf(const QProcess& process)
+{
+    return static_cast<pid_t>(process.processId());
+}
+
 } // namespace
 
-EmulatorTask::EmulatorTask(QObject* parent)
+EmulatorTask::EmulatorTask(Desktop& desktop, const Patience& patience, QObject* parent)
     : QObject(parent)
+    , m_ending(desktop, patience)
 {
 }
 
@@ -51,27 +61,28 @@ EmulatorTask::~EmulatorTask()
     QList<QProcess*> left = findChildren<QProcess*>(Qt::FindDirectChildrenOnly);
     for (QProcess* process : left) {
         process->disconnect();
-        process->terminate();
+        if (process->waitForStarted())
+            RunEnding::signalGroup(groupOf(*process), SIGTERM);
     }
     for (QProcess* process : left) {
-        if (process->state() != QProcess::NotRunning && !process->waitForFinished(quitGraceTime)) {
-            process->kill();
+        const pid_t group = groupOf(*process);
+        if (process->state() != QProcess::NotRunning) {
+            process->waitForFinished(quitGraceTime);
+            // And whatever it leaves behind.
+            RunEnding::signalGroup(group, SIGKILL);
             process->waitForFinished();
         }
         delete process;
     }
 }
 
-bool EmulatorTask::isRunning() const
-{
-    return m_process && !m_exited && m_process->state() != QProcess::NotRunning;
-}
-
 void EmulatorTask::occupy()
 {
-    stop();
+    if (m_process)
+        letGo();
     m_cutOff.clear();
     m_exited = false;
+    m_isBegun = false;
     m_process = new QProcess(this);
 }
 
@@ -79,6 +90,7 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
                          const QStringList& arguments, const QString& outputFile)
 {
     occupy();
+    m_isBegun = true;
     QProcess* process = m_process;
     process->setProcessChannelMode(QProcess::MergedChannels);
     if (!outputFile.isEmpty())
@@ -88,7 +100,14 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
     process->setWorkingDirectory(workingFolder);
     process->setProgram(executable);
     process->setArguments(arguments);
-    connect(process, &QProcess::started, this, &EmulatorTask::started);
+    // A script may have started the game: what is said to one of them is said to all.
+    process->setChildProcessModifier([] { ::setpgid(0, 0); });
+    connect(process, &QProcess::started, this, [this, process] {
+        if (m_isEnding)
+            m_ending.begin(groupOf(*process));
+        else
+            Q_EMIT started();
+    });
     connect(process, &QProcess::readyReadStandardOutput, this, &EmulatorTask::pump);
     connect(process, &QProcess::finished, this, [this] {
         m_exited = true;
@@ -100,8 +119,12 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
         [this, process](QProcess::ProcessError error) {
             if (error != QProcess::FailedToStart || process != m_process)
                 return;
+            const bool isStopped = m_isEnding;
             letGo();
-            Q_EMIT failedToStart(process->errorString());
+            if (isStopped)
+                Q_EMIT stopped();
+            else
+                Q_EMIT failedToStart(process->errorString());
         },
         Qt::QueuedConnection);
     process->start(QIODevice::ReadOnly);
@@ -109,20 +132,18 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
 
 void EmulatorTask::stop()
 {
-    if (!m_process)
+    if (!isRunning() || m_isEnding)
         return;
-    QProcess* process = m_process;
-    process->disconnect(this);
-    process->terminate();
-    // One that was not started, or prints into a file, has nothing for us.
-    QByteArray rest;
-    if (process->isReadable()) {
-        process->waitForReadyRead(0);
-        rest = process->readAllStandardOutput();
+    // It could not be started, which was not told yet. (Mostly it is only found out later.)
+    if (m_process->state() == QProcess::NotRunning && !m_exited) {
+        letGo();
+        Q_EMIT stopped();
+        return;
     }
-    letGo();
-    emitPiece(rest);
-    Q_EMIT stopped();
+    m_isEnding = true;
+    // Before that, our own handler would take the signal in the process that is to become the program.
+    if (m_process->state() == QProcess::Running)
+        m_ending.begin(groupOf(*m_process));
 }
 
 bool EmulatorTask::waitForExit()
@@ -144,18 +165,20 @@ bool EmulatorTask::waitForExit()
     return hasEnded;
 }
 
-// The process may be the one whose signal we are in, and it may take its time to end.
+// The process may be the one whose signal we are in.
 void EmulatorTask::letGo()
 {
+    m_ending.forget();
+    m_isEnding = false;
     QProcess* process = std::exchange(m_process, nullptr);
+    process->disconnect(this);
     if (process->state() == QProcess::NotRunning) {
         process->deleteLater();
         return;
     }
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    connect(process, &QProcess::readyReadStandardOutput, process,
-            [process] { process->readAllStandardOutput(); });
-    QTimer::singleShot(graceTime, process, &QProcess::kill);
+    RunEnding::signalGroup(groupOf(*process), SIGKILL);
+    process->kill();
 }
 
 void EmulatorTask::pumpLater()
@@ -190,6 +213,13 @@ void EmulatorTask::finish()
         Q_EMIT output(decoded(rest));
     if (!m_process || !m_exited)
         return;
+    if (m_isEnding) {
+        if (m_ending.isLeftBehind())
+            return QTimer::singleShot(lookAgain, this, &EmulatorTask::pump);
+        letGo();
+        Q_EMIT stopped();
+        return;
+    }
     // For a run that crashed the exit code is the number of the signal.
     const int status = m_process->exitCode();
     letGo();

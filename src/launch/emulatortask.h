@@ -1,5 +1,7 @@
 #pragma once
 
+#include "launch/runending.h"
+
 #include <QObject>
 #include <QStringList>
 
@@ -10,31 +12,35 @@ class QProcess;
 namespace tessera {
 
 /// The one child-process slot of the program: a run of the emulator with its standard output and standard
-/// error on one pipe. A new start replaces the run before.
+/// error on one pipe. A new start takes the place of a run that has ended.
 class EmulatorTask : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit EmulatorTask(QObject* parent = nullptr);
-    /// Ends a run that is still going, and waits a moment for it.
+    explicit EmulatorTask(Desktop& desktop, const Patience& patience = {}, QObject* parent = nullptr);
+    /// Ends a run that is still going without asking its window, and waits a moment for it.
     ~EmulatorTask() override;
 
-    /// Returns at once; what becomes of it comes with the signals. Where a file is named it is emptied, and
-    /// everything that the run prints goes there instead of output().
+    /// Returns at once; what becomes of it comes with the signals. A run that is still going is killed
+    /// unheard: whoever wants it to end well stops it and waits for stopped(). Where a file is named it is
+    /// emptied, and everything that the run prints goes there instead of output().
     void start(const QString& executable, const QString& workingFolder, const QStringList& arguments,
                const QString& outputFile = QString());
     /// Puts a run into the slot that is not started, in place of the one that has ended.
     void occupy();
-    bool isRunning() const;
+    /// True until the end of a run was told.
+    bool isRunning() const { return m_process && m_isBegun; }
+    /// True from stop() until the end was told.
+    bool isEnding() const { return m_isEnding; }
 
     /// Stays in an event loop until the run has ended and everything of it was handed over, slots of ended()
     /// included. False where it was stopped or never started.
     bool waitForExit();
     bool isWaitedFor() const { return m_isWaitedFor; }
 
-    /// Hands over what the run has printed so far and lets go of it: the run is asked to end, killed after a
-    /// grace time, and neither its later output nor its end is heard of.
+    /// Asks the run to end, and sees to it that it does. What it prints meanwhile is handed over; its end is
+    /// told by stopped(), whatever its status.
     void stop();
 
 Q_SIGNALS:
@@ -46,7 +52,7 @@ Q_SIGNALS:
     void ended(int status);
     /// The program could not be started; the system's reason.
     void failedToStart(const QString& reason);
-    /// The run was let go of by stop().
+    /// After the last output: the run has ended because of stop().
     void stopped();
 
 private:
@@ -56,7 +62,10 @@ private:
     void emitPiece(const QByteArray& bytes);
     void letGo();
 
+    RunEnding m_ending;
     QProcess* m_process = nullptr;
+    bool m_isBegun = false; ///< false for a run that is not to be started
+    bool m_isEnding = false;
     std::string m_cutOff; ///< bytes of a character whose rest is still to come
     bool m_pumpQueued = false;
     bool m_exited = false;

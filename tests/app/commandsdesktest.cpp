@@ -178,7 +178,7 @@ private Q_SLOTS:
         m_staged->app->showLogWindow();
         m_staged->app->commands().bar().returnButton->click();
         QVERIFY(!quits);
-        QCOMPARE(m_staged->desktop.transcript(), QStringList({"beep"}));
+        QCOMPARE(m_staged->desktop.transcript(), QStringList({"beep", "close"}));
     }
 };
 

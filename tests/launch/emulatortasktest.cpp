@@ -1,6 +1,8 @@
 #include "launch/emulatortask.h"
 
+#include "support/endings.h"
 #include "support/grandchild.h"
+#include "support/scripteddesktop.h"
 #include "support/testmain.h"
 
 #include <QFile>
@@ -10,19 +12,27 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <chrono>
 #include <csignal>
 
+#include <sys/wait.h>
+
 using namespace tessera;
+using test::clickCloseButton;
+using test::isAlive;
+using namespace std::chrono_literals;
 
 namespace {
 
 // A task with what was heard of it.
 struct Heard {
-    EmulatorTask task;
+    test::ScriptedDesktop desktop;
+    EmulatorTask task{desktop, Patience{200ms, 200ms}};
     QString text;
     QList<int> statuses;
     QStringList failures;
     int pieces = 0;
+    bool isStopped = false;
 
     Heard()
     {
@@ -30,6 +40,7 @@ struct Heard {
             text += piece;
             ++pieces;
         });
+        QObject::connect(&task, &EmulatorTask::stopped, &task, [this] { isStopped = true; });
         QObject::connect(&task, &EmulatorTask::ended, &task, [this](int status) { statuses << status; });
         QObject::connect(&task, &EmulatorTask::failedToStart, &task,
                          [this](const QString& reason) { failures << reason; });
@@ -53,6 +64,12 @@ struct Heard {
     {
         return QTest::qWaitFor([&] { return text.contains(wanted); }, 20000);
     }
+    bool stop()
+    {
+        task.stop();
+        return QTest::qWaitFor([&] { return isStopped; }, 20000);
+    }
+    pid_t process() const { return static_cast<pid_t>(task.findChild<QProcess*>()->processId()); }
 };
 
 } // namespace
@@ -179,7 +196,9 @@ private Q_SLOTS:
         Heard heard;
         heard.start("wait");
         QVERIFY(heard.waitForText("ready\n"));
-        heard.task.stop();
+        const pid_t process = heard.process();
+        QVERIFY(heard.stop());
+        QVERIFY(!isAlive(process));
         QVERIFY(!heard.task.isRunning());
         heard.start("exit0");
         QVERIFY(heard.waitForEnd());
@@ -187,21 +206,174 @@ private Q_SLOTS:
         QCOMPARE(heard.statuses, {0});
     }
 
-    void aRunThatWillNotEndIsReplacedAndEndedWithTheTask()
+    // Its window first, the signals only as far as they are needed; and everything that it prints is heard.
+    void isToldToEndMoreAndMoreFirmly_data()
     {
-        qint64 id = 0;
+        QTest::addColumn<QString>("game");
+        QTest::addColumn<bool>("hasWindow");
+        QTest::addColumn<QString>("heard");
+        QTest::newRow("closes with its window") << "windowed" << true << "ready\nasked to close\n";
+        QTest::newRow("its window does not close")
+            << "frozen" << true << "ready\nasked to close\ntold to end\n";
+        QTest::newRow("ignores everything") << "stubborn" << true << "ready\nasked to close\ntold to end\n";
+        QTest::newRow("without a window") << "frozen" << false << "ready\ntold to end\n";
+        QTest::newRow("without a window, ignores everything")
+            << "stubborn" << false << "ready\ntold to end\n";
+    }
+
+    void isToldToEndMoreAndMoreFirmly()
+    {
+        QFETCH(QString, game);
+        QFETCH(bool, hasWindow);
+        QFETCH(QString, heard);
+        Heard run;
+        if (hasWindow)
+            run.desktop.windows = clickCloseButton;
+        run.start(game);
+        QVERIFY(run.waitForText("ready\n"));
+        const pid_t process = run.process();
+        run.task.stop();
+        QVERIFY(run.task.isEnding());
+        QVERIFY(run.task.isRunning());
+        QVERIFY(QTest::qWaitFor([&] { return run.isStopped; }, 20000));
+        QVERIFY(!isAlive(process));
+        QVERIFY(!run.task.isRunning());
+        QVERIFY(!run.task.isEnding());
+        QCOMPARE(run.text, heard);
+        QCOMPARE(run.desktop.transcript(), QStringList({"close"}));
+        QVERIFY(run.statuses.isEmpty());
+    }
+
+    void aRunMayEndWhileItIsAsked()
+    {
+        Heard heard;
+        heard.desktop.windows = [](qint64 process) {
+            ::kill(static_cast<pid_t>(process), SIGKILL);
+            siginfo_t how{};
+            return ::waitid(P_PID, static_cast<id_t>(process), &how, WEXITED | WNOWAIT) == 0;
+        };
+        heard.start("windowed");
+        QVERIFY(heard.waitForText("ready\n"));
+        QVERIFY(heard.stop());
+        QVERIFY(heard.statuses.isEmpty());
+        heard.start("exit2");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.statuses, {2});
+    }
+
+    void askingTwiceIsAskingOnce()
+    {
+        Heard heard;
+        heard.desktop.windows = clickCloseButton;
+        heard.start("frozen");
+        QVERIFY(heard.waitForText("ready\n"));
+        heard.task.stop();
+        heard.task.stop();
+        QVERIFY(heard.stop());
+        QCOMPARE(heard.desktop.transcript(), QStringList({"close"}));
+    }
+
+    // A signal would still be taken by our own handler in the process that is to become the program.
+    void aRunThatIsAboutToBeginIsAskedOnceItHasBegun()
+    {
+        Heard heard;
+        QSignalSpy started(&heard.task, &EmulatorTask::started);
+        heard.start("frozen");
+        heard.task.stop();
+        QVERIFY(heard.desktop.transcript().isEmpty());
+        QVERIFY(QTest::qWaitFor([&] { return heard.isStopped; }, 20000));
+        QCOMPARE(heard.desktop.transcript(), QStringList({"close"}));
+        QVERIFY(started.isEmpty());
+    }
+
+    void whatCannotBeStartedCanBeStopped_data()
+    {
+        QTest::addColumn<QString>("executable");
+        QTest::newRow("found out later") << "/missing/program";
+        QTest::newRow("found out at once") << "";
+    }
+
+    void whatCannotBeStartedCanBeStopped()
+    {
+        QFETCH(QString, executable);
+        Heard heard;
+        heard.task.start(executable, "/", {});
+        QVERIFY(heard.task.isRunning());
+        QVERIFY(heard.stop());
+        QVERIFY(!heard.task.isRunning());
+        heard.start("exit0");
+        QVERIFY(heard.waitForEnd());
+        QVERIFY(heard.failures.isEmpty());
+    }
+
+    void aRunGoesOnUntilItsLastOutputWasHeard()
+    {
+        Heard heard;
+        bool wasRunning = false;
+        connect(&heard.task, &EmulatorTask::output, this, [&](const QString& piece) {
+            // What this is of can only be known after the end of the program.
+            if (!piece.contains(QChar::ReplacementCharacter))
+                return;
+            QCOMPARE(heard.task.findChild<QProcess*>()->state(), QProcess::NotRunning);
+            wasRunning = heard.task.isRunning();
+            heard.task.stop();
+        });
+        heard.start("cutoff");
+        QVERIFY(QTest::qWaitFor([&] { return heard.isStopped; }, 20000));
+        QVERIFY(wasRunning);
+        QCOMPARE(heard.text, QStringLiteral("a\uFFFD"));
+        QVERIFY(heard.statuses.isEmpty());
+    }
+
+    // A script that starts the emulator, and stays in between.
+    void whatAScriptStartedEndsWithIt_data()
+    {
+        QTest::addColumn<QString>("game");
+        QTest::newRow("heeds the signal") << "frozen";
+        QTest::newRow("ignores it") << "stubborn";
+    }
+
+    void whatAScriptStartedEndsWithIt()
+    {
+        QFETCH(QString, game);
+        const QTemporaryDir folder;
+        QFile script(folder.filePath("mame"));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\n\"" TESSERA_FAKEEMULATOR "\" \"$@\" &\necho \"game $!\"\nwait\n");
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        Heard heard;
+        heard.task.start(script.fileName(), "/", {game});
+        QVERIFY(heard.waitForText("ready\n") && heard.waitForText("game "));
+        const pid_t child = heard.text.section("game ", 1).section('\n', 0, 0).toInt();
+        QVERIFY(child > 0 && isAlive(child));
+        QVERIFY(heard.stop());
+        QVERIFY(!isAlive(child));
+    }
+
+    void aRunThatWillNotEndIsEndedWithTheTask()
+    {
+        pid_t process = 0;
         {
             Heard heard;
             heard.start("stubborn");
             QVERIFY(heard.waitForText("ready\n"));
-            id = heard.task.findChild<QProcess*>()->processId();
-            QVERIFY(id > 0);
-            heard.start("exit4");
-            QVERIFY(heard.waitForEnd());
-            QCOMPARE(heard.statuses, {4});
-            QCOMPARE(::kill(static_cast<pid_t>(id), 0), 0);
+            process = heard.process();
+            QVERIFY(isAlive(process));
         }
-        QVERIFY(::kill(static_cast<pid_t>(id), 0) != 0);
+        QVERIFY(!isAlive(process));
+    }
+
+    void aRunThatNobodyStoppedIsKilledByTheNext()
+    {
+        Heard heard;
+        heard.start("stubborn");
+        QVERIFY(heard.waitForText("ready\n"));
+        const pid_t process = heard.process();
+        heard.start("exit4");
+        QVERIFY(heard.waitForEnd());
+        QCOMPARE(heard.statuses, {4});
+        QVERIFY(QTest::qWaitFor([&] { return !isAlive(process); }, 20000));
     }
 
     void aGrandchildThatKeepsTheOutputOpenIsNotWaitedFor()
@@ -258,7 +430,7 @@ private Q_SLOTS:
         Heard heard;
         connect(&heard.task, &EmulatorTask::output, this, [&] { heard.task.stop(); });
         heard.start("endless");
-        QVERIFY(QTest::qWaitFor([&] { return heard.pieces > 0; }));
+        QVERIFY(QTest::qWaitFor([&] { return heard.isStopped; }, 20000));
         QVERIFY(!heard.task.isRunning());
         heard.start("exit0");
         QVERIFY(QTest::qWaitFor([&] { return heard.text.contains("leaving"); }));

@@ -3,8 +3,10 @@
 #include "launch/launchroom.h"
 #include "launch/ui/generalpage.h"
 #include "launch/usagetexts.h"
+#include "support/endings.h"
 #include "support/testmain.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QPushButton>
@@ -25,6 +27,7 @@ class LaunchControllerTest : public QObject
 private Q_SLOTS:
     void cleanup()
     {
+        qunsetenv("FAKE_COMMAND");
         qunsetenv("FAKE_USAGE");
         qunsetenv("FAKE_CONFIG");
     }
@@ -66,8 +69,21 @@ private Q_SLOTS:
 
     void anArchiveIsTheFirstArgumentAndMatchesNoFavourite()
     {
+        qputenv("FAKE_COMMAND", "print");
         Room room;
-        room.favourites.insert("pong", "-cheat");
+        room.favourites.insert("pong", "-by-its-name");
+        QVERIFY(room.launch("/r/pong.zip"));
+        QCOMPARE(room.allPrinted(), QStringList("/r/pong.zip") + room.built());
+        // Deliberate: only one whose name is the whole path would match.
+        room.favourites.insert("/r/pong.zip", "-by-its-path");
+        room.running.clear();
+        QVERIFY(room.launch("/r/pong.zip"));
+        QCOMPARE(room.allPrinted(), QStringList("/r/pong.zip") + room.built() + QStringList("-by-its-path"));
+    }
+
+    void aGameThatTheEmulatorDoesNotKnowIsExplained()
+    {
+        Room room;
         room.desktop.answerAlert("errerAlert 5", 0);
         QVERIFY(room.launch("/r/pong.zip"));
         QVERIFY(QTest::qWaitFor([&] { return room.desktop.transcript().size() == 3; }));
@@ -80,24 +96,26 @@ private Q_SLOTS:
 
     void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed_data()
     {
-        QTest::addColumn<bool>("use");
+        QTest::addColumn<Qt::CheckState>("use");
         QTest::addColumn<bool>("exists");
         QTest::addColumn<QString>("recent");
-        QTest::newRow("used") << true << true << "recent %1/my roms/exit0.zip";
-        QTest::newRow("used but missing") << true << false << "recent %1/roms/exit0.zip";
-        QTest::newRow("not used") << false << true << "recent %1/roms/exit0.zip";
+        QTest::newRow("used") << Qt::Checked << true << "recent %1/my roms/exit0.zip";
+        QTest::newRow("used but missing") << Qt::Checked << false << "recent %1/roms/exit0.zip";
+        QTest::newRow("not used") << Qt::Unchecked << true << "recent %1/roms/exit0.zip";
+        QTest::newRow("mixed, which is on") << Qt::PartiallyChecked << true << "recent %1/my roms/exit0.zip";
     }
 
     void theRecentDocumentLiesInTheRomFolderWhereThatIsUsed()
     {
-        QFETCH(bool, use);
+        QFETCH(Qt::CheckState, use);
         QFETCH(bool, exists);
         QFETCH(QString, recent);
         Room room;
         if (exists)
             QVERIFY(QDir(room.folder.path()).mkdir("my roms"));
         room.defaults.setText(keys::RomsPath, room.folder.filePath("my roms"));
-        room.defaults.setFlag(keys::Outputserror, use);
+        room.pages.general().checkboxRompath->setTristate();
+        room.pages.general().checkboxRompath->setCheckState(use);
         QCOMPARE(room.controller.romsfolder_FoundCheck(), exists);
         QVERIFY(room.launch("exit0"));
         QCOMPARE(room.desktop.transcript(), QStringList({recent.arg(room.folder.path())}));
@@ -198,28 +216,140 @@ private Q_SLOTS:
         QVERIFY(room.desktop.alerts.empty());
     }
 
-    void aNewLaunchEndsTheRunningGameSilently()
+    void aNewLaunchWaitsForTheEndOfTheRunningGame()
     {
         Room room;
-        room.controller.Launchusing("wait");
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("windowed");
         QVERIFY(room.waitForText("ready"));
+        const pid_t first = room.process();
+        QString oldLog;
+        connect(&room.task, &EmulatorTask::output, this, [&] {
+            if (room.text().contains("windowed"))
+                oldLog = room.text();
+        });
+        bool wereTwo = false;
+        QStringList started;
+        connect(&room.runs, &RunController::started, this, [&](const QString& game) {
+            started << game;
+            wereTwo = test::isAlive(first);
+        });
         room.controller.Launchusing("print");
-        room.running.clear();
-        QVERIFY(room.waitForEnd());
+        QCOMPARE(room.text(), header.arg("windowed") + "ready\n");
+        QCOMPARE(room.controller.runningText(), QStringLiteral("launch_stopping"));
+        QVERIFY(room.waitForText("[print]"));
+        QVERIFY(QTest::qWaitFor([&] { return !room.controller.isRunning(); }, 20000));
+        // What the first one prints until its end is of its own log.
+        QCOMPARE(oldLog, header.arg("windowed") + "ready\nasked to close\n");
+        QVERIFY(room.text().startsWith(header.arg("print") + "[print]\n"));
+        QCOMPARE(room.printed(), room.built());
+        QCOMPARE(started, QStringList({"print"}));
+        QVERIFY(!wereTwo);
         QVERIFY(room.desktop.alerts.empty());
-        QVERIFY(!room.text().contains("ready"));
+    }
+
+    void theLastLaunchOfManyIsTheOneThatFollows()
+    {
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("windowed");
+        QVERIFY(room.waitForText("ready"));
+        QSignalSpy started(&room.runs, &RunController::started);
+        room.controller.Launchusing("exit2");
+        room.controller.Launchusing("exit0");
+        QVERIFY(room.waitForText("leaving"));
+        QVERIFY(QTest::qWaitFor([&] { return !room.controller.isRunning(); }, 20000));
+        QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
+        QCOMPARE(started.size(), 1);
+        QVERIFY(room.desktop.alerts.empty());
+    }
+
+    void stoppingGivesUpWhatWasToFollow()
+    {
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("windowed");
+        QVERIFY(room.waitForText("ready"));
+        QSignalSpy started(&room.runs, &RunController::started);
+        room.controller.Launchusing("print");
+        QVERIFY(room.stop());
+        QCOMPARE(room.text(), header.arg("windowed") + "ready\nasked to close\n");
+        QVERIFY(started.isEmpty());
+    }
+
+    // Between the end of a program and that of its output.
+    void theOutputOfAnEndedGameDoesNotGetIntoTheNextLog()
+    {
+        Room room;
+        QString oldLog;
+        connect(&room.task, &EmulatorTask::output, this, [&](const QString& piece) {
+            if (!piece.contains(QChar::ReplacementCharacter))
+                return;
+            room.controller.Launchusing("print");
+            oldLog = room.text();
+        });
+        room.controller.Launchusing("cutoff");
+        QVERIFY(room.waitForText("[print]"));
+        QVERIFY(QTest::qWaitFor([&] { return !room.controller.isRunning(); }, 20000));
+        QCOMPARE(oldLog, header.arg("cutoff") + "a\uFFFD");
         QVERIFY(room.text().startsWith(header.arg("print") + "[print]\n"));
     }
 
     void stopProcessEndsTheGameAndKeepsItsOutput()
     {
         Room room;
-        room.controller.Launchusing("wait");
+        room.desktop.windows = test::clickCloseButton;
+        QSignalSpy status(&room.controller, &LaunchController::statusMessage);
+        room.controller.Launchusing("windowed");
+        QVERIFY(room.waitForText("ready"));
+        room.running.clear();
+        status.clear();
+        room.controller.stopProcess();
+        // It runs until it does not.
+        QVERIFY(room.controller.isRunning());
+        QCOMPARE(status.takeFirst().first().toString(), QStringLiteral("launch_stopping"));
+        QCOMPARE(room.controller.runningText(), QStringLiteral("launch_stopping"));
+        QVERIFY(room.running.takeFirst().first().toBool());
+        QVERIFY(room.waitForEnd());
+        QVERIFY(!room.controller.isRunning());
+        QCOMPARE(status.takeFirst().first().toString(), QStringLiteral("launch_stopped"));
+        QVERIFY(status.isEmpty());
+        QCOMPARE(room.text(), header.arg("windowed") + "ready\nasked to close\n");
+        QVERIFY(room.desktop.alerts.empty());
+    }
+
+    void quittingWaitsForTheGame()
+    {
+        const QTemporaryDir folder;
+        qputenv("FAKE_SAVED", QFile::encodeName(folder.filePath("saved")));
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("windowed");
+        QVERIFY(room.waitForText("ready"));
+        const pid_t process = room.process();
+        room.controller.stopAndWait();
+        qunsetenv("FAKE_SAVED");
+        QVERIFY(!test::isAlive(process));
+        QVERIFY(QFile::exists(folder.filePath("saved")));
+        QVERIFY(!room.controller.isRunning());
+        // Nothing runs: there is nothing to wait for.
+        room.controller.stopAndWait();
+    }
+
+    void quittingAsksNothingAboutAGameThatEnds()
+    {
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("frozen");
         QVERIFY(room.waitForText("ready"));
         room.controller.stopProcess();
-        QVERIFY(!room.controller.isRunning());
-        QCOMPARE(room.text(), header.arg("wait") + "ready\n");
-        QVERIFY(room.waitForEnd());
+        QVERIFY(room.controller.confirmQuit());
+        QVERIFY(room.desktop.alerts.empty());
+        // But about the one that is to follow.
+        room.desktop.answerAlert("launch_quitmessage", 1);
+        room.controller.Launchusing("exit0");
+        QVERIFY(!room.controller.confirmQuit());
+        QVERIFY(room.waitForText("leaving"));
     }
 
     void aMissingEmulatorAlertsAndTheLaunchGoesOn()
@@ -283,8 +413,48 @@ private Q_SLOTS:
     void theCheckPassesAFoundEmulator()
     {
         Room room;
+        room.defaults.setText(keys::ExecutionPath, "");
+        room.desktop.answerAlert("alert_Message1", 1);
+        room.controller.LaunchemuCheck();
+        QCOMPARE(room.desktop.takeTranscript(), QStringList({"beep", "alert alert_Message1"}));
+        room.installed = room.emulator();
         room.controller.LaunchemuCheck();
         QVERIFY(room.desktop.transcript().isEmpty());
+        QCOMPARE(room.controller.executable(), room.installed);
+    }
+
+    // Its alert stands before the log of the game before.
+    void theCheckComesBeforeTheHeader()
+    {
+        Room room;
+        room.defaults.setText(keys::ExecutionPath, "");
+        room.runs.beginLog("of the game before");
+        QStringList seen;
+        room.find = [&] {
+            seen << room.text();
+            return room.emulator();
+        };
+        QVERIFY(room.launch("exit0"));
+        QVERIFY(!seen.isEmpty());
+        QCOMPARE(seen.first(), QStringLiteral("of the game before"));
+        QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
+    }
+
+    void theShownLineNamesEmptyValuesToo_data()
+    {
+        QTest::addColumn<QString>("game");
+        QTest::newRow("of a game") << "pong";
+        QTest::newRow("of no game") << "";
+    }
+
+    void theShownLineNamesEmptyValuesToo()
+    {
+        QFETCH(QString, game);
+        Room room;
+        room.defaults.setText(keys::Displaybeam, "");
+        const QStringList named = game.isEmpty() ? QStringList() : QStringList(game);
+        QCOMPARE(room.controller.shownLine(game).line.arguments, named + room.built());
+        QVERIFY(room.controller.shownCommandLine(game).contains(" -beam '' -flicker "));
     }
 
     void anUnknownModeLaunchesNothing()
@@ -310,9 +480,16 @@ private Q_SLOTS:
     void aChangeOfTheModeIsTold()
     {
         Room room;
-        QSignalSpy spy(&room.controller, &LaunchController::launchModeChanged);
-        room.controller.LaunchemuPopAction();
-        QCOMPARE(spy.size(), 1);
+        QList<int> stored;
+        connect(&room.controller, &LaunchController::launchModeChanged, this,
+                [&] { stored << room.defaults.index(keys::Launchgamesusing); });
+        QComboBox* mode = room.pages.general().launchusingPop;
+        QTest::keyClick(mode, Qt::Key_Down);
+        QTest::keyClick(mode, Qt::Key_End);
+        // Whoever hears of it finds it stored.
+        QCOMPARE(stored, QList<int>({1, 2}));
+        QTest::keyClick(mode, Qt::Key_Down);
+        QCOMPARE(stored.size(), 2);
     }
 
     void anEmptyLogIsNotSaved()
@@ -377,10 +554,10 @@ private Q_SLOTS:
         QVERIFY(room.controller.confirmQuit());
         // What is asked after us may still keep the program running.
         QVERIFY(room.controller.isRunning());
-        room.controller.stopProcess();
-        QVERIFY(room.controller.confirmQuit());
         QCOMPARE(room.desktop.transcript(),
                  QStringList({"beep", "alert launch_quitmessage", "beep", "alert launch_quitmessage"}));
+        QVERIFY(room.stop());
+        QVERIFY(room.controller.confirmQuit());
     }
 
     void theProfileCanBePreparedAhead()

@@ -1,5 +1,6 @@
 #include "launch/launchroom.h"
 #include "support/grandchild.h"
+#include "support/endings.h"
 #include "support/testmain.h"
 
 #include <QTimer>
@@ -63,7 +64,7 @@ private Q_SLOTS:
         QTest::newRow("deaf to the request to end") << "stubborn";
     }
 
-    // The window never waits for it, and the next game does not, either.
+    // The windows never stand still for it.
     void whatDoesNotEndIsStopped()
     {
         QFETCH(QString, game);
@@ -77,8 +78,11 @@ private Q_SLOTS:
         timer.start(0);
         QVERIFY(QTest::qWaitFor([&] { return turns > 20; }, 20000));
         QVERIFY(room.controller.isRunning());
-        room.controller.stopProcess();
-        QVERIFY(!room.controller.isRunning());
+        const pid_t process = room.process();
+        turns = 0;
+        QVERIFY(room.stop());
+        QVERIFY(turns > 0);
+        QVERIFY(!test::isAlive(process));
         QVERIFY(room.desktop.alerts.empty());
         room.running.clear();
         QVERIFY(room.launch("exit0"));

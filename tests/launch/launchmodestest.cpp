@@ -2,6 +2,7 @@
 
 #include "launch/launchroom.h"
 #include "launch/ui/generalpage.h"
+#include "support/endings.h"
 #include "support/testmain.h"
 
 #include <QComboBox>
@@ -147,6 +148,31 @@ private Q_SLOTS:
             QVERIFY(!home.controller.isRunning());
             QCOMPARE(home.text(), QStringLiteral("mode_application :  pong  Launch...\n\n"));
         }
+    }
+
+    void theOtherApplicationWaitsForTheEndOfTheGame()
+    {
+        Home home(0);
+        home.write(archives + "pong.zip");
+        home.write("other");
+        home.defaults.setText(keys::ApplicationPath, home.path("other"));
+        home.desktop.windows = test::clickCloseButton;
+        home.controller.Launchusing("windowed");
+        QVERIFY(home.waitForText("ready"));
+        const pid_t game = home.process();
+        home.defaults.setIndex(keys::Launchgamesusing, 2);
+        home.desktop.takeTranscript();
+        bool wasAlive = true;
+        connect(&home.controller, &LaunchController::handedOver, this,
+                [&] { wasAlive = test::isAlive(game); });
+        home.controller.Launchusing("pong");
+        QCOMPARE(home.desktop.transcript(), QStringList({"close"}));
+        QVERIFY(QTest::qWaitFor([&] { return !wasAlive; }, 20000));
+        QCOMPARE(home.desktop.transcript(),
+                 QStringList({"close", "recent " + home.path(archives + "pong.zip"),
+                              "with " + home.path("other") + ' ' + home.path(archives + "pong.zip")}));
+        QVERIFY(!home.controller.isRunning());
+        QCOMPARE(home.text(), QStringLiteral("mode_application :  pong  Launch...\n\n"));
     }
 
     void theUserDataMayBeLinks()

@@ -12,9 +12,12 @@
 #include "platform/defaultscontroller.h"
 #include "support/scripteddesktop.h"
 
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <functional>
 
 namespace tessera::test {
 
@@ -25,7 +28,8 @@ struct Room {
     DefaultsController defaults{settings};
     ScriptedDesktop desktop;
     QString installed; ///< what is found where no emulator was chosen
-    LaunchPages pages{begun(), [this] { return installed; }};
+    std::function<QString()> find = [this] { return installed; }; ///< how that is looked for
+    LaunchPages pages{begun(), [this] { return find(); }};
     PathChooser chooser{desktop, defaults, pages};
     LogWindow log;
     EmulatorTask task;
@@ -40,6 +44,11 @@ struct Room {
                     [this](const QString& name) { return favourites.value(name); }}};
     QSignalSpy running{&controller, &LaunchController::runningChanged};
 
+    explicit Room(const Patience& patience = {std::chrono::milliseconds(200), std::chrono::milliseconds(200)})
+        : task(desktop, patience)
+    {
+    }
+
     QString emulator() const { return folder.filePath(QStringLiteral("mame")); }
     QString text() const { return log.infomationTextView->text(); }
 
@@ -53,6 +62,13 @@ struct Room {
         return QTest::qWaitFor([this] { return !running.isEmpty() && !running.last().first().toBool(); },
                                20000);
     }
+    bool stop()
+    {
+        controller.stopProcess();
+        return QTest::qWaitFor([this] { return !controller.isRunning(); }, 20000);
+    }
+    /// What runs now.
+    pid_t process() const { return static_cast<pid_t>(task.findChild<QProcess*>()->processId()); }
     bool waitForText(const QString& wanted)
     {
         return QTest::qWaitFor([&] { return text().contains(wanted); }, 20000);

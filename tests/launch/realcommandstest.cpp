@@ -1,6 +1,7 @@
 #include "launch/emulatorcommands.h"
 
 #include "launch/emulatortask.h"
+#include "support/scripteddesktop.h"
 #include "support/testmain.h"
 
 #include <QFileInfo>
@@ -50,7 +51,8 @@ private Q_SLOTS:
         const QString mame = QStringLiteral("/usr/games/mame");
         if (!QFileInfo::exists(mame))
             QSKIP("no emulator is installed");
-        EmulatorTask task;
+        test::ScriptedDesktop desktop;
+        EmulatorTask task(desktop);
         QString text;
         connect(&task, &EmulatorTask::output, this, [&](const QString& piece) { text += piece; });
         QSignalSpy ended(&task, &EmulatorTask::ended);

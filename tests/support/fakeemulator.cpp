@@ -3,7 +3,8 @@
 // the option to the file that FAKE_RUNS names. FAKE_COMMAND says how it behaves whatever the arguments are.
 // With -listxml it says FAKE_WORDS on standard error, prints the file that FAKE_LISTXML names, and then
 // behaves as FAKE_THEN says. A grandchild that it leaves behind locks the file that FAKE_GRANDCHILD names,
-// with its number in it.
+// with its number in it. It has no window: SIGUSR1 is the click on its close button; what it saves then is
+// the file that FAKE_SAVED names.
 
 #include <csignal>
 #include <cstdio>
@@ -47,6 +48,35 @@ int answer(const char* option, const char* path)
     std::fflush(stdout);
     for (;;)
         pause();
+}
+
+// What it does when it is asked to end.
+struct Manners {
+    bool closes; ///< with its window, and saves
+    bool heedsSignal; ///< SIGTERM
+};
+
+[[noreturn]] void waitToBeAsked(Manners manners)
+{
+    sigset_t asked;
+    sigemptyset(&asked);
+    sigaddset(&asked, SIGUSR1);
+    sigaddset(&asked, SIGTERM);
+    sigprocmask(SIG_BLOCK, &asked, nullptr);
+    alarm(longEnough);
+    std::puts("ready");
+    for (;;) {
+        std::fflush(stdout);
+        int number = 0;
+        sigwait(&asked, &number);
+        std::puts(number == SIGUSR1 ? "asked to close" : "told to end");
+        if (number == SIGUSR1 ? !manners.closes : !manners.heedsSignal)
+            continue;
+        if (const char* path = std::getenv("FAKE_SAVED"); path && number == SIGUSR1)
+            std::fclose(std::fopen(path, "w"));
+        // The status of an end that was asked for says nothing.
+        std::exit(3);
+    }
 }
 
 void flood(long megabytes, char lineEnd)
@@ -122,9 +152,12 @@ int plays(const std::string& game, int argc, char* argv[])
         std::printf("%s %s\n", std::getenv("LC_NUMERIC"), all ? all : "unset");
     } else if (game == "wait") {
         waitToBeEnded();
+    } else if (game == "windowed") {
+        waitToBeAsked({true, false});
+    } else if (game == "frozen") {
+        waitToBeAsked({false, true});
     } else if (game == "stubborn") {
-        std::signal(SIGTERM, SIG_IGN);
-        waitToBeEnded();
+        waitToBeAsked({false, false});
     } else if (game == "grandchild") {
         leaveGrandchild();
         std::puts("gone");

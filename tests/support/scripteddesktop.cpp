@@ -126,6 +126,12 @@ bool ScriptedDesktop::openUrl(const QUrl& url)
     return hasBrowser;
 }
 
+bool ScriptedDesktop::askToClose(qint64 process)
+{
+    m_transcript << QStringLiteral("close");
+    return windows && windows(process);
+}
+
 void ScriptedDesktop::noteRecent(const QString& path)
 {
     m_transcript << QStringLiteral("recent ") + path;

@@ -25,7 +25,8 @@ public:
     void answerColor(const QString& from, const std::optional<QString>& color);
 
     /// "beep", "sound Tink", "alert MESSAGE", "open", "save NAME", "color FROM", "error MESSAGE", "reveal
-    /// PATH", "folder PATH", "with APPLICATION PATH", "url ADDRESS", "recent PATH", "log LINE", in order.
+    /// PATH", "folder PATH", "with APPLICATION PATH", "url ADDRESS", "close", "recent PATH", "log LINE", in
+    /// order.
     QStringList transcript() const { return m_transcript; }
     /// The first line of this text is taken out.
     void forget(const QString& line) { m_transcript.removeOne(line); }
@@ -37,6 +38,8 @@ public:
     std::vector<ColorRequest> colorRequests;
     /// What openUrl() answers.
     bool hasBrowser = true;
+    /// What askToClose() does and answers; without one there is no window.
+    std::function<bool(qint64 process)> windows;
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5));
 
     void beep() override;
@@ -51,6 +54,7 @@ public:
     bool openFolder(const QString& path) override;
     bool openWith(const QString& path, const QString& application) override;
     bool openUrl(const QUrl& url) override;
+    bool askToClose(qint64 process) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override { return clock; }

@@ -13,6 +13,7 @@
 #include "launch/ui/runcontroller.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+#include "widgets/inputblock.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -36,6 +37,8 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
 {
     connect(&m_parts.runs, &RunController::runningChanged, this, &LaunchController::runningChanged);
     connect(&m_parts.runs, &RunController::statusMessage, this, &LaunchController::statusMessage);
+    // After the runs have told the end.
+    connect(&m_parts.task, &EmulatorTask::stopped, this, &LaunchController::launchNext);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
     // The position has to be stored before the title is asked for, so this comes after the pop-up's own
     // binding.
@@ -61,7 +64,7 @@ bool LaunchController::isRunning() const
 
 QString LaunchController::runningText() const
 {
-    const char* key = textKey("launch_running");
+    const char* key = m_parts.task.isEnding() ? textKey("launch_stopping") : textKey("launch_running");
     return m_waiting ? aboutGame(key) : m_parts.runs.about(key);
 }
 
@@ -100,8 +103,21 @@ void LaunchController::Launchusing(const QString& game)
     // Only another start of the program can ask for a game while a command is waited for.
     if (m_parts.task.isWaitedFor())
         return m_parts.desktop.beep();
-    if (isRunning())
-        stopProcess();
+    stopProcess();
+    if (m_parts.task.isRunning())
+        m_next = game;
+    else
+        launch(game);
+}
+
+void LaunchController::launchNext()
+{
+    if (const auto next = std::exchange(m_next, std::nullopt))
+        launch(*next);
+}
+
+void LaunchController::launch(const QString& game)
+{
     LaunchemuCheck();
     m_name = gameName(game);
     const QComboBox* mode = m_parts.pages.general().launchusingPop;
@@ -150,9 +166,9 @@ ShownLine LaunchController::shownLine(const QString& game)
         shown.line = commandLine(answer ? answer->profile : std::nullopt, game, launch.built, launch.own,
                                  QFileInfo(launch.executable).path());
     }
-    // Where none is selected there is no game to name.
+    // Where none is selected there is no game to name; what is empty besides is sent so.
     if (game.isEmpty())
-        shown.line.arguments.removeAll(QString());
+        shown.line.arguments.removeOne(QString());
     return shown;
 }
 
@@ -266,6 +282,7 @@ void LaunchController::MenuLaunchusing(const QString& title)
 
 void LaunchController::stopProcess()
 {
+    m_next.reset();
     if (!m_waiting)
         return m_parts.runs.stopProcess();
     m_waiting.reset();
@@ -280,7 +297,8 @@ bool LaunchController::confirmQuit()
         m_parts.desktop.beep();
         return false;
     }
-    if (!isRunning())
+    // What ends already is no question; what is to follow it is one.
+    if (!isRunning() || (m_parts.task.isEnding() && !m_next))
         return true;
     const Alert alert{aboutGame(textKey("launch_quitmessage")),
                       qtTrId("launch_quitinfo"),
@@ -288,6 +306,15 @@ bool LaunchController::confirmQuit()
                       Alert::Style::Warning};
     m_parts.desktop.beep();
     return m_parts.desktop.runAlert(alert) == 0;
+}
+
+void LaunchController::stopAndWait()
+{
+    stopProcess();
+    if (!m_parts.task.isRunning())
+        return;
+    const InputBlock block({});
+    m_parts.task.waitForExit();
 }
 
 } // namespace tessera

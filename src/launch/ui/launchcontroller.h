@@ -62,6 +62,9 @@ public:
     QString runningText() const;
     /// False when the user wants to go on playing. The game goes on in any case, until the program ends.
     bool confirmQuit();
+    /// For the end of the program: stays in an event loop, in which no window takes input, until what runs
+    /// has ended.
+    void stopAndWait();
     bool romsfolder_FoundCheck() const;
     /// The one that launches and commands start: what is typed, or else what was found.
     QString executable() const;
@@ -82,7 +85,8 @@ public:
     void prepareProfile();
 
 public Q_SLOTS:
-    /// `game` is a short name or the absolute path of an archive.
+    /// `game` is a short name or the absolute path of an archive. Where something runs it is asked to end,
+    /// and the game is started when it has ended.
     void Launchusing(const QString& game);
     void LaunchTask_SDLMAME(const QString& game);
     void LaunchTask_MAMEOSX(const QString& game);
@@ -91,6 +95,7 @@ public Q_SLOTS:
     void LaunchemuPopAction();
     /// The launch mode of this title was chosen in the menu.
     void MenuLaunchusing(const QString& title);
+    /// Asks what runs to end, and gives up what was to be started.
     void stopProcess();
 
 Q_SIGNALS:
@@ -109,6 +114,8 @@ private:
         QStringList built;
         QStringList own;
     };
+    void launch(const QString& game);
+    void launchNext();
     LaunchOptions options() const;
     QString usedRomFolder() const;
     Launch launchOf(const QString& game) const;
@@ -119,6 +126,7 @@ private:
 
     LaunchParts m_parts;
     std::optional<Launch> m_waiting;
+    std::optional<QString> m_next; ///< to be launched when what runs has ended
     QString m_name; ///< of the game that was started last
 };
 

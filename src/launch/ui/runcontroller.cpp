@@ -31,6 +31,7 @@ RunController::RunController(Desktop& desktop, DefaultsController& defaults, Log
     connect(&m_task, &EmulatorTask::started, this, &RunController::taskStarted);
     connect(&m_task, &EmulatorTask::output, this, &RunController::getData);
     connect(&m_task, &EmulatorTask::ended, this, &RunController::taskEnded);
+    connect(&m_task, &EmulatorTask::stopped, this, &RunController::taskStopped);
     connect(&m_task, &EmulatorTask::failedToStart, this, &RunController::taskFailedToStart);
     connect(m_logWindow.saveButton, &QPushButton::clicked, this, &RunController::saveLogAction);
 }
@@ -75,12 +76,20 @@ void RunController::appendOutput(const QString& text)
 
 void RunController::stopProcess()
 {
-    const bool wasRunning = m_task.isRunning();
-    m_task.stop();
-    if (!wasRunning)
+    if (!m_task.isRunning() || m_task.isEnding())
         return;
-    Q_EMIT statusMessage(about(textKey("launch_stopped")));
+    m_task.stop();
+    if (!m_task.isEnding())
+        return;
+    Q_EMIT statusMessage(about(textKey("launch_stopping")));
+    Q_EMIT runningChanged(true);
+}
+
+// Asked for, so that no status is bad.
+void RunController::taskStopped()
+{
     Q_EMIT runningChanged(false);
+    Q_EMIT statusMessage(about(textKey("launch_stopped")));
 }
 
 void RunController::taskEnded(int status)

@@ -46,6 +46,7 @@ public Q_SLOTS:
     void windowLog();
 
 Q_SIGNALS:
+    /// True once more when the run is asked to end.
     void runningChanged(bool running);
     /// The game runs, by the reference that it was started with.
     void started(const QString& game);
@@ -54,6 +55,7 @@ Q_SIGNALS:
 private:
     void taskStarted();
     void taskEnded(int status);
+    void taskStopped();
     void taskFailedToStart(const QString& reason);
 
     Desktop& m_desktop;

@@ -4,6 +4,7 @@
 #include "platform/qt/alertdialog.h"
 #include "platform/qt/colordialog.h"
 #include "platform/qt/filepanel.h"
+#include "platform/qt/windowclosing.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -112,6 +113,11 @@ bool QtDesktop::openWith(const QString& path, const QString& application)
 bool QtDesktop::openUrl(const QUrl& url)
 {
     return QDesktopServices::openUrl(url);
+}
+
+bool QtDesktop::askToClose(qint64 process)
+{
+    return askWindowsToClose(static_cast<pid_t>(process));
 }
 
 void QtDesktop::noteRecent(const QString& path)

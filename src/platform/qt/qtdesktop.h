@@ -30,6 +30,7 @@ public:
     bool openFolder(const QString& path) override;
     bool openWith(const QString& path, const QString& application) override;
     bool openUrl(const QUrl& url) override;
+    bool askToClose(qint64 process) override;
     void noteRecent(const QString& path) override;
     void log(const QString& line) override;
     QDateTime now() const override;

@@ -1,0 +1,70 @@
+#include "launch/runending.h"
+
+#include "platform/desktop.h"
+
+#include <csignal>
+
+namespace tessera {
+
+RunEnding::RunEnding(Desktop& desktop, const Patience& patience, QObject* parent)
+    : QObject(parent)
+    , m_desktop(desktop)
+    , m_patience(patience)
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &RunEnding::goOn);
+}
+
+void RunEnding::begin(pid_t leader)
+{
+    m_leader = leader;
+    m_stage = Stage::Asked;
+    if (m_desktop.askToClose(leader))
+        m_timer.start(m_patience.closing);
+    else
+        goOn();
+}
+
+void RunEnding::goOn()
+{
+    switch (m_stage) {
+    case Stage::Asked:
+        return tell(Stage::Terminated, SIGTERM);
+    case Stage::Terminated:
+        return tell(Stage::Killed, SIGKILL);
+    case Stage::Killed:
+        // Nobody takes the dead away.
+        return forget();
+    }
+}
+
+void RunEnding::tell(Stage stage, int number)
+{
+    m_stage = stage;
+    signalGroup(m_leader, number);
+    m_timer.start(m_patience.terminating);
+}
+
+bool RunEnding::isLeftBehind()
+{
+    if (m_leader <= 0 || ::kill(-m_leader, 0) != 0)
+        return false;
+    if (m_stage == Stage::Asked)
+        goOn();
+    return true;
+}
+
+void RunEnding::forget()
+{
+    m_timer.stop();
+    m_leader = 0;
+}
+
+void RunEnding::signalGroup(pid_t leader, int number)
+{
+    // 0 and 1 would mean our own group, and everybody.
+    if (leader > 1)
+        ::kill(-leader, number);
+}
+
+} // namespace tessera
