@@ -36,7 +36,8 @@ std::expected<void, Failure> writeAtomically(const QString& path,
         }
         return isGood;
     });
-    if (!isGood || !file.commit())
+    // What is still in the buffer has to be written first: commit() does not notice where that fails.
+    if (!isGood || !file.flush() || !file.commit())
         return failed();
     return {};
 }

@@ -68,11 +68,21 @@ private Q_SLOTS:
         QCOMPARE(content(m_path), QByteArray("new"));
     }
 
+    void aFullDiskLeavesTheOldFile_data()
+    {
+        QTest::addColumn<std::size_t>("size");
+        QTest::addColumn<std::size_t>("room");
+        QTest::newRow("large") << std::size_t(1 << 20) << std::size_t(1 << 16);
+        QTest::newRow("so small that it waits in a buffer") << std::size_t(200) << std::size_t(100);
+        QTest::newRow("no room at all") << std::size_t(200) << std::size_t(0);
+    }
     void aFullDiskLeavesTheOldFile()
     {
+        QFETCH(std::size_t, size);
+        QFETCH(std::size_t, room);
         QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"old"}));
-        const std::string large(1 << 20, 'x');
-        const SmallDisk disk(1 << 16);
+        const std::string large(size, 'x');
+        const SmallDisk disk(room);
         const auto written = writeAtomically(m_path, std::array<std::string_view, 1>{large});
         QVERIFY(!written);
         QCOMPARE(QByteArray(written.error().key), QByteArray("failure_write"));
