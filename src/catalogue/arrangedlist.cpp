@@ -22,6 +22,19 @@ std::vector<std::uint32_t> byRank(std::span<const std::uint32_t> rows, std::span
     return ordered;
 }
 
+std::vector<std::uint32_t> chosenOf(std::span<const std::uint32_t> records, const RecordSet& chosen)
+{
+    // Written always and kept when chosen: a branch for each record would be guessed wrong too often.
+    std::vector<std::uint32_t> rows(records.size());
+    std::size_t size = 0;
+    for (const std::uint32_t record : records) {
+        rows[size] = record;
+        size += chosen.contains(record) ? 1 : 0;
+    }
+    rows.resize(size);
+    return rows;
+}
+
 } // namespace
 
 RecordSet recordsWhere(std::span<const GameRecord> content, const Predicate& predicate)
@@ -43,6 +56,12 @@ void ArrangedList::setContent(std::span<const GameRecord> content, std::optional
     m_sorted = {};
     m_sorted[static_cast<std::size_t>(Field::Name)] = std::move(byName);
     m_order.reset();
+    m_ascending = m_sorts.back().ascending;
+    // As when each of the sorts were asked for again.
+    m_before.clear();
+    for (const Sort& sort : std::span(m_sorts).first(m_sorts.size() - 1))
+        m_before = sorted(sort.field).ordered(sort.ascending, m_before);
+    m_isOrdered = false;
     arrange(Content::Other);
 }
 
@@ -62,22 +81,47 @@ void ArrangedList::setFound(std::optional<Found> found)
 
 void ArrangedList::setSort(Field field, bool ascending)
 {
-    if (field == m_field && ascending == m_ascending && !isRanked() && !m_order)
+    if (field == sortField() && ascending == m_ascending && !isRanked() && !m_order)
         return;
-    m_field = field;
+    keepShownOrder();
+    std::erase_if(m_sorts, [field](const Sort& sort) { return sort.field == field; });
+    m_sorts.push_back({field, ascending});
     m_order.reset();
     sortBy(ascending);
 }
 
 void ArrangedList::setSort(SortedRecords order, bool ascending)
 {
+    keepShownOrder();
     m_order = std::move(order);
     sortBy(ascending);
+}
+
+void ArrangedList::forgetOrder(Field field)
+{
+    m_sorted[static_cast<std::size_t>(field)].reset();
+    if (field == sortField())
+        m_isOrdered = false;
+}
+
+// Records that are hidden stay where they were among the others; ranked ones change places with each other
+// only.
+void ArrangedList::keepShownOrder()
+{
+    m_before = m_ordered;
+    if (!isRanked())
+        return;
+    std::size_t row = 0;
+    for (std::uint32_t& record : m_before) {
+        if (rowOf(record))
+            record = m_rows[row++];
+    }
 }
 
 void ArrangedList::sortBy(bool ascending)
 {
     m_ascending = ascending;
+    m_isOrdered = false;
     if (m_found)
         m_found->ranks.clear();
     arrange();
@@ -107,20 +151,25 @@ RecordSet ArrangedList::chosen() const
     return records;
 }
 
-const SortedRecords& ArrangedList::sorted()
+const SortedRecords& ArrangedList::sorted(Field field)
 {
-    if (m_order)
-        return *m_order;
-    auto& sorted = m_sorted[static_cast<std::size_t>(m_field)];
+    auto& sorted = m_sorted[static_cast<std::size_t>(field)];
     if (!sorted)
-        sorted.emplace(m_content, m_field);
+        sorted.emplace(m_content, field);
     return *sorted;
+}
+
+const std::vector<std::uint32_t>& ArrangedList::ordered()
+{
+    if (!m_isOrdered)
+        m_ordered = (m_order ? *m_order : sorted(sortField())).ordered(m_ascending, m_before);
+    m_isOrdered = true;
+    return m_ordered;
 }
 
 void ArrangedList::arrange(Content content)
 {
-    std::vector<std::uint32_t> rows
-        = m_ascending ? sorted().ascending(chosen()) : sorted().descending(chosen());
+    std::vector<std::uint32_t> rows = chosenOf(ordered(), chosen());
     std::vector<std::uint32_t> clones;
     if (isRanked()) {
         rows = byRank(rows, m_found->ranks);

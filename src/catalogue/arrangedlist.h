@@ -36,32 +36,32 @@ public:
     using QObject::QObject;
 
     /// The content outlives the list, or is replaced by another call. What was found and the families, which
-    /// name records by their indexes, are gone then. Absent values sort first, ties keep the content's order,
-    /// comparison is by code point, case-sensitive.
+    /// name records by their indexes, are gone then; it is sorted by the fields that were chosen before, the
+    /// last one first. Absent values sort first, comparison is by code point, case-sensitive.
     /// `byName`, where it is known already, is this content's.
     void setContent(std::span<const GameRecord> content, std::optional<SortedRecords> byName = std::nullopt);
     /// No predicate lets every record through.
     void setPredicate(Predicate predicate);
     /// Besides the predicate: only what was found, the best ranked first. Nothing lets every record through.
     void setFound(std::optional<Found> found);
-    /// The order that the list has already changes nothing. A sort wins over ranks: they are forgotten until
-    /// something is found anew.
+    /// Equal ones stay as they are shown, ranks included. The order that the list has already changes
+    /// nothing. A sort wins over ranks: they are forgotten until something is found anew.
     void setSort(Field field, bool ascending);
-    /// By what stands in no field of the records. The next content is sorted by the last field again.
+    /// By what stands in no field of the records. The next content is sorted by fields again.
     void setSort(SortedRecords order, bool ascending);
     /// Without families every record has a row of its own. So it has while ranks count.
     void setFamilies(std::optional<Families> families);
 
     /// A record's value in this field is another one now. Rows stay as they are until something asks for
     /// others.
-    void forgetOrder(Field field) { m_sorted[static_cast<std::size_t>(field)].reset(); }
+    void forgetOrder(Field field);
 
     /// Indexes into the content, one a row.
     std::span<const std::uint32_t> rows() const { return m_rows; }
     std::size_t size() const { return m_rows.size(); }
     const GameRecord& operator[](std::size_t row) const { return m_content[m_rows[row]]; }
 
-    Field sortField() const { return m_field; }
+    Field sortField() const { return m_sorts.back().field; }
     bool ascending() const { return m_ascending; }
     /// The best ranked come first.
     bool isRanked() const { return m_found && !m_found->ranks.empty(); }
@@ -89,19 +89,31 @@ Q_SIGNALS:
 
 private:
     enum class Content : std::uint8_t { Same, Other };
+    struct Sort {
+        Field field;
+        bool ascending;
+    };
+
     void arrange(Content content = Content::Same);
+    void keepShownOrder();
     void sortBy(bool ascending);
     RecordSet chosen() const;
-    const SortedRecords& sorted();
+    const SortedRecords& sorted(Field field);
+    const std::vector<std::uint32_t>& ordered();
 
     std::span<const GameRecord> m_content;
     Predicate m_predicate;
     std::optional<Found> m_found;
     std::optional<Families> m_families;
-    Field m_field = Field::Name;
+    std::vector<Sort> m_sorts{{Field::Name, true}}; // each field once, the last one counts first
     bool m_ascending = true;
     std::array<std::optional<SortedRecords>, fieldCount> m_sorted;
-    std::optional<SortedRecords> m_order; // goes before the field
+    std::optional<SortedRecords> m_order; // goes before the fields
+    // Of all records, shown or not: how they stood before the last sort (nothing: as the content has them),
+    // and sorted, though perhaps by values of before.
+    std::vector<std::uint32_t> m_before;
+    std::vector<std::uint32_t> m_ordered;
+    bool m_isOrdered = false;
     std::vector<std::uint32_t> m_rows;
     std::vector<std::uint32_t> m_clones; // one a row, or none at all
     std::vector<std::uint32_t> m_rowOf; // the other way round: a row for each record of the content

@@ -153,34 +153,43 @@ SortedRecords::SortedRecords(std::span<const std::uint64_t> keys)
         m_begins[i] = i == 0 || keys[m_records[i]] != keys[m_records[i - 1]] ? 1 : 0;
 }
 
-std::vector<std::uint32_t> SortedRecords::ascending(const RecordSet& chosen) const
+// Equal ones as the content has them.
+std::vector<std::uint32_t> SortedRecords::descending() const
 {
-    // Written always and kept when chosen: a branch for each record would be guessed wrong too often.
-    std::vector<std::uint32_t> rows(m_records.size());
-    std::size_t size = 0;
-    for (const std::uint32_t record : m_records) {
-        rows[size] = record;
-        size += chosen.contains(record) ? 1 : 0;
-    }
-    rows.resize(size);
-    return rows;
-}
-
-std::vector<std::uint32_t> SortedRecords::descending(const RecordSet& chosen) const
-{
-    std::vector<std::uint32_t> rows;
-    rows.reserve(chosen.count());
+    std::vector<std::uint32_t> records;
+    records.reserve(m_records.size());
     for (std::size_t end = m_records.size(); end > 0;) {
         std::size_t begin = end - 1;
         while (m_begins[begin] == 0)
             --begin;
-        for (std::size_t i = begin; i < end; ++i) {
-            if (chosen.contains(m_records[i]))
-                rows.push_back(m_records[i]);
-        }
+        const auto at = [this](std::size_t i) { return m_records.begin() + static_cast<std::ptrdiff_t>(i); };
+        records.insert(records.end(), at(begin), at(end));
         end = begin;
     }
-    return rows;
+    return records;
+}
+
+// Nothing is compared again: where the run of each value begins is known, and the records go there one after
+// another.
+std::vector<std::uint32_t> SortedRecords::ordered(bool ascending, std::span<const std::uint32_t> before) const
+{
+    if (before.empty())
+        return ascending ? m_records : descending();
+    const std::size_t size = m_records.size();
+    std::vector<std::uint32_t> runOf(size); // the place in m_records where a record's run begins
+    std::vector<std::uint32_t> next(size); // by that place: where the run's next record goes
+    for (std::size_t begin = 0; begin < size;) {
+        std::size_t end = begin;
+        do
+            runOf[m_records[end++]] = static_cast<std::uint32_t>(begin);
+        while (end < size && m_begins[end] == 0);
+        next[begin] = static_cast<std::uint32_t>(ascending ? begin : size - end);
+        begin = end;
+    }
+    std::vector<std::uint32_t> records(size);
+    for (const std::uint32_t record : before)
+        records[next[runOf[record]]++] = record;
+    return records;
 }
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include "favourites/playedgames.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace tessera {
 
@@ -46,8 +47,10 @@ std::vector<std::uint64_t> orderNumbers(const Favourites& favourites, const Play
     if (order == FavouriteOrder::Option)
         return optionNumbers(favourites);
     std::vector<std::uint64_t> numbers(favourites.records().size(), 0);
-    if (order == FavouriteOrder::AsTheyStand)
+    if (order == FavouriteOrder::AsTheyStand) {
+        std::iota(numbers.begin(), numbers.end(), 0U);
         return numbers;
+    }
     for (std::uint32_t i = 0; i < numbers.size(); ++i) {
         const auto game = played.played(favourites.value(i, FavouriteKey::Name));
         numbers[i] = order == FavouriteOrder::Times ? timesNumber(game) : lastNumber(game);

@@ -12,7 +12,8 @@ class PlayedGames;
 /// when last they were played.
 enum class FavouriteOrder { AsTheyStand, Option, Times, Last };
 
-/// A number for each favourite; they sort as what they stand for. One that has nothing of it goes first.
+/// A number for each favourite; they sort as what they stand for. One that was never played, or has no
+/// options, goes first.
 std::vector<std::uint64_t> orderNumbers(const Favourites& favourites, const PlayedGames& played,
                                         FavouriteOrder order);
 

@@ -307,14 +307,14 @@ private Q_SLOTS:
         list.setContent(sample.store.records);
         list.setSort(Field::Title, true);
         list.setSort(SortedRecords(std::array<std::uint64_t, 4>{7, 5, 7, 0}), true);
-        QCOMPARE(rows(list), QStringLiteral("3 1 0 2"));
+        QCOMPARE(rows(list), QStringLiteral("3 1 2 0"));
         list.setSort(SortedRecords(std::array<std::uint64_t, 4>{7, 5, 7, 0}), false);
-        QCOMPARE(rows(list), QStringLiteral("0 2 1 3"));
-        // Equal numbers: as the content stands.
+        QCOMPARE(rows(list), QStringLiteral("2 0 1 3"));
+        // Equal numbers: as they are shown.
         list.setSort(SortedRecords(std::array<std::uint64_t, 4>{}), true);
-        QCOMPARE(rows(list), QStringLiteral("0 1 2 3"));
+        QCOMPARE(rows(list), QStringLiteral("2 0 1 3"));
         list.setPredicate([](const GameRecord& record) { return record[Field::Title] > "a"; });
-        QCOMPARE(rows(list), QStringLiteral("0 2 3"));
+        QCOMPARE(rows(list), QStringLiteral("2 0 3"));
         list.setPredicate({});
         // The field that was there before counts again, asked for or with another content.
         list.setSort(Field::Title, true);
@@ -322,6 +322,99 @@ private Q_SLOTS:
         list.setSort(SortedRecords(std::array<std::uint64_t, 4>{}), true);
         list.setContent(sample.store.records);
         QCOMPARE(rows(list), QStringLiteral("1 2 0 3"));
+    }
+
+    void equalOnesKeepTheOrderThatWasShown()
+    {
+        SampleRecords sample;
+        //          type    name parent title title year    maker     status  device
+        sample.add({"game", "a", "", "", "", "1990", "Taito", "good", ""});
+        sample.add({"game", "b", "", "", "", "1986", "Konami", "good", ""});
+        sample.add({"game", "c", "", "", "", "1986", "Taito", "bad", ""});
+        sample.add({"game", "d", "", "", "", "1990", "Konami", "good", ""});
+        sample.add({"game", "e", "", "", "", "1984", "Taito", "bad", ""});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Name, false);
+        QCOMPARE(rows(list), QStringLiteral("4 3 2 1 0"));
+        list.setSort(Field::Year, true);
+        QCOMPARE(rows(list), QStringLiteral("4 2 1 3 0"));
+        list.setSort(Field::Maker, true);
+        QCOMPARE(rows(list), QStringLiteral("1 3 4 2 0"));
+        list.setSort(Field::Maker, false);
+        QCOMPARE(rows(list), QStringLiteral("4 2 0 1 3"));
+        list.setSort(Field::Status, true);
+        QCOMPARE(rows(list), QStringLiteral("4 2 0 1 3"));
+        // What comes and goes by a filter finds its place again.
+        list.setPredicate([](const GameRecord& record) { return record[Field::Year] != "1986"; });
+        QCOMPARE(rows(list), QStringLiteral("4 0 3"));
+        list.setSort(Field::Status, false);
+        QCOMPARE(rows(list), QStringLiteral("0 3 4"));
+        list.setPredicate({});
+        QCOMPARE(rows(list), QStringLiteral("0 1 3 4 2"));
+        // So does the same sorting of another content: here, of one with a record less.
+        sample.store.records.erase(sample.store.records.begin() + 1);
+        list.setContent(sample.store.records);
+        QCOMPARE(rows(list), QStringLiteral("0 2 3 1"));
+    }
+
+    void equalOnesKeepTheOrderOfTheirRanks()
+    {
+        const SampleRecords sample = titled({"x", "x", "a", "x", "x", "b"});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setFound(Found{chosen(6, {0, 2, 3, 5}), {9, 0, 5, 2, 0, 1}});
+        QCOMPARE(rows(list), QStringLiteral("5 3 2 0"));
+        list.setSort(Field::Title, false);
+        QCOMPARE(rows(list), QStringLiteral("3 0 5 2"));
+        // The others keep their places.
+        list.setFound(std::nullopt);
+        QCOMPARE(rows(list), QStringLiteral("1 3 4 0 5 2"));
+    }
+
+    void equalOnesKeepTheOrderThatAnEditLeft()
+    {
+        SampleRecords sample = titled({"c", "a", "b"});
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        list.setSort(Field::Title, true);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0"));
+        sample.store.records[1][Field::Title] = "z";
+        list.forgetOrder(Field::Title);
+        list.setSort(Field::Year, true);
+        QCOMPARE(rows(list), QStringLiteral("1 2 0"));
+    }
+
+    void manySortsAreAsStableAsPlainOnes()
+    {
+        SampleRecords sample;
+        RandomTexts random;
+        constexpr std::array fields{Field::Year, Field::Maker, Field::Status};
+        for (int i = 0; i < 500; ++i) {
+            GameRecord record;
+            record[Field::Name] = sample.store.arena.add(std::to_string(i));
+            for (const Field field : fields) {
+                if (random.number(6) > 0)
+                    record[field] = sample.store.arena.add(std::to_string(random.number(5)));
+            }
+            sample.store.records.push_back(record);
+        }
+        ArrangedList list;
+        list.setContent(sample.store.records);
+        std::vector<std::uint32_t> plain(list.rows().begin(), list.rows().end());
+        for (int i = 0; i < 40; ++i) {
+            const Field field = fields[static_cast<std::size_t>(random.number(3))];
+            const bool ascending = random.number(2) > 0;
+            list.setSort(field, ascending);
+            std::ranges::stable_sort(plain, [&](std::uint32_t a, std::uint32_t b) {
+                const auto key = [&](std::uint32_t each) {
+                    const GameRecord& record = sample.store.records[each];
+                    return std::pair(record.has(field), record[field]);
+                };
+                return ascending ? key(a) < key(b) : key(b) < key(a);
+            });
+            QVERIFY(std::ranges::equal(list.rows(), plain));
+        }
     }
 
     void familiesAreFoldedAndOpened()
