@@ -16,11 +16,10 @@ bool emulatorFinds(const FolderNames& names, const std::string& setName)
 
 RomFolders::RomFolders(std::optional<QString> romFolder, const QStringList& emulatorFolders)
     : m_romFolder(std::move(romFolder))
-    , m_emulatorFolders(emulatorFolders)
 {
     if (m_romFolder)
         m_romNames = FolderNames::read(*m_romFolder);
-    for (const QString& folder : m_emulatorFolders)
+    for (const QString& folder : emulatorFolders)
         m_emulatorNames.push_back(FolderNames::read(folder));
 }
 

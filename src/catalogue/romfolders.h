@@ -21,9 +21,7 @@ public:
     /// Reads the folders. Without a ROM folder nobody has an archive in it.
     RomFolders(std::optional<QString> romFolder, const QStringList& emulatorFolders);
 
-    RomFolders readAgain() const { return RomFolders(m_romFolder, m_emulatorFolders); }
     const std::optional<QString>& romFolder() const { return m_romFolder; }
-    const QStringList& emulatorFolders() const { return m_emulatorFolders; }
 
     /// The rule of the row colour: "name.zip" exists in the ROM folder.
     bool hasArchive(std::string_view setName) const;
@@ -45,7 +43,6 @@ private:
     Have have(std::optional<std::string_view> name, std::string_view parent) const;
 
     std::optional<QString> m_romFolder;
-    QStringList m_emulatorFolders;
     std::optional<FolderNames> m_romNames;
     std::vector<FolderNames> m_emulatorNames;
 };
