@@ -1,13 +1,14 @@
 #include "catalogue/ui/chipbar.h"
 
+#include "catalogue/ui/chiplayout.h"
 #include "widgets/theme.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace tessera {
 
@@ -26,13 +27,14 @@ ChipButton::ChipButton(const QString& label, QWidget* parent)
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void ChipButton::setCount(std::size_t count)
 {
     m_count = QLocale().toString(static_cast<qulonglong>(count));
     setAccessibleName(text() + u' ' + m_count);
+    setToolTip(accessibleName());
     updateGeometry();
     update();
 }
@@ -40,7 +42,12 @@ void ChipButton::setCount(std::size_t count)
 QSize ChipButton::sizeHint() const
 {
     const int count = m_count.isEmpty() ? 0 : gap + fontMetrics().horizontalAdvance(m_count);
-    return {2 * margin + fontMetrics().horizontalAdvance(text()) + count, pillHeight};
+    return minimumSizeHint() + QSize(count, 0);
+}
+
+QSize ChipButton::minimumSizeHint() const
+{
+    return {2 * margin + fontMetrics().horizontalAdvance(text()), pillHeight};
 }
 
 void ChipButton::paintEvent(QPaintEvent*)
@@ -57,7 +64,10 @@ void ChipButton::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
     const QRect inner = rect().adjusted(margin, 0, -margin, 0);
     painter.setPen(theme::color(isChecked() ? "text" : "dim"));
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
+    if (width() < sizeHint().width())
+        return;
     painter.setPen(theme::color(isChecked() ? "dim" : "faint"));
     painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, m_count);
 }
@@ -73,7 +83,7 @@ ChipBar::ChipBar(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 7, 12, 7);
     layout->setSpacing(6);
-    auto* row = new QHBoxLayout;
+    auto* row = new ChipLayout;
     row->setSpacing(6);
     layout->addLayout(row);
     for (const ChipRow& chip : chips) {
@@ -93,7 +103,6 @@ ChipBar::ChipBar(QWidget* parent)
     layout->addWidget(m_complaint);
     familiesBox->setObjectName(QStringLiteral("familiesBox"));
     familiesBox->setToolTip(qtTrId("chips_families_help"));
-    row->addStretch();
     row->addWidget(familiesBox);
     connect(m_group, &QButtonGroup::idClicked, this,
             [this](int id) { Q_EMIT chosen(static_cast<Chip>(id)); });

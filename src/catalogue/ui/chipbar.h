@@ -11,7 +11,8 @@ class QLabel;
 
 namespace tessera {
 
-/// A pill with a label and a count, one of several that exclude each other.
+/// A pill with a label and a count, one of several that exclude each other. Where there is no room for both,
+/// the count is only told.
 class ChipButton : public QAbstractButton
 {
     Q_OBJECT
@@ -21,6 +22,7 @@ public:
 
     void setCount(std::size_t count);
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

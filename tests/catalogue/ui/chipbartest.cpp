@@ -1,8 +1,11 @@
 #include "catalogue/ui/chipbar.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 using namespace tessera;
 
@@ -65,6 +68,60 @@ private Q_SLOTS:
         QCOMPARE(chosen.count(), 0);
     }
 
+    void nothingOverlapsAtAnyWidth_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<std::size_t>("count");
+        for (const char* language : {"en", "ja"}) {
+            QTest::addRow("%s, small counts", language) << language << std::size_t(0);
+            QTest::addRow("%s, a whole catalogue", language) << language << std::size_t(45'294);
+            QTest::addRow("%s, a huge one", language) << language << std::size_t(88'888'888);
+        }
+    }
+    void nothingOverlapsAtAnyWidth()
+    {
+        QFETCH(QString, language);
+        QFETCH(std::size_t, count);
+        const test::InstalledTexts texts(language);
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        m_bar = std::make_unique<ChipBar>();
+        layout->addWidget(m_bar.get());
+        layout->addWidget(new QWidget, 1);
+        ChipCounts counts;
+        counts.fill(count);
+        m_bar->setCounts(counts);
+        window.show();
+        int most = 0;
+        for (int width = std::max(272, m_bar->minimumSizeHint().width()); width < 1700; width += 13) {
+            window.resize(width, 400);
+            QVERIFY2(standApart(), qPrintable(QString::number(width)));
+            most = std::max(most, m_bar->height());
+        }
+        // In the end there is one row again, which says all counts.
+        QVERIFY(m_bar->height() < most);
+        for (const ChipRow& row : chips)
+            QVERIFY(button(row.chip)->width() >= button(row.chip)->sizeHint().width());
+        m_bar->setParent(nullptr);
+    }
+
+    void aCountThatFindsNoRoomIsOnlyTold()
+    {
+        m_bar->setCounts({45294, 2, 3, 4, 5, 0});
+        QAbstractButton* chip = button(Chip::All);
+        QCOMPARE(chip->toolTip(), chip->accessibleName());
+        chip->resize(chip->minimumSizeHint());
+        const QImage withCount = drawn(*chip);
+        ChipButton plain(chip->text());
+        plain.setChecked(true);
+        plain.resize(chip->size());
+        QCOMPARE(withCount, drawn(plain));
+        chip->resize(chip->sizeHint());
+        plain.resize(chip->size());
+        QVERIFY(drawn(*chip) != drawn(plain));
+    }
+
     void aComplaintHasALineOfItsOwn()
     {
         auto* complaint = m_bar->findChild<QLabel*>(QStringLiteral("complaintLabel"));
@@ -85,6 +142,31 @@ private Q_SLOTS:
     }
 
 private:
+    // What it draws itself, without what is behind it.
+    static QImage drawn(QWidget& widget)
+    {
+        QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    }
+
+    // Each within the bar, clear of the others, and with room for what it says.
+    bool standApart() const
+    {
+        QRegion taken;
+        std::vector<QWidget*> all{m_bar->familiesBox};
+        for (const ChipRow& row : chips)
+            all.push_back(button(row.chip));
+        for (const QWidget* each : all) {
+            if (!m_bar->rect().contains(each->geometry()) || taken.intersects(each->geometry())
+                || each->width() < each->minimumSizeHint().width())
+                return false;
+            taken += each->geometry();
+        }
+        return true;
+    }
+
     QAbstractButton* button(Chip chip) const
     {
         for (const ChipRow& row : chips) {
