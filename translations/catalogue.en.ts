@@ -17,6 +17,7 @@
     <message id="failure_store_library"><source></source><translation>“%1” could not be read as XML: %2.</translation></message>
     <message id="failure_store_malformed"><source></source><translation>“%1” is not well-formed XML (line %2).</translation></message>
     <message id="failure_store_missing"><source></source><translation>“%1” does not exist.</translation></message>
+    <message id="failure_store_model"><source></source><translation>“%1” is not a catalogue: it holds objects of another program, but no game record.</translation></message>
     <message id="failure_store_nofile"><source></source><translation>“%1” is a folder or a device, not a file.</translation></message>
     <message id="failure_store_none"><source></source><translation>“%1” did not exist, so there is no catalogue to save.</translation></message>
     <message id="failure_store_read"><source></source><translation>“%1” could not be read: %2.</translation></message>

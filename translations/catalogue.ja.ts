@@ -17,6 +17,7 @@
     <message id="failure_store_library"><source></source><translation>“%1”をXMLとして読み込めませんでした: %2</translation></message>
     <message id="failure_store_malformed"><source></source><translation>“%1”は正しいXMLではありません（%2行目）。</translation></message>
     <message id="failure_store_missing"><source></source><translation>“%1”が見つかりません。</translation></message>
+    <message id="failure_store_model"><source></source><translation>“%1”はカタログではありません。ほかのプログラムのオブジェクトだけで、ゲームのレコードがありません。</translation></message>
     <message id="failure_store_nofile"><source></source><translation>“%1”はファイルではなく、フォルダまたはデバイスです。</translation></message>
     <message id="failure_store_none"><source></source><translation>“%1”がなかったため、保存するカタログはありません。</translation></message>
     <message id="failure_store_read"><source></source><translation>“%1”を読み込めませんでした: %2</translation></message>

@@ -6,6 +6,7 @@
 #include "core/keptcopy.h"
 
 #include <QDateTime>
+#include <QFile>
 
 #include <algorithm>
 
@@ -38,6 +39,7 @@ std::expected<void, Failure> Catalogue::open()
     m_isMissing = !m_read && store.error().key == std::string_view("failure_store_missing");
     // The commands hold views of the old arena.
     m_undo.clear();
+    m_isOurLayout = m_read && store->isOurLayout;
     StoredCatalogue content = store ? std::move(*store) : StoredCatalogue();
     // The old texts live until everybody has let go of the old records.
     const StoredCatalogue old{std::exchange(m_arena, std::move(content.arena)),
@@ -74,22 +76,26 @@ bool Catalogue::hasChanges() const
     return !m_undo.isClean();
 }
 
-std::expected<void, Failure> Catalogue::save()
+std::expected<QString, Failure> Catalogue::save()
 {
     if (m_isMissing)
         return std::unexpected(Failure{"failure_store_none", {m_path}});
     if (!m_read)
         return std::unexpected(Failure{"failure_store_unread", {m_path}});
-    // Another program's newer store is not lost under ours: it stays under a dated name.
-    if (FileState::of(m_path) != m_state) {
-        if (auto kept = keepAs(m_path, datedName(m_path, QDateTime::currentDateTime())); !kept)
-            return std::unexpected(kept.error());
+    std::expected<QString, Failure> kept;
+    if (!m_isOurLayout || FileState::of(m_path) != m_state)
+        kept = keepAs(m_path, datedName(m_path, QDateTime::currentDateTime()));
+    if (!kept)
+        return kept;
+    if (auto written = writeStore(m_path, m_records); !written) {
+        if (!kept->isEmpty())
+            QFile::remove(*kept);
+        return std::unexpected(written.error());
     }
-    if (auto written = writeStore(m_path, m_records); !written)
-        return written;
     m_state = FileState::of(m_path);
+    m_isOurLayout = true;
     m_undo.setClean();
-    return {};
+    return kept;
 }
 
 void Catalogue::put(std::uint32_t record, Field field, std::string_view text)

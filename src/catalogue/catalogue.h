@@ -45,8 +45,9 @@ public:
     void remove(std::vector<std::uint32_t> records);
 
     bool hasChanges() const;
-    /// A file that somebody else has written since is kept under a dated name.
-    std::expected<void, Failure> save();
+    /// A file that somebody else has written since, or that is not in our own layout, which may hold what we
+    /// do not write, is kept under a dated name. Gives that name, empty where nothing had to be kept.
+    std::expected<QString, Failure> save();
 
     QUndoStack& undoStack() { return m_undo; }
 
@@ -77,6 +78,7 @@ private:
     QUndoStack m_undo;
     FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
+    bool m_isOurLayout = false; ///< the file, as it was read or written last
     bool m_isMissing = false; ///< there was no file to read
     std::future<Ahead> m_ahead;
     std::optional<SortedRecords> m_byName;

@@ -11,6 +11,7 @@ namespace tessera {
 struct StoredCatalogue {
     TextArena arena;
     std::vector<GameRecord> records;
+    bool isOurLayout = false; ///< byte by byte as we write it: nothing is lost where ours replaces it
 };
 
 } // namespace tessera

@@ -85,10 +85,14 @@ std::expected<StoredCatalogue, Failure> parseStore(std::string bytes, const QStr
         return std::unexpected(Failure{"failure_store_foreign", {path, QString::fromUtf8(root.name())}});
 
     StoredCatalogue store;
+    bool hasObjects = false;
     for (const pugi::xml_node object : root.children("object")) {
+        hasObjects = true;
         if (object.attribute("type").value() == storelayout::entity)
             store.records.push_back(readRecord(object, store.arena));
     }
+    if (hasObjects && store.records.empty())
+        return std::unexpected(Failure{"failure_store_model", {path}});
     return store;
 }
 

@@ -10,6 +10,8 @@ namespace tessera {
 
 /// Reads any well-formed store through the XML library: other orders, indents, encodings, comments, CDATA,
 /// objects of other types and relationships (both passed over), attributes left out (absent in the record).
+/// - Objects, but none of a game record, are another program's store: a failure. No object at all is an empty
+///   catalogue.
 /// - Where an object has an attribute twice, the last one counts.
 /// - Entities are never expanded but for the five predefined ones: a reference to another one stays as it is
 /// written.

@@ -1,7 +1,9 @@
 #include "catalogue/storereader.h"
 
+#include "catalogue/storelayout.h"
 #include "catalogue/storeparser.h"
 #include "catalogue/storescanner.h"
+#include "catalogue/storewriter.h"
 
 #include <QFile>
 
@@ -79,6 +81,17 @@ bool readWhole(InputFile& file, std::size_t size, std::string& bytes)
     return true;
 }
 
+// Ours, too, is read like this where a record has no value for some attribute.
+std::expected<StoredCatalogue, Failure> parse(std::string bytes, const QString& path)
+{
+    const bool mayBeOurs = bytes.starts_with(storelayout::headerStart);
+    const std::string text = mayBeOurs ? bytes : std::string();
+    auto store = parseStore(std::move(bytes), path);
+    if (store)
+        store->isOurLayout = mayBeOurs && isStoreText(text, store->records);
+    return store;
+}
+
 } // namespace
 
 std::expected<StoredCatalogue, Failure> readStore(const QString& path)
@@ -98,7 +111,7 @@ std::expected<StoredCatalogue, Failure> readStore(const QString& path)
     std::string bytes;
     if (!readWhole(file, size, bytes))
         return systemFailure(path);
-    return parseStore(std::move(bytes), path);
+    return parse(std::move(bytes), path);
 }
 
 std::expected<StoredCatalogue, Failure> readStoreText(std::string_view bytes, const QString& path)
@@ -111,7 +124,7 @@ std::expected<StoredCatalogue, Failure> readStoreText(std::string_view bytes, co
     };
     if (auto store = scanStore(source, bytes.size()))
         return std::move(*store);
-    return parseStore(std::string(bytes), path);
+    return parse(std::string(bytes), path);
 }
 
 } // namespace tessera

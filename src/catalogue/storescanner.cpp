@@ -65,7 +65,11 @@ public:
     }
 
     bool scan();
-    StoredCatalogue take() { return std::move(m_store); }
+    StoredCatalogue take()
+    {
+        m_store.isOurLayout = true;
+        return std::move(m_store);
+    }
 
 private:
     bool refill();
@@ -76,7 +80,6 @@ private:
     bool scanValues(GameRecord& record, std::index_sequence<fields...>);
     bool scanValue(std::string_view& value);
     bool decodeValue(std::string_view& value);
-    std::string_view keep(std::string_view value, std::string_view likely) const;
     bool atStoreEnd() const;
 
     bool skip(std::string_view text)

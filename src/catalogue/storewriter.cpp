@@ -47,6 +47,15 @@ std::string storeText(std::span<const GameRecord> records)
     return text;
 }
 
+bool isStoreText(std::string_view text, std::span<const GameRecord> records)
+{
+    const std::string ours = storeText(records);
+    const std::string_view ourText = ours;
+    const std::size_t behindUuid = ours.find('<', headerStart.size());
+    return text.size() == ours.size() && text.starts_with(headerStart)
+        && text.substr(behindUuid) == ourText.substr(behindUuid);
+}
+
 std::expected<void, Failure> writeStore(const QString& path, std::span<const GameRecord> records)
 {
     const std::string text = storeText(records);

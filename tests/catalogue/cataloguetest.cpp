@@ -7,9 +7,12 @@
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace tessera;
@@ -26,6 +29,14 @@ class CatalogueTest : public QObject
     {
         const std::string_view value = catalogue.records()[record][field];
         return value.data() == nullptr ? QStringLiteral("-") : QString::fromStdString(std::string(value));
+    }
+
+    QStringList keptCopies() const
+    {
+        QStringList paths;
+        for (const QFileInfo& file : QDir(m_folder->path()).entryInfoList({QStringLiteral("Tessera *.xml")}))
+            paths << file.filePath();
+        return paths;
     }
 
 private Q_SLOTS:
@@ -228,6 +239,47 @@ private Q_SLOTS:
         QCOMPARE(name(catalogue, 0, Field::Title), QStringLiteral("pong"));
         QVERIFY(!catalogue.hasChanges());
         QVERIFY(!catalogue.undoStack().canUndo());
+    }
+
+    void aStoreOfAnotherFormIsKeptBeforeOursReplacesIt()
+    {
+        const QByteArray before = fileBytes(m_path) + '\n';
+        QVERIFY(writeFile(m_path, before));
+        Catalogue catalogue(m_path);
+        QVERIFY(catalogue.open().has_value());
+        catalogue.setValue(0, Field::Title, QStringLiteral("edited"));
+        const auto saved = catalogue.save();
+        QVERIFY(saved.has_value());
+        QCOMPARE(fileBytes(*saved), before);
+        QVERIFY(fileBytes(m_path).contains("edited"));
+        // From now on it is ours.
+        catalogue.setValue(0, Field::Title, QStringLiteral("again"));
+        QCOMPARE(catalogue.save().value(), QString());
+        QVERIFY(catalogue.open().has_value());
+        catalogue.setValue(0, Field::Title, QStringLiteral("and again"));
+        QCOMPARE(catalogue.save().value(), QString());
+        QCOMPARE(keptCopies(), QStringList{*saved});
+    }
+
+    void aFailedSaveLeavesNoCopy()
+    {
+        QVERIFY(writeFile(m_path, fileBytes(m_path) + '\n'));
+        Catalogue catalogue(m_path);
+        QVERIFY(catalogue.open().has_value());
+        catalogue.setValue(0, Field::Title, QStringLiteral("edited"));
+        // The old file gets its second name, but nothing can be written.
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        rlimit none = before;
+        none.rlim_cur = 100;
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &none);
+        const auto saved = catalogue.save();
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY(!saved.has_value());
+        QCOMPARE(keptCopies(), QStringList());
+        QVERIFY(catalogue.hasChanges());
     }
 
     void oldTextsLiveWhileTheRecordsAreReplaced()

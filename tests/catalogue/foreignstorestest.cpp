@@ -6,13 +6,13 @@
 
 using namespace tessera;
 
-/// Stores that other programs saved, where the machine has some.
+/// Stores of other models that other programs saved, where the machine has some.
 class ForeignStoresTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void storesOfOtherProgramsHoldNoRecords_data()
+    void storesOfOtherModelsAreRefused_data()
     {
         QTest::addColumn<QString>("path");
         const QDir folder(qEnvironmentVariable("TESSERA_REAL_DATA") + QStringLiteral("/store"));
@@ -21,12 +21,13 @@ private Q_SLOTS:
         for (const QString& name : names)
             QTest::newRow(qPrintable(name)) << folder.filePath(name);
     }
-    void storesOfOtherProgramsHoldNoRecords()
+    void storesOfOtherModelsAreRefused()
     {
         QFETCH(QString, path);
         const auto store = readStore(path);
-        QVERIFY2(store.has_value(), store ? "" : store.error().key);
-        QCOMPARE(store->records.size(), std::size_t(0));
+        QVERIFY(!store.has_value());
+        QCOMPARE(store.error().key, "failure_store_model");
+        QCOMPARE(store.error().arguments, QStringList{path});
     }
 };
 

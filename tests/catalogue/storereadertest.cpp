@@ -208,6 +208,55 @@ private Q_SLOTS:
         QCOMPARE(parse(bytes), text);
     }
 
+    void onlyObjectsOfAnotherModelAreAFailure_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("other entity")
+            << QByteArray("<database><object type=\"Mame\" id=\"z9\"/></database>") << "failure_store_model";
+        QTest::newRow("no entity") << QByteArray("<database><object/></database>") << "failure_store_model";
+        QTest::newRow("our form, other entity")
+            << sampleStore().replace("type=\"MAME\"", "type=\"mame\"") << "failure_store_model";
+        QTest::newRow("no object at all") << QByteArray("<database><databaseInfo/></database>") << "";
+        QTest::newRow("an object in the metadata only")
+            << QByteArray("<database><databaseInfo><object type=\"X\"/></databaseInfo></database>") << "";
+    }
+    void onlyObjectsOfAnotherModelAreAFailure()
+    {
+        QFETCH(QByteArray, bytes);
+        QTEST(read(bytes), "result");
+    }
+
+    void ourOwnLayoutIsKnown_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("ours");
+        const QByteArray usual = sampleStore();
+        QByteArray leftOut = usual;
+        leftOut.replace("<attribute name=\"cloneof\" type=\"string\">puckman</attribute>\n", "");
+        QByteArray reordered = leftOut;
+        reordered.replace("<object type=\"MAME\" id=\"z103\">", "<object id=\"z103\" type=\"MAME\">");
+        QByteArray foreign = leftOut;
+        foreign.replace("</database>", "<object type=\"Other\" id=\"z1\"/></database>");
+        QTest::newRow("all values") << usual << true;
+        QTest::newRow("no record") << QByteArray::fromStdString(storeText({})) << true;
+        QTest::newRow("values left out") << leftOut << true;
+        QTest::newRow("values left out, attributes in another order") << reordered << false;
+        QTest::newRow("objects of others") << foreign << false;
+        QTest::newRow("line end at the end") << QByteArray(usual + '\n') << false;
+        QTest::newRow("no header") << QByteArray("<database><object type=\"MAME\"/></database>") << false;
+        QTest::newRow("short") << leftOut.left(leftOut.indexOf("<UUID>") + 6)
+                + "</UUID></databaseInfo></database>"
+                               << false;
+    }
+    void ourOwnLayoutIsKnown()
+    {
+        QFETCH(QByteArray, bytes);
+        const auto store = readStoreText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+        QVERIFY(store.has_value());
+        QTEST(store->isOurLayout, "ours");
+    }
+
     void objectWithoutAttributesIsARecord()
     {
         QCOMPARE(read("<database><object type=\"MAME\"/></database>"), QStringLiteral("- - - - - - - - -"));
