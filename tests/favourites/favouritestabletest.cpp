@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
+#include <QSignalSpy>
 
 using namespace tessera;
 using namespace tessera::test;
@@ -80,6 +81,44 @@ private Q_SLOTS:
         m_staged->table->sortByColumn(1, Qt::DescendingOrder);
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("pong"));
         QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(1));
+    }
+
+    void whatFollowsTheSelectionFollowsANewFirstRow()
+    {
+        m_staged->favourites.setValue(1, FavouriteKey::Status, QStringLiteral("good"));
+        m_staged->table->selectAll();
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("bare"));
+        QSignalSpy changes(m_staged->controller.get(), &UCAppController::selectionChanged);
+        QSignalSpy marks(m_staged->controller.get(), &UCAppController::markChanged);
+        clickHeader(FavouriteColumn::Option);
+        QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("old"));
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(marks.count(), 1);
+        // The same one first: nothing to tell.
+        m_staged->table->selectRow(2);
+        changes.clear();
+        clickHeader(FavouriteColumn::Name);
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void equalOnesKeepTheOrderThatWasShown()
+    {
+        clickHeader(FavouriteColumn::Name);
+        QCOMPARE(m_staged->shownNames(), (QStringList{"pong", "old", "bare"}));
+        clickHeader(FavouriteColumn::Maker);
+        QCOMPARE(m_staged->shownNames(), (QStringList{"pong", "old", "bare"}));
+        clickHeader(FavouriteColumn::Times);
+        QCOMPARE(m_staged->shownNames(), (QStringList{"pong", "old", "bare"}));
+    }
+
+    void theFirstSortIsByTheColumnThatStandsFirst()
+    {
+        QHeaderView* header = m_staged->table->horizontalHeader();
+        const int option = static_cast<int>(FavouriteColumn::Option);
+        header->moveSection(header->visualIndex(option), 0);
+        m_staged->controller->favorites_tableViewSort();
+        QCOMPARE(header->sortIndicatorSection(), option);
+        QCOMPARE(m_staged->shownNames(), (QStringList{"old", "bare", "pong"}));
     }
 
     void optionsAreSortedToo()
@@ -187,6 +226,18 @@ private Q_SLOTS:
     }
 
 private:
+    void clickHeader(FavouriteColumn column)
+    {
+        QHeaderView* header = m_staged->table->horizontalHeader();
+        const int section = static_cast<int>(column);
+        for (int i = 0; i < header->count(); ++i)
+            header->resizeSection(i, 50);
+        header->showSection(section);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(header->sectionViewportPosition(section) + 25, header->height() / 2));
+        QCOMPARE(header->sortIndicatorSection(), section);
+    }
+
     QStringList gone() const
     {
         QStringList names;

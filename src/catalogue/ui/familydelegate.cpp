@@ -59,7 +59,8 @@ bool FamilyDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const
 {
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto* release = static_cast<QMouseEvent*>(event);
-        if (release->position().x() > option.rect.right() - badgeWidth(option, badge(index))) {
+        if (release->button() == Qt::LeftButton
+            && release->position().x() > option.rect.right() - badgeWidth(option, badge(index))) {
             Q_EMIT toggled(index.row());
             return true;
         }

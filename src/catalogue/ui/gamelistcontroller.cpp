@@ -255,7 +255,7 @@ void GameListController::main_tableViewSort()
     // Registered for the model's drag type.
     m_table->setDragDropMode(QAbstractItemView::DropOnly);
     // Also arranges the list, by the first column, ascending.
-    m_table->sortByColumn(0, Qt::AscendingOrder);
+    m_table->sortByColumn(m_table->firstColumn(), Qt::AscendingOrder);
 }
 
 void GameListController::tableViewSelectionDidChange()

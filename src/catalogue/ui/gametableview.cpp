@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 
 #include <algorithm>
 
@@ -136,6 +137,32 @@ void GameTableView::setModel(QAbstractItemModel* model)
     QTableView::setModel(model);
     // A reset drops the selection without a word from the selection model.
     connect(model, &QAbstractItemModel::modelReset, this, &GameTableView::selectionDidChange);
+    // Rows that change places stay selected, and the selection model has nothing to tell. But the first one
+    // counts.
+    connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this,
+            [this] { m_firstSelected = firstSelected(); });
+    connect(model, &QAbstractItemModel::layoutChanged, this, [this] {
+        if (m_firstSelected != firstSelected())
+            Q_EMIT selectionDidChange();
+    });
+}
+
+QModelIndex GameTableView::firstSelected() const
+{
+    QModelIndex first;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        if (range.isValid() && (!first.isValid() || range.top() < first.row()))
+            first = model()->index(range.top(), 0);
+    }
+    return first;
+}
+
+// The toolkit tells of rows only.
+void GameTableView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && !indexAt(event->position().toPoint()).isValid())
+        Q_EMIT doubleAction();
 }
 
 void GameTableView::keyPressEvent(QKeyEvent* event)

@@ -25,13 +25,17 @@ public:
     /// A tick for each column; the last one that is shown stays.
     void fillColumnsMenu(QMenu& menu);
 
+    /// The one that stands first among those that are shown.
+    int firstColumn() const { return shownColumns().value(0); }
+
     void setModel(QAbstractItemModel* model) override;
     /// Whatever keys are held meanwhile.
     void selectRowAlone(int row);
 
 Q_SIGNALS:
-    /// A double click on a row, or Return.
+    /// A double click, on a row or beneath the rows, or Return.
     void doubleAction();
+    /// Other rows are selected, or another one of them is the first.
     void selectionDidChange();
     /// Letters that belong into the search field.
     void typed(const QString& text);
@@ -41,6 +45,7 @@ Q_SIGNALS:
     void familyToggled(int row);
 
 protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -52,7 +57,10 @@ private:
     QList<int> shownColumns() const;
     void showColumnsMenu(QPoint place);
 
+    QModelIndex firstSelected() const;
+
     bool m_selectsAlone = false;
+    QPersistentModelIndex m_firstSelected; ///< while the rows change places
 };
 
 } // namespace tessera

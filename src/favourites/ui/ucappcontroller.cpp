@@ -186,7 +186,7 @@ void UCAppController::tableViewDoubleAction2()
 void UCAppController::favorites_tableViewSort()
 {
     if (m_table != nullptr)
-        m_table->sortByColumn(0, Qt::AscendingOrder);
+        m_table->sortByColumn(m_table->firstColumn(), Qt::AscendingOrder);
     else
         m_model->sort(0, Qt::AscendingOrder);
 }

@@ -1,0 +1,243 @@
+#include "catalogue/catalogue.h"
+#include "catalogue/storewriter.h"
+#include "catalogue/ui/familydelegate.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametablemodel.h"
+#include "catalogue/ui/gametableview.h"
+#include "platform/defaultscontroller.h"
+#include "support/scripteddesktop.h"
+#include "support/testmain.h"
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+namespace {
+
+GameRecord machine(std::string_view name, std::string_view parent, std::string_view year,
+                   std::string_view status)
+{
+    return GameRecord{{"game", name, parent, name, name, year, "Maker", status, ""}};
+}
+
+const std::array machines{
+    machine("abc", "abc", "1999", "preliminary"), machine("Zed", "Zed", "1980", "imperfect"),
+    machine("zed", "abc", "1970", "good"),        machine("", "", "1990", "good"),
+    machine("mid", "mid", "1980", "unusual"),
+};
+
+} // namespace
+
+/// The table with its commands, as somebody uses it with the mouse.
+class GameTableTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_stage = std::make_unique<Stage>();
+        m_table = m_stage->table.get();
+        m_list = &m_stage->list;
+    }
+    void cleanup() { m_stage.reset(); }
+
+    void theFirstSortIsByTheColumnThatStandsFirst_data()
+    {
+        QTest::addColumn<int>("hidden");
+        QTest::addColumn<int>("moved");
+        QTest::addColumn<QStringList>("names");
+        // No name goes first, and capitals before small letters.
+        const QStringList byName{"", "Zed", "abc", "mid", "zed"};
+        const QStringList byYear{"zed", "Zed", "mid", "", "abc"};
+        QTest::newRow("as it is made") << -1 << -1 << byName;
+        QTest::newRow("the year was dragged to the front") << -1 << 3 << byYear;
+        QTest::newRow("another one, which is hidden, before it") << 4 << 3 << byYear;
+    }
+    void theFirstSortIsByTheColumnThatStandsFirst()
+    {
+        QFETCH(int, hidden);
+        QFETCH(int, moved);
+        QHeaderView* header = m_table->horizontalHeader();
+        if (moved >= 0)
+            header->moveSection(header->visualIndex(moved), 0);
+        if (hidden >= 0) {
+            header->moveSection(header->visualIndex(hidden), 0);
+            header->hideSection(hidden);
+        }
+        m_list->main_tableViewSort();
+        QTEST(names(), "names");
+        QCOMPARE(header->sortIndicatorSection(), std::max(0, moved));
+        QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
+
+    void equalOnesKeepTheOrderThatWasShown()
+    {
+        clickHeader(0);
+        QCOMPARE(names(), (QStringList{"zed", "mid", "abc", "Zed", ""}));
+        clickHeader(3);
+        QCOMPARE(names(), (QStringList{"zed", "mid", "Zed", "", "abc"}));
+        clickHeader(7);
+        QCOMPARE(names(), (QStringList{"zed", "", "Zed", "abc", "mid"}));
+    }
+
+    void whatFollowsTheSelectionFollowsANewFirstRow()
+    {
+        select({"abc", "zed"});
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("abc"));
+        QSignalSpy changes(m_list, &GameListController::selectionChanged);
+        QSignalSpy marks(m_list, &GameListController::markChanged);
+        clickHeader(3);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("zed"));
+        QCOMPARE(m_list->selectedCount(), 2);
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(marks.count(), 1);
+        QCOMPARE(marks.constFirst().constFirst().toString(), QStringLiteral("plovermark_good"));
+    }
+
+    void aSortThatLeavesTheFirstRowTellsNobody()
+    {
+        select({"Zed", "abc"});
+        QSignalSpy changes(m_list, &GameListController::selectionChanged);
+        clickHeader(3);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("Zed"));
+        QCOMPARE(changes.count(), 0);
+        m_table->clearSelection();
+        changes.clear();
+        clickHeader(0);
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void aDoubleClickLaunches()
+    {
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        doubleClick(m_table->visualRect(indexOf("mid")).center());
+        QCOMPARE(launches.count(), 1);
+        QCOMPARE(launches.constFirst().constFirst().toString(), QStringLiteral("mid"));
+        QVERIFY(m_stage->desktop.takeTranscript().isEmpty());
+    }
+
+    void aDoubleClickBeneathTheRowsBeeps()
+    {
+        select({"mid"});
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        const QPoint beneath(60, m_table->viewport()->height() - 5);
+        QVERIFY(!m_table->indexAt(beneath).isValid());
+        doubleClick(beneath);
+        QCOMPARE(launches.count(), 0);
+        QCOMPARE(m_stage->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void aDoubleClickOnARowWithoutANameBeeps()
+    {
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        doubleClick(m_table->visualRect(indexOf(QString())).center());
+        QCOMPARE(m_list->selectedCount(), 1);
+        QCOMPARE(launches.count(), 0);
+        QCOMPARE(m_stage->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+    }
+
+    void onlyTheLeftButtonFoldsAFamily_data()
+    {
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::addColumn<int>("toggled");
+        QTest::newRow("left") << Qt::LeftButton << 1;
+        QTest::newRow("middle") << Qt::MiddleButton << 0;
+        QTest::newRow("back") << Qt::BackButton << 0;
+    }
+    void onlyTheLeftButtonFoldsAFamily()
+    {
+        QFETCH(Qt::MouseButton, button);
+        m_list->list().setFamilies(ArrangedList::Families{{0, 1, 0, 3, 4}, RecordSet(machines.size())});
+        const QModelIndex family = indexOf("abc");
+        QCOMPARE(family.data(FamilyDelegate::ClonesRole).toInt(), 1);
+        QSignalSpy toggled(m_table, &GameTableView::familyToggled);
+        const QRect cell = m_table->visualRect(family);
+        QTest::mouseClick(m_table->viewport(), button, Qt::NoModifier,
+                          QPoint(cell.right() - 4, cell.center().y()));
+        QTEST(static_cast<int>(toggled.count()), "toggled");
+    }
+
+private:
+    struct Stage {
+        Stage()
+            : defaults(folder.filePath(QStringLiteral("settings.ini")))
+            , controls(defaults)
+            , catalogue(stored())
+            , list(catalogue, desktop, controls)
+            , table(std::make_unique<GameTableView>())
+        {
+            table->resize(900, 400);
+            list.setTable(table.get());
+            QObject::connect(table.get(), &GameTableView::doubleAction, &list,
+                             &GameListController::tableViewDoubleAction);
+            if (!catalogue.open())
+                qFatal("no records");
+            list.main_tableViewSort();
+            table->show();
+        }
+
+        QString stored() const
+        {
+            const QString path = folder.filePath(QStringLiteral("Tessera.xml"));
+            if (!writeStore(path, machines))
+                qFatal("no catalogue");
+            return path;
+        }
+
+        QTemporaryDir folder;
+        test::ScriptedDesktop desktop;
+        UserDefaults defaults;
+        DefaultsController controls;
+        Catalogue catalogue;
+        GameListController list;
+        std::unique_ptr<GameTableView> table;
+    };
+
+    QStringList names() const
+    {
+        QStringList list;
+        for (int row = 0; row < m_table->model()->rowCount(); ++row)
+            list << m_table->model()->index(row, 0).data().toString();
+        return list;
+    }
+
+    QModelIndex indexOf(const QString& name) const
+    {
+        return m_table->model()->index(static_cast<int>(names().indexOf(name)), 0);
+    }
+
+    void select(const QStringList& chosen)
+    {
+        m_table->clearSelection();
+        for (const QString& name : chosen)
+            m_table->selectionModel()->select(indexOf(name),
+                                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+
+    void clickHeader(int column)
+    {
+        QHeaderView* header = m_table->horizontalHeader();
+        header->setSectionHidden(column, false);
+        header->resizeSection(column, 90);
+        const int middle = header->sectionViewportPosition(column) + 45;
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(middle, header->height() / 2));
+        QCOMPARE(header->sortIndicatorSection(), column);
+    }
+
+    void doubleClick(QPoint place)
+    {
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    }
+
+    std::unique_ptr<Stage> m_stage;
+    GameTableView* m_table = nullptr;
+    GameListController* m_list = nullptr;
+};
+
+TESSERA_TEST(GameTableTest);
+#include "gametabletest.moc"
