@@ -41,11 +41,14 @@ std::size_t behind(std::string_view file, std::string_view words, std::size_t fr
     return static_cast<std::size_t>(static_cast<const char*>(hit) - file.data()) + words.size();
 }
 
+// Deliberately over whatever stands before the end tag, other entries as well. Where none follows at all,
+// there is no rule to keep: the entry is taken to end where the next one begins.
 std::string_view entryFrom(std::string_view file, std::size_t start)
 {
-    const std::string_view rest = file.substr(start);
-    const std::string_view text = rest.substr(0, rest.find(endTag));
-    return text.substr(0, text.find(infoTag));
+    const std::size_t end = behind(file, endTag, start);
+    if (end != npos)
+        return file.substr(start, end - endTag.size() - start);
+    return file.substr(start, file.substr(start).find(infoTag));
 }
 
 // Takes the first line off the text, with what ends it; gives it without.

@@ -12,7 +12,8 @@ enum class EntryKind { Bio, Mame };
 /// The text of a set's entry, as it stands in the file. Only the exact forms are found: for the history file
 /// "$info=NAME" with nothing behind it, or else NAME as the first of several that commas end; for the info
 /// file the first form alone. A name that stands second on such a line is deliberately not found.
-/// The text goes up to "$end"; where an entry has none, up to the next "$info=" or the end of the file.
+/// The text goes up to the first "$end" behind it, whatever stands between; where none follows at all, up to
+/// the next "$info=" or the end of the file.
 std::optional<std::string_view> exactEntry(std::string_view file, std::string_view name, EntryKind kind);
 
 /// An entry that the exact forms do not reach.

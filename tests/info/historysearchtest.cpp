@@ -89,18 +89,39 @@ private Q_SLOTS:
         QCOMPARE(found.isNull(), text.isNull());
     }
 
-    void anEntryWithoutAnEndGoesUpToTheNextOne_data()
+    // Deliberately over whatever stands between, the next entry as well.
+    void anEntryEndsAtTheFirstEndBehindIt_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("the next entry's")
+            << QByteArray("$info=a\r\n$bio\r\nA\r\n$info=b\r\n$bio\r\nB\r\n$end\r\n$end\r\n")
+            << QByteArray("A\r\n$info=b\r\n$bio\r\nB\r\n");
+        QTest::newRow("first of two, the next entry's")
+            << QByteArray("$info=a,b\r\n$bio\r\n\r\nA\r\n$info=b\r\n$bio\r\nB\r\n$end")
+            << QByteArray("A\r\n$info=b\r\n$bio\r\nB\r\n");
+        QTest::newRow("within a line") << QByteArray("$info=a\r\n$bio\r\nThe $ending.") << QByteArray("The ");
+    }
+
+    void anEntryEndsAtTheFirstEndBehindIt()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, text);
+        QCOMPARE(bytesOf(exactEntry(viewOf(file), "a", EntryKind::Bio)), text);
+    }
+
+    void anEntryWithoutAnyEndGoesUpToTheNextOne_data()
     {
         QTest::addColumn<QByteArray>("file");
         QTest::newRow("the next entry")
-            << QByteArray("$info=a\r\n$bio\r\nA\r\n$info=b\r\n$bio\r\nB\r\n$end\r\n");
+            << QByteArray("$end\r\n$info=a\r\n$bio\r\nA\r\n$info=b\r\n$bio\r\nB\r\n");
         QTest::newRow("the end of the file") << QByteArray("$info=a\r\n$bio\r\nA\r\n");
         QTest::newRow("first of two, the next entry")
             << QByteArray("$info=a,b\r\n$bio\r\n\r\nA\r\n$info=b\r\n$bio\r\nB\r\n");
         QTest::newRow("first of two, the end of the file") << QByteArray("$info=a,b\r\n$bio\r\n\r\nA\r\n");
     }
 
-    void anEntryWithoutAnEndGoesUpToTheNextOne()
+    void anEntryWithoutAnyEndGoesUpToTheNextOne()
     {
         QFETCH(QByteArray, file);
         QCOMPARE(bytesOf(exactEntry(viewOf(file), "a", EntryKind::Bio)), QByteArray("A\r\n"));
@@ -123,7 +144,9 @@ private Q_SLOTS:
         row("a line of another tag between", "$info=pacman,puckman,\n$nes=x,\n$bio\nA$end", "pacman", "A");
         row("another kind of entry first", "$info=puckman\n$mame\nM\n$end\n$info=puckman\n$bio\nA\n$end",
             "puckman", "A\n");
-        row("without an end", "$info=puckman\n$bio\nA\n$info=b\n$bio\nB\n$end", "puckman", "A\n");
+        row("the next one's end", "$info=puckman\n$bio\nA\n$info=b\n$bio\nB\n$end", "puckman",
+            "A\n$info=b\n$bio\nB\n");
+        row("without an end", "$info=puckman\n$bio\nA\n$info=b\n$bio\nB\n", "puckman", "A\n");
         row("a part of a name", "$info=puckmana,apuckman\r\n$bio\r\nA$end", "", "");
         row("without a tag", "$info=puckman\n$end\n$bio\nA\n$end", "", "");
         row("cut off behind the name", "$info=puckman", "", "");
