@@ -22,7 +22,6 @@ public:
     static std::expected<HistoryXml, Failure> parse(std::string text, const QString& path);
 
     std::optional<std::string_view> entry(std::string_view name) const;
-    std::size_t nameCount() const { return m_places.size(); }
 
 private:
     struct Place {

@@ -1,5 +1,7 @@
 #include "info/infofile.h"
 
+#include "info/textencoding.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -51,17 +53,12 @@ std::expected<InfoFile, Failure> InfoFile::parse(std::string bytes, const QStrin
     DecodedText decoded = decodedText(std::move(bytes));
     if (!decoded.text)
         return std::unexpected(Failure{"info_not_decoded", {path}});
-    if (!isHistoryXml(*decoded.text)) {
-        InfoFile file(*std::move(decoded.text));
-        file.m_encoding = decoded.encoding;
-        return file;
-    }
+    if (!isHistoryXml(*decoded.text))
+        return InfoFile(*std::move(decoded.text));
     auto entries = HistoryXml::parse(*std::move(decoded.text), path);
     if (!entries)
         return std::unexpected(entries.error());
-    InfoFile file(*std::move(entries));
-    file.m_encoding = decoded.encoding;
-    return file;
+    return InfoFile(*std::move(entries));
 }
 
 std::expected<InfoFile, Failure> InfoFile::read(const QString& path)

@@ -3,7 +3,6 @@
 #include "core/failure.h"
 #include "info/historysearch.h"
 #include "info/historyxml.h"
-#include "info/textencoding.h"
 
 #include <variant>
 
@@ -27,14 +26,11 @@ public:
     /// What only a search by any name and any line end finds.
     std::optional<FiledEntry> filed(std::string_view name, EntryKind kind) const;
 
-    /// Nothing where the text was given.
-    std::optional<TextEncoding> encoding() const { return m_encoding; }
     /// The text of the classic form.
     std::string_view text() const;
 
 private:
     std::variant<std::string, HistoryXml> m_content;
-    std::optional<TextEncoding> m_encoding;
 };
 
 } // namespace tessera

@@ -14,7 +14,7 @@ namespace tessera {
 
 namespace {
 
-constexpr EncodingTrial escapedTrial{TextEncoding::Iso2022Jp, "ISO-2022-JP", "ISO-2022-JP"};
+constexpr EncodingTrial escapedTrial{TextEncoding::Iso2022Jp, "ISO-2022-JP", false};
 constexpr char escape = 27;
 // UTF-16 units that are decoded before they become UTF-8; few enough to stay close to the processor.
 constexpr std::size_t pieceUnits = 8192;
@@ -48,9 +48,14 @@ bool appendUnits(std::string& text, std::span<const UChar> units)
     return true;
 }
 
-std::optional<std::string> converted(const char* name, std::string_view bytes)
+bool isHighControl(UChar unit)
 {
-    const Converter converter = strictConverter(name);
+    return unit >= 0x80 && unit < 0xA0;
+}
+
+std::optional<std::string> converted(const EncodingTrial& trial, std::string_view bytes)
+{
+    const Converter converter = strictConverter(trial.converter);
     if (!converter)
         return std::nullopt;
     std::string text;
@@ -67,6 +72,8 @@ std::optional<std::string> converted(const char* name, std::string_view bytes)
             return std::nullopt;
         const auto count = static_cast<std::size_t>(target - units.data());
         kept = status == U_BUFFER_OVERFLOW_ERROR && count > 0 && U16_IS_LEAD(units[count - 1]) ? 1 : 0;
+        if (!trial.hasHighControls && std::ranges::any_of(std::span(units).first(count), isHighControl))
+            return std::nullopt;
         if (text.empty())
             text.reserve(bytes.size() + bytes.size() / 2);
         if (!appendUnits(text, std::span(units).first(count - kept)))
@@ -90,18 +97,13 @@ bool isEscaped(std::string_view bytes)
 
 } // namespace
 
-std::string_view encodingName(TextEncoding encoding)
-{
-    return trialOf(encoding).name;
-}
-
 std::optional<std::string> decodedAs(TextEncoding encoding, std::string_view bytes)
 {
     if (encoding == TextEncoding::ShiftJis)
         return strictShiftJis(bytes);
-    const char* converter = trialOf(encoding).converter;
-    if (converter != nullptr)
-        return converted(converter, bytes);
+    const EncodingTrial& trial = trialOf(encoding);
+    if (trial.converter != nullptr)
+        return converted(trial, bytes);
     // As a file is tried, seven-bit bytes are UTF-8 before they could be anything else.
     const bool isValid = encoding == TextEncoding::Utf8 ? isUtf8(bytes) : isAscii(bytes);
     return isValid ? std::optional<std::string>(bytes) : std::nullopt;

@@ -13,8 +13,10 @@ std::string bytesOf(const QByteArray& bytes)
 
 QString nameOf(TextEncoding encoding)
 {
-    const std::string_view name = encodingName(encoding);
-    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+    const QStringList names{"ISO-2022-JP",  "UTF-8",        "non-lossy ASCII", "Shift JIS",    "EUC-JP",
+                            "Mac OS Roman", "Windows-1251", "Windows-1252",    "Windows-1253", "Windows-1254",
+                            "Windows-1250", "ISO-8859-1",   "UTF-16"};
+    return names.at(static_cast<int>(encoding));
 }
 
 } // namespace
@@ -47,6 +49,10 @@ private Q_SLOTS:
         row("half-width", "\xCA\xDF", "Shift JIS", QString::fromUtf8("ﾊﾟ"));
         // The last byte is no second one in Shift JIS.
         row("EUC-JP", "\xA5\xD1\xA5\xC3\xA5\xAF\xE1\xFE", "EUC-JP", QString::fromUtf8("パック癰"));
+        // What EUC-JP has no place for, though it would take the rest of both.
+        row("quotation marks of Mac OS Roman", "\x93Hi\x94 said he \x85 ", "Mac OS Roman",
+            QString::fromUtf8("ìHiî said he Ö "));
+        row("an umlaut of Mac OS Roman", "f\x9f r", "Mac OS Roman", QString::fromUtf8("fü r"));
         row("Mac OS Roman", "caf\x8E \xFF", "Mac OS Roman", QString::fromUtf8("café ˇ"));
         row("UTF-16", QByteArray("\xFF\xFE\x41\x30", 4), "Mac OS Roman", QString());
         row("half a character at the end", "\x83\x70\xE1", "Mac OS Roman", QString());
@@ -122,6 +128,16 @@ private Q_SLOTS:
         }
     }
 
+    // Every byte beyond ASCII needs another one behind it, or stands nowhere.
+    void noHighByteAloneIsEucJp()
+    {
+        for (int byte = 0x80; byte < 0x100; ++byte)
+            QVERIFY2(!decodedAs(TextEncoding::EucJp, std::string("a") + static_cast<char>(byte)),
+                     qPrintable(QString::number(byte, 16)));
+        QCOMPARE(QString::fromStdString(decodedAs(TextEncoding::EucJp, "\x8E\xCA\x8F\xB0\xA1").value_or("")),
+                 QString::fromUtf8("ﾊ丂"));
+    }
+
     void everyEncodingIsStrict_data()
     {
         QTest::addColumn<int>("encoding");
@@ -137,14 +153,14 @@ private Q_SLOTS:
         row(TextEncoding::Utf8, "\xE3\x83\x91", "パ", "\xE3\x83");
         row(TextEncoding::NonLossyAscii, "pac", "pac", "p\xE3");
         row(TextEncoding::ShiftJis, "\x83\x70", "パ", "\x83");
-        row(TextEncoding::EucJp, "\xA5\xD1", "パ", "\xA5");
+        row(TextEncoding::EucJp, "\xA5\xD1", "パ", "\x93");
         row(TextEncoding::MacOsRoman, "\x8E", "é", "");
-        row(TextEncoding::Windows1251, "\xCF", "П", "");
-        row(TextEncoding::Windows1252, "\xE9", "é", "");
+        row(TextEncoding::Windows1251, "\xCF", "П", "\x98");
+        row(TextEncoding::Windows1252, "\xE9", "é", "\x81");
         row(TextEncoding::Windows1253, "\xE1", "α", "\xD2");
-        row(TextEncoding::Windows1254, "\xFE", "ş", "");
-        row(TextEncoding::Windows1250, "\xB3", "ł", "");
-        row(TextEncoding::Iso8859_1, "\xE9", "é", "");
+        row(TextEncoding::Windows1254, "\xFE", "ş", "\x81");
+        row(TextEncoding::Windows1250, "\xB3", "ł", "\x81");
+        row(TextEncoding::Iso8859_1, "\xE9\x81", "é\xC2\x81", "");
         row(TextEncoding::Utf16, QByteArray("\xFE\xFF\x30\xD1", 4), "パ", "\xFE\xFF\x30");
     }
 
