@@ -3,8 +3,10 @@
 #include "info/ui/historywindow.h"
 #include "launch/ui/logview.h"
 #include "platform/defaultscontroller.h"
+#include "support/installedtexts.h"
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
+#include "widgets/boundcontrols.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -94,9 +96,37 @@ private Q_SLOTS:
         useFiles();
         m_window->showParent("pacman");
         m_object->searchHistoryInfo(QString());
-        QCOMPARE(m_object->mstr_Mameinfo(), QStringLiteral("No result."));
+        QCOMPARE(m_window->historyinfoTextView->text(), QStringLiteral("No result."));
         QVERIFY(m_window->parentTextField->text().isEmpty());
         QVERIFY(m_desktop->transcript().isEmpty());
+    }
+
+    void aMissingFileIsNamedBehindTheSearchAndNotBehindNoResult()
+    {
+        useFiles();
+        m_object->searchHistoryInfo("pacman");
+        m_object->searchHistoryInfo(QString());
+        QVERIFY(QFile::remove(m_folder->filePath("mameinfo.dat")));
+        m_object->set_infoString();
+        QCOMPARE(m_window->historyinfoTextView->text(), found + "mameinfo.dat  is not found.\r\n");
+    }
+
+    void aTypedPathIsReadAtOnce()
+    {
+        useFiles();
+        write("h.dat", "$info=pacman\r\n$bio\r\nTyped.\r\n$end\r\n");
+        QLineEdit field;
+        bind(field, *m_defaults, keys::HistoryPath);
+        field.clear();
+        QTest::keyClicks(&field, m_folder->filePath("h.dat"));
+        QTRY_VERIFY(!m_object->isLoading());
+        m_object->searchHistoryInfo("pacman");
+        QVERIFY(m_window->historyinfoTextView->text().startsWith("MAME History\r\n\r\nTyped.\r\n"));
+        // What is no file, or not yet, says nothing, and what was read stays.
+        const QString shown = m_window->historyinfoTextView->text();
+        QTest::keyClicks(&field, "x");
+        QCOMPARE(m_window->historyinfoTextView->text(), shown);
+        QVERIFY(!m_object->isLoading() && m_object->str_hist() != nullptr);
     }
 
     void typingANameEmptiesTheParent()
@@ -244,17 +274,27 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_object->isLoading());
         m_window->showParent("<b>bold</b>");
         QCOMPARE(m_window->parentTextField->textFormat(), Qt::PlainText);
+        const test::InstalledTexts texts("en");
         m_object->searchHistoryInfo("x");
         QVERIFY(m_window->filedButton->isVisibleTo(m_window.get()));
+        // A button underlines the letter behind a single ampersand.
+        QCOMPARE(m_window->filedButton->text(), QStringLiteral("Filed under <b>a&&b</b>"));
     }
 
     void theObjectMayEndWhileAFileIsRead()
     {
         write("history.dat", QByteArray(5'000'000, 'x'));
         setPaths();
+        // A folder, which cannot be read: that would be in the log.
+        m_defaults->setText(keys::MameinfoPath, m_folder->path());
         m_object->awakeFromNib();
+        QVERIFY(m_object->isLoading());
+        m_window->historyinfoTextView->replace("still here");
         m_object.reset();
+        // What was under way has sent its end by now, to nobody.
         QCoreApplication::processEvents();
+        QVERIFY(m_desktop->transcript().isEmpty());
+        QCOMPARE(m_window->historyinfoTextView->text(), QStringLiteral("still here"));
     }
 
 private:

@@ -74,6 +74,10 @@ void HistoryObject::load(Loaded& which)
         showText(m_text + which.kind.missing);
         return;
     }
+    // A choice stores the path, which has begun it already.
+    if (which.isLoading && which.path == path)
+        return;
+    which.path = path;
     which.isLoading = true;
     m_window.showLoading(true);
     m_pool.start([this, &which, path, load = ++which.load] {
@@ -132,7 +136,8 @@ void HistoryObject::search(const Wanted& wanted)
     if (wanted.name.isEmpty()) {
         m_waiting.reset();
         m_window.showFiled(QString());
-        showText(historytexts::noName);
+        // Not kept: a message about a missing file goes behind the search before it.
+        show(historytexts::noName);
         m_window.showParent(QString());
         return;
     }
@@ -157,6 +162,11 @@ void HistoryObject::showFound(const Wanted& wanted)
 void HistoryObject::showText(const QString& text)
 {
     m_text = text;
+    show(text);
+}
+
+void HistoryObject::show(const QString& text)
+{
     m_window.historyinfoTextView->replace(text);
     m_window.historyinfoTextView->moveCursor(QTextCursor::Start);
     m_finder.mark();
@@ -168,6 +178,16 @@ void HistoryObject::settingChanged(const QString& name)
         m_window.setFontSize(qBound(smallestSize, m_defaults.index(keys::History_fontsize), largestSize));
     if (name.isEmpty() || name == keys::HistoryPath.name || name == keys::MameinfoPath.name)
         m_window.showPaths(m_defaults.text(keys::HistoryPath), m_defaults.text(keys::MameinfoPath));
+    for (Loaded* each : {&m_history, &m_info}) {
+        if (name == each->kind.key.name)
+            loadTyped(*each);
+    }
+}
+
+void HistoryObject::loadTyped(Loaded& which)
+{
+    if (QFileInfo(m_defaults.text(which.kind.key)).isFile())
+        load(which);
 }
 
 // The same limits as those of the game list; each way is open from where the other one can lead.

@@ -66,6 +66,7 @@ private:
     struct Loaded {
         Kind kind;
         std::unique_ptr<const InfoFile> file;
+        QString path{}; ///< that is read, or was read last
         bool isLoading = false;
         int load = 0; ///< what an earlier one gives comes too late
     };
@@ -79,7 +80,11 @@ private:
     void take(Loaded& which, int load, const std::shared_ptr<std::expected<InfoFile, Failure>>& read);
     void search(const Wanted& wanted);
     void showFound(const Wanted& wanted);
+    /// What a message about a missing file is appended to.
     void showText(const QString& text);
+    void show(const QString& text);
+    /// What was typed as its path; while it is none yet, what was read before stays.
+    void loadTyped(Loaded& which);
     void settingChanged(const QString& name);
     void step(int by, int smallest, int largest);
 
