@@ -45,6 +45,7 @@
     <message id="pictures_titletemplate"><source></source><translation>Title address</translation></message>
     <message id="pictures_flyertemplate"><source></source><translation>Flyer address</translation></message>
     <message id="pictures_note"><source></source><translation>{$gamename} stands for the set name; “.png” is added. Nothing is downloaded unless you ask for it, and a site needs its host here first.</translation></message>
+    <message id="pictures_no_host"><source></source><translation>Picture site %1 has no host yet: Preferences › Support › Pictures.</translation></message>
     <message id="pictures_heading"><source></source><translation>Pictures</translation></message>
     <message id="pictures_explanation"><source></source><translation>How a game’s picture is shown, and where a missing one is downloaded from.</translation></message>
 </context>

@@ -45,6 +45,7 @@
     <message id="pictures_titletemplate"><source></source><translation>タイトル画面のアドレス</translation></message>
     <message id="pictures_flyertemplate"><source></source><translation>フライヤーのアドレス</translation></message>
     <message id="pictures_note"><source></source><translation>{$gamename} はセット名に置き換えられ、最後に“.png”が付きます。指示があるまで何もダウンロードしません。使う前にホストを入力してください。</translation></message>
+    <message id="pictures_no_host"><source></source><translation>画像サイト%1のホストがまだありません：環境設定 › サポート › 画像</translation></message>
     <message id="pictures_heading"><source></source><translation>画像</translation></message>
     <message id="pictures_explanation"><source></source><translation>ゲームの画像の表示方法と、画像がないときのダウンロード元です。</translation></message>
 </context>

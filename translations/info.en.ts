@@ -32,6 +32,7 @@
     <message id="infosite_note"><source></source><translation>{$gamename} stands for the set name. Sites come and go, so each needs its host here before it can be asked.</translation></message>
     <message id="infosite_url"><source></source><translation>&amp;Address</translation></message>
     <message id="infosite_open"><source></source><translation>&amp;Open</translation></message>
+    <message id="infosite_no_host"><source></source><translation>Information site %1 has no host yet: Preferences › Support › Information sites.</translation></message>
     <message id="support_sites"><source></source><translation>Information sites</translation></message>
 </context>
 </TS>

@@ -32,6 +32,7 @@
     <message id="infosite_note"><source></source><translation>{$gamename} はセット名に置き換えられます。サイトは移り変わるため、使う前にホストを入力してください。</translation></message>
     <message id="infosite_url"><source></source><translation>アドレス(&amp;A)</translation></message>
     <message id="infosite_open"><source></source><translation>開く(&amp;O)</translation></message>
+    <message id="infosite_no_host"><source></source><translation>情報サイト%1のホストがまだありません：環境設定 › サポート › 情報サイト</translation></message>
     <message id="support_sites"><source></source><translation>情報サイト</translation></message>
 </context>
 </TS>

@@ -184,6 +184,7 @@ DownloadProcessing& ArtworkDesk::download()
         m_download = std::make_unique<DownloadProcessing>(
             m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
+        connect(m_download.get(), &DownloadProcessing::statusMessage, this, &ArtworkDesk::statusMessage);
         connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
     }
     return *m_download;

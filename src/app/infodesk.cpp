@@ -118,8 +118,10 @@ HistoryObject& InfoDesk::history()
 
 InfoSites& InfoDesk::sites()
 {
-    if (!m_sites)
+    if (!m_sites) {
         m_sites = std::make_unique<InfoSites>(m_desktop, m_defaults);
+        connect(m_sites.get(), &InfoSites::statusMessage, this, &InfoDesk::statusMessage);
+    }
     return *m_sites;
 }
 

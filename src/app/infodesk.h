@@ -50,6 +50,9 @@ public:
     /// Where the history window is key, what else has the same key.
     bool isKey() const;
 
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
 private:
     using Reader = std::function<QString()>;
     struct Subject {

@@ -265,6 +265,7 @@ void Tessera_AppDelegate::joinInfo()
     m_info = std::make_unique<InfoDesk>(*this, m_desktop, m_defaults,
                                         [this](HistoryWindow& window) { takeHistoryWindow(window); });
     m_info->addContextMenu(*m_mainWindow->gameTable, KeyWindow::Kind::Main);
+    connect(m_info.get(), &InfoDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_chooser.get(), &PathChooser::chosen, m_info.get(), &InfoDesk::pathChosen);
 }
 
@@ -376,6 +377,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     m_artwork->addContextMenu(*window.favoritesTable);
     m_artwork->joinFavorites(window);
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &FavoritesWindow::say);
+    connect(m_info.get(), &InfoDesk::statusMessage, &window, &FavoritesWindow::say);
     window.sidePanel->verifyButton->hide();
     joinSidePanel(*window.sidePanel);
     connect(window.sidePanel->pageButton, &QPushButton::clicked, m_info.get(), &InfoDesk::openROMinfo2);

@@ -4,8 +4,7 @@
 
 namespace tessera {
 
-std::optional<PictureTemplates> pictureTemplates(int index,
-                                                 const std::function<QString(const ChosenKey&)>& settingOf)
+std::optional<PictureTemplates> pictureTemplates(int index, const SettingReader& settingOf)
 {
     PictureTemplates templates;
     if (index == ownPictureSite) {
@@ -16,7 +15,7 @@ std::optional<PictureTemplates> pictureTemplates(int index,
     if (index < 0 || index > ownPictureSite)
         return std::nullopt;
     const PictureSite& site = pictureSites[static_cast<std::size_t>(index)];
-    const QString host = settingOf(*site.host);
+    const QString host = hostText(site.host, settingOf);
     std::ranges::transform(site.pages, templates.begin(), [&](const char* page) {
         return *page == '\0' ? QString() : templateAt(host, QLatin1StringView(page));
     });

@@ -18,7 +18,8 @@ QString templateAt(const QString& host, QLatin1StringView page);
 /// of the address.
 QString withGameName(QString siteTemplate, const QString& name);
 
-/// Nothing where the text is no address of a web page.
+/// Nothing where the text is no address of a web page. Deliberate: only http and https are opened, since any
+/// other scheme would start some program with what stands in a text.
 std::optional<QUrl> webAddress(const QString& text);
 
 } // namespace tessera

@@ -2,14 +2,14 @@
 
 namespace tessera {
 
-std::optional<QString> siteTemplate(int index, const std::function<QString(const ChosenKey&)>& hostOf)
+std::optional<QString> siteTemplate(int index, const SettingReader& settingOf)
 {
     if (index == keptSite)
         return std::nullopt;
     if (index < 0 || index >= static_cast<int>(informationSites.size()))
         return QString();
     const InformationSite& site = informationSites[static_cast<std::size_t>(index)];
-    return templateAt(hostOf(*site.host), QLatin1StringView(site.page));
+    return templateAt(hostText(site.host, settingOf), QLatin1StringView(site.page));
 }
 
 std::optional<QUrl> gamePage(const QString& siteTemplate, const QString& name)

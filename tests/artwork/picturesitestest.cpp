@@ -26,17 +26,17 @@ private Q_SLOTS:
         QTest::addColumn<int>("index");
         QTest::addColumn<QStringList>("templates");
         QTest::newRow("0") << 0
-                           << QStringList{"http://snapsitehost1.test/mmedia/snap/{$gamename}",
-                                          "http://snapsitehost1.test/mmedia/titles/{$gamename}",
-                                          "http://snapsitehost1.test/mmedia/flyers/{$gamename}"};
+                           << QStringList{"http://infositehost1.test/mmedia/snap/{$gamename}",
+                                          "http://infositehost1.test/mmedia/titles/{$gamename}",
+                                          "http://infositehost1.test/mmedia/flyers/{$gamename}"};
         QTest::newRow("1") << 1
                            << QStringList{"http://snapsitehost2.test/snap/{$gamename}",
                                           "http://snapsitehost2.test/titles/{$gamename}", ""};
         QTest::newRow("2") << 2
                            << QStringList{
-                                  "http://snapsitehost3.test/maws/img/shots/progettosnaps/ingame/{$gamename}",
-                                  "http://snapsitehost3.test/maws/img/shots/progettosnaps/titles/{$gamename}",
-                                  "http://snapsitehost3.test/maws/img/flyers/{$gamename}"};
+                                  "http://infositehost5.test/maws/img/shots/progettosnaps/ingame/{$gamename}",
+                                  "http://infositehost5.test/maws/img/shots/progettosnaps/titles/{$gamename}",
+                                  "http://infositehost5.test/maws/img/flyers/{$gamename}"};
         QTest::newRow("other") << 3
                                << QStringList{"http://own.test/snapdownloadpath",
                                               "http://own.test/titlessdownloadpath",

@@ -3,6 +3,7 @@
 #include "info/informationsites.h"
 #include "info/ui/infopage.h"
 #include "platform/defaultscontroller.h"
+#include "support/installedtexts.h"
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
 
@@ -112,6 +113,62 @@ private Q_SLOTS:
         QCOMPARE(m_sites->rominfo(), QStringLiteral("http://four.test/r/{$gamename}"));
         QCOMPARE(m_stored->string(keys::InfositeHost4.name), QStringLiteral("four.test"));
         QCOMPARE(m_stored->string(keys::InfositeHost3.name), QStringLiteral("three.test"));
+    }
+
+    void theFirstAndTheFifthSiteHaveTheHostsOfThePictures_data()
+    {
+        QTest::addColumn<int>("site");
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("former");
+        const auto row = [](const char* name, int site, const char* key, const char* former) {
+            QTest::newRow(name) << site << QByteArray(key) << QByteArray(former);
+        };
+        row("first", 0, "InfositeHost1", "SnapsiteHost1");
+        row("fifth", 4, "InfositeHost5", "SnapsiteHost3");
+        row("first again", 7, "InfositeHost1", "SnapsiteHost1");
+    }
+
+    void theFirstAndTheFifthSiteHaveTheHostsOfThePictures()
+    {
+        QFETCH(int, site);
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, former);
+        m_stored->setValue(QLatin1StringView(key), QString());
+        m_stored->setValue(QLatin1StringView(former), QStringLiteral("shared.test"));
+        make();
+        choose(site);
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("shared.test"));
+        QVERIFY(m_sites->rominfo().startsWith("http://shared.test/"));
+        // What is typed takes the place of both, and what is cleared stays so.
+        m_page->hostField->selectAll();
+        QTest::keyClicks(m_page->hostField, "mine.test");
+        QCOMPARE(m_stored->string(QLatin1StringView(key)), QStringLiteral("mine.test"));
+        QVERIFY(m_sites->rominfo().startsWith("http://mine.test/"));
+        m_page->hostField->selectAll();
+        QTest::keyClick(m_page->hostField, Qt::Key_Delete);
+        QCOMPARE(m_page->hostField->text(), QString());
+        QCOMPARE(m_sites->rominfo(), QString());
+    }
+
+    void aSiteWithoutAHostIsNamed()
+    {
+        make();
+        choose(3);
+        QStringList said;
+        connect(m_sites.get(), &InfoSites::statusMessage, m_sites.get(),
+                [&said](const QString& text) { said << text; });
+        const test::InstalledTexts texts("en");
+        m_sites->openROMinfo("pong");
+        QCOMPARE(m_desktop->takeTranscript(), QStringList{"beep"});
+        QCOMPARE(
+            said,
+            QStringList{"Information site 4 has no host yet: Preferences › Support › Information sites."});
+        // Neither where no game is meant, nor where the template is the user's.
+        m_sites->openROMinfo(QString());
+        choose(9);
+        m_sites->openROMinfo("pong");
+        QCOMPARE(m_desktop->takeTranscript(), (QStringList{"beep", "beep"}));
+        QCOMPARE(said.size(), 1);
     }
 
     void everyFailureIsABeep()

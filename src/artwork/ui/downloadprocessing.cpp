@@ -39,6 +39,11 @@ void DownloadProcessing::snapdownload_url(const QString& name)
         m_desktop.beep();
         return;
     }
+    if (const auto site = m_sites.siteWithoutHost()) {
+        m_desktop.beep();
+        Q_EMIT statusMessage(qtTrId("pictures_no_host").arg(*site));
+        return;
+    }
     download_process(pictureAddress(m_sites.templateOf(m_folder.kind()), name));
 }
 

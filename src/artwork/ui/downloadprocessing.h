@@ -36,6 +36,7 @@ Q_SIGNALS:
     void began();
     /// A picture has come.
     void SnapChange(const QString& object);
+    void statusMessage(const QString& text);
 
 private:
     void begin(const QUrl& url);

@@ -55,6 +55,18 @@ QString SnapSites::templateOf(int kind) const
     return isKind ? m_templates[static_cast<std::size_t>(kind)] : QString();
 }
 
+SettingReader SnapSites::settingReader() const
+{
+    return [this](const ChosenKey& key) { return m_defaults.text(key); };
+}
+
+std::optional<int> SnapSites::siteWithoutHost() const
+{
+    const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite));
+    const bool lacksHost = site != nullptr && hostText(site->host, settingReader()).isEmpty();
+    return lacksHost ? std::optional(site->number) : std::nullopt;
+}
+
 // What the pop-up shows: its item at this position has the own site's title.
 bool SnapSites::isOwnSite() const
 {
@@ -63,9 +75,7 @@ bool SnapSites::isOwnSite() const
 
 void SnapSites::snapdownsiteAction()
 {
-    if (const auto templates
-        = pictureTemplates(m_defaults.index(keys::Snapdownsite),
-                           [this](const ChosenKey& key) { return m_defaults.text(key); }))
+    if (const auto templates = pictureTemplates(m_defaults.index(keys::Snapdownsite), settingReader()))
         m_templates = *templates;
     showTemplates();
 }
@@ -81,13 +91,20 @@ void SnapSites::showTemplates()
     }
     const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite));
     m_page->hostField->setEnabled(site != nullptr);
-    showText(*m_page->hostField, site != nullptr ? m_defaults.text(*site->host) : QString());
+    const QString host = site != nullptr ? hostText(site->host, settingReader()) : QString();
+    if (m_page->hostField->text().trimmed() != host)
+        m_page->hostField->setText(host);
 }
 
 void SnapSites::storeHost(const QString& host)
 {
-    if (const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite)))
-        m_defaults.setText(*site->host, host);
+    const PictureSite* site = siteAt(m_defaults.index(keys::Snapdownsite));
+    if (site == nullptr)
+        return;
+    m_defaults.setText(*site->host.key, host);
+    // Else what is cleared would come back.
+    if (site->host.former != nullptr && !m_defaults.text(*site->host.former).isEmpty())
+        m_defaults.setText(*site->host.former, QString());
 }
 
 void SnapSites::storeTemplate(int kind, const QString& text)
@@ -100,8 +117,7 @@ void SnapSites::settingChanged(const QString& name)
 {
     const bool isTemplate = std::ranges::any_of(
         artworkKinds, [&](const ArtworkKind& each) { return name == each.downloadTemplate->name; });
-    if (name.isEmpty() || isTemplate || name == keys::Snapdownsite.name
-        || name.startsWith(QLatin1StringView("SnapsiteHost")))
+    if (name.isEmpty() || isTemplate || name == keys::Snapdownsite.name || isHostSetting(name))
         snapdownsiteAction();
 }
 

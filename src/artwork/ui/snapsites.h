@@ -23,12 +23,15 @@ public:
     void setPage(PicturesPage& page);
     /// The template of a kind, by its position; empty for one that there is not.
     QString templateOf(int kind) const;
+    /// The number of the chosen site where that has no host, and so nothing to ask for a picture.
+    std::optional<int> siteWithoutHost() const;
 
 public Q_SLOTS:
     /// Takes the templates of the chosen site.
     void snapdownsiteAction();
 
 private:
+    SettingReader settingReader() const;
     bool isOwnSite() const;
     void showTemplates();
     void storeHost(const QString& host);

@@ -52,8 +52,7 @@ void InfoSites::infositeAction()
 {
     if (isOwnSite())
         m_template = m_defaults.text(keys::VisitedRomPath);
-    else if (const auto text = siteTemplate(m_defaults.index(keys::Rominfosite),
-                                            [this](const ChosenKey& key) { return m_defaults.text(key); }))
+    else if (const auto text = siteTemplate(m_defaults.index(keys::Rominfosite), settingReader()))
         m_template = *text;
     showTemplate();
 }
@@ -67,15 +66,20 @@ void InfoSites::showTemplate()
     if (m_page->rominfoTextField->text() != m_template)
         m_page->rominfoTextField->setText(m_template);
     m_page->hostField->setEnabled(site != nullptr);
-    const QString host = site != nullptr ? m_defaults.text(*site->host) : QString();
-    if (m_page->hostField->text() != host)
+    const QString host = site != nullptr ? hostText(site->host, settingReader()) : QString();
+    if (m_page->hostField->text().trimmed() != host)
         m_page->hostField->setText(host);
 }
 
 void InfoSites::storeHost(const QString& host)
 {
-    if (const InformationSite* site = siteAt(m_defaults.index(keys::Rominfosite)))
-        m_defaults.setText(*site->host, host);
+    const InformationSite* site = siteAt(m_defaults.index(keys::Rominfosite));
+    if (site == nullptr)
+        return;
+    m_defaults.setText(*site->host.key, host);
+    // Else what is cleared would come back.
+    if (site->host.former != nullptr && !m_defaults.text(*site->host.former).isEmpty())
+        m_defaults.setText(*site->host.former, QString());
 }
 
 void InfoSites::storeTemplate(const QString& text)
@@ -87,13 +91,21 @@ void InfoSites::storeTemplate(const QString& text)
 void InfoSites::settingChanged(const QString& name)
 {
     const bool isOfSite = name.isEmpty() || name == keys::Rominfosite.name
-        || name == keys::VisitedRomPath.name || name.startsWith(QLatin1StringView("InfositeHost"));
+        || name == keys::VisitedRomPath.name || isHostSetting(name);
     if (isOfSite)
         infositeAction();
 }
 
+SettingReader InfoSites::settingReader() const
+{
+    return [this](const ChosenKey& key) { return m_defaults.text(key); };
+}
+
 void InfoSites::openROMinfo(const QString& name)
 {
+    const InformationSite* site = siteAt(m_defaults.index(keys::Rominfosite));
+    if (!name.isEmpty() && site != nullptr && hostText(site->host, settingReader()).isEmpty())
+        Q_EMIT statusMessage(qtTrId("infosite_no_host").arg(site->number));
     const auto page = name.isEmpty() ? std::nullopt : gamePage(m_template, name);
     if (!page || !m_desktop.openUrl(*page))
         m_desktop.beep();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/sitehost.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -22,16 +24,21 @@ public:
     InfoPage* makePage();
     /// The template in use.
     QString rominfo() const { return m_template; }
-    /// Opens the chosen site's page for a set in the web browser; beeps where there is none.
+    /// Opens the chosen site's page for a set in the web browser; beeps where there is none. Only the web is
+    /// opened so, by http or https: a template is text that comes from anywhere.
     void openROMinfo(const QString& name);
 
 public Q_SLOTS:
     /// Takes the template of the chosen site.
     void infositeAction();
-    /// Opens the address in the URL field.
+    /// Opens the address in the URL field, where it is one of the web as well.
     void openURL();
 
+Q_SIGNALS:
+    void statusMessage(const QString& text);
+
 private:
+    SettingReader settingReader() const;
     bool isOwnSite() const;
     void showTemplate();
     void storeHost(const QString& host);

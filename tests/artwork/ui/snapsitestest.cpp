@@ -78,10 +78,30 @@ private Q_SLOTS:
         choose(2);
         QVERIFY(m_page->hostField->isEnabled());
         QTest::keyClicks(m_page->hostField, QStringLiteral("three.test"));
-        QCOMPARE(m_staging->defaults.text(keys::SnapsiteHost3), QStringLiteral("three.test"));
+        QCOMPARE(m_staging->defaults.text(keys::InfositeHost5), QStringLiteral("three.test"));
         QVERIFY(fields().constFirst().startsWith(QStringLiteral("http://three.test/maws/")));
         choose(3);
         QVERIFY(!m_page->hostField->isEnabled());
+    }
+
+    // The web site that gives information, too; what was stored for the pictures alone serves for both.
+    void theFirstAndTheThirdSiteHaveTheHostsOfTheInformation()
+    {
+        choose(0);
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("one.test"));
+        m_staging->defaults.setText(keys::InfositeHost1, QStringLiteral("shared.test"));
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("shared.test"));
+        QVERIFY(fields().constFirst().startsWith(QStringLiteral("http://shared.test/")));
+        m_page->hostField->selectAll();
+        QTest::keyClick(m_page->hostField, Qt::Key_Delete);
+        QCOMPARE(m_page->hostField->text(), QString());
+        QCOMPARE(m_sites->siteWithoutHost(), std::optional(1));
+        m_staging->defaults.setText(keys::InfositeHost5, QStringLiteral("five.test"));
+        choose(2);
+        QVERIFY(fields().constFirst().startsWith(QStringLiteral("http://five.test/")));
+        QVERIFY(!m_sites->siteWithoutHost());
+        choose(3);
+        QVERIFY(!m_sites->siteWithoutHost());
     }
 
     void theResetTakesTheFirstSite()
