@@ -4,6 +4,7 @@
 #include "app/mainwindow.h"
 #include "app/tessera_appdelegate.h"
 #include "artwork/artworkkinds.h"
+#include "core/failure.h"
 
 #include <QAbstractItemView>
 #include <QActionGroup>
@@ -37,7 +38,7 @@ void ArtworkDesk::fillKinds(QMenu& menu)
 {
     auto* group = new QActionGroup(&menu);
     for (int position = 0; const ArtworkKind& kind : artworkKinds) {
-        QAction* item = group->addAction(menu.addAction(qtTrId(kind.label)));
+        QAction* item = group->addAction(menu.addAction(kind.label));
         item->setCheckable(true);
         connect(item, &QAction::triggered, &m_folder, [this, position] { m_folder.setKind(position); });
         ++position;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/failure.h"
 #include "core/settingskeys.h"
 
 #include <array>
@@ -10,7 +9,7 @@ namespace tessera {
 
 /// What a picture of a game shows.
 struct ArtworkKind {
-    const char* label; ///< the key of its text
+    QLatin1StringView label; ///< the same in every language
     const ChosenKey* folder;
     const ChosenKey* downloadTemplate; ///< the user's own
 };
@@ -18,9 +17,9 @@ struct ArtworkKind {
 /// By the position in the pop-up, which the settings hold.
 // clang-format off
 inline constexpr std::array<ArtworkKind, 3> artworkKinds{{
-    {textKey("artwork_snapshot"), &keys::SnapPath,       &keys::snapdownloadPath},
-    {textKey("artwork_title"),    &keys::TitlesnapPath,  &keys::titlessdownloadPath},
-    {textKey("artwork_flyer"),    &keys::GameflyersPath, &keys::flyersdownloadPath},
+    {QLatin1StringView("Snapshot"),       &keys::SnapPath,       &keys::snapdownloadPath},
+    {QLatin1StringView("Title Snapshot"), &keys::TitlesnapPath,  &keys::titlessdownloadPath},
+    {QLatin1StringView("Game Flyer"),     &keys::GameflyersPath, &keys::flyersdownloadPath},
 }};
 
 /// Which kind's folder the menu items open, by their tags; the first two are deliberately the same.

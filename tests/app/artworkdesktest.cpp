@@ -20,6 +20,7 @@
 #include "favourites/ui/favouritestable.h"
 #include "launch/ui/filespage.h"
 #include "launch/ui/folderproposal.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "widgets/pathfield.h"
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
 
     void theStartShowsWhatIsSelected()
     {
-        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_snapshot"));
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("Snapshot"));
         QCOMPARE(artwork().folder().snappath(), m_staged->path("snap"));
     }
 
@@ -112,12 +113,12 @@ private Q_SLOTS:
         m_staged->app->windowMini();
         mainPane().buttonShot->click();
         mainPane().buttonShot->click();
-        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_flyer"));
-        QCOMPARE(m_staged->app->mini().window().shotTextField2->text(), QStringLiteral("artwork_flyer"));
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("Game Flyer"));
+        QCOMPARE(m_staged->app->mini().window().shotTextField2->text(), QStringLiteral("Game Flyer"));
         QTRY_COMPARE(mainPane().imageView->image().size(), QSize(30, 40));
         QCOMPARE(m_staged->desktop.takeTranscript(), (QStringList{"sound typing", "sound typing"}));
         action("menu_nextkind")->trigger();
-        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("artwork_snapshot"));
+        QCOMPARE(mainPane().shotTextField->text(), QStringLiteral("Snapshot"));
     }
 
     void theKindsMenuChecksTheOneThatIsShown()
@@ -212,8 +213,25 @@ private Q_SLOTS:
         QVERIFY(m_staged->desktop.takeTranscript().contains(QStringLiteral("sound Pop")));
     }
 
-    void aDownloadWithoutASiteIsAnError()
+    void aSiteWithoutAHostIsNamed()
     {
+        select("pong");
+        const test::InstalledTexts texts("en");
+        m_staged->app->snapdownload();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"beep"});
+        QVERIFY(says("Picture site 1 has no host yet: Preferences › Support › Pictures."));
+        m_staged->app->openROMinfo();
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"beep"});
+        QVERIFY(says("Information site 1 has no host yet: Preferences › Support › Information sites."));
+    }
+
+    // The second site has none.
+    void aDownloadWithoutATemplateIsAnError()
+    {
+        m_staged->defaults.setValue(keys::Snapdownsite.name, 1);
+        m_staged->defaults.setValue(keys::SnapsiteHost2.name, QStringLiteral("two.test"));
+        m_staged->defaults.setValue(keys::Screenfolder.name, 2);
+        m_staged->app->artwork().folder().Setsnapfolder();
         select("pong");
         m_staged->desktop.answerAlert(QStringLiteral("download_Miss"), 0);
         m_staged->app->snapdownload();
@@ -270,7 +288,37 @@ private Q_SLOTS:
         QVERIFY(mainPane().minimumHeight() == 173);
     }
 
+    void theLabelsAreTheSameInEveryLanguage()
+    {
+        m_staged.reset();
+        const test::InstalledTexts texts("ja");
+        m_staged = std::make_unique<StagedApp>();
+        m_staged->writeCatalogue();
+        m_staged->start();
+        const QStringList labels{"Snapshot", "Title Snapshot", "Game Flyer"};
+        m_staged->app->windowMini();
+        for (const QString& label : labels) {
+            QCOMPARE(mainPane().shotTextField->text(), label);
+            QCOMPARE(m_staged->app->mini().window().shotTextField2->text(), label);
+            m_staged->app->ChangesnapPop();
+        }
+        m_staged->app->showPrefsWindow();
+        const auto* page = m_staged->app->preferencesWindow().findChild<PicturesPage*>();
+        for (int kind = 0; kind < 3; ++kind) {
+            QCOMPARE(mainPane().buttonShot->menu()->actions().at(kind)->text(), labels[kind]);
+            QCOMPARE(page->screenfolderPop->itemText(kind), labels[kind]);
+        }
+        m_staged->desktop.takeTranscript();
+    }
+
 private:
+    // Of the status line.
+    bool says(const QString& sentence)
+    {
+        const auto labels = m_staged->app->mainWindow().findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [&](const QLabel* each) { return each->text() == sentence; });
+    }
+
     ArtworkDesk& artwork() { return m_staged->app->artwork(); }
     PicturePane& mainPane() { return *m_staged->app->mainWindow().sidePanel->picturePane; }
     void select(const char* name) { QVERIFY(m_staged->app->gameList().selectGame(QLatin1String(name))); }

@@ -15,9 +15,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("downloadTemplate");
-        QTest::newRow("snapshot") << 0 << "artwork_snapshot" << "SnapPath" << "snapdownloadPath";
-        QTest::newRow("title") << 1 << "artwork_title" << "TitlesnapPath" << "titlessdownloadPath";
-        QTest::newRow("flyer") << 2 << "artwork_flyer" << "GameflyersPath" << "flyersdownloadPath";
+        QTest::newRow("snapshot") << 0 << "Snapshot" << "SnapPath" << "snapdownloadPath";
+        QTest::newRow("title") << 1 << "Title Snapshot" << "TitlesnapPath" << "titlessdownloadPath";
+        QTest::newRow("flyer") << 2 << "Game Flyer" << "GameflyersPath" << "flyersdownloadPath";
     }
 
     void everyKindHasItsLabelAndSettings()

@@ -1,6 +1,7 @@
 #include "artwork/ui/picturespage.h"
 
 #include "artwork/picturesites.h"
+#include "core/failure.h"
 #include "widgets/boundcontrols.h"
 
 #include <QCheckBox>
@@ -42,7 +43,7 @@ void PicturesPage::addView(DefaultsController& defaults)
 {
     screenfolderPop->setObjectName(QStringLiteral("screenfolderPop"));
     for (const ArtworkKind& kind : artworkKinds)
-        screenfolderPop->addItem(qtTrId(kind.label));
+        screenfolderPop->addItem(kind.label);
     bind(*screenfolderPop, defaults, keys::Screenfolder);
     addRow(qtTrId("pictures_kind"), screenfolderPop);
     bind(*checkboxSuppress, defaults, keys::Suppress_PS);

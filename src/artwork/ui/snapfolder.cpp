@@ -31,7 +31,7 @@ void SnapFolder::Setsnapfolder()
 {
     if (const ArtworkKind* shown = artworkKind(kind())) {
         m_snappath = m_defaults.text(*shown->folder);
-        m_label = qtTrId(shown->label);
+        m_label = shown->label;
         Q_EMIT labelChanged(m_label);
     }
     Q_EMIT picturesChanged();

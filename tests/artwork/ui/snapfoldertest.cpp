@@ -28,9 +28,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("label");
-        QTest::newRow("snapshot") << 0 << "snap" << "artwork_snapshot";
-        QTest::newRow("title") << 1 << "titles" << "artwork_title";
-        QTest::newRow("flyer") << 2 << "flyers" << "artwork_flyer";
+        QTest::newRow("snapshot") << 0 << "snap" << "Snapshot";
+        QTest::newRow("title") << 1 << "titles" << "Title Snapshot";
+        QTest::newRow("flyer") << 2 << "flyers" << "Game Flyer";
     }
 
     void eachKindHasItsFolderAndLabel()
