@@ -49,6 +49,11 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
 
 FavoritesDesk::~FavoritesDesk() = default;
 
+bool FavoritesDesk::isShown() const
+{
+    return m_window && m_window->isVisible();
+}
+
 FavoritesWindow& FavoritesDesk::window()
 {
     if (m_window)

@@ -35,6 +35,7 @@ public:
 
     /// Made when it is first asked for.
     FavoritesWindow& window();
+    bool isShown() const;
     /// Where it was made, what it looks like goes into the settings.
     void remember();
     UCAppController& controller() { return m_controller; }

@@ -185,12 +185,21 @@ void InfoDesk::show(const QString& name, const QString& key)
         showBesides(shown);
 }
 
+// Lists tell of their selection again where only its picture is another, and the hidden one of the two does
+// so too: neither is a step of the user's.
 void InfoDesk::follow(KeyWindow::Kind list)
 {
-    if (!m_window || !m_window->isVisible() || !m_defaults.defaults().flag(keys::HistoryFollows.name))
-        return;
     const auto asked = std::ranges::find(m_subjects, list, &Subject::window);
-    m_history->followTo(asked->name(), asked->key());
+    const QString name = asked->name();
+    if (std::exchange(m_names[list], name) == name || !isShown(list))
+        return;
+    if (m_window && m_window->isVisible() && m_defaults.defaults().flag(keys::HistoryFollows.name))
+        m_history->followTo(name, asked->key());
+}
+
+bool InfoDesk::isShown(KeyWindow::Kind list) const
+{
+    return list == Kind::Main ? m_hub.mainWindow().isVisible() : m_hub.favorites().isShown();
 }
 
 // No set is meant in any other window.

@@ -66,12 +66,14 @@ private:
     const Subject* subject() const;
     void show(const QString& name, const QString& key);
     void follow(KeyWindow::Kind list);
+    bool isShown(KeyWindow::Kind list) const;
 
     Tessera_AppDelegate& m_hub;
     Desktop& m_desktop;
     DefaultsController& m_defaults;
     std::function<void(HistoryWindow& window)> m_made;
     std::vector<Subject> m_subjects;
+    QHash<KeyWindow::Kind, QString> m_names; ///< that each list had selected last
     std::unique_ptr<HistoryWindow> m_window;
     std::unique_ptr<HistoryObject> m_history;
     std::unique_ptr<InfoSites> m_sites;

@@ -1,5 +1,6 @@
 #include "stagedapp.h"
 
+#include "app/artworkdesk.h"
 #include "app/biosdesk.h"
 #include "app/favoritesdesk.h"
 #include "app/favoriteswindow.h"
@@ -10,6 +11,7 @@
 #include "app/preferenceswindow.h"
 #include "app/sidepanel.h"
 #include "bios/ui/biosmodel.h"
+#include "artwork/ui/downloadprocessing.h"
 #include "bios/ui/biospanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -21,10 +23,12 @@
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
 #include "info/ui/sitechoice.h"
+#include "launch/ui/filespage.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/pathchooser.h"
 #include "support/testmain.h"
 #include "widgets/bringforward.h"
+#include "widgets/pathfield.h"
 
 #include <QAction>
 #include <QApplication>
@@ -38,6 +42,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 #include <QTreeView>
+#include <QTimer>
 
 using namespace tessera;
 using test::StagedApp;
@@ -319,13 +324,80 @@ private Q_SLOTS:
         m_staged->app->gameList().selectGame("pong");
         m_staged->app->searchHistoryinfo();
         shows("Bats.");
+        // What is followed is in the field at once.
         m_staged->app->gameList().selectGame("qix");
-        QTest::qWait(200);
-        shows("Bats.");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
         history().followBox->click();
         m_staged->app->gameList().selectGame("pong");
         m_staged->app->gameList().selectGame("qix");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
         shows("Lines.");
+    }
+
+    void itFollowsTheListThatIsShown()
+    {
+        followBeside();
+        m_staged->app->windowFavorites();
+        GameTableView& table = *m_staged->app->favorites().window().favoritesTable;
+        table.selectRow(1);
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
+        m_staged->app->gameList().selectGame("1943");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
+        table.selectRow(0);
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
+        m_staged->app->windowMain();
+        m_staged->app->gameList().selectGame("qix");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
+    }
+
+    // What makes the lists tell of the selection that they have.
+    void anotherPictureIsNotFollowed_data()
+    {
+        QTest::addColumn<int>("event");
+        QTest::newRow("another kind") << 0;
+        QTest::newRow("a finished download") << 1;
+        QTest::newRow("a new favourite") << 2;
+        QTest::newRow("the window again") << 3;
+    }
+
+    void anotherPictureIsNotFollowed()
+    {
+        QFETCH(int, event);
+        followBeside();
+        m_staged->app->gameList().selectGame("pong");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
+        shows("Bats.");
+        // What somebody typed stays, too.
+        history().historySearchField->setText("galaxian");
+        QTest::keyClick(history().historySearchField, Qt::Key_Return);
+        shows("Aliens.");
+        if (event == 0)
+            m_staged->app->ChangesnapPop();
+        else if (event == 1)
+            Q_EMIT m_staged->app->artwork().download().SnapChange(QStringLiteral("downloadDidFinish"));
+        else if (event == 2)
+            m_staged->app->addFavorite();
+        else
+            m_staged->app->windowMain();
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("galaxian"));
+        QVERIFY(m_staged->app->info().history().findChild<QTimer*>() != nullptr);
+        QVERIFY(!m_staged->app->info().history().findChild<QTimer*>()->isActive());
+        m_staged->desktop.takeTranscript();
+    }
+
+    void aTypedPathIsReadAtOnce()
+    {
+        m_staged->app->gameList().selectGame("pong");
+        m_staged->app->searchHistoryinfo();
+        shows("Bats.");
+        write("other.dat", "$info=pong\r\n$bio\r\nTwo bats.\r\n$end\r\n");
+        m_staged->app->showPrefsWindow();
+        QLineEdit* field = m_staged->app->preferencesWindow().findChild<FilesPage*>()->historyPath->field();
+        field->selectAll();
+        QTest::keyClicks(field, m_staged->path("other.dat"));
+        QTRY_VERIFY(!m_staged->app->info().history().isLoading());
+        m_staged->app->info().searchHistoryinfo_menu(2);
+        shows("Two bats.");
     }
 
     void aChosenFileIsReadAnew()
@@ -397,6 +469,22 @@ private Q_SLOTS:
     }
 
 private:
+    /// The history of "galaga" beside the main window, which has it selected; of two favourites, pong and
+    /// qix, the second one is selected.
+    void followBeside()
+    {
+        for (const char* each : {"pong", "qix"}) {
+            m_staged->app->gameList().selectGame(QString::fromLatin1(each));
+            m_staged->app->addFavorite();
+        }
+        m_staged->app->favorites().window().favoritesTable->selectRow(1);
+        m_staged->app->gameList().selectGame("galaga");
+        m_staged->app->searchHistoryinfo();
+        shows("Aliens.");
+        history().followBox->click();
+        QVERIFY(m_staged->app->mainWindow().isVisible());
+    }
+
     HistoryWindow& history() { return m_staged->app->info().window(); }
 
     void shows(const char* words)
