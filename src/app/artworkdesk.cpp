@@ -106,6 +106,8 @@ void ArtworkDesk::joinMini(MiniWindow& window)
     m_mini->showSelection();
 }
 
+// Deliberate: where the mini window is key, its set is shown in the file manager, opened and downloaded, not
+// the hidden list's: what a command acts on is what is seen.
 ArtworkDesk::Shown& ArtworkDesk::shown()
 {
     using Kind = KeyWindow::Kind;

@@ -62,6 +62,7 @@ bool PictureDownload::start(const QUrl& url, const QString& folder)
     if (isUnderWay())
         return false;
     m_job = std::make_shared<Job>();
+    // Deliberate: that of the request. Another kind of picture may be shown by the time the answer comes.
     m_job->folder = folder;
     const std::weak_ptr<Job> job = m_job;
     Q_EMIT began(url);

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <QTimer>
 
 namespace tessera {
 
@@ -20,10 +21,11 @@ constexpr int settled = 40; // milliseconds without another picture or size
 AspectView::AspectView(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent)
     , m_defaults(defaults)
+    , m_refining(new QTimer(this))
 {
-    m_refining.setSingleShot(true);
-    m_refining.setInterval(settled);
-    connect(&m_refining, &QTimer::timeout, this, &AspectView::refine);
+    m_refining->setSingleShot(true);
+    m_refining->setInterval(settled);
+    connect(m_refining, &QTimer::timeout, this, &AspectView::refine);
     setProperty("role", QStringLiteral("picture"));
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);
@@ -106,7 +108,7 @@ void AspectView::drawPicture(QPainter& painter, const QRect& drawn)
         painter.setRenderHint(QPainter::SmoothPixmapTransform, !isEven);
         painter.drawImage(QRect(QPoint(), drawn.size()), m_image);
         if (!isEven)
-            m_refining.start();
+            m_refining->start();
     }
     painter.restore();
 }

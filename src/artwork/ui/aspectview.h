@@ -4,8 +4,9 @@
 
 #include <QImage>
 #include <QPixmap>
-#include <QTimer>
 #include <QWidget>
+
+class QTimer;
 
 namespace tessera {
 
@@ -50,7 +51,7 @@ private:
     QImage m_image;
     /// It is drawn at once as fast as that goes, and as well as it goes when nothing else has come since.
     QPixmap m_scaled;
-    QTimer m_refining;
+    QTimer* m_refining;
     WindowDrag m_drag;
 };
 

@@ -22,8 +22,6 @@ public:
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.
     void load(const QString& path);
-    /// Nothing is wanted any more.
-    void forget() { m_wanted.clear(); }
     /// While it is held, nothing is read; what was asked for last is read at the end.
     void setHeld(bool held);
     bool isLoading() const { return m_isReading; }

@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 #include <QStyleHints>
+#include <QTimer>
 
 using namespace tessera;
 using test::PictureStaging;
@@ -87,8 +88,11 @@ private Q_SLOTS:
         // What was to be drawn well may be gone by then.
         m_view->setImage(image({320, 240}));
         m_window->grab();
+        auto* const refining = m_view->findChild<QTimer*>();
+        QVERIFY(refining != nullptr && refining->isActive());
         m_view->setImage(QImage());
-        QTest::qWait(100);
+        QTRY_VERIFY(!refining->isActive());
+        QVERIFY(m_view->drawnRect().isEmpty());
     }
 
     void withoutAPictureNothingIsDrawn()

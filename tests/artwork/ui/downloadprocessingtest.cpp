@@ -27,6 +27,14 @@ class BusyDesktop : public test::ScriptedDesktop
 {
 public:
     std::function<void()> meanwhile;
+    std::function<void(const QString& sound)> heard;
+
+    void playSound(const QString& name) override
+    {
+        if (heard)
+            heard(name);
+        ScriptedDesktop::playSound(name);
+    }
 
     int runAlert(const Alert& alert) override
     {
@@ -94,6 +102,39 @@ private Q_SLOTS:
                 [&] { wasThere = QFile::exists(m_staging->path("snap/pong.png")); });
         download("pong");
         QVERIFY(wasThere);
+    }
+
+    void theEndComesInItsOrder()
+    {
+        serve("/pong.png", ScriptedServer::answer(png, picture));
+        QStringList events;
+        connect(m_processing.get(), &DownloadProcessing::SnapChange, m_processing.get(),
+                [&] { events << QStringLiteral("SnapChange"); });
+        connect(m_panel->infomationTextView, &QPlainTextEdit::textChanged, m_processing.get(),
+                [&] { events << m_panel->infomationTextView->toPlainText(); });
+        m_desktop->heard = [&](const QString& sound) { events << sound; };
+        download("pong");
+        events.removeAll(QString());
+        QCOMPARE(events.mid(events.size() - 3),
+                 (QStringList{"SnapChange", "Snap Download:  100 byte  Finish.\n", "Pop"}));
+    }
+
+    void aServerMayBeSilentForTenSeconds()
+    {
+        QCOMPARE(DownloadLimits().silence, std::chrono::milliseconds(10'000));
+    }
+
+    void theIndicatorIsBusyUntilTheErrorIsDismissed()
+    {
+        m_staging->defaults.setText(keys::snapdownloadPath, QStringLiteral("http://127.0.0.1:9/{$gamename}"));
+        m_sites->snapdownsiteAction();
+        bool wasBusy = false;
+        m_desktop->meanwhile = [&] { wasBusy = m_panel->progressInd2->maximum() == 0; };
+        m_desktop->answerAlert(QStringLiteral("download_Miss"), 0);
+        download("pong");
+        QVERIFY(wasBusy);
+        QCOMPARE(m_panel->progressInd2->maximum(), 100);
+        m_desktop->takeTranscript();
     }
 
     void withoutALengthTheProgressStaysAsItIs()

@@ -85,14 +85,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_loaded, QStringList{"failed " + m_staging.path("none.png")});
     }
 
-    void whatIsForgottenIsNotToldOf()
-    {
-        m_loader->load(m_staging.paint("one.png"));
-        m_loader->forget();
-        QTRY_VERIFY(!m_loader->isLoading());
-        QVERIFY(m_loaded.isEmpty());
-    }
-
     void whileItIsHeldNothingIsRead()
     {
         m_loader->setHeld(true);
