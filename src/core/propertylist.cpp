@@ -158,6 +158,12 @@ std::optional<QString> PropertyList::text(const char* key) const
     return value == nullptr ? std::nullopt : shownText(value);
 }
 
+std::optional<QString> PropertyList::string(const char* key) const
+{
+    const plist_t value = plist_dict_get_item(m_node.get(), key);
+    return value != nullptr && plist_get_node_type(value) == PLIST_STRING ? shownText(value) : std::nullopt;
+}
+
 void PropertyList::setText(const char* key, const QString& text)
 {
     plist_dict_set_item(m_node.get(), key, plist_new_string(text.toUtf8().constData()));

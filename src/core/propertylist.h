@@ -35,6 +35,8 @@ public:
     /// What a dictionary holds under a key, as a text; a number, a date (2026-01-02T03:04:05Z) or a boolean
     /// is written out. Nothing where there is no such key, or no text for its value.
     std::optional<QString> text(const char* key) const;
+    /// The same of a string alone: nothing for a number, a date or a boolean.
+    std::optional<QString> string(const char* key) const;
     void setText(const char* key, const QString& text);
     /// A copy of what a dictionary holds under a key.
     std::optional<PropertyList> value(const char* key) const;

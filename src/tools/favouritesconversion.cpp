@@ -40,7 +40,7 @@ std::expected<QStringList, Failure> oldFavourites(const QString& path)
     for (const PropertyList& entry : list->items()) {
         if (entry.kind() != PropertyList::Kind::Dictionary)
             continue;
-        if (const auto name = entry.text(setKey))
+        if (const auto name = entry.string(setKey))
             names << *name;
     }
     return names;

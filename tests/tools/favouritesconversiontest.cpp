@@ -47,8 +47,13 @@ private Q_SLOTS:
             "<array><string>pong</string><dict><key>romid</key><string>qix</string></dict>"
             "</array>",
             {"qix"});
-        row("a number for a name", "<array><dict><key>romid</key><integer>1942</integer></dict></array>",
-            {"1942"});
+        row("what is no string",
+            "<array><dict><key>romid</key><integer>1942</integer></dict>"
+            "<dict><key>romid</key><true/></dict><dict><key>romid</key><real>1.5</real></dict>"
+            "<dict><key>romid</key><date>2026-01-02T03:04:05Z</date></dict>"
+            "<dict><key>romid</key><array><string>pong</string></array></dict>"
+            "<dict><key>romid</key><string>1943</string></dict></array>",
+            {"1943"});
     }
 
     void setNamesComeInTheirOrder()
