@@ -46,11 +46,17 @@ bool isWhiteSpace(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
+std::string_view withoutWhiteSpace(std::string_view text)
+{
+    return text.substr(
+        static_cast<std::size_t>(std::ranges::find_if_not(text, &isWhiteSpace) - text.begin()));
+}
+
 // Words are short, and what follows them is long.
 template <class Take>
 void takeFirstWords(std::string_view text, Take take)
 {
-    while (!(text = withoutIndent(text)).empty()) {
+    while (!(text = withoutWhiteSpace(text)).empty()) {
         std::size_t end = 0;
         while (end < text.size() && text[end] != ' ' && text[end] != '\n')
             ++end;
@@ -111,10 +117,7 @@ std::string printedText(std::string bytes)
 
 std::string_view withoutIndent(std::string_view text)
 {
-    std::size_t indent = 0;
-    while (indent < text.size() && isWhiteSpace(text[indent]))
-        ++indent;
-    return text.substr(indent);
+    return text.substr(std::min(text.find_first_not_of(" \t\n"), text.size()));
 }
 
 std::vector<std::string_view> firstWords(std::string_view text)

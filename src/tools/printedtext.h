@@ -18,7 +18,7 @@ std::expected<std::string, Failure> readPrinted(const QString& path);
 /// Text of such bytes; what is none becomes U+FFFD.
 std::string printedText(std::string bytes);
 
-/// Without the white space at its start.
+/// Without the blanks, tabs and line feeds at its start. A carriage return is a part of its line.
 std::string_view withoutIndent(std::string_view text);
 
 /// The first word of every line that has one, in order: up to the first blank, white space before it skipped.

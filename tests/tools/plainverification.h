@@ -34,7 +34,7 @@ inline QString plainVerification(const QString& text, const QSet<QString>& chose
             continue;
         int count = 0;
         for (QString line : text.split(QLatin1Char('\n'))) {
-            while (!line.isEmpty() && line.front().isSpace())
+            while (line.startsWith(QLatin1Char(' ')) || line.startsWith(QLatin1Char('\t')))
                 line.remove(0, 1);
             const bool belongs = rule.words == nullptr ? line.endsWith(QStringLiteral("NOT FOUND"))
                                                        : line.contains(QLatin1String(rule.words));

@@ -144,6 +144,8 @@ private Q_SLOTS:
         row("cut off", "a - NOT FOUN", "notfound", "");
         row("blank lines", "\n\n  \n\ta is bad\n\n\n", "isbad", "a is bad\n");
         row("white space before a line", "  \t a is bad \n", "isbad", "a is bad \n");
+        row("a carriage return is no blank", "\r  a is bad\n", "isbad", "\r  a is bad\n");
+        row("nor are other spaces", "\v\f a is bad\n \ra is bad\n", "isbad", "\v\f a is bad\n\ra is bad\n");
         row("capitals matter", "a Is Bad\nb IS BAD\n", "isbad", "");
         row("anywhere in a word", "this badly is badly\n", "isbad", "this badly is badly\n");
         row("not over two lines", "a is\nbad\n", "isbad", "");
