@@ -21,6 +21,16 @@
     <message id="convert_button"><source></source><translation>&amp;Convert</translation></message>
     <message id="convert_not_read"><source></source><translation>“%1” could not be read: %2.</translation></message>
     <message id="convert_has_nul"><source></source><translation>The list holds NUL bytes, which no emulator prints. Perhaps it was saved as UTF-16; save it as UTF-8.</translation></message>
+    <message id="convert_cut_off"><source></source><translation>The list is cut off within “%1”: what stands before that set was converted.</translation></message>
+    <message id="convert_too_long"><source></source><translation>The element of “%1” is larger than 64 MB: what stands before that set was converted.</translation></message>
+    <message id="build_cut_off_in"><source></source><translation>The list that “%1” printed is cut off within “%2”. The catalogue was not changed.</translation></message>
+    <message id="build_too_long"><source></source><translation>In the list of “%1” the element of “%2” is larger than 64 MB. The catalogue was not changed.</translation></message>
+    <message id="tool_undone"><source></source><translation>The tool was stopped when its window was closed; it had not ended, and nothing of it was kept.</translation></message>
+    <message id="tool_close_Message"><source></source><translation>Stop the tool that is at work?</translation></message>
+    <message id="tool_close_info"><source></source><translation>It has not ended yet. What it still had to do would be left undone.</translation></message>
+    <message id="tool_close_stay"><source></source><translation>Let It Go On</translation></message>
+    <message id="tool_close_stop"><source></source><translation>Stop and Close</translation></message>
+    <message id="separation_undone"><source></source><translation>The separation was stopped when its window was closed, after %1 of %2 files and folders.</translation></message>
     <message id="convert_too_large"><source></source><translation>The list cannot be converted: the catalogue would be larger than 2 GiB.</translation></message>
     <message id="build_missing"><source></source><translation>There is no emulator at “%1”.</translation></message>
     <message id="build_is_folder"><source></source><translation>“%1” is a folder, not an emulator.</translation></message>

@@ -21,6 +21,16 @@
     <message id="convert_button"><source></source><translation>変換(&amp;C)</translation></message>
     <message id="convert_not_read"><source></source><translation>“%1”を読み込めませんでした: %2</translation></message>
     <message id="convert_has_nul"><source></source><translation>リストに NUL バイトが含まれています。エミュレータの出力にはないものです。UTF-16 で保存された可能性があります。UTF-8 で保存し直してください。</translation></message>
+    <message id="convert_cut_off"><source></source><translation>一覧は“%1”の途中で切れています。その前のセットまで変換しました。</translation></message>
+    <message id="convert_too_long"><source></source><translation>“%1”の要素が64 MBを超えています。その前のセットまで変換しました。</translation></message>
+    <message id="build_cut_off_in"><source></source><translation>“%1”が出力した一覧は“%2”の途中で切れています。カタログは変更されていません。</translation></message>
+    <message id="build_too_long"><source></source><translation>“%1”の一覧で“%2”の要素が64 MBを超えています。カタログは変更されていません。</translation></message>
+    <message id="tool_undone"><source></source><translation>ウインドウが閉じられたため、ツールは途中で停止しました。結果は残っていません。</translation></message>
+    <message id="tool_close_Message"><source></source><translation>実行中のツールを停止しますか？</translation></message>
+    <message id="tool_close_info"><source></source><translation>まだ終わっていません。残りの作業は行われません。</translation></message>
+    <message id="tool_close_stay"><source></source><translation>続ける</translation></message>
+    <message id="tool_close_stop"><source></source><translation>停止して閉じる</translation></message>
+    <message id="separation_undone"><source></source><translation>ウインドウが閉じられたため、仕分けは %2 件中 %1 件で停止しました。</translation></message>
     <message id="convert_too_large"><source></source><translation>リストを変換できません。カタログが 2 GiB を超えてしまいます。</translation></message>
     <message id="build_missing"><source></source><translation>“%1”にエミュレータがありません。</translation></message>
     <message id="build_is_folder"><source></source><translation>“%1”はフォルダーで、エミュレータではありません。</translation></message>

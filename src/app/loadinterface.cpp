@@ -415,6 +415,7 @@ UtilityObject& Tessera_AppDelegate::utility()
         connect(m_utility->utilityWindow().scriptPage->button_launcher, &QPushButton::clicked, this,
                 &Tessera_AppDelegate::saveLauncher);
         connect(m_utility.get(), &UtilityObject::statusMessage, m_mainWindow.get(), &MainWindow::say);
+        connect(m_utility.get(), &UtilityObject::statusWithdrawn, m_mainWindow.get(), &MainWindow::takeBack);
         m_places.keep(m_utility->utilityWindow(), keys::UtilityWindowGeometry.name.data());
     }
     return *m_utility;

@@ -189,6 +189,12 @@ void MainWindow::say(const QString& sentence)
     m_message->setToolTip(plainToolTip(sentence));
 }
 
+void MainWindow::takeBack(const QString& sentence)
+{
+    if (m_message->text() == sentence)
+        say(QString());
+}
+
 void MainWindow::showEmulator(const QString& text)
 {
     m_emulator->setText(text);

@@ -57,6 +57,8 @@ public:
     void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
     /// Says a thing once in the status line; it stays until the next one.
     void say(const QString& sentence);
+    /// Says nothing, where that was the last sentence.
+    void takeBack(const QString& sentence);
     void showEmulator(const QString& text);
     /// `sentence` says what runs.
     void setRunning(bool running, const QString& sentence);

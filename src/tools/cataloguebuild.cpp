@@ -134,6 +134,10 @@ void CatalogueBuild::read()
         if (const auto taken = m_converter->extend(static_cast<std::size_t>(count)); !taken) {
             m_failure = taken.error();
             m_process.kill();
+        } else if (const auto& stopped = m_converter->stopped()) {
+            // Half a catalogue is not wanted: the rest need not be waited for.
+            m_failure = Failure{"build_too_long", {m_emulator, stopped->set}};
+            m_process.kill();
         }
     }
     if (m_converter->games() != before && !m_isCancelled)
@@ -182,6 +186,8 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
     const auto list = m_converter->finish();
     if (!list)
         return std::unexpected(list.error());
+    if (list->stopped)
+        return std::unexpected(Failure{"build_cut_off_in", {m_emulator, list->stopped->set}});
     if (list->games == 0)
         return std::unexpected(Failure{"build_no_list", {m_emulator}});
     if (!list->isWhole)

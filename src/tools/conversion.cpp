@@ -51,7 +51,8 @@ std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter
     return converter.finish();
 }
 
-// Nothing where the part cannot stand alone: it failed, or holds what concerns the whole text.
+// Nothing where the part cannot stand alone: it failed or was not converted to its end, or it holds what
+// concerns the whole text.
 std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint64 end,
                                          ListxmlConverter& converter, const ConversionWatch& watch)
 {
@@ -60,8 +61,9 @@ std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint6
         || !feed(converter, file, end, watch) || converter.shouldBeginAgain() || converter.needsRest())
         return std::nullopt;
     auto list = converter.finish();
-    return list && !converter.shouldBeginAgain() && !converter.needsRest() ? std::optional(std::move(*list))
-                                                                           : std::nullopt;
+    const bool standsAlone
+        = list && !list->stopped && !converter.shouldBeginAgain() && !converter.needsRest();
+    return standsAlone ? std::optional(std::move(*list)) : std::nullopt;
 }
 
 // The parts beside each other, a thread each. Nothing where one of them cannot stand alone.
@@ -96,6 +98,12 @@ std::optional<ConvertedList> convertParts(const QString& path, const ListxmlPart
 QString conversionReport(std::size_t games)
 {
     return QString(conversiontexts::finished).arg(games);
+}
+
+Failure stopReason(const StoppedAt& stopped)
+{
+    const bool isCutOff = stopped.why == StoppedAt::Why::CutOff;
+    return Failure{isCutOff ? textKey("convert_cut_off") : textKey("convert_too_long"), {stopped.set}};
 }
 
 std::expected<TitleTable, Failure> readTitles(const QString& path)

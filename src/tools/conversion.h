@@ -22,6 +22,8 @@ inline constexpr QLatin1StringView logged("Search end.");
 } // namespace conversiontexts
 
 QString conversionReport(std::size_t games);
+/// Why not all of a list was converted.
+Failure stopReason(const StoppedAt& stopped);
 
 /// Who watches a conversion. Once somebody asks to stop, what comes is of no use.
 struct ConversionWatch {

@@ -13,15 +13,28 @@ namespace tessera {
 
 namespace {
 
-// The largest element of a real list has about 2 MB: one that does not end is none.
-constexpr std::size_t elementLimit = std::size_t{64} << 20;
+// The end of an element is seen so many bytes later at most.
+constexpr std::size_t longestLag = 4096;
 
 constexpr std::string_view unknown = "????";
 constexpr std::size_t lastBytesKept = 256;
+constexpr std::size_t longestName = 100; // in a message
 
 Failure tooLarge()
 {
     return Failure{"convert_too_large", {}};
+}
+
+// As far as it has come.
+std::string_view nameIn(std::string_view element)
+{
+    constexpr std::string_view attribute = "name=\"";
+    const std::size_t at = element.find(attribute);
+    if (at == std::string_view::npos)
+        return unknown;
+    const std::string_view rest = element.substr(at + attribute.size(), longestName);
+    // Behind the text stands the scanner's padding of line feeds.
+    return rest.substr(0, rest.find_first_of("\"\n"));
 }
 
 } // namespace
@@ -31,6 +44,7 @@ void ConvertedList::append(ConvertedList next)
     text.append(std::move(next.text));
     games += next.games;
     isWhole = next.isWhole;
+    stopped = std::move(next.stopped);
 }
 
 ListxmlConverter::ListxmlConverter(const TitleTable& titles, ConversionOptions options, ElementName name,
@@ -58,22 +72,34 @@ std::expected<void, Failure> ListxmlConverter::extend(std::size_t count)
     m_lastBytes.erase(0, m_lastBytes.size() - std::min(m_lastBytes.size(), lastBytesKept));
     if (!m_restStarts.empty())
         m_rest += piece;
-    if (held.size() > elementLimit || m_rest.size() > convertedSizeLimit)
+    if (m_rest.size() > convertedSizeLimit)
         return std::unexpected(tooLarge());
     return convertElements();
 }
 
 std::expected<void, Failure> ListxmlConverter::convertElements()
 {
-    while (const ListxmlElement* element = m_scanner.next()) {
-        if (isLeftOut(*element))
+    while (const ListxmlElement* element = m_stopped ? nullptr : m_scanner.next()) {
+        if (element->text.size() > elementLimit)
+            stopAt(element->text, StoppedAt::Why::TooLong);
+        else if (isLeftOut(*element))
             continue;
-        if (const auto written = write(readFields(*element)); !written)
+        else if (const auto written = write(readFields(*element)); !written)
             return written;
     }
+    if (!m_stopped && m_scanner.isInElement() && m_scanner.held().size() > elementLimit + longestLag)
+        stopAt(m_scanner.held(), StoppedAt::Why::TooLong);
+    if (m_stopped)
+        m_scanner.passOver();
     if (m_scanner.sawNul())
         return std::unexpected(Failure{"convert_has_nul", {}});
     return {};
+}
+
+void ListxmlConverter::stopAt(std::string_view element, StoppedAt::Why why)
+{
+    const std::string_view name = nameIn(element);
+    m_stopped = StoppedAt{why, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()))};
 }
 
 bool ListxmlConverter::isLeftOut(const ListxmlElement& element) const
@@ -164,13 +190,15 @@ std::expected<ConvertedList, Failure> ListxmlConverter::finish()
     m_scanner.end();
     if (const auto converted = convertElements(); !converted)
         return std::unexpected(converted.error());
+    if (!m_stopped && m_scanner.isInElement())
+        stopAt(m_scanner.held(), StoppedAt::Why::CutOff);
     std::vector<std::size_t> starts;
     std::string rest = copiedRest(starts);
     m_store.complete(storelayout::newUuid(), std::move(rest), std::move(starts));
     if (m_store.size() > convertedSizeLimit)
         return std::unexpected(tooLarge());
     const std::size_t games = m_store.objects();
-    return ConvertedList{std::move(m_store), games, !m_scanner.isInElement() && endsWithEndTag()};
+    return ConvertedList{std::move(m_store), games, !m_stopped && endsWithEndTag(), m_stopped};
 }
 
 } // namespace tessera

@@ -4,6 +4,8 @@
 #include "tools/listxmlscanner.h"
 #include "tools/storetext.h"
 
+#include <QString>
+
 #include <expected>
 #include <optional>
 
@@ -22,11 +24,24 @@ struct ConversionOptions {
 /// Bytes of a list or a store: nothing that is converted may be larger than positions of 32 bits reach.
 inline constexpr std::size_t convertedSizeLimit = (std::size_t{1} << 31) - 1;
 
+/// Bytes. The largest element of a real list has about 2 MB: one that does not end here is none, and the scan
+/// ends at it as at one that is cut off.
+inline constexpr std::size_t elementLimit = std::size_t{64} << 20;
+
+/// The element at which the scan of a list ended.
+struct StoppedAt {
+    enum class Why { CutOff, TooLong };
+    Why why;
+    QString set;
+};
+
 /// A complete store.
 struct ConvertedList {
     StoreText text;
     std::size_t games = 0;
-    bool isWhole = false; ///< no element was cut off, and the list ends with an end tag
+    bool isWhole = false; ///< the scan did not stop, and the list ends with an end tag
+    /// Where the scan ended before the list's end; what came before is in the text.
+    std::optional<StoppedAt> stopped;
 
     /// The part of the list that follows.
     void append(ConvertedList next);
@@ -52,12 +67,15 @@ public:
     std::size_t games() const { return m_store.objects(); }
     /// A value is all that follows in the whole text: what was fed must be its end.
     bool needsRest() const { return !m_restStarts.empty(); }
+    /// The scan has ended already.
+    const std::optional<StoppedAt>& stopped() const { return m_stopped; }
     /// Elements were taken to be called "machine", but a "<game " stands in the text as well: one that can be
     /// read again is begun again with that name.
     bool shouldBeginAgain() const { return m_scanner.sawGame(); }
 
 private:
     std::expected<void, Failure> convertElements();
+    void stopAt(std::string_view element, StoppedAt::Why why);
     bool isLeftOut(const ListxmlElement& element) const;
     std::expected<void, Failure> write(const MachineFields& fields);
     std::optional<std::string_view> japaneseTitle(std::string_view name);
@@ -70,6 +88,7 @@ private:
     ListxmlScanner m_scanner;
     StoreText m_store;
     std::size_t m_written = 0; ///< bytes of values
+    std::optional<StoppedAt> m_stopped;
     std::array<std::string, fieldCount> m_rooms;
     std::string m_lastBytes; ///< of the text that has come
 

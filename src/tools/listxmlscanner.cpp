@@ -85,6 +85,15 @@ const ListxmlElement* ListxmlScanner::next()
     return finishElement() ? &m_element : nullptr;
 }
 
+void ListxmlScanner::passOver()
+{
+    const std::string_view text = m_window.text();
+    noteNul(text);
+    m_sawGame |= m_name == ElementName::Machine && text.find(gameStart) != std::string_view::npos;
+    // A tag may begin here and end in the next piece.
+    m_window.drop(text.size() - std::min(text.size(), gameStart.size() - 1));
+}
+
 // Outside of elements there is little text: no need for haste.
 bool ListxmlScanner::enterElement()
 {

@@ -44,6 +44,10 @@ public:
     /// The next whole element, good until the next call; null where more text is needed.
     const ListxmlElement* next();
 
+    /// In place of next(), once no more elements are wanted: looks the text through for what concerns the
+    /// whole of it, and lets go of it.
+    void passOver();
+
     /// From the start of the element that next() gave to the end of the text that has come.
     std::string_view textFromElement() const { return m_window.text().substr(0, textEnd()); }
     /// Inside an element whose end has not come.

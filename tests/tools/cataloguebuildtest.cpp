@@ -170,7 +170,12 @@ private Q_SLOTS:
             << fake << QByteArray("hello\n") << QByteArray() << QByteArray("build_no_list");
         QTest::newRow("prints NULs") << fake << QByteArray("<machine \0", 10) << QByteArray()
                                      << QByteArray("convert_has_nul");
-        QTest::newRow("cut off") << fake << list.left(120) << QByteArray() << QByteArray("build_cut_off");
+        QTest::newRow("cut off") << fake << list.left(120) << QByteArray() << QByteArray("build_cut_off_in");
+        QTest::newRow("an element that does not end")
+            << fake
+            << QByteArray("<mame><machine name=\"a\" ></machine><machine name=\"zz\" >"
+                          + QByteArray(70'000'000, 'x'))
+            << QByteArray() << QByteArray("build_too_long");
         QTest::newRow("ends after an element")
             << fake << list.left(list.lastIndexOf("</")) << QByteArray() << QByteArray("build_cut_off");
         // The name runs on into the markup behind it, which no store can hold.

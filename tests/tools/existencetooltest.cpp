@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QSignalSpy>
 
+#include <csignal>
+
 using namespace tessera;
 
 namespace {
@@ -263,14 +265,35 @@ private Q_SLOTS:
         QCOMPARE(stage.information(), "No Report file.");
     }
 
+    void whyACheckStoppedIsWithdrawnByTheNextOne()
+    {
+        Stage stage;
+        QSignalSpy withdrawn(&stage.utility, &UtilityObject::statusWithdrawn);
+        stage.fill("b x\n");
+        stage.check();
+        QCOMPARE(withdrawn.size(), 0);
+        stage.fill(listfull);
+        stage.check();
+        QCOMPARE(withdrawn.size(), 1);
+        QCOMPARE(withdrawn.front().front().toString(), "existence_no_header");
+        stage.check();
+        QCOMPARE(withdrawn.size(), 1);
+        stage.desktop.takeTranscript();
+    }
+
     void closingAbandonsACheck()
     {
         Stage stage;
+        QSignalSpy status(&stage.utility, &UtilityObject::statusMessage);
         stage.fill(listfull);
+        stage.desktop.answerAlert("tool_close_Message", 1);
         QTest::mouseClick(stage.page.button_check2, Qt::LeftButton);
         stage.window.close();
         QVERIFY(!stage.isBusy() && !stage.isIndicatorRunning());
-        QTest::qWait(100);
+        // It has ended when that is said.
+        QTRY_COMPARE(status.size(), 1);
+        QCOMPARE(stage.desktop.takeTranscript(),
+                 QStringList({"alert tool_close_Message", "log tool_undone"}));
         QCOMPARE(stage.rows(), QStringList());
         QCOMPARE(stage.information(), QString());
         QCOMPARE(stage.desktop.transcript(), QStringList());
@@ -339,11 +362,14 @@ private Q_SLOTS:
         Stage stage;
         stage.fill("");
         stage.useCache();
-        stage.rooms.emulator = stage.script("echo Name:; sleep 100");
+        const QString begun = stage.path("begun");
+        stage.rooms.emulator = stage.script("echo $$ > '" + begun.toUtf8() + ".new'; mv '" + begun.toUtf8()
+                                            + ".new' '" + begun.toUtf8() + "'; echo Name:; sleep 100");
         QTest::mouseClick(stage.page.button_ask2, Qt::LeftButton);
         QVERIFY(stage.isBusy());
-        QTest::qWait(100);
+        QTRY_VERIFY(QFile::exists(begun));
         stage.press(stage.foot.button_cancel);
+        QCOMPARE(::kill(stage.read("begun").trimmed().toInt(), 0), -1);
         QCOMPARE(stage.information(), "Cancel.");
         QVERIFY(!QFile::exists(stage.path("cache/Tessera/printed/listfull.txt")));
         QVERIFY(stage.page.listfullTextField2->text() != stage.path("cache/Tessera/printed/listfull.txt"));

@@ -323,6 +323,88 @@ private Q_SLOTS:
         QVERIFY(!found.isWhole);
     }
 
+    void theElementThatIsCutOffIsNamed_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("set"); // null where none is
+        QTest::newRow("inside") << QByteArray("<game name=\"b\" ><description>B") << "b";
+        QTest::newRow("in its name") << QByteArray("<game sourcefile=\"x\" name=\"bub") << "bub";
+        QTest::newRow("before its name") << QByteArray("<game ") << "????";
+        QTest::newRow("nowhere") << QByteArray("</mame>") << QString();
+    }
+
+    void theElementThatIsCutOffIsNamed()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, set);
+        const auto list = convert(game({}) + text, {}, {});
+        QVERIFY(list);
+        QCOMPARE(list->games, std::size_t(1));
+        QCOMPARE(list->stopped.has_value(), !set.isNull());
+        if (list->stopped) {
+            QCOMPARE(list->stopped->set, set);
+            QVERIFY(list->stopped->why == StoppedAt::Why::CutOff);
+        }
+    }
+
+    // In pieces, or in one.
+    void anElementOfMoreThan64MegabytesEndsTheScan_data()
+    {
+        QTest::addColumn<int>("beyond"); // bytes more than the limit
+        QTest::addColumn<bool>("hasEnd");
+        QTest::addColumn<bool>("inPieces");
+        for (const bool inPieces : {true, false}) {
+            const char* how = inPieces ? "in pieces" : "in one piece";
+            QTest::addRow("the largest, %s", how) << 0 << true << inPieces;
+            QTest::addRow("one byte more, %s", how) << 1 << true << inPieces;
+            QTest::addRow("much more, %s", how) << 6'000'000 << true << inPieces;
+            QTest::addRow("no end, %s", how) << 6'000'000 << false << inPieces;
+        }
+    }
+
+    void anElementOfMoreThan64MegabytesEndsTheScan()
+    {
+        QFETCH(int, beyond);
+        QFETCH(bool, hasEnd);
+        QFETCH(bool, inPieces);
+        std::string text = "<game name=\"a\" ></game>\n<game ";
+        const std::string start = "name=\"zz\" ><description>";
+        text += start
+            + std::string((std::size_t{64} << 20) - start.size() + static_cast<std::size_t>(beyond), 'x');
+        if (hasEnd)
+            text += "</game>";
+        text += "<game name=\"b\" ></game></mame>";
+        const TitleTable titles;
+        ListxmlConverter converter(titles, {});
+        const std::size_t step = inPieces ? 128 * 1024 : text.size();
+        for (std::size_t at = 0; at < text.size(); at += step)
+            QVERIFY(converter.feed(std::string_view(text).substr(at, step)));
+        const auto list = converter.finish();
+        QVERIFY(list);
+        QCOMPARE(list->stopped.has_value(), beyond > 0);
+        QCOMPARE(list->isWhole, beyond == 0);
+        QCOMPARE(list->games, std::size_t(beyond > 0 ? 1 : 3));
+        if (list->stopped) {
+            QCOMPARE(list->stopped->set, "zz");
+            QVERIFY(list->stopped->why == StoppedAt::Why::TooLong);
+        }
+    }
+
+    void behindAStopTheWholeTextStillCounts()
+    {
+        const TitleTable titles;
+        const std::string longOne = "<machine name=\"zz\" >" + std::string((std::size_t{65} << 20), 'x');
+        ListxmlConverter names(titles, {});
+        QVERIFY(names.feed(longOne));
+        QVERIFY(names.stopped() && !names.shouldBeginAgain());
+        QVERIFY(names.feed("<ga"));
+        QVERIFY(names.feed("me name=\"g\" >"));
+        QVERIFY(names.shouldBeginAgain());
+        ListxmlConverter bytes(titles, {});
+        QVERIFY(bytes.feed(longOne));
+        QVERIFY(!bytes.feed(std::string_view("a\0b", 3)));
+    }
+
     void aListIsWholeWhenItEndsWithAnEndTag_data()
     {
         QTest::addColumn<QByteArray>("end");

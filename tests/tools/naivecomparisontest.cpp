@@ -10,6 +10,8 @@ using namespace tessera;
 namespace {
 
 constexpr std::string_view titleFile = "pong\tPON & <G>\npuck\n????\tnameless\ngood\n";
+// Its fields, as the rules part them: they are not asked of the table.
+const std::vector<std::string> titleFields{"pong", "PON & <G>", "puck", "????", "nameless", "good"};
 
 // In pieces of random sizes; nothing where the text is refused.
 std::optional<ConvertedList> convertInPieces(const std::string& text, test::RandomList& random,
@@ -78,7 +80,7 @@ private Q_SLOTS:
             const std::string text = random.text(10 + random.below(250));
             test::NaiveConverter naive;
             naive.options = {random.below(4) == 0, random.below(4) == 0, random.below(4) == 0};
-            naive.titles.assign(titles.entries().begin(), titles.entries().end());
+            naive.titles = titleFields;
             naive.isStream = isStream;
             const auto list = convertInPieces(text, random, titles, naive.options, search, isStream);
             QVERIFY(list);

@@ -1,10 +1,15 @@
+#include "support/installedtexts.h"
 #include "tools/ui/conversionpage.h"
+#include "tools/ui/rowsmodel.h"
+#include "tools/ui/verificationpage.h"
 #include "tools/utilitystage.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLayout>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QToolButton>
 
@@ -157,6 +162,117 @@ private Q_SLOTS:
         stage.page.mame32jpTextField->setText(stage.folder.path());
         stage.convert();
         QVERIFY(stage.foot.progressInd->maximum() > 0);
+        stage.desktop.takeTranscript();
+    }
+
+    void theIndicatorRunsUntilTheFileIsWritten()
+    {
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        stage.fillFields();
+        bool ranWhileOpen = false;
+        stage.desktop.whileOpen = [&] { ranWhileOpen = stage.isIndicatorRunning(); };
+        stage.desktop.answerSave("Tessera", stage.path("out.xml"));
+        QTest::mouseClick(stage.page.button_convert, Qt::LeftButton);
+        QVERIFY(stage.isIndicatorRunning());
+        QTRY_COMPARE(stage.information(), "The conversion work is finished.  ( 4 games )");
+        QVERIFY(ranWhileOpen);
+        QVERIFY(!stage.isIndicatorRunning());
+        // After Cancel in the panel as well.
+        ranWhileOpen = false;
+        stage.desktop.answerSave("Tessera", std::nullopt);
+        stage.convert();
+        QVERIFY(ranWhileOpen);
+        QVERIFY(!stage.isIndicatorRunning());
+        stage.desktop.takeTranscript();
+    }
+
+    void aListThatIsCutOffIsOfferedUpToThere()
+    {
+        Stage stage;
+        stage.fillFields();
+        stage.page.listxmlTextField->setText(
+            stage.file("cut.xml", "<machine name=\"a\" ></machine><machine name=\"b\" ><descr"));
+        QString saidWhileOpen;
+        stage.desktop.whileOpen = [&] { saidWhileOpen = stage.information(); };
+        stage.desktop.answerSave("Tessera", stage.path("out.xml"));
+        const test::InstalledTexts texts("en");
+        stage.convert();
+        const QString reason = "The list is cut off within “b”: what stands before that set was converted.";
+        QCOMPARE(saidWhileOpen, reason);
+        QCOMPARE(stage.information(), "The conversion work is finished.  ( 1 games )  " + reason);
+        QVERIFY(stage.read("out.xml").contains("<nextObjectID>102</nextObjectID>"));
+        stage.desktop.takeTranscript();
+    }
+
+    void closingWhileAJobRunsAsksFirst_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::addColumn<bool>("stops");
+        QTest::newRow("Escape, and it goes on") << true << false;
+        QTest::newRow("Escape, and it is stopped") << true << true;
+        QTest::newRow("closing, and it goes on") << false << false;
+        QTest::newRow("closing, and it is stopped") << false << true;
+    }
+
+    void closingWhileAJobRunsAsksFirst()
+    {
+        QFETCH(bool, byKey);
+        QFETCH(bool, stops);
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        QSignalSpy status(&stage.utility, &UtilityObject::statusMessage);
+        // An emulator that is verified ends when the test says so.
+        const QString go = stage.path("go");
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
+        stage.rooms.emulator = stage.script("while [ ! -e '" + go.toUtf8()
+                                            + "' ]; do sleep 0.02; done; echo romset a is good");
+        stage.window.pageList->setCurrentRow(3);
+        QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
+        QVERIFY(stage.isBusy());
+        stage.desktop.answerAlert("tool_close_Message", stops ? 1 : 0);
+        if (byKey)
+            QTest::keyClick(&stage.window, Qt::Key_Escape);
+        else
+            stage.window.close();
+        QCOMPARE(stage.window.isVisible(), !stops);
+        QCOMPARE(stage.isBusy(), !stops);
+        QCOMPARE(stage.desktop.alerts.back().escape, std::optional(0));
+        if (stops) {
+            QTRY_COMPARE(status.size(), 1);
+            QCOMPARE(status.front().front().toString(), "tool_undone");
+            QVERIFY(stage.desktop.transcript().contains("log tool_undone"));
+        } else {
+            stage.file("go", "");
+            QTRY_VERIFY(!stage.isBusy());
+            QCOMPARE(stage.window.verificationPage->rows->size(), std::size_t(1));
+            QCOMPARE(status.size(), 0);
+            // Nothing is at work any more, and nothing is asked.
+            QTest::keyClick(&stage.window, Qt::Key_Escape);
+            QVERIFY(!stage.window.isVisible());
+        }
+        stage.desktop.takeTranscript();
+        qunsetenv("XDG_CACHE_HOME");
+    }
+
+    // The information line has what the buttons of the page that is shown leave.
+    void theInformationLineHasTheWholeFreeWidth()
+    {
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        for (int page = 0; page < stage.window.pageList->count(); ++page) {
+            stage.window.pageList->setCurrentRow(page);
+            QCoreApplication::sendPostedEvents();
+            int first = stage.foot.width();
+            for (const QPushButton* button : stage.foot.findChildren<QPushButton*>()) {
+                if (button->isVisible())
+                    first = std::min(first, button->mapTo(&stage.foot, QPoint()).x());
+            }
+            const int gap = first - stage.foot.infoTextField->geometry().right();
+            QVERIFY2(gap > 0 && gap < 40, qPrintable(QString::number(page) + ' ' + QString::number(gap)));
+        }
     }
 
     void choosersFillStoreAndFlush_data()
@@ -324,9 +440,9 @@ private Q_SLOTS:
         const QList<QStringList> buttons{{"button_convert"},
                                          {"button_save", "button_ask2", "button_check2"},
                                          {"button_check1", "button_separete"},
-                                          {"button_ask3", "button_convert2"},
-                                          {"button_convert3"},
-                                          {"button_make"}};
+                                         {"button_ask3", "button_convert2"},
+                                         {"button_convert3"},
+                                         {"button_launcher", "button_make"}};
         QCOMPARE(stage.window.utilityTabView->count(), buttons.size());
         for (int page = 0; page < buttons.size(); ++page) {
             stage.window.pageList->setCurrentRow(page);

@@ -75,10 +75,22 @@ struct ScriptedRooms {
     }
 };
 
+/// Looks at the program while a panel or an alert is open.
+struct WatchedDesktop : ScriptedDesktop {
+    std::function<void()> whileOpen;
+
+    std::optional<QString> savePanel(const SaveRequest& request) override
+    {
+        if (whileOpen)
+            whileOpen();
+        return ScriptedDesktop::savePanel(request);
+    }
+};
+
 /// The utility window on a desktop that answers from a script.
 struct UtilityStage {
     QTemporaryDir folder;
-    ScriptedDesktop desktop;
+    WatchedDesktop desktop;
     UserDefaults defaults{folder.filePath(QStringLiteral("settings.ini"))};
     DefaultsController controller{defaults};
     /// Before the window: its boxes show them.

@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 
+#include <csignal>
+
 using namespace tessera;
 
 namespace {
@@ -53,6 +55,20 @@ class VerificationToolTest : public QObject
 
 private Q_SLOTS:
     void cleanup() { qunsetenv("XDG_CACHE_HOME"); }
+
+    void theIndicatorRunsUntilTheFileIsWritten()
+    {
+        Stage stage;
+        bool ranWhileOpen = false;
+        stage.desktop.whileOpen = [&] { ranWhileOpen = stage.isIndicatorRunning(); };
+        stage.desktop.answerSave("verifyroms_convert", stage.path("report.txt"));
+        QTest::mouseClick(stage.page.button_convert2, Qt::LeftButton);
+        QVERIFY(stage.isIndicatorRunning());
+        QTRY_COMPARE(stage.information(), "Saved a Verifyroms text.");
+        QVERIFY(ranWhileOpen);
+        QVERIFY(!stage.isIndicatorRunning());
+        stage.desktop.takeTranscript();
+    }
 
     void savesTheReportOfBadSetsAtFirst()
     {
@@ -235,19 +251,18 @@ private Q_SLOTS:
 
     void closingTheWindowEndsTheEmulator()
     {
-        const QTemporaryDir folder;
-        const QString mark = folder.filePath("ended");
-        {
-            Stage stage;
-            stage.rooms.emulator
-                = stage.script("echo romset a is good; sleep 1; touch '" + mark.toUtf8() + "'");
-            QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
-            QTRY_VERIFY(stage.foot.progressCount->isVisible());
-            stage.window.close();
-            QVERIFY(!stage.isBusy());
-        }
-        QTest::qWait(1200);
-        QVERIFY(!QFile::exists(mark));
+        Stage stage;
+        const QByteArray id = stage.path("id").toUtf8();
+        stage.rooms.emulator = stage.script("echo $$ > '" + id + "'; echo romset a is good; sleep 100");
+        QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
+        QTRY_VERIFY(stage.foot.progressCount->isVisible());
+        const int emulator = stage.read("id").trimmed().toInt();
+        QVERIFY(emulator > 0 && ::kill(emulator, 0) == 0);
+        stage.desktop.answerAlert("tool_close_Message", 1);
+        stage.window.close();
+        QVERIFY(!stage.isBusy());
+        QTRY_COMPARE(::kill(emulator, 0), -1);
+        stage.desktop.takeTranscript();
     }
 
     void anEmulatorThatCannotVerifyIsNamed()

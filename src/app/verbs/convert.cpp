@@ -34,6 +34,9 @@ int runConvert(const Verb& verb, const QStringList& arguments)
         return refuse(QString(conversiontexts::notWritten)
                           .arg(written.error().arguments[0], written.error().arguments[1]));
     print(conversionReport(converted->games));
+    // The file holds what came before, and nobody takes it for the whole.
+    if (converted->stopped)
+        return failed(stopReason(*converted->stopped));
     return Done;
 }
 

@@ -13,6 +13,15 @@
 
 namespace tessera {
 
+namespace {
+
+QString notWritten(const QString& path, const Failure& failure)
+{
+    return QString(conversiontexts::notWritten).arg(path, failure.arguments.last());
+}
+
+} // namespace
+
 ConversionTool::ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHooks hooks,
                                QObject* parent)
     : QObject(parent)
@@ -71,6 +80,9 @@ void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCa
         return end();
     }
     m_workbench.desktop().log(conversiontexts::logged);
+    // Before it is saved, who saves it knows that it is a part.
+    if (list->stopped)
+        m_workbench.inform(stopReason(*list->stopped).text());
     const auto path = m_workbench.desktop().savePanel(
         {QStringLiteral("Save XMLlist file"), QStringLiteral("Tessera"), {QStringLiteral("xml")}});
     if (path)
@@ -83,20 +95,24 @@ void ConversionTool::save(const QString& path, ConvertedList list)
     m_saved = path;
     // What a job holds is copied; a list is not.
     auto held = std::make_shared<ConvertedList>(std::move(list));
-    const std::size_t games = held->games;
+    QString report = conversionReport(held->games);
+    if (held->stopped)
+        report += QStringLiteral("  ") + stopReason(*held->stopped).text();
     m_workbench.run(
         [path, held](const Job&) { return held->text.save(path); },
-        [this, games](const std::expected<void, Failure>& written, bool) { conclude(written, games); });
+        [this, report](const std::expected<void, Failure>& written, bool) { conclude(written, report); },
+        [path](const std::expected<void, Failure>& written) {
+            return written ? QString() : notWritten(path, written.error());
+        });
 }
 
-void ConversionTool::conclude(const std::expected<void, Failure>& written, std::size_t games)
+void ConversionTool::conclude(const std::expected<void, Failure>& written, const QString& report)
 {
     m_workbench.indicator_stop();
     if (!written)
-        return m_workbench.refuse(
-            QString(conversiontexts::notWritten).arg(m_saved, written.error().arguments.last()));
+        return m_workbench.refuse(notWritten(m_saved, written.error()));
     m_page.showSaved(m_saved);
-    m_workbench.conclude(conversionReport(games));
+    m_workbench.conclude(report);
 }
 
 void ConversionTool::useAsCatalogue()

@@ -30,7 +30,7 @@ public Q_SLOTS:
 private:
     void offer(std::expected<ConvertedList, Failure> list, bool isCancelled);
     void save(const QString& path, ConvertedList list);
-    void conclude(const std::expected<void, Failure>& written, std::size_t games);
+    void conclude(const std::expected<void, Failure>& written, const QString& report);
 
     ConversionPage& m_page;
     Workbench& m_workbench;

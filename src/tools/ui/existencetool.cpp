@@ -138,7 +138,7 @@ void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCanc
 void ExistenceTool::stopWithoutHeader(const Failure& failure)
 {
     m_page.reportList->setEmptyText(failure.text());
-    Q_EMIT statusMessage(failure.text());
+    m_workbench.explain(failure.text());
 }
 
 // As the list's own check, but of the file system itself.

@@ -35,9 +35,6 @@ public Q_SLOTS:
     void selectROMsfolder2();
     void clear_reportController();
 
-Q_SIGNALS:
-    void statusMessage(const QString& text);
-
 private:
     void begin();
     void takePrinted(const std::expected<std::string, Failure>& printed, bool isCancelled);

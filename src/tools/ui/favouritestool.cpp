@@ -21,6 +21,7 @@ FavouritesTool::FavouritesTool(FavouritesPage& page, Workbench& workbench, Utili
     , m_workbench(workbench)
     , m_hooks(std::move(hooks))
 {
+    m_trashPool.setMaxThreadCount(1);
     connect(m_page.button_convert3, &QPushButton::clicked, this, &FavouritesTool::favoritesConvert);
     connect(m_page.button_favorites, &QPushButton::clicked, this, &FavouritesTool::selectFavoritesxml);
     connect(m_page.button_showAll, &QPushButton::clicked, this, [this] { m_hooks.showAllRecords(); });

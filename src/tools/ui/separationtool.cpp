@@ -150,7 +150,18 @@ void SeparationTool::separateAction()
             job.post([this, row, place = places[row.index]] { mark(place, row); });
         });
     };
-    m_workbench.run(separate, [this](const SeparationCounts& counts, bool) { conclude(counts); });
+    m_workbench.run(
+        separate, [this](const SeparationCounts& counts, bool) { conclude(counts); },
+        [all = m_page.rows->size()](const SeparationCounts& counts) { return leftUndone(counts, all); });
+}
+
+// What was copied is there, whoever closes the window.
+QString SeparationTool::leftUndone(const SeparationCounts& counts, std::size_t all)
+{
+    if (!counts.isCancelled)
+        return {};
+    const auto done = static_cast<std::size_t>(counts.supported + counts.moved);
+    return Failure{"separation_undone", {QString::number(done), QString::number(all)}}.text();
 }
 
 void SeparationTool::mark(std::size_t place, const SeparatedRow& row)

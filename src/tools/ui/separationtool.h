@@ -38,6 +38,7 @@ private:
     void makePlan();
     void mark(std::size_t place, const SeparatedRow& row);
     void conclude(const SeparationCounts& counts);
+    static QString leftUndone(const SeparationCounts& counts, std::size_t all);
 
     SeparationPage& m_page;
     Workbench& m_workbench;

@@ -65,11 +65,17 @@ void UtilityFoot::addButtons(const QList<QPushButton*>& buttons)
         layout->addWidget(button);
     }
     m_buttons->addWidget(group);
+    showButtonsOf(m_buttons->currentIndex());
 }
 
 void UtilityFoot::showButtonsOf(int page)
 {
     m_buttons->setCurrentIndex(page);
+    // What is not shown takes no room from the information line.
+    for (int i = 0; i < m_buttons->count(); ++i)
+        m_buttons->widget(i)->setSizePolicy(i == page ? QSizePolicy::Preferred : QSizePolicy::Ignored,
+                                            QSizePolicy::Preferred);
+    m_buttons->updateGeometry();
 }
 
 void UtilityFoot::setBusy(bool isBusy)

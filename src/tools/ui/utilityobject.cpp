@@ -56,8 +56,9 @@ UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, con
     , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, hooks))
 {
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
+    m_window->mayClose = [this] { return m_workbench->mayBeAbandoned(); };
     connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
-    connect(m_existence.get(), &ExistenceTool::statusMessage, this, &UtilityObject::statusMessage);
+    connect(m_workbench.get(), &Workbench::statusWithdrawn, this, &UtilityObject::statusWithdrawn);
     connectReveals();
 }
 

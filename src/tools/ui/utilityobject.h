@@ -54,6 +54,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
+    /// What was said last is out of date.
+    void statusWithdrawn(const QString& text);
 
 private:
     void connectReveals();

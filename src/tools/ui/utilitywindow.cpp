@@ -79,6 +79,10 @@ void UtilityWindow::addPage(QWidget* page, const QString& title, const QList<QPu
 
 void UtilityWindow::closeEvent(QCloseEvent* event)
 {
+    if (mayClose && !mayClose()) {
+        event->ignore();
+        return;
+    }
     QWidget::closeEvent(event);
     Q_EMIT closed();
 }

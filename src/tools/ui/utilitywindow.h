@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QListWidget;
 class QPushButton;
 class QStackedWidget;
@@ -35,6 +37,7 @@ public:
     FavouritesPage* favouritesPage;
     ScriptPage* scriptPage;
     UtilityFoot* foot;
+    std::function<bool()> mayClose; ///< asked before it closes, if there
 
 Q_SIGNALS:
     void closed();

@@ -19,6 +19,11 @@ namespace tessera {
 
 namespace {
 constexpr QLatin1StringView verifyromsName("verifyroms.txt");
+
+QString notWritten(const Failure& failure)
+{
+    return QString(verificationtexts::notWritten).arg(failure.arguments[0], failure.arguments[1]);
+}
 } // namespace
 
 VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHooks hooks,
@@ -82,7 +87,10 @@ void VerificationTool::save(const QString& path, std::string report)
 {
     m_workbench.run([path, report = std::move(report)](
                         const Job&) { return writeAtomically(path, std::array{std::string_view(report)}); },
-                    [this](const std::expected<void, Failure>& written, bool) { conclude(written); });
+                    [this](const std::expected<void, Failure>& written, bool) { conclude(written); },
+                    [](const std::expected<void, Failure>& written) {
+                        return written ? QString() : notWritten(written.error());
+                    });
 }
 
 // A failure without a beep: deliberate.
@@ -91,8 +99,7 @@ void VerificationTool::conclude(const std::expected<void, Failure>& written)
     if (written)
         m_workbench.conclude(verificationtexts::saved);
     else
-        m_workbench.inform(QString(verificationtexts::notWritten)
-                               .arg(written.error().arguments[0], written.error().arguments[1]));
+        m_workbench.inform(notWritten(written.error()));
     m_workbench.indicator_stop();
 }
 

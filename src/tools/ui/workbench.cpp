@@ -33,6 +33,20 @@ void Job::post(std::function<void()> call) const
         Qt::QueuedConnection);
 }
 
+void Job::end(std::function<void()> done, std::function<void()> abandoned) const
+{
+    Workbench& workbench = m_workbench;
+    QMetaObject::invokeMethod(
+        &workbench,
+        [&workbench, number = m_number, done = std::move(done), abandoned = std::move(abandoned)] {
+            if (number != workbench.m_job)
+                return abandoned();
+            workbench.end();
+            done();
+        },
+        Qt::QueuedConnection);
+}
+
 Workbench::Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
@@ -141,8 +155,42 @@ void Workbench::take(QLineEdit& field, const ChosenKey& key, const QString& path
         Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
 }
 
+QString Workbench::leftUndone()
+{
+    return qtTrId("tool_undone");
+}
+
+// An empty text stands for nothing that was left undone.
+void Workbench::sayUndone(const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    m_desktop.log(text);
+    explain(text);
+}
+
+void Workbench::explain(const QString& text)
+{
+    m_explained = text;
+    Q_EMIT statusMessage(text);
+}
+
+bool Workbench::mayBeAbandoned()
+{
+    if (!m_isBusy)
+        return true;
+    Alert alert{qtTrId("tool_close_Message"),
+                qtTrId("tool_close_info"),
+                {qtTrId("tool_close_stay"), qtTrId("tool_close_stop")}};
+    alert.style = Alert::Style::Warning;
+    alert.escape = 0;
+    return m_desktop.runAlert(alert) == 1;
+}
+
 Job Workbench::begin()
 {
+    if (!m_explained.isEmpty())
+        Q_EMIT statusWithdrawn(std::exchange(m_explained, QString()));
     m_stop = std::stop_source();
     m_isBusy = true;
     m_foot.setBusy(true);

@@ -33,6 +33,8 @@ public:
     const std::stop_token& stop() const { return m_stop; }
     /// The call is made on the windows' thread, unless the job is abandoned by then.
     void post(std::function<void()> call) const;
+    /// It has ended. One of the two calls is made there: the second one where it was abandoned.
+    void end(std::function<void()> done, std::function<void()> abandoned) const;
 
 private:
     Workbench& m_workbench;
@@ -90,25 +92,37 @@ public:
     template <class Work, class Done>
     void run(Work work, Done done)
     {
+        run(std::move(work), std::move(done), [](const auto&) { return leftUndone(); });
+    }
+    /// The same; where the job is abandoned, the status line says what `undone` makes of the result.
+    template <class Work, class Done, class Undone>
+    void run(Work work, Done done, Undone undone)
+    {
         const Job job = begin();
-        m_pool.start([this, job, work = std::move(work), done = std::move(done)] {
+        m_pool.start([this, job, work = std::move(work), done = std::move(done), undone = std::move(undone)] {
             auto result = std::make_shared<decltype(work(job))>(work(job));
-            job.post([this, job, done, result] {
-                end();
-                done(std::move(*result), job.stop().stop_requested());
-            });
+            job.end([this, job, done, result] { done(std::move(*result), job.stop().stop_requested()); },
+                    [this, undone, result] { sayUndone(undone(*result)); });
         });
     }
     /// The job is asked to stop; it still ends by `done`.
     void cancel();
-    /// The same, but it is heard of no more.
+    /// The same, but it is heard of no more, but for what it left undone.
     void abandon();
+    /// Asks, where a job goes on, whether it may be abandoned.
+    bool mayBeAbandoned();
+    /// The main window's status line says why something went otherwise, until the next job begins.
+    void explain(const QString& text);
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
+    /// It is out of date.
+    void statusWithdrawn(const QString& text);
 
 private:
     friend class Job;
+    static QString leftUndone();
+    void sayUndone(const QString& text);
     Job begin();
     void end();
 
@@ -118,6 +132,7 @@ private:
     std::stop_source m_stop;
     bool m_isBusy = false;
     int m_job = 0;
+    QString m_explained;
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };
 

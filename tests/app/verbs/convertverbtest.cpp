@@ -27,6 +27,20 @@ private Q_SLOTS:
         QCOMPARE(outcome.out, QByteArray("The conversion work is finished.  ( 1 games )\n"));
         QCOMPARE(listed(), QByteArray("game\tpong\tpong\tPong\tポン\t1972\tAtari\tgood\t\n"));
     }
+
+    // The file holds what came before, but nothing takes that for success.
+    void aListThatIsCutOffIsConvertedUpToThere()
+    {
+        write(QStringLiteral("list.xml"), oneGame + QByteArray("<game name=\"qix\" ><descr"));
+        write(QStringLiteral("titles.lst"), "");
+        const Outcome outcome = tessera({QStringLiteral("convert"), path(QStringLiteral("list.xml")),
+                                         path(QStringLiteral("titles.lst")), QStringLiteral("-o"),
+                                         path(QStringLiteral("store.xml"))});
+        QVERIFY2(outcome.err.contains("within “qix”"), outcome.err.constData());
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out, QByteArray("The conversion work is finished.  ( 1 games )\n"));
+        QCOMPARE(listed(), QByteArray("game\tpong\tpong\tPong\tPong\t1972\tAtari\tgood\t\n"));
+    }
 };
 
 TESSERA_TEST(ConvertVerbTest);
