@@ -101,7 +101,7 @@ public:
         const Job job = begin();
         m_pool.start([this, job, work = std::move(work), done = std::move(done), undone = std::move(undone)] {
             auto result = std::make_shared<decltype(work(job))>(work(job));
-            job.end([this, job, done, result] { done(std::move(*result), job.stop().stop_requested()); },
+            job.end([job, done, result] { done(std::move(*result), job.stop().stop_requested()); },
                     [this, undone, result] { sayUndone(undone(*result)); });
         });
     }
