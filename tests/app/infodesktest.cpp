@@ -339,15 +339,15 @@ private Q_SLOTS:
         followBeside();
         m_staged->app->windowFavorites();
         GameTableView& table = *m_staged->app->favorites().window().favoritesTable;
-        table.selectRow(1);
-        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
-        m_staged->app->gameList().selectGame("1943");
-        QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
         table.selectRow(0);
         QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
-        m_staged->app->windowMain();
-        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->gameList().selectGame("1943");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
+        table.selectRow(1);
         QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
+        m_staged->app->windowMain();
+        m_staged->app->gameList().selectGame("pong");
+        QCOMPARE(history().historySearchField->text(), QStringLiteral("pong"));
     }
 
     // What makes the lists tell of the selection that they have.
