@@ -196,3 +196,5 @@
     <message id="main_stopnow"><source></source><translation>Stop</translation></message>
 </context>
 </TS>
+    <message id="quit_unsaved_message"><source></source><translation>Could not save changes while quitting. Quit anyway?</translation></message>
+    <message id="quit_anyway"><source></source><translation>Quit anyway</translation></message>

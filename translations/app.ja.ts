@@ -196,3 +196,5 @@
     <message id="main_stopnow"><source></source><translation>停止</translation></message>
 </context>
 </TS>
+    <message id="quit_unsaved_message"><source></source><translation>変更を保存できませんでした。それでも終了しますか?</translation></message>
+    <message id="quit_anyway"><source></source><translation>終了する</translation></message>

@@ -293,8 +293,8 @@ bool Tessera_AppDelegate::saveBeforeQuitting()
     if (m_desktop.presentError(saved.error().text(), QString(), {}))
         return false;
     Alert alert;
-    alert.message = QStringLiteral("Could not save changes while quitting. Quit anyway?");
-    alert.buttons = {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")};
+    alert.message = qtTrId("quit_unsaved_message");
+    alert.buttons = {qtTrId("quit_anyway"), qtTrId("cancel")};
     alert.style = Alert::Style::Warning;
     return m_desktop.runAlert(alert) == 0;
 }

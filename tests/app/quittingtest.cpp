@@ -88,8 +88,7 @@ private Q_SLOTS:
         staged.defaults.setValue(keys::Movierecord.name, true);
         staged.defaults.setValue(keys::Replaymove.name, true);
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-                                   button);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), button);
 
         QFile::setPermissions(staged.storePath(), QFile::ReadOwner | QFile::ReadOther);
         {
@@ -98,7 +97,7 @@ private Q_SLOTS:
             QCOMPARE(staged.app->applicationShouldTerminate(), quits);
         }
         const Alert& alert = staged.desktop.alerts.back();
-        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("quit_anyway"), QStringLiteral("cancel")}));
         QCOMPARE(staged.store(), before);
         QVERIFY(staged.app->catalogue().hasChanges());
         // Whatever the answer, recording and replay do not stay on.
@@ -127,7 +126,7 @@ private Q_SLOTS:
         QFile::remove(staged.storePath());
         QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save"), 0);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), 0);
         auto* quit = staged.app->mainWindow().menuBar()->findChild<QAction*>(QStringLiteral("menu_quit"));
         QVERIFY(quit != nullptr);
         QTimer::singleShot(0, quit, &QAction::trigger);
@@ -236,7 +235,7 @@ private Q_SLOTS:
         staged.start();
         editFirstTitle(staged, QStringLiteral("Lost?"));
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save"), 1);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), 1);
         QFile::remove(staged.storePath());
         QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
         staged.app->mainWindow().close();
