@@ -160,6 +160,9 @@
     <message id="launcher_save"><source></source><translation>Save as launcher</translation></message>
     <message id="launcher_saved"><source></source><translation>The launcher was saved: %1</translation></message>
     <message id="main_changes"><source></source><translation>What changed…</translation></message>
+    <message id="catalogue_save_nothing"><source></source><translation>Nothing was saved: the catalogue has no changes.</translation></message>
+    <message id="catalogue_saved"><source></source><translation>The catalogue was saved.</translation></message>
+    <message id="catalogue_saved_kept"><source></source><translation>The catalogue was saved. The file that was there before was kept: %1</translation></message>
     <message id="catalogue_used"><source></source><translation>The file is the catalogue now: %1 machines.</translation></message>
     <message id="catalogue_use"><source></source><translation>Use it</translation></message>
     <message id="catalogue_unsaved_message"><source></source><translation>The catalogue has edits that are not saved. Put the file in its place without them?</translation></message>
@@ -194,5 +197,7 @@
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; shows what history.dat, history.xml and mameinfo.dat tell of the game; choose the files at the foot of its window. &lt;b&gt;Ctrl+Shift+I&lt;/b&gt; opens its page on an information site.&lt;/p&gt;</translation></message>
     <message id="support_files"><source></source><translation>Folders and files</translation></message>
     <message id="main_stopnow"><source></source><translation>Stop</translation></message>
+    <message id="quit_unsaved_message"><source></source><translation>Could not save changes while quitting. Quit anyway?</translation></message>
+    <message id="quit_anyway"><source></source><translation>Quit anyway</translation></message>
 </context>
 </TS>

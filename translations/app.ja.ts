@@ -160,6 +160,9 @@
     <message id="launcher_save"><source></source><translation>ランチャーとして保存</translation></message>
     <message id="launcher_saved"><source></source><translation>ランチャーを保存しました: %1</translation></message>
     <message id="main_changes"><source></source><translation>変更点…</translation></message>
+    <message id="catalogue_save_nothing"><source></source><translation>カタログに変更がないため、保存しませんでした。</translation></message>
+    <message id="catalogue_saved"><source></source><translation>カタログを保存しました。</translation></message>
+    <message id="catalogue_saved_kept"><source></source><translation>カタログを保存しました。以前のファイルは残してあります: %1</translation></message>
     <message id="catalogue_used"><source></source><translation>ファイルをカタログにしました（%1台）。</translation></message>
     <message id="catalogue_use"><source></source><translation>使用</translation></message>
     <message id="catalogue_unsaved_message"><source></source><translation>カタログに保存していない変更があります。破棄してファイルと置き換えますか?</translation></message>
@@ -194,5 +197,7 @@
 &lt;p&gt;&lt;b&gt;Ctrl+I&lt;/b&gt; で history.dat、history.xml、mameinfo.dat の内容を表示します。ファイルはそのウインドウの下部で選びます。&lt;b&gt;Ctrl+Shift+I&lt;/b&gt; で情報サイトのページを開きます。&lt;/p&gt;</translation></message>
     <message id="support_files"><source></source><translation>フォルダとファイル</translation></message>
     <message id="main_stopnow"><source></source><translation>停止</translation></message>
+    <message id="quit_unsaved_message"><source></source><translation>変更を保存できませんでした。それでも終了しますか?</translation></message>
+    <message id="quit_anyway"><source></source><translation>終了する</translation></message>
 </context>
 </TS>

@@ -47,8 +47,19 @@ namespace tessera {
 
 void Tessera_AppDelegate::saveAction()
 {
-    if (const auto saved = m_catalogue.save(); !saved)
+    commitEditing();
+    // Nothing is written then: another program may have put a newer catalogue there meanwhile.
+    if (!m_catalogue.hasChanges()) {
+        m_mainWindow->say(qtTrId("catalogue_save_nothing"));
+        return;
+    }
+    const auto saved = m_catalogue.save();
+    if (!saved)
         m_desktop.presentError(saved.error().text(), QString(), {});
+    else if (saved->isEmpty())
+        m_mainWindow->say(qtTrId("catalogue_saved"));
+    else
+        m_mainWindow->say(Failure{"catalogue_saved_kept", {*saved}}.text());
 }
 
 // While a catalogue is built, edits of the old one stay as they are.

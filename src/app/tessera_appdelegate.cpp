@@ -258,8 +258,11 @@ void Tessera_AppDelegate::saveForSessionEnd()
     m_editing->commitEditing();
     m_gameList->commitEditing();
     if (m_catalogue.hasChanges()) {
-        if (const auto saved = m_catalogue.save(); !saved)
+        const auto saved = m_catalogue.save();
+        if (!saved)
             m_desktop.log(saved.error().text());
+        else
+            logKept(*saved);
     }
     m_favorites->controller().saveFavorites();
 }
@@ -283,18 +286,27 @@ void Tessera_AppDelegate::forgetRecording()
     m_defaults.defaults().synchronize();
 }
 
+// At the end nobody would see it in the status line.
+void Tessera_AppDelegate::logKept(const QString& copy)
+{
+    if (!copy.isEmpty())
+        m_desktop.log(Failure{"catalogue_saved_kept", {copy}}.text());
+}
+
 bool Tessera_AppDelegate::saveBeforeQuitting()
 {
     if (!m_catalogue.hasChanges())
         return true;
     const auto saved = m_catalogue.save();
-    if (saved)
+    if (saved) {
+        logKept(*saved);
         return true;
+    }
     if (m_desktop.presentError(saved.error().text(), QString(), {}))
         return false;
     Alert alert;
-    alert.message = QStringLiteral("Could not save changes while quitting. Quit anyway?");
-    alert.buttons = {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")};
+    alert.message = qtTrId("quit_unsaved_message");
+    alert.buttons = {qtTrId("quit_anyway"), qtTrId("cancel")};
     alert.style = Alert::Style::Warning;
     return m_desktop.runAlert(alert) == 0;
 }

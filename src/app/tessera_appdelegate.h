@@ -204,6 +204,7 @@ private:
     void showEmulator();
     void settingChanged(const QString& name);
     bool saveBeforeQuitting();
+    void logKept(const QString& copy);
     QUndoStack* editedStack();
     void forgetRecording();
 

@@ -268,6 +268,23 @@ private Q_SLOTS:
         QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
     }
 
+    void aFileOfAnotherModelTakesNoPlace()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        const QByteArray old = staged.store();
+        const QString file = staged.path("plants.xml");
+        QFile foreign(file);
+        QVERIFY(foreign.open(QIODevice::WriteOnly));
+        foreign.write("<database><object type=\"Plant\" id=\"z102\"/></database>");
+        foreign.close();
+        staged.desktop.answerError(QStringLiteral("failure_store_model"));
+        QVERIFY(!staged.app->rebuild().useFile(file));
+        QCOMPARE(staged.store(), old);
+        QCOMPARE(staged.app->gameList().list().size(), std::size_t(4));
+    }
+
     void aFileThatWasSavedInPlaceIsReadAnew()
     {
         StagedApp staged;

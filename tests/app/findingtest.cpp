@@ -301,8 +301,7 @@ private Q_SLOTS:
             Field::Name, {QStringLiteral("pacman"), QStringLiteral("gradius")});
         QCOMPARE(found.size(), 1);
         QCOMPARE(found[0].value(QStringLiteral("name")), QStringLiteral("gradius"));
-        QCOMPARE(m_staged->desktop.takeTranscript(),
-                 QStringList{QStringLiteral("log pacman は見つかりませんでした")});
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("log lookup_not_found")});
     }
 
     void theRomFolderIsSeenAndWatched()

@@ -6,6 +6,9 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/recordeditor.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "widgets/fontpanel.h"
 
@@ -15,6 +18,7 @@
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalSpy>
 
 using namespace tessera;
@@ -47,6 +51,14 @@ private Q_SLOTS:
 
     void theFirstSortIsBySetNameAscending()
     {
+        // By code point: capitals before small letters.
+        m_staged->app->catalogue().setValue(2, Field::Name, QStringLiteral("Qix"));
+        m_table->sortByColumn(3, Qt::AscendingOrder);
+        m_list->main_tableViewSort();
+        QCOMPARE(names(), (QStringList{"1943", "Qix", "galaga", "pong"}));
+        m_staged->app->undo();
+        m_table->sortByColumn(3, Qt::AscendingOrder);
+        m_list->main_tableViewSort();
         QCOMPARE(names(),
                  (QStringList{QStringLiteral("1943"), QStringLiteral("galaga"), QStringLiteral("pong"),
                               QStringLiteral("qix")}));
@@ -63,12 +75,56 @@ private Q_SLOTS:
         QCOMPARE(names().constFirst(), QStringLiteral("1943"));
     }
 
+    void aMovedFirstColumnSortsTheNextStart()
+    {
+        QHeaderView* header = m_table->horizontalHeader();
+        header->moveSection(header->visualIndex(3), 0);
+        m_table->sortByColumn(1, Qt::DescendingOrder);
+        m_staged->app->applicationWillTerminate();
+        m_staged->start();
+        m_list = &m_staged->app->gameList();
+        m_table = m_staged->app->mainWindow().gameTable;
+        QCOMPARE(m_table->horizontalHeader()->logicalIndex(0), 3);
+        QCOMPARE(m_table->horizontalHeader()->sortIndicatorSection(), 3);
+        QCOMPARE(m_table->horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
+        QCOMPARE(names(), (QStringList{"pong", "galaga", "qix", "1943"}));
+    }
+
     void sortingKeepsTheSelection()
     {
-        QVERIFY(m_list->selectGame(QStringLiteral("qix")));
+        m_table->clearSelection();
+        for (const int row : {1, 3})
+            m_table->selectionModel()->select(m_list->model()->index(row, 0),
+                                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
         m_table->sortByColumn(3, Qt::DescendingOrder);
-        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("qix"));
-        QCOMPARE(m_list->selectedCount(), 1);
+        QCOMPARE(m_list->selectedCount(), 2);
+        QList<QString> selected;
+        for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
+            selected << row.data().toString();
+        selected.sort();
+        QCOMPARE(selected, (QList<QString>{"galaga", "qix"}));
+    }
+
+    void everythingFollowsTheNewFirstRowOfASort()
+    {
+        m_staged->app->editRecord();
+        m_table->clearSelection();
+        // 1943 is imperfect, pong good.
+        for (const int row : {0, 2})
+            m_table->selectionModel()->select(m_list->model()->index(row, 0),
+                                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        const QLabel* mark = m_staged->app->mainWindow().factsPanel->romMark;
+        const QLineEdit* editor = m_staged->app->editing().editor().editSetname;
+        QCOMPARE(mark->property("mark").toString(), QStringLiteral("plovermark_imperfect"));
+        QCOMPARE(editor->text(), QStringLiteral("1943"));
+        QSignalSpy pictures(m_list, &GameListController::selectionChanged);
+        const QHeaderView* header = m_table->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(header->sectionViewportPosition(3) + 20, header->height() / 2));
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("pong"));
+        QCOMPARE(mark->property("mark").toString(), QStringLiteral("plovermark_good"));
+        QCOMPARE(editor->text(), QStringLiteral("pong"));
+        QCOMPARE(pictures.count(), 1);
     }
 
     void anAbsentValueIsShownAsNothing()
@@ -145,8 +201,18 @@ private Q_SLOTS:
         QVERIFY(shown->isVisible());
     }
 
+    void lookupsKeepTheOrderOfTheQuestionAndLogWhatIsMissing_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("Japanese") << QStringLiteral("ja") << QStringLiteral("Pong は見つかりませんでした");
+        QTest::newRow("English") << QStringLiteral("en") << QStringLiteral("Pong was not found");
+    }
     void lookupsKeepTheOrderOfTheQuestionAndLogWhatIsMissing()
     {
+        QFETCH(QString, language);
+        QFETCH(QString, sentence);
+        const test::InstalledTexts texts(language);
         m_staged->desktop.takeTranscript();
         const auto found = m_list->search_arrangedObjects(
             Field::Name,
@@ -156,16 +222,19 @@ private Q_SLOTS:
         QCOMPARE(found[1].value(QStringLiteral("maker")), QStringLiteral("Capcom"));
         QCOMPARE(found[2].value(QStringLiteral("name")), QStringLiteral("qix"));
         QCOMPARE(found[0].size(), 9);
-        QCOMPARE(m_staged->desktop.transcript(),
-                 QStringList{QStringLiteral("log Pong は見つかりませんでした")});
+        QCOMPARE(m_staged->desktop.transcript(), QStringList{"log " + sentence});
     }
 
     void aDoubleClickWithNothingSelectedBeeps()
     {
-        m_table->clearSelection();
+        m_table->selectRow(1);
         m_staged->desktop.takeTranscript();
         QSignalSpy launches(m_list, &GameListController::launchRequested);
-        m_list->tableViewDoubleAction();
+        const QPoint beneath(40, m_table->viewport()->height() - 5);
+        QVERIFY(!m_table->indexAt(beneath).isValid());
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, beneath);
+        QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, beneath);
+        QCOMPARE(m_list->selectedCount(), 0);
         QCOMPARE(launches.count(), 0);
         QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
     }
@@ -173,10 +242,12 @@ private Q_SLOTS:
     void anEmptySetNameBeepsToo()
     {
         m_staged->app->catalogue().setValue(0, Field::Name, QString());
-        m_table->selectRow(2);
-        QCOMPARE(m_list->tableViewSelectionROM(), QString());
         m_staged->desktop.takeTranscript();
-        m_list->tableViewDoubleAction();
+        const QPoint row = m_table->visualRect(m_list->model()->index(2, 1)).center();
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, row);
+        QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, row);
+        QCOMPARE(m_list->selectedCount(), 1);
+        QCOMPARE(m_list->tableViewSelectionROM(), QString());
         QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
     }
 

@@ -5,6 +5,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 using namespace tessera;
 using test::StagedApp;
@@ -59,19 +61,25 @@ private Q_SLOTS:
 
     void randomOfAnEmptyListBeeps()
     {
-        m_staged->app->gameList().list().setPredicate([](const GameRecord&) { return false; });
+        m_table->selectRow(7);
+        QTest::keyClicks(m_staged->app->mainWindow().searchField, "nothing is called so");
+        QCOMPARE(m_staged->app->gameList().list().size(), std::size_t(0));
+        QSignalSpy selected(&m_staged->app->gameList(), &GameListController::selectionChanged);
         m_staged->app->mameslotAction();
         QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
-        QCOMPARE(m_staged->app->gameList().selectedCount(), 0);
+        QCOMPARE(selected.count(), 0);
+        QCOMPARE(m_staged->app->gameList().tableViewSelectionROM(), QString());
     }
 
     void homeAndEndScrollTheList()
     {
         m_table->selectRow(150);
         QScrollBar* bar = m_table->verticalScrollBar();
-        m_staged->app->scrollsEndAction();
+        QTRY_VERIFY(m_staged->app->mainWindow().isActiveWindow());
+        QTest::keyClick(m_table, Qt::Key_End);
+        QVERIFY(bar->maximum() > 0);
         QCOMPARE(bar->value(), bar->maximum());
-        m_staged->app->scrollsHomeAction();
+        QTest::keyClick(m_table, Qt::Key_Home);
         QCOMPARE(bar->value(), 0);
         QCOMPARE(m_staged->app->gameList().tableViewSelectionROM(), QStringLiteral("set1150"));
     }
@@ -84,11 +92,13 @@ private Q_SLOTS:
         becomeKey(log);
         QScrollBar* bar = log.infomationTextView->verticalScrollBar();
         bar->setValue(200);
-        m_staged->app->scrollsHomeAction();
+        QTRY_VERIFY(log.isActiveWindow());
+        log.infomationTextView->setFocus();
+        QTest::keyClick(log.infomationTextView, Qt::Key_Home);
         const int page = 200 - bar->value();
         QVERIFY(page > 10 && page <= bar->pageStep() + 1);
-        m_staged->app->scrollsEndAction();
-        m_staged->app->scrollsEndAction();
+        QTest::keyClick(log.infomationTextView, Qt::Key_End);
+        QTest::keyClick(log.infomationTextView, Qt::Key_End);
         QVERIFY(bar->value() > 200 && bar->value() <= 200 + page + 1);
         QCOMPARE(m_table->verticalScrollBar()->value(), 0);
     }

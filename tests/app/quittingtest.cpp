@@ -4,10 +4,12 @@
 #include "app/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "support/installedtexts.h"
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QProcess>
@@ -22,6 +24,19 @@ namespace {
 void editFirstTitle(StagedApp& staged, const QString& text)
 {
     staged.app->catalogue().setValue(0, Field::Title, text);
+}
+
+// As somebody does who chooses the menu's row or presses its key.
+void pressSave(StagedApp& staged)
+{
+    auto* save = staged.app->mainWindow().menuBar()->findChild<QAction*>(QStringLiteral("menu_save"));
+    QVERIFY(save != nullptr);
+    save->trigger();
+}
+
+QString status(StagedApp& staged)
+{
+    return staged.app->mainWindow().findChild<QLabel*>(QStringLiteral("messageLabel"))->text();
 }
 
 } // namespace
@@ -88,8 +103,7 @@ private Q_SLOTS:
         staged.defaults.setValue(keys::Movierecord.name, true);
         staged.defaults.setValue(keys::Replaymove.name, true);
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-                                   button);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), button);
 
         QFile::setPermissions(staged.storePath(), QFile::ReadOwner | QFile::ReadOther);
         {
@@ -98,7 +112,7 @@ private Q_SLOTS:
             QCOMPARE(staged.app->applicationShouldTerminate(), quits);
         }
         const Alert& alert = staged.desktop.alerts.back();
-        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+        QCOMPARE(alert.buttons, (QStringList{QStringLiteral("quit_anyway"), QStringLiteral("cancel")}));
         QCOMPARE(staged.store(), before);
         QVERIFY(staged.app->catalogue().hasChanges());
         // Whatever the answer, recording and replay do not stay on.
@@ -127,7 +141,7 @@ private Q_SLOTS:
         QFile::remove(staged.storePath());
         QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save"), 0);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), 0);
         auto* quit = staged.app->mainWindow().menuBar()->findChild<QAction*>(QStringLiteral("menu_quit"));
         QVERIFY(quit != nullptr);
         QTimer::singleShot(0, quit, &QAction::trigger);
@@ -155,6 +169,108 @@ private Q_SLOTS:
         editFirstTitle(staged, QStringLiteral("Again"));
         staged.app->saveAction();
         QCOMPARE(folder.entryList({QStringLiteral("Tessera *.xml")}).size(), 1);
+    }
+
+    void aStoreOfAnotherModelIsAnErrorAndStaysAsItIs()
+    {
+        StagedApp staged;
+        const QByteArray foreign = "<database><object type=\"Plant\" id=\"z102\"/></database>";
+        staged.writeStore(foreign);
+        staged.desktop.answerError(QStringLiteral("failure_store_model"));
+        staged.start();
+        staged.app->saveAction();
+        QVERIFY(staged.app->applicationShouldTerminate());
+        QCOMPARE(staged.store(), foreign);
+    }
+
+    void saveWithoutChangesWritesNothing()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        // What another program built meanwhile is not taken back.
+        staged.writeStore("somebody else's newer store");
+        pressSave(staged);
+        QCOMPARE(status(staged), QStringLiteral("catalogue_save_nothing"));
+        QCOMPARE(staged.store(), QByteArray("somebody else's newer store"));
+        QCOMPARE(QDir(staged.path(QStringLiteral("data"))).entryList(QDir::Files).size(), 1);
+    }
+
+    void saveSaysThatItSaved()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Ours"));
+        pressSave(staged);
+        QVERIFY(staged.store().contains("Ours"));
+        QCOMPARE(status(staged), QStringLiteral("catalogue_saved"));
+    }
+
+    void saveSaysWhereTheOldFileIsKept_data()
+    {
+        QTest::addColumn<bool>("replaced");
+        QTest::newRow("not in our layout") << false;
+        QTest::newRow("changed on disk since it was read") << true;
+    }
+    void saveSaysWhereTheOldFileIsKept()
+    {
+        QFETCH(bool, replaced);
+        const test::InstalledTexts texts(QStringLiteral("en"));
+        StagedApp staged;
+        staged.writeCatalogue();
+        const QByteArray indented = staged.store().replace("<object ", "  <object ");
+        if (!replaced)
+            staged.writeStore(indented);
+        staged.start();
+        QCOMPARE(staged.app->catalogue().records().size(), std::size_t(4));
+        if (replaced)
+            staged.writeStore(indented);
+        editFirstTitle(staged, QStringLiteral("Ours"));
+        pressSave(staged);
+        QVERIFY(staged.store().contains("Ours"));
+        const QDir folder(staged.path(QStringLiteral("data")));
+        const QStringList kept = folder.entryList({QStringLiteral("Tessera *.xml")});
+        QCOMPARE(kept.size(), 1);
+        QFile file(folder.filePath(kept.constFirst()));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), indented);
+        QVERIFY2(status(staged).contains(folder.filePath(kept.constFirst())), qPrintable(status(staged)));
+    }
+
+    void theEndLogsWhereTheOldFileIsKept()
+    {
+        const test::InstalledTexts texts(QStringLiteral("en"));
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.writeStore(staged.store() + '\n');
+        staged.start();
+        editFirstTitle(staged, QStringLiteral("Ours"));
+        (void)staged.desktop.takeTranscript();
+        QVERIFY(staged.app->applicationShouldTerminate());
+        const QStringList said = staged.desktop.takeTranscript();
+        QCOMPARE(said.size(), 1);
+        const QDir folder(staged.path(QStringLiteral("data")));
+        const QStringList kept = folder.entryList({QStringLiteral("Tessera *.xml")});
+        QCOMPARE(kept.size(), 1);
+        QVERIFY2(said.constFirst().endsWith(folder.filePath(kept.constFirst())),
+                 qPrintable(said.constFirst()));
+    }
+
+    void saveTakesOverWhatIsTypedInACell()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        GameTableView* table = staged.app->mainWindow().gameTable;
+        table->setCurrentIndex(table->model()->index(2, 1));
+        QVERIFY(QTest::qWaitForWindowExposed(&staged.app->mainWindow()));
+        staged.app->editCell();
+        auto* editor = table->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText(QStringLiteral("Typed and not yet entered"));
+        pressSave(staged);
+        QVERIFY(staged.store().contains("Typed and not yet entered"));
     }
 
     void closingTheMainWindowIsARequestToQuit()
@@ -236,7 +352,7 @@ private Q_SLOTS:
         staged.start();
         editFirstTitle(staged, QStringLiteral("Lost?"));
         staged.desktop.answerError(QStringLiteral("failure_write"));
-        staged.desktop.answerAlert(QStringLiteral("Could not save"), 1);
+        staged.desktop.answerAlert(QStringLiteral("quit_unsaved_message"), 1);
         QFile::remove(staged.storePath());
         QVERIFY(QDir().mkpath(staged.storePath() + QStringLiteral("/in the way")));
         staged.app->mainWindow().close();
@@ -250,7 +366,6 @@ private Q_SLOTS:
         staged.desktop.answerError(QString());
         staged.start();
         QVERIFY(staged.app->catalogue().records().empty());
-        staged.desktop.answerError(QStringLiteral("failure_store_unread"));
         staged.app->saveAction();
         QVERIFY(staged.app->applicationShouldTerminate());
         QCOMPARE(staged.store(), QByteArray("<database><object type=\"MAME\""));

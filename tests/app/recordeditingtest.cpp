@@ -173,6 +173,14 @@ private Q_SLOTS:
         QVERIFY(m_staged->store().contains("Tennis"));
     }
 
+    void saveTakesOverWhatWasTyped()
+    {
+        edit(QStringLiteral("pong"), m_editor->editTitle, QStringLiteral("Tennis"));
+        m_staged->app->saveOfKeyWindow();
+        QVERIFY(m_staged->store().contains("Tennis"));
+        QVERIFY(!m_staged->app->catalogue().hasChanges());
+    }
+
     void previousAndNextStepThroughTheList()
     {
         m_staged->app->editRecord();

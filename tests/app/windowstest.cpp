@@ -436,7 +436,7 @@ private Q_SLOTS:
         QVERIFY(m_staged->app->favorites().editing().editor().isVisible());
         becomeKey(favorites());
         m_staged->desktop.takeTranscript();
-        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         m_staged->app->removeOfKeyWindow();
         QCOMPARE(m_staged->app->favorites().favourites().records().size(), std::size_t(1));
         QCOMPARE(m_staged->app->catalogue().records().size(), std::size_t(4));

@@ -150,7 +150,7 @@ private Q_SLOTS:
 
     void removingFromTheEditorAsksToo()
     {
-        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         QTest::mouseClick(m_editor->removeButton, Qt::LeftButton);
         QCOMPARE(m_staged->shownNames(), QStringList{QStringLiteral("b")});
     }
@@ -161,7 +161,7 @@ private Q_SLOTS:
         m_staged->table->selectAll();
         QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(2));
         QCOMPARE(m_editor->field(FavouriteKey::Title)->text(), QStringLiteral("A"));
-        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         QTest::mouseClick(m_editor->removeButton, Qt::LeftButton);
         QCOMPARE(m_staged->shownNames(), QStringList{QStringLiteral("b")});
         QCOMPARE(m_editor->field(FavouriteKey::Title)->text(), QStringLiteral("B"));

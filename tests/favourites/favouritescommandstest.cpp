@@ -1,5 +1,6 @@
 #include "stagedfavourites.h"
 
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 
 #include <QHeaderView>
@@ -144,15 +145,25 @@ private Q_SLOTS:
         QCOMPARE(m_staged->desktop.transcript(), list({"log save error: failure_write"}));
     }
 
+    void aFolderThatCannotBeMadeIsLogged_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("Japanese") << QStringLiteral("ja") << QStringLiteral("ディレクトリ作成でエラー発生: ");
+        QTest::newRow("English") << QStringLiteral("en") << QStringLiteral("The folder could not be made: ");
+    }
     void aFolderThatCannotBeMadeIsLogged()
     {
+        QFETCH(QString, language);
+        QFETCH(QString, sentence);
+        const InstalledTexts texts(language);
         QVERIFY(writeBytes(m_staged->path(QStringLiteral("support")), "a file"));
         m_staged->start();
         m_staged->selectedGame = &pong;
         m_staged->controller->addFavorite();
         m_staged->desktop.takeTranscript();
         m_staged->controller->saveFavorites();
-        const QString line = QStringLiteral("log ディレクトリ作成でエラー発生: ")
+        const QString line = QStringLiteral("log ") + sentence
             + m_staged->path(QStringLiteral("support/Plover.Tessera")) + QStringLiteral(": ");
         QCOMPARE(m_staged->desktop.transcript().size(), 2);
         QVERIFY(m_staged->desktop.transcript().constFirst().startsWith(line));
@@ -275,12 +286,12 @@ private Q_SLOTS:
         m_staged->start();
         m_staged->table->selectRow(1);
         m_staged->desktop.takeTranscript();
-        m_staged->desktop.answerAlert(QStringLiteral("Remove selected data?"), 0);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         m_staged->controller->removeFavoritesTable();
-        QCOMPARE(m_staged->desktop.transcript(), list({"beep", "alert Remove selected data?"}));
+        QCOMPARE(m_staged->desktop.transcript(), list({"beep", "alert favorites_remove_message"}));
         const Alert& alert = m_staged->desktop.alerts.back();
-        QCOMPARE(alert.informative, QStringLiteral("If you stop processing, please choose Cancel."));
-        QCOMPARE(alert.buttons, list({"Remove", "Cancel"}));
+        QCOMPARE(alert.informative, QStringLiteral("favorites_remove_info"));
+        QCOMPARE(alert.buttons, list({"remove", "cancel"}));
         QVERIFY(alert.style == Alert::Style::Warning);
         QCOMPARE(m_staged->shownNames(), list({"a", "c"}));
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
@@ -296,7 +307,7 @@ private Q_SLOTS:
         m_staged->table->selectRow(0);
         m_staged->table->selectionModel()->select(m_staged->controller->model()->index(2, 0),
                                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        m_staged->desktop.answerAlert(QStringLiteral("Remove"), 0);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         m_staged->controller->removeFavoritesTable();
         QCOMPARE(m_staged->shownNames(), list({"b"}));
         m_staged->favourites.undoStack().undo();
@@ -327,7 +338,7 @@ private Q_SLOTS:
         m_staged->start();
         m_staged->favourites.setValue(0, FavouriteKey::Title, QStringLiteral("Edited"));
         m_staged->table->selectRow(0);
-        m_staged->desktop.answerAlert(QStringLiteral("Remove"), 1);
+        m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 1);
         m_staged->controller->removeFavoritesTable();
         QCOMPARE(m_staged->controller->model()->rowCount(), 3);
         QVERIFY(m_staged->controller->favoritesUpdate());

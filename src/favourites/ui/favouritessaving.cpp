@@ -100,8 +100,8 @@ void UCAppController::dir_make(const QString& path)
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     if (error)
-        m_parts.desktop.log(QStringLiteral("ディレクトリ作成でエラー発生: ") + path + QStringLiteral(": ")
-                            + QString::fromStdString(error.message()));
+        m_parts.desktop.log(
+            Failure{"favorites_no_folder", {path, QString::fromStdString(error.message())}}.text());
 }
 
 void UCAppController::commitEditing()

@@ -148,9 +148,9 @@ void UCAppController::removeAfterAsking(std::vector<std::uint32_t> favourites)
         return;
     Alert alert;
     alert.style = Alert::Style::Warning;
-    alert.message = QStringLiteral("Remove selected data?");
-    alert.informative = QStringLiteral("If you stop processing, please choose Cancel.");
-    alert.buttons = {QStringLiteral("Remove"), QStringLiteral("Cancel")};
+    alert.message = qtTrId("favorites_remove_message");
+    alert.informative = qtTrId("favorites_remove_info");
+    alert.buttons = {qtTrId("remove"), qtTrId("cancel")};
     // Shows the selection anew as well.
     if (m_parts.desktop.runAlert(alert) == 0)
         m_parts.favourites.remove(std::move(favourites));
