@@ -4,6 +4,10 @@
 #include "app/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "launch/ui/launchcontroller.h"
+#include "launch/ui/logview.h"
+#include "launch/ui/logwindow.h"
+#include "support/endings.h"
 #include "support/installedtexts.h"
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
@@ -118,6 +122,36 @@ private Q_SLOTS:
         // Whatever the answer, recording and replay do not stay on.
         QCOMPARE(staged.defaults.value(keys::Movierecord.name), QVariant(false));
         QCOMPARE(staged.defaults.value(keys::Replaymove.name), QVariant(false));
+    }
+
+    // It saves when its window closes, and not before.
+    void quittingWaitsForTheGame_data()
+    {
+        QTest::addColumn<bool>("asks");
+        QTest::newRow("by the menu") << true;
+        QTest::newRow("with the session") << false;
+    }
+
+    void quittingWaitsForTheGame()
+    {
+        QFETCH(bool, asks);
+        StagedApp staged;
+        staged.writeCatalogue();
+        qputenv("FAKE_SAVED", QFile::encodeName(staged.path(QStringLiteral("saved"))));
+        staged.start();
+        staged.desktop.windows = test::clickCloseButton;
+        staged.app->launcher().Launchusing(QStringLiteral("windowed"));
+        const LogView& log = *staged.app->logWindow().infomationTextView;
+        QVERIFY(QTest::qWaitFor([&] { return log.text().contains(QStringLiteral("ready")); }, 20000));
+        if (asks)
+            staged.desktop.answerAlert(QStringLiteral("launch_quitmessage"), 0);
+        QTimer::singleShot(0, staged.app.get(),
+                           asks ? &Tessera_AppDelegate::terminate : &Tessera_AppDelegate::endWithSession);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        qunsetenv("FAKE_SAVED");
+        QVERIFY(QFile::exists(staged.path(QStringLiteral("saved"))));
+        QVERIFY(!staged.app->launcher().isRunning());
+        QVERIFY(log.text().endsWith(QStringLiteral("asked to close\n")));
     }
 
     void recordingIsOffOnDiskAfterwards()

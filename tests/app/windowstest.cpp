@@ -9,6 +9,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
+#include "launch/ui/launchcontroller.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
 #include "launch/ui/logview.h"
@@ -31,6 +32,9 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QToolButton>
+
+#include <functional>
+#include <map>
 
 using namespace tessera;
 using test::StagedApp;
@@ -409,20 +413,60 @@ private Q_SLOTS:
         QVERIFY(!mini().setnameTextField2->text().isEmpty());
     }
 
+    void runTakesTheGameOfTheKeyWindow_data()
+    {
+        QTest::addColumn<QString>("window");
+        QTest::addColumn<QString>("game");
+        QTest::newRow("main") << "main" << "pong";
+        QTest::newRow("record editor") << "editor" << "pong";
+        QTest::newRow("favourites") << "favourites" << "qix";
+        QTest::newRow("favourites' editor") << "favourites' editor" << "qix";
+        QTest::newRow("mini") << "mini" << "typed";
+        // Any other.
+        for (const char* other : {"log", "preferences", "help", "history", "filter", "utility"})
+            QTest::newRow(other) << other << "";
+    }
+
+    // The main list, the favourites and the mini window have three different games.
     void runTakesTheGameOfTheKeyWindow()
     {
+        QFETCH(QString, window);
+        QFETCH(QString, game);
         add("qix");
+        QVERIFY(m_staged->app->gameList().selectGame(QStringLiteral("pong")));
+        QWidget& shown = open(window);
+        becomeKey(shown);
         m_staged->desktop.takeTranscript();
-        m_staged->app->windowMini();
-        becomeKey(mini());
+        m_staged->app->menuRun();
+        if (game.isEmpty()) {
+            QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
+            QVERIFY(logText().isEmpty());
+            return;
+        }
+        QVERIFY(logText().startsWith(QStringLiteral("SDL MAME :  %1  Launch...\n\n").arg(game)));
+        m_staged->app->stopGame();
+        QTRY_VERIFY(!m_staged->app->launcher().isRunning());
+    }
+
+    void runBeepsWhereNothingIsChosen_data()
+    {
+        QTest::addColumn<QString>("window");
+        for (const char* window : {"main", "favourites", "mini"})
+            QTest::newRow(window) << window;
+    }
+
+    void runBeepsWhereNothingIsChosen()
+    {
+        QFETCH(QString, window);
+        QWidget& shown = open(window);
+        main().gameTable->clearSelection();
+        if (window == QStringLiteral("mini"))
+            mini().setnameTextField2->clear();
+        becomeKey(shown);
+        m_staged->desktop.takeTranscript();
         m_staged->app->menuRun();
         QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
-        mini().setnameTextField2->setText(QStringLiteral("galaga"));
-        m_staged->app->menuRun();
-        QTRY_VERIFY(main().stopButton->isEnabled());
-        QVERIFY(logText().contains(QStringLiteral("galaga")));
-        m_staged->app->stopGame();
-        QTRY_VERIFY(!main().stopButton->isEnabled());
+        QVERIFY(!m_staged->app->launcher().isRunning());
     }
 
     void commandsOfTheFavouritesActOnTheFavourites()
@@ -538,6 +582,40 @@ private:
     {
         QVERIFY(m_staged->app->gameList().selectGame(QString::fromLatin1(set)));
         m_staged->app->addFavorite();
+    }
+
+    // Opens a window by its name in the tests' tables; what can be chosen in it is.
+    QWidget& open(const QString& name)
+    {
+        Tessera_AppDelegate& app = *m_staged->app;
+        if (name.startsWith(QStringLiteral("favourites"))) {
+            app.windowFavorites();
+            favorites().favoritesTable->selectRow(0);
+        }
+        if (name == QStringLiteral("favourites"))
+            return favorites();
+        if (name == QStringLiteral("mini")) {
+            app.windowMini();
+            mini().setnameTextField2->setText(QStringLiteral("typed"));
+            return mini();
+        }
+        const std::map<QString, std::pair<std::function<void()>, const char*>> others{
+            {"main", {[] {}, "MainWindow"}},
+            {"editor", {[&] { app.editing().editRecord(); }, "RecordEditor"}},
+            {"favourites' editor", {[&] { app.favorites().editing().editRecord(); }, "FavouriteEditor"}},
+            {"log", {[&] { app.windowLog(); }, "LogWindow"}},
+            {"preferences", {[&] { app.showPrefsWindow(); }, "PreferencesWindow"}},
+            {"help", {[&] { app.showHelpWindow(); }, "HelpWindow"}},
+            {"history", {[&] { app.showHistoryinfo(); }, "HistoryWindow"}},
+            {"filter", {[&] { app.showPredicatePanel(); }, "FilterPanel"}},
+            {"utility", {[&] { app.utilityOrderFront(); }, "UtilityWindow"}}};
+        const auto& [show, className] = others.at(name);
+        show();
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && window->inherits(("tessera::" + QByteArray(className)).constData()))
+                return *window;
+        }
+        qFatal("no such window: %s", className);
     }
 
     QString logText() const { return m_staged->app->logWindow().infomationTextView->text(); }

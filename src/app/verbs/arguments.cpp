@@ -13,11 +13,16 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
 namespace tessera {
 
 namespace {
+
+// The numbers that are typed into fields: they are sent as they stand, whatever that is.
+constexpr std::array typedNumbers{keys::Displaybeam.name, keys::Displayflicker.name, keys::Soundvolume.name};
 
 // Puts KEY=VALUE among the settings, by the kind of its initial value. What is wrong with it, or nothing.
 std::optional<QString> set(UserDefaults& settings, const QString& assignment)
@@ -37,10 +42,13 @@ std::optional<QString> set(UserDefaults& settings, const QString& assignment)
             settings.setValue(row.name, on);
         } else if (std::holds_alternative<float>(row.value)) {
             bool isNumber = false;
-            const float number = value.toFloat(&isNumber);
-            if (!isNumber || !(number > -1e6F && number < 1e6F))
+            const double number = value.toDouble(&isNumber);
+            if (std::ranges::find(typedNumbers, row.name) != typedNumbers.end())
+                settings.setValue(row.name, value);
+            else if (isNumber && number > -1e6 && number < 1e6)
+                settings.setValue(row.name, number);
+            else
                 return QStringLiteral("%1 is a number, not \"%2\".").arg(key, value);
-            settings.setValue(row.name, double{number});
         } else {
             settings.setValue(row.name, value);
         }
@@ -106,8 +114,8 @@ int runArguments(const Verb& verb, const QStringList& arguments)
     DefaultsController defaults(settings);
     defaults.setInitialValues(QString(), QDir::homePath());
 
-    const QString game = parser.positionalArguments().value(0);
-    SelectedGame selected{game, QString(), QString()};
+    const QString game = gameReference(parser.positionalArguments().value(0));
+    SelectedGame selected{gameName(game), QString(), QString()};
     const QString store = parser.isSet(catalogue) ? parser.value(catalogue) : standardCataloguePath();
     if (!game.isEmpty() && (parser.isSet(catalogue) || QFileInfo::exists(store))) {
         const auto known = selectedGame(store, game);

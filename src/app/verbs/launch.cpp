@@ -3,6 +3,9 @@
 #include "catalogue/cataloguepath.h"
 #include "app/verbs/becomeemulator.h"
 #include "app/verbs/selectedgame.h"
+#include "favourites/favouritespath.h"
+#include "favourites/priorityoption.h"
+#include "launch/archivepath.h"
 #include "launch/argumentsarray.h"
 #include "launch/commandline.h"
 #include "launch/emulatorfinder.h"
@@ -18,6 +21,19 @@
 
 namespace tessera {
 
+namespace {
+
+// As in the windows, a launch goes on without the options of favourites that cannot be read.
+QString favouriteOptions(const QString& game)
+{
+    const auto option = priorityOption(standardFavouritesPath(), game);
+    if (!option)
+        std::fprintf(stderr, "%s\n", qUtf8Printable(option.error().text()));
+    return option.value_or(QString());
+}
+
+} // namespace
+
 int runLaunch(const Verb& verb, const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -26,7 +42,7 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
     const QString given = parser.positionalArguments().constFirst();
     if (given.isEmpty())
         return badCommandLine(verb, QStringLiteral("The game has no name."));
-    const QString game = given.contains(QLatin1Char('/')) ? QFileInfo(given).absoluteFilePath() : given;
+    const QString game = gameReference(given);
 
     UserDefaults settings(UserDefaults::standardPath());
     DefaultsController defaults(settings);
@@ -38,13 +54,13 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
     // The record file's name needs the titles; without a catalogue there are none, and the launch goes on.
     const auto known = selectedGame(standardCataloguePath(), game);
     const LaunchOptions options
-        = storedOptions(defaults, known ? *known : SelectedGame{game, QString(), QString()});
-    const CommandLine line = commandLine(ProfileCache().ask(executable).profile, game,
-                                         argumentsArray(options), {}, QFileInfo(executable).absolutePath());
-    if (QFileInfo(game).isAbsolute()) {
-        RecentDocuments(settings).note(game);
-        std::ignore = settings.synchronize();
-    }
+        = storedOptions(defaults, known ? *known : SelectedGame{gameName(game), QString(), QString()});
+    const CommandLine line
+        = commandLine(ProfileCache().ask(executable).profile, game, argumentsArray(options),
+                      ownOptions(favouriteOptions(game)), QFileInfo(executable).absolutePath());
+    const ArchiveFolders folders{options.checkboxRompath != 0, options.romsTextField, executable};
+    RecentDocuments(settings).note(QDir::isAbsolutePath(game) ? game : archivePath(folders, game));
+    std::ignore = settings.synchronize();
     if (const QString note = line.leftOutLine(); !note.isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(note));
     return failed(becomeEmulator(QFileInfo(executable).absoluteFilePath(), line.arguments));

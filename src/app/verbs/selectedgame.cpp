@@ -2,20 +2,29 @@
 
 #include "catalogue/recorddictionary.h"
 #include "catalogue/storereader.h"
+#include "launch/commandline.h"
+
+#include <QFileInfo>
 
 namespace tessera {
+
+QString gameReference(const QString& given)
+{
+    return given.contains(QLatin1Char('/')) ? QFileInfo(given).absoluteFilePath() : given;
+}
 
 std::expected<SelectedGame, Failure> selectedGame(const QString& path, const QString& game)
 {
     const auto stored = readStore(path);
     if (!stored)
         return std::unexpected(stored.error());
-    const QByteArray name = game.toUtf8();
+    const QString set = gameName(game);
+    const QByteArray name = set.toUtf8();
     for (const GameRecord& record : stored->records) {
         if (record[Field::Name] == std::string_view(name))
-            return SelectedGame{game, shownValue(record, Field::Title), shownValue(record, Field::Titlejp)};
+            return SelectedGame{set, shownValue(record, Field::Title), shownValue(record, Field::Titlejp)};
     }
-    return SelectedGame{game, QString(), QString()};
+    return SelectedGame{set, QString(), QString()};
 }
 
 } // namespace tessera

@@ -29,6 +29,35 @@ private Q_SLOTS:
         QVERIFY(tessera({QStringLiteral("arguments")}).out.contains("\n-nomaximize\n"));
     }
 
+    void whatIsTypedForANumberIsSentAsItStands_data()
+    {
+        QTest::addColumn<QByteArray>("typed");
+        for (const char* typed : {"", "01.50", "1.1", "0.1234567", "1234567", "a word"})
+            QTest::newRow(*typed ? typed : "nothing") << QByteArray(typed);
+    }
+
+    void whatIsTypedForANumberIsSentAsItStands()
+    {
+        QFETCH(QByteArray, typed);
+        const auto set = [&](const char* key) { return QString::fromLatin1(key + QByteArray("=") + typed); };
+        const QByteArrayList words
+            = tessera({QStringLiteral("arguments"), QStringLiteral("--set"), set("Displaybeam"),
+                       QStringLiteral("--set"), set("Displayflicker"), QStringLiteral("--set"),
+                       set("Soundvolume")})
+                  .out.split('\n');
+        for (const char* option : {"-beam", "-flicker", "-volume"}) {
+            QVERIFY(words.contains(option));
+            QCOMPARE(words.value(words.indexOf(option) + 1), typed);
+        }
+    }
+
+    void aPositionIsANumber()
+    {
+        const Outcome outcome
+            = tessera({QStringLiteral("arguments"), QStringLiteral("--set"), QStringLiteral("Videodriver=")});
+        QCOMPARE(outcome.status, 2);
+    }
+
     void theRecordFileIsNamedAfterTheGame()
     {
         const GameRecord record{{"game", "pong", "pong", "Pong", "ポン", "1972", "Atari", "good", ""}};
