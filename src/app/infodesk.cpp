@@ -191,13 +191,13 @@ void InfoDesk::follow(KeyWindow::Kind list)
 {
     const auto asked = std::ranges::find(m_subjects, list, &Subject::window);
     const QString name = asked->name();
-    if (std::exchange(m_names[list], name) == name || !isShown(list))
+    if (std::exchange(m_names[list], name) == name || !isListShown(list))
         return;
     if (m_window && m_window->isVisible() && m_defaults.defaults().flag(keys::HistoryFollows.name))
         m_history->followTo(name, asked->key());
 }
 
-bool InfoDesk::isShown(KeyWindow::Kind list) const
+bool InfoDesk::isListShown(KeyWindow::Kind list) const
 {
     return list == Kind::Main ? m_hub.mainWindow().isVisible() : m_hub.favorites().isShown();
 }

@@ -66,7 +66,7 @@ private:
     const Subject* subject() const;
     void show(const QString& name, const QString& key);
     void follow(KeyWindow::Kind list);
-    bool isShown(KeyWindow::Kind list) const;
+    bool isListShown(KeyWindow::Kind list) const;
 
     Tessera_AppDelegate& m_hub;
     Desktop& m_desktop;

@@ -611,8 +611,9 @@ private:
             {"utility", {[&] { app.utilityOrderFront(); }, "UtilityWindow"}}};
         const auto& [show, className] = others.at(name);
         show();
+        const QByteArray wanted = QByteArray("tessera::") + className;
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (window->isVisible() && window->inherits(("tessera::" + QByteArray(className)).constData()))
+            if (window->isVisible() && window->inherits(wanted.constData()))
                 return *window;
         }
         qFatal("no such window: %s", className);
