@@ -22,6 +22,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -183,8 +184,10 @@ void FavoritesWindow::restore()
         m_split->splitView2()->restoreState(split->toByteArray());
     for (const ColumnWidth& each : columnWidths)
         favoritesTable->setColumnWidth(static_cast<int>(each.column), each.width);
-    if (const auto columns = stored.value(keys::FavoritesWindowColumns.name))
+    if (const auto columns = stored.value(keys::FavoritesWindowColumns.name)) {
+        const QSignalBlocker unsorted(favoritesTable->horizontalHeader());
         favoritesTable->horizontalHeader()->restoreState(columns->toByteArray());
+    }
     favoritesTable->setFocus();
 }
 

@@ -22,6 +22,7 @@
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -260,8 +261,11 @@ void MainWindow::restore()
             != GameTableModel::hiddenColumns.end())
             gameTable->setColumnHidden(static_cast<int>(i), true);
     }
-    if (const auto columns = stored.value(keys::MainWindowColumns.name))
+    if (const auto columns = stored.value(keys::MainWindowColumns.name)) {
+        // Widths and places only: the last run's sort is not this one's, not even among what is equal.
+        const QSignalBlocker unsorted(gameTable->horizontalHeader());
         gameTable->horizontalHeader()->restoreState(columns->toByteArray());
+    }
     gameTable->setFocus();
 }
 

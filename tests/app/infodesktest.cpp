@@ -77,7 +77,8 @@ private Q_SLOTS:
         m_staged = std::make_unique<StagedApp>();
         m_staged->writeCatalogue();
         write("history.dat",
-              "$info=galaxian\r\n$bio\r\nAliens.\r\n$end\r\n$info=pong\r\n$bio\r\nBats.\r\n$end\r\n"
+              "$info=galaga88\r\n$bio\r\nShips.\r\n$end\r\n$info=galaxian\r\n$bio\r\nAliens.\r\n$end\r\n$"
+              "info=pong\r\n$bio\r\nBats.\r\n$end\r\n"
               "$info=qix\r\n$bio\r\nLines.\r\n$end\r\n");
         m_staged->defaults.setValue(keys::HistoryPath.name, m_staged->path("history.dat"));
         m_staged->defaults.setValue(keys::InfositeHost3.name, QStringLiteral("a.test"));
@@ -480,7 +481,7 @@ private:
         m_staged->app->favorites().window().favoritesTable->selectRow(1);
         m_staged->app->gameList().selectGame("galaga");
         m_staged->app->searchHistoryinfo();
-        shows("Aliens.");
+        shows("Ships.");
         history().followBox->click();
         QVERIFY(m_staged->app->mainWindow().isVisible());
     }
