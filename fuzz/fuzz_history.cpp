@@ -1,5 +1,5 @@
-// Bytes as a history file: the text is UTF-8, an entry is a clean part of it, and reflowing takes line ends
-// only.
+// Bytes as a history file: the text is UTF-8, an entry is a part of it that ends where it must, and reflowing
+// takes line ends only.
 
 #include "core/encodings.h"
 #include "info/historytext.h"
@@ -21,7 +21,11 @@ void check(bool holds)
 void checkEntry(std::string_view text, std::string_view entry)
 {
     check(entry.data() >= text.data() && entry.data() + entry.size() <= text.data() + text.size());
-    check(entry.find("$end") == std::string_view::npos && entry.find("$info=") == std::string_view::npos);
+    // Another entry's beginning stands in it only where nothing ended this one before.
+    check(entry.find("$end") == std::string_view::npos);
+    const std::string_view behind
+        = text.substr(static_cast<std::size_t>(entry.data() - text.data()) + entry.size());
+    check(entry.find("$info=") == std::string_view::npos || behind.starts_with("$end"));
     std::string parsed = makeParsedString(entry);
     check(parsed.size() <= entry.size());
     std::string plain(entry);
