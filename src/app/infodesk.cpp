@@ -215,7 +215,10 @@ void InfoDesk::openROMinfo2()
 {
     FavoritesDesk& favorites = m_hub.favorites();
     const QString name = favorites.controller().tableViewSelectionROM2();
-    const auto page = name.isEmpty() ? std::nullopt : favorites.window().siteChoice->page(name);
+    const SiteChoice& choice = *favorites.window().siteChoice;
+    if (const QString why = choice.hindrance(); !name.isEmpty() && !why.isEmpty())
+        Q_EMIT statusMessage(why);
+    const auto page = name.isEmpty() ? std::nullopt : choice.page(name);
     if (!page || !m_desktop.openUrl(*page))
         m_desktop.beep();
 }

@@ -201,6 +201,28 @@ private Q_SLOTS:
         QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("beep")});
     }
 
+    void aSiteOfTheFavouritesWithoutAHostIsNamed()
+    {
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->windowFavorites();
+        FavoritesWindow& window = m_staged->app->favorites().window();
+        window.favoritesTable->selectRow(0);
+        m_staged->desktop.takeTranscript();
+        QStringList said;
+        connect(&m_staged->app->info(), &InfoDesk::statusMessage, this,
+                [&said](const QString& text) { said << text; });
+        // Only the third site has a host here; the fifth item has no address whatever its host.
+        for (const int item : {0, 2, 5}) {
+            window.siteChoice->infositePop2->setCurrentIndex(item);
+            m_staged->app->info().openROMinfo2();
+        }
+        QCOMPARE(said, QStringList{QStringLiteral("infosite_no_host")});
+        QCOMPARE(m_staged->desktop.takeTranscript(),
+                 (QStringList{QStringLiteral("beep"), QStringLiteral("url http://a.test/game/qix"),
+                              QStringLiteral("beep")}));
+    }
+
     void theFavouritesSitesAreTitledByTheirAddresses()
     {
         const QComboBox& popup = *m_staged->app->favorites().window().siteChoice->infositePop2;

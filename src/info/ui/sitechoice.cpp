@@ -90,6 +90,16 @@ QString SiteChoice::siteTemplate() const
     return item >= 0 && item < templates ? infositePop2->currentText() : QString();
 }
 
+QString SiteChoice::hindrance() const
+{
+    const int item = infositePop2->currentIndex();
+    if (item < 0 || item >= templates)
+        return QString();
+    const InformationSite& site = informationSites[static_cast<std::size_t>(item)];
+    const QString host = hostText(site.host, [this](const ChosenKey& key) { return m_defaults.text(key); });
+    return host.isEmpty() ? qtTrId("infosite_no_host").arg(site.number) : QString();
+}
+
 std::optional<QUrl> SiteChoice::page(const QString& name) const
 {
     return gamePage(siteTemplate(), name);

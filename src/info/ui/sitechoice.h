@@ -23,6 +23,8 @@ public:
 
     /// The chosen page for a set; nothing where there is none.
     std::optional<QUrl> page(const QString& name) const;
+    /// Why the chosen site has no page, in one sentence; empty where it is not for want of a host.
+    QString hindrance() const;
 
     QComboBox* infositePop2;
     QLineEdit* addressField2;
