@@ -38,7 +38,8 @@ protected:
     void writeOldFavourites(const QByteArrayList& names) const;
     /// The settings name the program that plays the emulator.
     void useStandIn() const;
-    /// The program finds none of the emulators that are installed here, where something may be mounted over them.
+    /// The program finds none of the emulators that are installed here, where something may be mounted over
+    /// them.
     void hideEmulators();
 
     std::unique_ptr<QTemporaryDir> m_folder;
