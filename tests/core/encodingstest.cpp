@@ -30,6 +30,25 @@ private Q_SLOTS:
         row("above the last", "\xF4\x90\x80\x80", "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
         row("never a lead", "\xFF\xFE", "\xEF\xBF\xBD\xEF\xBF\xBD");
         row("last character", "\xF4\x8F\xBF\xBF", "\xF4\x8F\xBF\xBF");
+        const QByteArray broken = "\xEF\xBF\xBD";
+        row("first of two bytes", "\xC2\x80", "\xC2\x80");
+        row("last of two bytes", "\xDF\xBF", "\xDF\xBF");
+        row("overlong two", "\xC1\xBF", broken + broken);
+        row("two bytes, the second too low", "\xC2\x7F", broken + "\x7F");
+        row("two bytes, the second too high", "\xC2\xC0", broken + broken);
+        row("first of three bytes", "\xE0\xA0\x80", "\xE0\xA0\x80");
+        row("three bytes with the lowest second one", "\xE1\x80\x80", "\xE1\x80\x80");
+        row("three bytes with the highest ones", "\xEF\xBF\xBF", "\xEF\xBF\xBF");
+        row("three bytes, the third too low", "\xE1\x80\x7F", broken + "\x7F");
+        row("three bytes, the third too high", "\xE1\x80\xC0", broken + broken);
+        row("before the surrogates", "\xED\x9F\xBF", "\xED\x9F\xBF");
+        row("behind the surrogates", "\xEE\x80\x80", "\xEE\x80\x80");
+        row("first of four bytes", "\xF0\x90\x80\x80", "\xF0\x90\x80\x80");
+        row("overlong four", "\xF0\x8F\xBF\xBF", broken.repeated(4));
+        row("four bytes with the highest second one", "\xF1\xBF\x80\x80", "\xF1\xBF\x80\x80");
+        row("four bytes, the last one missing", "\xF1\x80\x80", broken);
+        row("a lead of five bytes", "\xF8\x88\x80\x80\x80", broken.repeated(5));
+        row("above the last lead", "\xF5\x80\x80\x80", broken.repeated(4));
     }
 
     void invalidBytesBecomeReplacementCharacters()
