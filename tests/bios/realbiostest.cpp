@@ -1,5 +1,6 @@
 #include "biosroom.h"
 
+#include "support/needed.h"
 #include "support/testmain.h"
 
 #include <QFileInfo>
@@ -16,8 +17,7 @@ private Q_SLOTS:
     void whateverTheEmulatorKnowsCanBeSet()
     {
         const QString mame = QStringLiteral("/usr/games/mame");
-        if (!QFileInfo::exists(mame))
-            QSKIP("no emulator is installed");
+        TESSERA_NEEDS(QFileInfo::exists(mame), "MAME");
         test::BiosRoom room;
         room.emulator = mame;
         room.panel->show();

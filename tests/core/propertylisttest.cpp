@@ -2,6 +2,7 @@
 #include "core/propertylistcheck.h"
 
 #include "support/decimalcomma.h"
+#include "support/needed.h"
 #include "support/testmain.h"
 
 #include <QTemporaryDir>
@@ -426,8 +427,7 @@ private Q_SLOTS:
 
     void numbersAreReadWithAPointInEveryLocale()
     {
-        if (!test::DecimalComma::canBeMade())
-            QSKIP("localedef is not installed");
+        TESSERA_NEEDS(test::DecimalComma::canBeMade(), "localedef");
         const test::DecimalComma comma;
         QVERIFY(comma.holds());
         QCOMPARE(std::strtod("1,5", nullptr), 1.5);

@@ -5,6 +5,7 @@
 #include "launch/launchroom.h"
 #include "platform/qt/windowclosing.h"
 #include "support/endings.h"
+#include "support/needed.h"
 #include "support/testmain.h"
 #include "support/xserver.h"
 
@@ -85,10 +86,8 @@ class EndingMameTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        if (findEmulator().isEmpty())
-            QSKIP("no emulator is installed");
-        if (!test::XServer::isInstalled())
-            QSKIP("Xvfb is not installed");
+        TESSERA_NEEDS(!findEmulator().isEmpty(), "MAME");
+        TESSERA_NEEDS(test::XServer::isInstalled(), "Xvfb");
         m_server = std::make_unique<test::XServer>();
         QVERIFY(m_server->isThere());
     }

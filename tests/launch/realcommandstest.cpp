@@ -1,6 +1,7 @@
 #include "launch/emulatorcommands.h"
 
 #include "launch/emulatortask.h"
+#include "support/needed.h"
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
 
@@ -49,8 +50,7 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QString, part);
         const QString mame = QStringLiteral("/usr/games/mame");
-        if (!QFileInfo::exists(mame))
-            QSKIP("no emulator is installed");
+        TESSERA_NEEDS(QFileInfo::exists(mame), "MAME");
         test::ScriptedDesktop desktop;
         EmulatorTask task(desktop);
         QString text;

@@ -1,6 +1,7 @@
 #include "platform/qt/windowclosing.h"
 
 #include "platform/qt/qtdesktop.h"
+#include "support/needed.h"
 #include "support/testmain.h"
 #include "support/xserver.h"
 
@@ -107,8 +108,7 @@ class WindowClosingTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        if (!test::XServer::isInstalled())
-            QSKIP("Xvfb is not installed");
+        TESSERA_NEEDS(test::XServer::isInstalled(), "Xvfb");
         m_server = std::make_unique<test::XServer>();
         QVERIFY(m_server->isThere());
     }
