@@ -55,6 +55,7 @@ GameTableView::GameTableView(QWidget* parent)
     auto* families = new FamilyDelegate(this);
     setItemDelegateForColumn(0, families);
     connect(families, &FamilyDelegate::toggled, this, &GameTableView::familyToggled);
+    // Of the left button only: see mouseDoubleClickEvent().
     connect(this, &QTableView::doubleClicked, this, &GameTableView::doubleAction);
 }
 
@@ -138,13 +139,23 @@ void GameTableView::setModel(QAbstractItemModel* model)
     // A reset drops the selection without a word from the selection model.
     connect(model, &QAbstractItemModel::modelReset, this, &GameTableView::selectionDidChange);
     // Rows that change places stay selected, and the selection model has nothing to tell. But the first one
-    // counts.
-    connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this,
-            [this] { m_firstSelected = firstSelected(); });
+    // counts; and one that stood for its family goes, where another one stands for it in the new order.
+    connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, [this] {
+        m_firstSelected = firstSelected();
+        m_rowsSelected = rowsSelected();
+    });
     connect(model, &QAbstractItemModel::layoutChanged, this, [this] {
-        if (m_firstSelected != firstSelected())
+        if (m_firstSelected != firstSelected() || m_rowsSelected != rowsSelected())
             Q_EMIT selectionDidChange();
     });
+}
+
+int GameTableView::rowsSelected() const
+{
+    int rows = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        rows += range.isValid() ? range.height() : 0;
+    return rows;
 }
 
 QModelIndex GameTableView::firstSelected() const
@@ -157,11 +168,15 @@ QModelIndex GameTableView::firstSelected() const
     return first;
 }
 
-// The toolkit tells of rows only.
+// The toolkit tells of rows only, and of any button: another one's second press is one like the first. Where
+// it was is asked before a game is started by it, as the rows may be others afterwards.
 void GameTableView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton)
+        return mousePressEvent(event);
+    const bool isBeneath = !indexAt(event->position().toPoint()).isValid();
     QTableView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && !indexAt(event->position().toPoint()).isValid())
+    if (isBeneath)
         Q_EMIT doubleAction();
 }
 

@@ -58,9 +58,12 @@ private:
     void showColumnsMenu(QPoint place);
 
     QModelIndex firstSelected() const;
+    int rowsSelected() const;
 
     bool m_selectsAlone = false;
-    QPersistentModelIndex m_firstSelected; ///< while the rows change places
+    // While the rows change places.
+    QPersistentModelIndex m_firstSelected;
+    int m_rowsSelected = 0;
 };
 
 } // namespace tessera

@@ -110,6 +110,61 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 0);
     }
 
+    // Where a family's parent is hidden, the clone that comes first stands for it.
+    void aSortThatTakesASelectedRowAwayIsTold_data()
+    {
+        QTest::addColumn<QStringList>("chosen");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("mark");
+        QTest::newRow("the only one") << QStringList{"Zed"} << QString() << "plovermark_none";
+        QTest::newRow("one behind the first") << QStringList{"", "Zed"} << QString() << "plovermark_good";
+    }
+    void aSortThatTakesASelectedRowAwayIsTold()
+    {
+        QFETCH(QStringList, chosen);
+        m_list->list().setFamilies(ArrangedList::Families{{0, 0, 0, 3, 4}, RecordSet(machines.size())});
+        m_list->list().setPredicate([](const GameRecord& record) { return record[Field::Name] != "abc"; });
+        QCOMPARE(names(), (QStringList{"", "Zed", "mid"}));
+        select(chosen);
+        QSignalSpy changes(m_list, &GameListController::selectionChanged);
+        QSignalSpy marks(m_list, &GameListController::markChanged);
+        clickHeader(3);
+        QCOMPARE(names(), (QStringList{"zed", "mid", ""}));
+        QCOMPARE(m_list->selectedCount(), static_cast<int>(chosen.size()) - 1);
+        QTEST(m_list->tableViewSelectionROM(), "first");
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(marks.count(), 1);
+        QTEST(marks.constFirst().constFirst().toString(), "mark");
+    }
+
+    void onlyTheLeftButtonLaunches_data()
+    {
+        QTest::addColumn<Qt::MouseButton>("button");
+        QTest::newRow("right") << Qt::RightButton;
+        QTest::newRow("middle") << Qt::MiddleButton;
+        QTest::newRow("back") << Qt::BackButton;
+    }
+    void onlyTheLeftButtonLaunches()
+    {
+        QFETCH(Qt::MouseButton, button);
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        doubleClick(m_table->visualRect(indexOf("mid")).center(), button);
+        doubleClick(QPoint(60, m_table->viewport()->height() - 5), button);
+        QCOMPARE(launches.count(), 0);
+        QVERIFY(m_stage->desktop.takeTranscript().isEmpty());
+    }
+
+    // A launch may ask something, and the rows may be others by then.
+    void rowsThatGoWhileAGameIsStartedStartNoOther()
+    {
+        QSignalSpy launches(m_list, &GameListController::launchRequested);
+        connect(m_list, &GameListController::launchRequested, this,
+                [this] { m_list->list().setPredicate([](const GameRecord&) { return false; }); });
+        doubleClick(m_table->visualRect(indexOf("mid")).center());
+        QCOMPARE(launches.count(), 1);
+        QVERIFY(m_stage->desktop.takeTranscript().isEmpty());
+    }
+
     void aDoubleClickLaunches()
     {
         QSignalSpy launches(m_list, &GameListController::launchRequested);
@@ -228,10 +283,10 @@ private:
         QCOMPARE(header->sortIndicatorSection(), column);
     }
 
-    void doubleClick(QPoint place)
+    void doubleClick(QPoint place, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseClick(m_table->viewport(), button, Qt::NoModifier, place);
+        QTest::mouseDClick(m_table->viewport(), button, Qt::NoModifier, place);
     }
 
     std::unique_ptr<Stage> m_stage;
