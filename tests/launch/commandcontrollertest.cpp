@@ -117,6 +117,25 @@ private Q_SLOTS:
         QCOMPARE(room.allPrinted(), QStringList({room.folder.path() + "/my roms/sel.zip", "-romident"}));
     }
 
+    // By another start of the program.
+    void aGameThatIsStartedWhileThePanelStandsGoesOn()
+    {
+        Room room;
+        const QString path = room.folder.filePath("kept.txt");
+        {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("as it was");
+        }
+        room.desktop.whileAsked = [&room] { room.controller.Launchusing("windowed"); };
+        QCOMPARE(room.exported(0, path), QStringLiteral("as it was"));
+        QVERIFY(room.desktop.transcript().endsWith(QStringLiteral("beep")));
+        QVERIFY(room.bar.exportButton->isEnabled());
+        QTRY_VERIFY(room.task.isRunning() && room.text().contains("windowed"));
+        room.controller.stopAndWait();
+        QVERIFY(!room.desktop.transcript().contains(QStringLiteral("sound Pop")));
+    }
+
     void worksInTheEmulatorsFolder()
     {
         Room room;

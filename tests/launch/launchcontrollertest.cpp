@@ -374,6 +374,28 @@ private Q_SLOTS:
         QCOMPARE(room.text(), header.arg("exit0") + "leaving\n");
     }
 
+    // By another start of the program: it ends as any running game does, and is not cut short.
+    void aGameThatIsStartedWhileTheAlertStandsEndsFirst()
+    {
+        const QTemporaryDir folder;
+        qputenv("FAKE_SAVED", QFile::encodeName(folder.filePath("saved")));
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.defaults.setText(keys::ExecutionPath, "/missing/mame");
+        room.desktop.answerAlert("alert_Message1", 1);
+        room.desktop.whileAsked = [&room] {
+            room.defaults.setText(keys::ExecutionPath, room.emulator());
+            room.controller.Launchusing("windowed");
+            QVERIFY(room.waitForText("ready"));
+        };
+        room.controller.Launchusing("print");
+        QVERIFY(room.waitForText("[print]"));
+        qunsetenv("FAKE_SAVED");
+        QVERIFY(QFile::exists(folder.filePath("saved")));
+        QVERIFY(QTest::qWaitFor([&] { return !room.controller.isRunning(); }, 20000));
+        QVERIFY(room.text().startsWith(header.arg("print") + "[print]\n"));
+    }
+
     void anEmulatorThatIsInstalledLaterIsFoundByTheNextLaunch()
     {
         Room room;

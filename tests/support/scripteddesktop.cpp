@@ -40,6 +40,8 @@ void ScriptedDesktop::answerColor(const QString& from, const std::optional<QStri
 std::optional<ScriptedDesktop::Answer> ScriptedDesktop::take(const QString& kind, const QString& question)
 {
     m_transcript << QStringLiteral("%1 %2").arg(kind, question).trimmed();
+    if (const auto meanwhile = std::exchange(whileAsked, nullptr))
+        meanwhile();
     if (m_answers.empty() || m_answers.front().kind != kind
         || !question.contains(m_answers.front().question)) {
         QTest::qFail(qPrintable(QStringLiteral("unexpected %1: %2").arg(kind, question)), __FILE__, __LINE__);

@@ -38,6 +38,8 @@ public:
     std::vector<ColorRequest> colorRequests;
     /// What openUrl() answers.
     bool hasBrowser = true;
+    /// What happens while the next question stands.
+    std::function<void()> whileAsked;
     /// What askToClose() does and answers; without one there is no window.
     std::function<bool(qint64 process)> windows;
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5));

@@ -87,6 +87,11 @@ void CommandController::exportAction()
         bar.exportButton->setEnabled(true);
         return;
     }
+    // Another start of the program may have begun a game while the panel stood.
+    if (m_parts.launches.isRunning()) {
+        bar.exportButton->setEnabled(true);
+        return m_parts.desktop.beep();
+    }
     bar.setBusy(true);
     m_parts.runs.beginLog(exportHeader(title));
     const bool isWritable = QFile(*path).open(QIODevice::WriteOnly | QIODevice::Truncate);

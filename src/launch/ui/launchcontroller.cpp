@@ -119,6 +119,9 @@ void LaunchController::launchNext()
 void LaunchController::launch(const QString& game)
 {
     LaunchemuCheck();
+    // Another start of the program may have begun a game while the alert stood.
+    if (isRunning())
+        return Launchusing(game);
     m_name = gameName(game);
     const QComboBox* mode = m_parts.pages.general().launchusingPop;
     m_parts.runs.beginLog(mode->currentText() + QStringLiteral(" :  ") + m_name
