@@ -234,9 +234,8 @@ QString Tessera_AppDelegate::emulator()
 
 void Tessera_AppDelegate::terminate()
 {
-    if (!applicationShouldTerminate())
+    if (!applicationShouldTerminate() || std::exchange(m_isEnding, true))
         return;
-    m_isEnding = true;
     applicationWillTerminate();
     // Not quit(): that would close the windows, which ask for the end of the program again.
     QCoreApplication::exit(0);
@@ -245,7 +244,8 @@ void Tessera_AppDelegate::terminate()
 bool Tessera_AppDelegate::applicationShouldTerminate()
 {
     m_editing->commitEditing();
-    const bool quits = m_gameList->commitEditing() && m_launch->confirmQuit() && saveBeforeQuitting();
+    const bool quits = m_gameList->commitEditing() && m_launch->confirmQuit()
+        && (!m_utility || m_utility->mayBeAbandoned()) && saveBeforeQuitting();
     // Whatever the answer.
     forgetRecording();
     return quits;
@@ -269,7 +269,9 @@ void Tessera_AppDelegate::saveForSessionEnd()
 
 void Tessera_AppDelegate::endWithSession()
 {
-    m_isEnding = true;
+    // Told again while a game is still ending; it is waited for once, and to its end.
+    if (std::exchange(m_isEnding, true))
+        return;
     saveForSessionEnd();
     forgetRecording();
     // What was not restored yet stays stored as it was.

@@ -40,6 +40,8 @@ public:
 
     /// Those controls that stand in this window.
     static void awakeFromNib(QWidget& window);
+    /// Of any other control.
+    static void takeRing(QWidget& control);
 };
 
 } // namespace tessera

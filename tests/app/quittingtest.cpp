@@ -11,6 +11,8 @@
 #include "support/installedtexts.h"
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
+#include "tools/ui/utilityobject.h"
+#include "tools/ui/workbench.h"
 
 #include <QAction>
 #include <QLabel>
@@ -19,6 +21,8 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTimer>
+
+#include <thread>
 
 using namespace tessera;
 using test::StagedApp;
@@ -152,6 +156,60 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(staged.path(QStringLiteral("saved"))));
         QVERIFY(!staged.app->launcher().isRunning());
         QVERIFY(log.text().endsWith(QStringLiteral("asked to close\n")));
+    }
+
+    // As by a second Ctrl+C, or by a session that ends while the program does.
+    void tellingItTwiceDoesNotCutTheGamesEndShort()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        qputenv("FAKE_SAVED", QFile::encodeName(staged.path(QStringLiteral("saved"))));
+        staged.start();
+        staged.app->launcher().Launchusing(QStringLiteral("windowed"));
+        const LogView& log = *staged.app->logWindow().infomationTextView;
+        QVERIFY(QTest::qWaitFor([&] { return log.text().contains(QStringLiteral("ready")); }, 20000));
+        staged.desktop.windows = [&staged](qint64 process) {
+            // It takes its time, and is told again meanwhile.
+            QTimer::singleShot(0, staged.app.get(), &Tessera_AppDelegate::endWithSession);
+            QTimer::singleShot(200, staged.app.get(), [process] { test::clickCloseButton(process); });
+            return true;
+        };
+        QTimer::singleShot(0, staged.app.get(), &Tessera_AppDelegate::endWithSession);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        qunsetenv("FAKE_SAVED");
+        QVERIFY(QFile::exists(staged.path(QStringLiteral("saved"))));
+        QVERIFY(!staged.app->launcher().isRunning());
+    }
+
+    void aToolAtWorkIsAskedAbout_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("quits");
+        QTest::newRow("it goes on") << 0 << false;
+        QTest::newRow("it is stopped") << 1 << true;
+    }
+    void aToolAtWorkIsAskedAbout()
+    {
+        QFETCH(int, button);
+        QFETCH(bool, quits);
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.app->utilityOrderFront();
+        Workbench& workbench = staged.app->utility().workbench();
+        workbench.run(
+            [](const Job& job) {
+                while (!job.stop().stop_requested())
+                    std::this_thread::yield();
+                return 0;
+            },
+            [](int, bool) {});
+        staged.desktop.answerAlert(QStringLiteral("tool_close_Message"), button);
+        QCOMPARE(staged.app->applicationShouldTerminate(), quits);
+        workbench.cancel();
+        QTRY_VERIFY(!workbench.isBusy());
+        // Nothing is asked where nothing is at work.
+        QVERIFY(staged.app->applicationShouldTerminate());
     }
 
     void recordingIsOffOnDiskAfterwards()

@@ -280,6 +280,8 @@ private Q_SLOTS:
         const auto said = words.match(status.front().front().toString());
         QVERIFY2(said.hasMatch(), qPrintable(status.front().front().toString()));
         const auto copied = stage.entries("aside").size();
+        // Each of them is in the log, whenever it ended.
+        QCOMPARE(stage.desktop.transcript().filter(QRegularExpression("^log .*\\.zip")).size(), copied);
         const int done = said.captured(1).toInt();
         QVERIFY2(done == copied || done == copied + 1, qPrintable(QString::number(copied)));
         QVERIFY(stage.entries("aside").filter(".tessera").isEmpty());

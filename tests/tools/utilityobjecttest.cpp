@@ -5,6 +5,7 @@
 #include "tools/utilitystage.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QLayout>
@@ -40,6 +41,24 @@ class UtilityObjectTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The toolkit's; our own border stays.
+    void theFocusRingsOfItsControlsAreOff()
+    {
+        Stage stage;
+        int controls = 0;
+        for (const QWidget* widget : stage.window.findChildren<QWidget*>()) {
+            const bool isControl = qobject_cast<const QLineEdit*>(widget) != nullptr
+                || qobject_cast<const QAbstractButton*>(widget) != nullptr
+                || qobject_cast<const QComboBox*>(widget) != nullptr || widget == stage.window.utilityTabView;
+            if (!isControl)
+                continue;
+            ++controls;
+            QVERIFY2(widget->property("focusring").toString() == QStringLiteral("none"),
+                     qPrintable(widget->objectName()));
+        }
+        QVERIFY(controls > 40);
+    }
+
     void convertsThenAsksWhereToThenReports()
     {
         Stage stage;

@@ -28,9 +28,10 @@ private Q_SLOTS:
         };
         QPushButton* with = addButton("other");
         QPushButton* without = addButton("buttonroms");
-        DeletionFocusRing::awakeFromNib(window);
+        // Of a window that stands already: the start has no time for it before.
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
+        DeletionFocusRing::awakeFromNib(window);
         const auto shown = [](QWidget* button, bool focused) {
             for (int i = 0; i < 2 && button->hasFocus() != focused; ++i)
                 QTest::keyClick(button->window(), Qt::Key_Tab);

@@ -58,9 +58,10 @@ void ConversionTool::outputAction()
     m_page.showSaved({});
     m_workbench.indicator_start();
     m_workbench.run(
-        [this, options, listxml = m_page.listxmlTextField->text(),
+        // The tool may have gone before it begins; the workbench waits for it.
+        [&workbench = m_workbench, options, listxml = m_page.listxmlTextField->text(),
          titles = m_page.mame32jpTextField->text()](const Job& job) {
-            return convertFiles(listxml, titles, options, {job.stop(), m_workbench.progressOf(job, listxml)});
+            return convertFiles(listxml, titles, options, {job.stop(), workbench.progressOf(job, listxml)});
         },
         [this](std::expected<ConvertedList, Failure> list, bool isCancelled) {
             offer(std::move(list), isCancelled);

@@ -147,6 +147,8 @@ void SeparationTool::separateAction()
             job.post([this, copied, all] { m_workbench.showProgress(std::min(copied, all), all); });
         };
         return separation.run(names, {job.stop(), progress}, [&](const SeparatedRow& row) {
+            if (const auto line = row.logLine())
+                job.log(*line);
             job.post([this, row, place = places[row.index]] { mark(place, row); });
         });
     };
@@ -167,8 +169,6 @@ QString SeparationTool::leftUndone(const SeparationCounts& counts, std::size_t a
 void SeparationTool::mark(std::size_t place, const SeparatedRow& row)
 {
     m_page.rows->setState(place, row.isSupported ? separationtexts::support : separationtexts::moved);
-    if (const auto line = row.logLine())
-        m_workbench.desktop().log(*line);
     if (row.failure)
         m_failures << row.failure->text();
 }

@@ -10,9 +10,12 @@
 #include "tools/ui/verificationtool.h"
 #include "tools/ui/workbench.h"
 #include "widgets/bringforward.h"
+#include "widgets/deletionfocusring.h"
 
+#include <QComboBox>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QStackedWidget>
 #include <QToolButton>
 
 #include <algorithm>
@@ -56,13 +59,30 @@ UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, con
     , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, hooks))
 {
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
-    m_window->mayClose = [this] { return m_workbench->mayBeAbandoned(); };
+    m_window->mayClose = [this] { return mayBeAbandoned(); };
     connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
     connect(m_workbench.get(), &Workbench::statusWithdrawn, this, &UtilityObject::statusWithdrawn);
     connectReveals();
+    takeFocusRings();
 }
 
 UtilityObject::~UtilityObject() = default;
+
+void UtilityObject::takeFocusRings()
+{
+    for (QLineEdit* field : m_window->findChildren<QLineEdit*>())
+        DeletionFocusRing::takeRing(*field);
+    for (QAbstractButton* button : m_window->findChildren<QAbstractButton*>())
+        DeletionFocusRing::takeRing(*button);
+    for (QComboBox* popUp : m_window->findChildren<QComboBox*>())
+        DeletionFocusRing::takeRing(*popUp);
+    DeletionFocusRing::takeRing(*m_window->utilityTabView);
+}
+
+bool UtilityObject::mayBeAbandoned()
+{
+    return m_workbench->mayBeAbandoned();
+}
 
 void UtilityObject::connectReveals()
 {

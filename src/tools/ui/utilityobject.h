@@ -34,6 +34,9 @@ public:
     VerificationTool& verification() { return *m_verification; }
     FavouritesTool& favourites() { return *m_favourites; }
 
+    /// Asks, where a tool is at work, whether it may be stopped.
+    bool mayBeAbandoned();
+
     /// A new one in its standard form.
     QString issueuuid() const;
     /// The chosen path; empty after Cancel.
@@ -59,6 +62,7 @@ Q_SIGNALS:
 
 private:
     void connectReveals();
+    void takeFocusRings();
     QString pathOf(int tag) const;
 
     Desktop& m_desktop;

@@ -5,6 +5,7 @@
 #include "platform/desktop.h"
 #include "tools/ui/utilityfoot.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -33,6 +34,13 @@ void Job::post(std::function<void()> call) const
         Qt::QueuedConnection);
 }
 
+void Job::log(const QString& line) const
+{
+    Workbench& workbench = m_workbench;
+    QMetaObject::invokeMethod(
+        &workbench, [&workbench, line] { workbench.m_desktop.log(line); }, Qt::QueuedConnection);
+}
+
 void Job::end(std::function<void()> done, std::function<void()> abandoned) const
 {
     Workbench& workbench = m_workbench;
@@ -57,9 +65,13 @@ Workbench::Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot
     connect(m_foot.button_cancel, &QPushButton::clicked, this, &Workbench::cancel);
 }
 
+// What was done is there, and what was left undone is not: both are still said.
 Workbench::~Workbench()
 {
     m_stop.request_stop();
+    ++m_job;
+    m_pool.waitForDone();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
 // Painted at once: what follows may keep the event loop waiting.

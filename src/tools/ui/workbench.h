@@ -33,6 +33,8 @@ public:
     const std::stop_token& stop() const { return m_stop; }
     /// The call is made on the windows' thread, unless the job is abandoned by then.
     void post(std::function<void()> call) const;
+    /// A line of the system log; written whether or not the job is abandoned.
+    void log(const QString& line) const;
     /// It has ended. One of the two calls is made there: the second one where it was abandoned.
     void end(std::function<void()> done, std::function<void()> abandoned) const;
 
