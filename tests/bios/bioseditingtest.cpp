@@ -74,6 +74,7 @@ private Q_SLOTS:
         QTest::newRow("at once") << QList<int>{Qt::Key_Escape};
         QTest::newRow("in its second cell") << QList<int>{Qt::Key_Tab, Qt::Key_Escape};
         QTest::newRow("nothing typed") << QList<int>{Qt::Key_Return};
+        QTest::newRow("out of its last cell") << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab};
     }
 
     void anEntryThatIsGivenUpIsGone()

@@ -114,10 +114,12 @@ void BiosEditing::restore(const BiosEntries& entries)
     Q_EMIT edited();
 }
 
-// From cell to cell it is still being filled in.
+// From cell to cell it is still being filled in; where there is no other cell it is not.
 void BiosEditing::endEditor(QWidget*, QAbstractItemDelegate::EndEditHint hint)
 {
-    if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem)
+    const bool goesOn
+        = hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
+    if (goesOn && m_panel.biosView->indexWidget(m_panel.biosView->currentIndex()) != nullptr)
         return;
     const QModelIndex added = std::exchange(m_added, QPersistentModelIndex());
     if (added.isValid() && m_panel.treeController_list->isBlank(added))
