@@ -131,6 +131,9 @@
     <message id="alert_Info5"><source></source><translation>There is nothing at the path of the ROM folder in the preferences. Select the folder with your ROMs, or leave it to the emulator.</translation></message>
     <message id="disable"><source></source><translation>Do Not Use</translation></message>
     <message id="record_save"><source></source><translation>Save the recording</translation></message>
+    <message id="record_save_wav"><source></source><translation>Record the sound to</translation></message>
+    <message id="record_save_mng"><source></source><translation>Record the movie (MNG) to</translation></message>
+    <message id="record_save_avi"><source></source><translation>Record the movie (AVI) to</translation></message>
     <message id="launch_notopened"><source></source><translation>“%1” could not be opened with “%2”.</translation></message>
     <message id="reason_missing"><source></source><translation>Files of this game are missing: %1.</translation></message>
     <message id="reason_missingfrom"><source></source><translation>Files of this game are missing: %1. They belong into %2.</translation></message>

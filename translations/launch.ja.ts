@@ -131,6 +131,9 @@
     <message id="alert_Info5"><source></source><translation>環境設定のROMフォルダのパスには何もありません。ROMのあるフォルダを選択するか、エミュレータの設定に任せてください。</translation></message>
     <message id="disable"><source></source><translation>使用しない</translation></message>
     <message id="record_save"><source></source><translation>記録の保存先</translation></message>
+    <message id="record_save_wav"><source></source><translation>サウンドの記録先</translation></message>
+    <message id="record_save_mng"><source></source><translation>ムービー（MNG）の記録先</translation></message>
+    <message id="record_save_avi"><source></source><translation>ムービー（AVI）の記録先</translation></message>
     <message id="launch_notopened"><source></source><translation>“%1”を“%2”で開けませんでした。</translation></message>
     <message id="reason_missing"><source></source><translation>このゲームのファイルがありません: %1</translation></message>
     <message id="reason_missingfrom"><source></source><translation>このゲームのファイルがありません: %1。これらは%2に入っているはずです。</translation></message>

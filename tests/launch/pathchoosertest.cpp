@@ -192,21 +192,27 @@ private Q_SLOTS:
     void recordingsGetTheirFile_data()
     {
         QTest::addColumn<int>("tag");
+        QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("key");
-        QTest::newRow("sound") << 1 << "Sound_record.wav" << QString(keys::Wavfilename.name);
-        QTest::newRow("mng") << 2 << "Movie_record.mng" << QString(keys::Mngfilename.name);
-        QTest::newRow("avi") << 3 << "Movie_record.avi" << QString(keys::Avifilename.name);
+        QTest::newRow("sound") << 1 << "record_save_wav" << "Sound_record.wav"
+                               << QString(keys::Wavfilename.name);
+        QTest::newRow("mng") << 2 << "record_save_mng" << "Movie_record.mng"
+                             << QString(keys::Mngfilename.name);
+        QTest::newRow("avi") << 3 << "record_save_avi" << "Movie_record.avi"
+                             << QString(keys::Avifilename.name);
     }
 
     void recordingsGetTheirFile()
     {
         QFETCH(int, tag);
+        QFETCH(QString, title);
         QFETCH(QString, name);
         QFETCH(QString, key);
         Room room;
         room.desktop.answerSave(name, "/movies/mine.x");
         room.chooser->saveRecordfile(tag);
+        QCOMPARE(room.desktop.saveRequests.at(0).title, title);
         QCOMPARE(room.desktop.saveRequests.at(0).name, name);
         QCOMPARE(room.onDisk(qPrintable(key)), QStringLiteral("/movies/mine.x"));
         room.desktop.answerSave(name, std::nullopt);

@@ -44,16 +44,17 @@ constexpr std::array members{
 };
 
 struct RecordFile {
+    const char* title;
     const char* name; ///< proposed
     QLatin1StringView key;
 };
 
 // By tag.
 constexpr std::array recordFiles{
-    RecordFile{"", {}},
-    RecordFile{"Sound_record.wav", keys::Wavfilename.name},
-    RecordFile{"Movie_record.mng", keys::Mngfilename.name},
-    RecordFile{"Movie_record.avi", keys::Avifilename.name},
+    RecordFile{textKey("record_save"),     "",                 {}},
+    RecordFile{textKey("record_save_wav"), "Sound_record.wav", keys::Wavfilename.name},
+    RecordFile{textKey("record_save_mng"), "Movie_record.mng", keys::Mngfilename.name},
+    RecordFile{textKey("record_save_avi"), "Movie_record.avi", keys::Avifilename.name},
 };
 
 using Select = void (PathChooser::*)();
@@ -176,7 +177,7 @@ void PathChooser::saveRecordfile(int tag)
 {
     const bool isKnown = tag > 0 && tag < static_cast<int>(recordFiles.size());
     const RecordFile& file = recordFiles[isKnown ? static_cast<std::size_t>(tag) : 0];
-    const auto path = m_desktop.savePanel({qtTrId("record_save"), QString::fromLatin1(file.name), {}});
+    const auto path = m_desktop.savePanel({qtTrId(file.title), QString::fromLatin1(file.name), {}});
     if (!path)
         return;
     if (isKnown)
