@@ -59,6 +59,7 @@
     <message id="rebuild_cancelled"><source></source><translation>Building was cancelled; the catalogue is as it was.</translation></message>
     <message id="rebuild_done"><source></source><translation>The catalogue was built: %1 machines.</translation></message>
     <message id="rebuild_without_titles"><source></source><translation>Japanese titles are missing: %1</translation></message>
+    <message id="rebuild_kept"><source></source><translation>The file before it is kept: %1</translation></message>
     <message id="rebuild_failed"><source></source><translation>The catalogue could not be built and is as it was.</translation></message>
     <message id="rebuild_outdated"><source></source><translation>The emulator has changed since the catalogue was built.</translation></message>
     <message id="failure_no_profile"><source></source><translation>“%1” does not say which options it knows.</translation></message>

@@ -59,6 +59,7 @@
     <message id="rebuild_cancelled"><source></source><translation>作成を中止しました。カタログは元のままです。</translation></message>
     <message id="rebuild_done"><source></source><translation>カタログを作成しました（%1台）。</translation></message>
     <message id="rebuild_without_titles"><source></source><translation>日本語タイトルはありません。%1</translation></message>
+    <message id="rebuild_kept"><source></source><translation>以前のファイルは残してあります: %1</translation></message>
     <message id="rebuild_failed"><source></source><translation>カタログを作成できませんでした。元のままです。</translation></message>
     <message id="rebuild_outdated"><source></source><translation>カタログの作成後にエミュレータが変わりました。</translation></message>
     <message id="failure_no_profile"><source></source><translation>“%1”は使用できるオプションを答えませんでした。</translation></message>

@@ -120,23 +120,31 @@ void CatalogueRebuild::stand()
 void CatalogueRebuild::finish(int machines)
 {
     const std::optional<Failure> titlesFailure = m_build->titlesFailure();
+    const QString kept = m_build->keptAs();
     letGo();
     const auto changes = reopen();
     if (!changes) {
         m_desktop.presentError(changes.error().text(), QString(), {});
         return;
     }
-    // In one message, as the next one takes its place.
     QStringList sentences{qtTrId("rebuild_done").arg(QLocale().toString(machines))};
     if (titlesFailure)
         sentences << Failure{"rebuild_without_titles", {titlesFailure->text()}}.text();
     m_defaults.setText(keys::BuiltFrom, m_identity);
+    if (!changes->isEmpty())
+        sentences << *changes;
+    Q_EMIT statusMessage(concluded(sentences, kept));
+}
+
+// In one message, as the next one takes its place.
+QString CatalogueRebuild::concluded(QStringList sentences, const QString& kept)
+{
+    if (!kept.isEmpty())
+        sentences << qtTrId("rebuild_kept").arg(kept);
     UserDefaults& settings = m_defaults.defaults();
     if (!settings.synchronize())
         sentences << Failure{"failure_settings", {settings.path()}}.text();
-    if (!changes->isEmpty())
-        sentences << *changes;
-    Q_EMIT statusMessage(sentences.join(QLatin1Char(' ')));
+    return sentences.join(QLatin1Char(' '));
 }
 
 // What differs from the catalogue before; empty where that one was empty.
@@ -178,11 +186,9 @@ std::optional<QString> CatalogueRebuild::useFile(const QString& path)
             .arg(QLocale().toString(static_cast<qulonglong>(m_catalogue.records().size())))};
     if (!changes->isEmpty())
         sentences << *changes;
-    UserDefaults& settings = m_defaults.defaults();
-    if (!settings.synchronize())
-        sentences << Failure{"failure_settings", {settings.path()}}.text();
-    Q_EMIT statusMessage(sentences.join(QLatin1Char(' ')));
-    return sentences.join(QLatin1Char(' '));
+    const QString message = concluded(sentences, *placed);
+    Q_EMIT statusMessage(message);
+    return message;
 }
 
 bool CatalogueRebuild::mayDropEdits()
@@ -197,8 +203,9 @@ bool CatalogueRebuild::mayDropEdits()
     return m_desktop.runAlert(alert) == 0;
 }
 
-// Only a file that can be read takes the place; it may have been saved there already.
-std::expected<void, Failure> CatalogueRebuild::put(const QString& path)
+// Only a file that can be read takes the place; it may have been saved there already. Gives the name under
+// which the one before is kept.
+std::expected<QString, Failure> CatalogueRebuild::put(const QString& path)
 {
     if (const auto stored = readStore(path); !stored)
         return std::unexpected(stored.error());
@@ -214,9 +221,11 @@ std::expected<void, Failure> CatalogueRebuild::put(const QString& path)
     const auto written = writeAtomically(
         m_catalogue.path(),
         std::array{std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()))});
-    if (!written && !kept->isEmpty())
+    if (written)
+        return kept;
+    if (!kept->isEmpty())
         QFile::remove(*kept);
-    return written;
+    return std::unexpected(written.error());
 }
 
 void CatalogueRebuild::fail(const Failure& failure)

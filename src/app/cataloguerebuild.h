@@ -60,7 +60,8 @@ private:
     void fail(const Failure& failure);
     void letGo();
     bool mayDropEdits();
-    std::expected<void, Failure> put(const QString& path);
+    QString concluded(QStringList sentences, const QString& kept);
+    std::expected<QString, Failure> put(const QString& path);
     std::expected<QString, Failure> reopen();
 
     Catalogue& m_catalogue;

@@ -63,6 +63,7 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
     m_emulator = emulator;
     m_output = output;
     m_keepOldAs = keepOldAs;
+    m_keptAs.clear();
     m_errors.clear();
     m_failure.reset();
     m_printed = false;
@@ -200,18 +201,17 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
     return static_cast<int>(list->games);
 }
 
-std::expected<void, Failure> CatalogueBuild::replace(const ConvertedList& list) const
+std::expected<void, Failure> CatalogueBuild::replace(const ConvertedList& list)
 {
-    QString kept;
     if (!m_keepOldAs.isEmpty()) {
         const auto name = keepAs(m_output, m_keepOldAs);
         if (!name)
             return std::unexpected(name.error());
-        kept = *name;
+        m_keptAs = *name;
     }
     const auto written = list.text.save(m_output);
-    if (!written && !kept.isEmpty())
-        QFile::remove(kept);
+    if (!written && !m_keptAs.isEmpty())
+        QFile::remove(m_keptAs);
     return written;
 }
 

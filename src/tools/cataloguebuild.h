@@ -37,6 +37,8 @@ public:
     bool isRunning() const { return m_converter != nullptr; }
     /// Why the title list of this run, or the last one, could not be read.
     const std::optional<Failure>& titlesFailure() const { return m_titlesFailure; }
+    /// Where the file lies that the last run replaced; empty where there was none.
+    const QString& keptAs() const { return m_keptAs; }
 
 Q_SIGNALS:
     void progress(int machines);
@@ -51,7 +53,7 @@ private:
     void readErrors();
     void conclude(int status, QProcess::ExitStatus how);
     std::expected<int, Failure> result(int status, QProcess::ExitStatus how);
-    std::expected<void, Failure> replace(const ConvertedList& list) const;
+    std::expected<void, Failure> replace(const ConvertedList& list);
     QString lastWords() const;
     void fail(const Failure& failure);
     void letGo();
@@ -63,6 +65,7 @@ private:
     QString m_emulator;
     QString m_output;
     QString m_keepOldAs;
+    QString m_keptAs;
     QByteArray m_errors; ///< the last of what was printed on standard error
     std::optional<Failure> m_failure;
     std::optional<Failure> m_titlesFailure;

@@ -175,7 +175,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!comparison.changes.empty());
         QCOMPARE(comparison.count(MachineChange::Kind::Added), std::size_t(2));
         QCOMPARE(comparison.count(MachineChange::Kind::Gone), std::size_t(4));
-        QVERIFY2(message(staged).endsWith("changes_summary"), qPrintable(message(staged)));
+        QVERIFY2(message(staged).endsWith("changes_summary rebuild_kept"), qPrintable(message(staged)));
         QVERIFY(button->isVisible());
         QTest::mouseClick(button, Qt::LeftButton);
         ChangesWindow& window = staged.app->changes().window();
@@ -221,7 +221,7 @@ private Q_SLOTS:
         const QString file = writeOther(staged);
         const auto changes = staged.app->rebuild().useFile(file);
         QVERIFY(changes);
-        QCOMPARE(*changes, "catalogue_used changes_summary");
+        QCOMPARE(*changes, "catalogue_used changes_summary rebuild_kept");
         QCOMPARE(message(staged), *changes);
         QCOMPARE(staged.app->gameList().list().size(), std::size_t(1));
         QCOMPARE(keptCopies(staged), QStringList{QStringLiteral("Tessera 2026-01-02 03-04-05.xml")});
@@ -516,13 +516,14 @@ private Q_SLOTS:
         staged.useEmulator(makeEmulator(staged));
         staged.app->rebuildCatalogue();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
-        QCOMPARE(message(staged), QStringLiteral("rebuild_done failure_settings changes_summary"));
+        QCOMPARE(message(staged),
+                 QStringLiteral("rebuild_done changes_summary rebuild_kept failure_settings"));
 
         QVERIFY(QDir().rmdir(staged.settingsPath()));
         staged.desktop.answerAlert(QStringLiteral("rebuild_same_message"), 0);
         staged.app->rebuildCatalogue();
         QTRY_VERIFY(!staged.app->rebuild().isRunning());
-        QCOMPARE(message(staged), QStringLiteral("rebuild_done changes_none"));
+        QCOMPARE(message(staged), QStringLiteral("rebuild_done changes_none rebuild_kept"));
     }
 };
 
