@@ -75,6 +75,5 @@
     <message id="appearance_language_system"><source></source><translation>That of the system</translation></message>
     <message id="appearance_language_note"><source></source><translation>The windows are in it from the next start on.</translation></message>
     <message id="choose_archive"><source></source><translation>Choose a ROM Archive</translation></message>
-    <message id="lookup_not_found"><source></source><translation>%1 was not found</translation></message>
 </context>
 </TS>

@@ -75,6 +75,5 @@
     <message id="appearance_language_system"><source></source><translation>システムの言語</translation></message>
     <message id="appearance_language_note"><source></source><translation>次に起動したときから変わります。</translation></message>
     <message id="choose_archive"><source></source><translation>ROM のアーカイブを選択</translation></message>
-    <message id="lookup_not_found"><source></source><translation>%1 は見つかりませんでした</translation></message>
 </context>
 </TS>

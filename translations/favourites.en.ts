@@ -23,7 +23,6 @@
     <message id="played_clear_message"><source></source><translation>Forget which games were played?</translation></message>
     <message id="played_clear_info"><source></source><translation>How often and when last goes for every game. This cannot be undone.</translation></message>
     <message id="played_clear"><source></source><translation>Forget</translation></message>
-    <message id="favorites_no_folder"><source></source><translation>The folder could not be made: %1: %2</translation></message>
     <message id="favorites_remove_message"><source></source><translation>Remove selected data?</translation></message>
     <message id="favorites_remove_info"><source></source><translation>If you stop processing, please choose Cancel.</translation></message>
 </context>

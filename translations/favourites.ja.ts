@@ -23,7 +23,6 @@
     <message id="played_clear_message"><source></source><translation>遊んだ記録を消去しますか？</translation></message>
     <message id="played_clear_info"><source></source><translation>すべてのゲームの回数と日時が消えます。この操作は取り消せません。</translation></message>
     <message id="played_clear"><source></source><translation>消去</translation></message>
-    <message id="favorites_no_folder"><source></source><translation>ディレクトリ作成でエラー発生: %1: %2</translation></message>
     <message id="favorites_remove_message"><source></source><translation>選択したデータを削除しますか?</translation></message>
     <message id="favorites_remove_info"><source></source><translation>処理を中止する場合は「キャンセル」を選択してください。</translation></message>
 </context>

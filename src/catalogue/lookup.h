@@ -18,4 +18,10 @@ struct LookupResult {
 /// value that is asked for twice is answered twice.
 LookupResult lookUp(const ArrangedList& list, Field key, const QStringList& values);
 
+/// What the log says of a value that no record has, the same in every language.
+inline QString notFoundLine(const QString& value)
+{
+    return QStringLiteral("%1 は見つかりませんでした").arg(value);
+}
+
 } // namespace tessera

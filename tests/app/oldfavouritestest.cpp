@@ -82,7 +82,7 @@ private Q_SLOTS:
         QTRY_VERIFY(stage.page().button_showAll->isVisibleTo(&stage.page()));
         stage.convert();
         QCOMPARE(stage.favourites(), QStringList{"pong"});
-        QVERIFY(stage.desktop.takeTranscript().contains("log lookup_not_found"));
+        QVERIFY(stage.desktop.takeTranscript().contains("log qix は見つかりませんでした"));
     }
 
     void showAllHidesNothingAnyMore()

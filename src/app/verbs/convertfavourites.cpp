@@ -33,7 +33,7 @@ std::expected<QList<RecordDictionary>, Failure> lookUpIn(const QString& catalogu
     list.setContent(stored->records);
     const LookupResult result = lookUp(list, Field::Name, names);
     for (const QString& name : result.notFound)
-        note(name + QStringLiteral(" は見つかりませんでした"));
+        note(notFoundLine(name));
     return result.found;
 }
 

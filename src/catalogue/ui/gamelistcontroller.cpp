@@ -139,7 +139,7 @@ QList<RecordDictionary> GameListController::search_arrangedObjects(Field key,
 {
     const LookupResult result = lookUp(m_list, key, searchstr);
     for (const QString& value : result.notFound)
-        m_desktop.log(Failure{"lookup_not_found", {value}}.text());
+        m_desktop.log(notFoundLine(value));
     return result.found;
 }
 

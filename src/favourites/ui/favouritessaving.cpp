@@ -100,8 +100,9 @@ void UCAppController::dir_make(const QString& path)
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(path).toStdString(), error);
     if (error)
-        m_parts.desktop.log(
-            Failure{"favorites_no_folder", {path, QString::fromStdString(error.message())}}.text());
+        // A line of the log is the same in every language.
+        m_parts.desktop.log(QStringLiteral("ディレクトリ作成でエラー発生: %1: %2")
+                                .arg(path, QString::fromStdString(error.message())));
 }
 
 void UCAppController::commitEditing()
