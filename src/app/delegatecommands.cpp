@@ -69,18 +69,25 @@ QUndoStack* Tessera_AppDelegate::editedStack()
     return stack == &m_catalogue.undoStack() && m_rebuild->isRunning() ? nullptr : stack;
 }
 
+// What is being typed in a list is an edit like the others, and the last one.
 void Tessera_AppDelegate::undo()
 {
-    m_favorites->controller().commitEditing();
+    commitCells();
     if (QUndoStack* stack = editedStack())
         stack->undo();
 }
 
 void Tessera_AppDelegate::redo()
 {
-    m_favorites->controller().commitEditing();
+    commitCells();
     if (QUndoStack* stack = editedStack())
         stack->redo();
+}
+
+void Tessera_AppDelegate::commitCells()
+{
+    m_favorites->controller().commitEditing();
+    m_gameList->commitEditing();
 }
 
 void Tessera_AppDelegate::editCell()

@@ -402,6 +402,8 @@ void Tessera_AppDelegate::joinMiniWindow()
     connect(window.mainButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowMain);
     connect(&window, &TransparentWindow::orderedOut, this, &Tessera_AppDelegate::windowMain);
     m_artwork->joinMini(window);
+    connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &MiniWindow::say);
+    connect(m_info.get(), &InfoDesk::statusMessage, &window, &MiniWindow::say);
     carryMenuKeys(*m_mainWindow->menuBar(), window);
     joinWindow(window, KeyWindow::Kind::Mini, keys::MiniWindowGeometry.name.data());
     openDropped(window);

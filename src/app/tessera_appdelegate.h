@@ -206,6 +206,7 @@ private:
     bool saveBeforeQuitting();
     void logKept(const QString& copy);
     QUndoStack* editedStack();
+    void commitCells();
     void forgetRecording();
 
     Desktop& m_desktop;

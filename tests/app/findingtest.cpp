@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QToolButton>
 
 using namespace tessera;
@@ -301,7 +302,8 @@ private Q_SLOTS:
             Field::Name, {QStringLiteral("pacman"), QStringLiteral("gradius")});
         QCOMPARE(found.size(), 1);
         QCOMPARE(found[0].value(QStringLiteral("name")), QStringLiteral("gradius"));
-        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("log lookup_not_found")});
+        QCOMPARE(m_staged->desktop.takeTranscript(),
+                 QStringList{QStringLiteral("log pacman は見つかりませんでした")});
     }
 
     void theRomFolderIsSeenAndWatched()
@@ -397,8 +399,9 @@ private Q_SLOTS:
         click(Chip::Games);
         QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
         finder().setPredicate(QStringLiteral("Konami"));
+        QSignalSpy answered(&finder(), &GameFinder::changed);
         finder().setRomFolders(std::make_shared<RomFolders>(std::nullopt, QStringList()));
-        QTest::qWait(50);
+        QVERIFY(answered.wait());
         QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
         QCOMPARE(list().selectedCount(), 1);
     }

@@ -51,7 +51,6 @@ void AspectChoice::addPopup(QComboBox& popup)
 
 void AspectChoice::fillMenu(QMenu& menu)
 {
-    m_menu = &menu;
     int tag = 0;
     for (const char* title : titles) {
         if (title != nullptr) {

@@ -24,7 +24,6 @@ public:
     void setPopup(QComboBox& popup);
     void addPopup(QComboBox& popup);
     void fillMenu(QMenu& menu);
-    QMenu* Menu_aspect() const { return m_menu; }
     /// The checked one; none before the start has come so far.
     QAction* selectMenuitem() const { return m_selectMenuitem; }
 
@@ -37,7 +36,6 @@ private:
 
     DefaultsController& m_defaults;
     QComboBox* m_popup = nullptr;
-    QMenu* m_menu = nullptr;
     QActionGroup* m_items;
     QAction* m_selectMenuitem = nullptr;
 };

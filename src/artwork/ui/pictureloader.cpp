@@ -29,7 +29,7 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
 
 PictureLoader::~PictureLoader() = default;
 
-void PictureLoader::load(const QString& path)
+void PictureLoader::load(QString path)
 {
     m_wanted = path;
     if (const Kept* kept = m_kept.object(path)) {

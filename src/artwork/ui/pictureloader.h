@@ -21,10 +21,9 @@ public:
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.
-    void load(const QString& path);
+    void load(QString path);
     /// While it is held, nothing is read; what was asked for last is read at the end.
     void setHeld(bool held);
-    bool isLoading() const { return m_isReading; }
 
 Q_SIGNALS:
     void loaded(const QString& path, const QImage& image);

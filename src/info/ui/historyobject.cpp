@@ -101,7 +101,6 @@ void HistoryObject::take(Loaded& which, int load,
     m_window.showLoading(false);
     if (m_waiting)
         showFound(*std::exchange(m_waiting, std::nullopt));
-    Q_EMIT loaded();
 }
 
 void HistoryObject::searchHistoryInfo(const QString& name)

@@ -53,9 +53,6 @@ public Q_SLOTS:
     void makeTextBigger();
     void makeTextSmaller();
 
-Q_SIGNALS:
-    void loaded();
-
 private:
     /// What there is to know of one of the two files.
     struct Kind {

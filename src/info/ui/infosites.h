@@ -22,8 +22,6 @@ public:
 
     /// A new page, for a window to take over.
     InfoPage* makePage();
-    /// The template in use.
-    QString rominfo() const { return m_template; }
     /// Opens the chosen site's page for a set in the web browser; beeps where there is none. Only the web is
     /// opened so, by http or https: a template is text that comes from anywhere.
     void openROMinfo(const QString& name);
