@@ -223,6 +223,43 @@ private Q_SLOTS:
                               QStringLiteral("beep")}));
     }
 
+    // Where the main window's line is hidden.
+    void theWindowThatIsShownSaysWhyNoPageOpens_data()
+    {
+        QTest::addColumn<bool>("isMini");
+        QTest::newRow("mini") << true;
+        QTest::newRow("favourites") << false;
+    }
+    void theWindowThatIsShownSaysWhyNoPageOpens()
+    {
+        QFETCH(bool, isMini);
+        m_staged->defaults.setValue(keys::Rominfosite.name, 0);
+        m_staged->app->gameList().selectGame("qix");
+        m_staged->app->addFavorite();
+        isMini ? m_staged->app->windowMini() : m_staged->app->windowFavorites();
+        QTRY_COMPARE(m_staged->app->keyWindow(), isMini ? KeyWindow::Kind::Mini : KeyWindow::Kind::Favorites);
+        if (isMini)
+            m_staged->app->mini().setGame(QStringLiteral("qix"));
+        else
+            m_staged->app->favorites().window().favoritesTable->selectRow(0);
+        QWidget* window = isMini ? static_cast<QWidget*>(&m_staged->app->mini().window())
+                                 : &m_staged->app->favorites().window();
+        const auto says = [window](const QString& text) {
+            const auto labels = window->findChildren<QLabel*>();
+            return std::ranges::any_of(
+                labels, [&](const QLabel* each) { return each->isVisible() && each->text() == text; });
+        };
+        QVERIFY(!says(QStringLiteral("infosite_no_host")));
+        isMini ? m_staged->app->openROMinfo() : m_staged->app->info().openROMinfo2();
+        QVERIFY(says(QStringLiteral("infosite_no_host")));
+        m_staged->desktop.takeTranscript();
+        if (!isMini)
+            return;
+        // Until another game is named.
+        m_staged->app->mini().setGame(QStringLiteral("pong"));
+        QVERIFY(!says(QStringLiteral("infosite_no_host")));
+    }
+
     void theFavouritesSitesAreTitledByTheirAddresses()
     {
         const QComboBox& popup = *m_staged->app->favorites().window().siteChoice->infositePop2;

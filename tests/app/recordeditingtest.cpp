@@ -73,6 +73,32 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList{QStringLiteral("pong")});
     }
 
+    // By the menu: the field keeps the focus, and what is typed in it would be gone with the rows.
+    void undoTakesOverWhatIsBeingTyped_data()
+    {
+        QTest::addColumn<bool>("redoes");
+        QTest::newRow("undo") << false;
+        QTest::newRow("redo") << true;
+    }
+    void undoTakesOverWhatIsBeingTyped()
+    {
+        QFETCH(bool, redoes);
+        m_table->selectRow(0);
+        const QModelIndex title = m_list->model()->index(0, GameTableModel::columnOf(Field::Title));
+        const QString before = title.data().toString();
+        m_table->edit(title);
+        auto* field = m_table->viewport()->findChild<QLineEdit*>();
+        QVERIFY(field != nullptr);
+        field->setText(QStringLiteral("Typed"));
+        redoes ? m_staged->app->redo() : m_staged->app->undo();
+        // It was the last step: undoing takes it back, and redoing finds nothing behind it.
+        QCOMPARE(title.data().toString(), redoes ? QStringLiteral("Typed") : before);
+        if (!redoes) {
+            m_staged->app->redo();
+            QCOMPARE(title.data().toString(), QStringLiteral("Typed"));
+        }
+    }
+
     void removingFollowsTheRowsThatAreShown()
     {
         m_table->sortByColumn(3, Qt::DescendingOrder); // 1943, galaga, qix, pong
