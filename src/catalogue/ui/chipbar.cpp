@@ -64,8 +64,8 @@ void ChipButton::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
     const QRect inner = rect().adjusted(margin, 0, -margin, 0);
     painter.setPen(theme::color(isChecked() ? "text" : "dim"));
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
+    // Never shortened: it has the room that it asked for, but for a part of a pixel.
+    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text());
     if (width() < sizeHint().width())
         return;
     painter.setPen(theme::color(isChecked() ? "dim" : "faint"));

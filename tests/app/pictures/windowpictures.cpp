@@ -120,6 +120,13 @@ void takeViews(Tessera_AppDelegate& app, Album& album)
     album.take(app.mainWindow(), QStringLiteral("main"));
     app.gameList().selectGame(QStringLiteral("pong"));
     album.take(app.mainWindow(), QStringLiteral("main-selected"));
+    // What stands beside each other moves together, and beneath each other where it must.
+    const QSize usual = app.mainWindow().size();
+    for (const int width : {app.mainWindow().minimumSizeHint().width(), 800, 1000, 1200}) {
+        app.mainWindow().resize(width, usual.height());
+        album.take(app.mainWindow(), QStringLiteral("main-%1").arg(width));
+    }
+    app.mainWindow().resize(usual);
     for (const char* set : {"pong", "qix", "galaga"}) {
         if (app.gameList().selectGame(QLatin1String(set)))
             app.addFavorite();

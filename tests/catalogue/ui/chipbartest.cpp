@@ -106,6 +106,28 @@ private Q_SLOTS:
         m_bar->setParent(nullptr);
     }
 
+    void aChipWithoutRoomForMoreShowsItsWholeLabel()
+    {
+        for (const QString& label :
+             {QStringLiteral("BIOS"), QStringLiteral("Favourites"), QStringLiteral("親")}) {
+            ChipButton chip(label);
+            QFont font = chip.font();
+            // Widths that are parts of a pixel are among these.
+            for (int size = 10; size < 24; ++size) {
+                font.setPixelSize(size);
+                chip.setFont(font);
+                const QSize least = chip.minimumSizeHint();
+                const auto labelAt = [&](int width) {
+                    chip.resize(width, least.height());
+                    // Without the round end, which stands elsewhere.
+                    return chip.grab(QRect(0, 0, least.width() - least.height() / 2, least.height()))
+                        .toImage();
+                };
+                QVERIFY2(labelAt(least.width()) == labelAt(least.width() + 100), qPrintable(label));
+            }
+        }
+    }
+
     void aCountThatFindsNoRoomIsOnlyTold()
     {
         m_bar->setCounts({45294, 2, 3, 4, 5, 0});
