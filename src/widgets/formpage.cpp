@@ -1,5 +1,7 @@
 #include "widgets/formpage.h"
 
+#include "widgets/mnemonic.h"
+
 #include <QAbstractButton>
 #include <QFrame>
 #include <QGridLayout>
@@ -38,7 +40,7 @@ QLineEdit* FormPage::makeField(const char* objectName, const QString& name)
 {
     auto* field = new QLineEdit;
     field->setObjectName(QLatin1String(objectName));
-    field->setAccessibleName(name);
+    field->setAccessibleName(withoutMnemonic(name));
     return field;
 }
 
@@ -64,7 +66,7 @@ QLabel* FormPage::addRow(const QString& label, QWidget* control)
     const auto* button = qobject_cast<const QAbstractButton*>(control);
     const bool readsItself = button != nullptr && !button->text().isEmpty();
     if (control->accessibleName().isEmpty() && !label.isEmpty() && !readsItself)
-        control->setAccessibleName(label);
+        control->setAccessibleName(withoutMnemonic(label));
     m_grid->addWidget(name, m_row, labelColumn, Qt::AlignRight | Qt::AlignVCenter);
     m_grid->addWidget(control, m_row, controlColumn);
     ++m_row;

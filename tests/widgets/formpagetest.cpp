@@ -22,6 +22,20 @@ private Q_SLOTS:
         QCOMPARE(field->accessibleName(), QStringLiteral("Beam width"));
     }
 
+    // In either language's way to mark it.
+    void theKeyOfALabelIsNotHeard()
+    {
+        FormPage page;
+        for (const char* label : {"&Host", "H&ost", "Host(&H)"}) {
+            auto* field = new QLineEdit;
+            page.addRow(QString::fromLatin1(label), field);
+            QCOMPARE(field->accessibleName(), QStringLiteral("Host"));
+            const std::unique_ptr<QLineEdit> made(FormPage::makeField("host", QString::fromLatin1(label)));
+            QCOMPARE(made->accessibleName(), QStringLiteral("Host"));
+            QCOMPARE(made->objectName(), QStringLiteral("host"));
+        }
+    }
+
     void aControlWithANameOfItsOwnKeepsIt()
     {
         FormPage page;

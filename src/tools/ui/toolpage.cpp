@@ -1,24 +1,13 @@
 #include "tools/ui/toolpage.h"
 
+#include "widgets/mnemonic.h"
 #include "widgets/pathfield.h"
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QToolButton>
 
 namespace tessera {
-
-namespace {
-
-// "&Year" and "年(&Y)" alike.
-QString withoutMnemonic(QString label)
-{
-    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
-    return label.remove(appended).remove(QLatin1Char('&'));
-}
-
-} // namespace
 
 PathField* ToolPage::addPath(const QString& label, const QString& fieldName, const QString& name)
 {
