@@ -83,6 +83,10 @@ void EntryFinder::findPrevious()
 
 bool EntryFinder::eventFilter(QObject* object, QEvent* event)
 {
+    // Else the window would take Escape, and close.
+    if (event->type() == QEvent::ShortcutOverride && !m_field.text().isEmpty()
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        event->accept();
     if (event->type() == QEvent::KeyPress) {
         const auto* press = static_cast<QKeyEvent*>(event);
         if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
