@@ -33,7 +33,6 @@ InfoSites::InfoSites(Desktop& desktop, DefaultsController& defaults, QObject* pa
 InfoPage* InfoSites::makePage()
 {
     m_page = new InfoPage(m_defaults);
-    connect(m_page->infositePop, &QComboBox::activated, this, &InfoSites::infositeAction);
     connect(m_page->hostField, &QLineEdit::textEdited, this, &InfoSites::storeHost);
     connect(m_page->rominfoTextField, &QLineEdit::textEdited, this, &InfoSites::storeTemplate);
     connect(m_page->urlTextField, &QLineEdit::returnPressed, this, &InfoSites::openURL);
