@@ -150,6 +150,12 @@ private Q_SLOTS:
         row("a part of a name", "$info=puckmana,apuckman\r\n$bio\r\nA$end", "", "");
         row("without a tag", "$info=puckman\n$end\n$bio\nA\n$end", "", "");
         row("cut off behind the name", "$info=puckman", "", "");
+        row("tabs", "$info=\tpacman\t,\tpuckman\t\r\n\t$bio\t\r\nA$end", "", "");
+        row("tabs around names", "$info=\tpacman\t,\tpuckman\t\r\n$bio\t\r\nA$end", "pacman", "A");
+        row("a line that is no tag between", "$info=pacman,puckman,\nx\n$bio\nA\n$end", "", "");
+        row("the second of two entries", "$info=a,b\n$bio\nB\n$end\n$info=puckman,c\n$bio\nA\n$end",
+            "puckman", "A\n");
+        row("last of three", "$info=pacman,puc,puckman\n$bio\nA\n$end", "pacman", "A\n");
         row("a line of commas", "$info=,,,\r\n$bio\r\nA$end", "", "");
     }
 

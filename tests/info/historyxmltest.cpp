@@ -52,22 +52,45 @@ private Q_SLOTS:
         QVERIFY(entryOf(*history, "smb").isNull());
     }
 
+    void blanksAroundATextAreLeftOut()
+    {
+        const auto history = HistoryXml::parse("<history><entry><systems><system name=\"a\"/></systems><text>"
+                                               " \t\r\n A  B\t\n \r</text></entry><entry><systems>"
+                                               "<system name=\"b\"/></systems><text> \n\t </text></entry>"
+                                               "<entry><systems><system name=\"c\"/></systems></entry>"
+                                               "</history>",
+                                               QString());
+        QVERIFY(history.has_value());
+        QCOMPARE(entryOf(*history, "a"), QByteArray("A  B\n"));
+        QCOMPARE(entryOf(*history, "b"), QByteArray("\n"));
+        QCOMPARE(entryOf(*history, "c"), QByteArray("\n"));
+    }
+
     void brokenFilesAreRefused_data()
     {
         QTest::addColumn<QByteArray>("text");
-        QTest::newRow("cut off") << QByteArray(file).left(400);
-        QTest::newRow("not closed") << QByteArray("<history><entry>");
-        QTest::newRow("something else") << QByteArray("<?xml version=\"1.0\"?><mame></mame>");
-        QTest::newRow("a declaration alone") << QByteArray("<?xml version=\"1.0\"?>");
+        QTest::addColumn<QString>("why"); // empty for the reader's own words
+        const QString noHistory = QStringLiteral("no <history>");
+        QTest::newRow("cut off") << QByteArray(file).left(400) << QString();
+        QTest::newRow("not closed") << QByteArray("<history><entry>") << QString();
+        QTest::newRow("something else") << QByteArray("<?xml version=\"1.0\"?><mame></mame>") << noHistory;
+        QTest::newRow("a declaration alone") << QByteArray("<?xml version=\"1.0\"?>") << QString();
     }
 
     void brokenFilesAreRefused()
     {
         QFETCH(QByteArray, text);
+        QFETCH(QString, why);
         const auto history = HistoryXml::parse(text.toStdString(), QStringLiteral("/a/history.xml"));
         QVERIFY(!history.has_value());
         QCOMPARE(QByteArray(history.error().key), QByteArray("info_bad_xml"));
         QCOMPARE(history.error().arguments.value(0), QStringLiteral("/a/history.xml"));
+        QCOMPARE(history.error().arguments.size(), 2);
+        if (!why.isEmpty())
+            QCOMPARE(history.error().arguments[1], why);
+        else
+            QVERIFY(!history.error().arguments[1].isEmpty()
+                    && !history.error().arguments[1].contains("no <"));
     }
 
     void theFormIsKnownByItsBeginning_data()
@@ -77,6 +100,9 @@ private Q_SLOTS:
         QTest::newRow("declaration") << QByteArray("<?xml version=\"1.0\"?>") << true;
         QTest::newRow("mark") << QByteArray("\xEF\xBB\xBF<?xml version=\"1.0\"?>") << true;
         QTest::newRow("root") << QByteArray("\r\n<history>") << true;
+        QTest::newRow("blanks before") << QByteArray(" \t\n<history>") << true;
+        QTest::newRow("mark and blanks") << QByteArray("\xEF\xBB\xBF\r\n<history>") << true;
+        QTest::newRow("another root") << QByteArray("<mame>") << false;
         QTest::newRow("classic") << QByteArray("# <?xml\r\n$info=a\r\n") << false;
         QTest::newRow("nothing") << QByteArray("") << false;
         QTest::newRow("blanks") << QByteArray(" \r\n") << false;

@@ -1,5 +1,6 @@
 #include "info/infofile.h"
 
+#include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
 #include <QFile>
@@ -73,6 +74,38 @@ private Q_SLOTS:
         QVERIFY(!file.has_value());
         QCOMPARE(QByteArray(file.error().key), key);
         QCOMPARE(file.error().arguments.value(0), m_folder.filePath(name));
+    }
+
+    void whatMayNotBeReadHasTheSystemsReason()
+    {
+        write("closed.dat", "$info=a\r\n$bio\r\nA\r\n$end\r\n");
+        const QString path = m_folder.filePath("closed.dat");
+        QVERIFY(QFile::setPermissions(path, {}));
+        QVERIFY(QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7777)));
+        const test::OrdinaryUser user;
+        QVERIFY(user.holds());
+        const auto file = InfoFile::read(path);
+        QVERIFY(!file.has_value());
+        QCOMPARE(QByteArray(file.error().key), QByteArray("info_not_read"));
+        QCOMPARE(file.error().arguments.value(0), path);
+        QVERIFY(file.error().arguments.value(1).contains("denied"));
+    }
+
+    void aWholeFileIsRead()
+    {
+        const QByteArray body = QByteArray("line\r\n").repeated(300'000);
+        const auto file = read("$info=a\r\n$bio\r\n" + body + "$end\r\n");
+        QVERIFY(file.has_value());
+        QCOMPARE(file->entry("a", EntryKind::Bio)->size(), static_cast<std::size_t>(body.size()));
+        QCOMPARE(file->text().size(), static_cast<std::size_t>(body.size()) + 21);
+    }
+
+    void aTextThatIsGivenIsSearchedToo()
+    {
+        const InfoFile file(std::string("$info=a\r\n$mame\r\nA$end"));
+        QCOMPARE(std::string(file.entry("a", EntryKind::Mame).value_or("")), std::string("A"));
+        QVERIFY(!file.entry("a", EntryKind::Bio));
+        QCOMPARE(file.text().size(), std::size_t{21});
     }
 
 private:

@@ -197,6 +197,67 @@ private Q_SLOTS:
         }
     }
 
+    void theKeptAddressServesWithoutAPageToo()
+    {
+        m_defaults->setText(keys::VisitedURLPath, QStringLiteral("https://a.test/"));
+        InfoSites sites(*m_desktop, *m_defaults);
+        sites.openURL();
+        m_desktop->hasBrowser = false;
+        sites.openURL();
+        QCOMPARE(m_desktop->takeTranscript(),
+                 (QStringList{"url https://a.test/", "url https://a.test/", "beep"}));
+    }
+
+    void whatIsTypedStaysWhereItIsTyped()
+    {
+        make();
+        choose(2);
+        m_page->hostField->setCursorPosition(0);
+        QTest::keyClicks(m_page->hostField, " x");
+        QCOMPARE(m_page->hostField->text(), QStringLiteral(" xthree.test"));
+        QCOMPARE(m_page->hostField->cursorPosition(), 2);
+        choose(9);
+        m_page->rominfoTextField->setText(QStringLiteral("//mine.test"));
+        m_page->rominfoTextField->setCursorPosition(0);
+        QTest::keyClicks(m_page->rominfoTextField, "http:");
+        QCOMPARE(m_page->rominfoTextField->text(), QStringLiteral("http://mine.test"));
+        QCOMPARE(m_page->rominfoTextField->cursorPosition(), 5);
+    }
+
+    void everySiteButTheUsersOwnHasAHost()
+    {
+        make();
+        for (const int site : {0, 6, 7, 8, 9}) {
+            choose(site);
+            QCOMPARE(m_page->hostField->isEnabled(), site < 8);
+            QCOMPARE(m_page->rominfoTextField->isEnabled(), site == 9);
+        }
+        QCOMPARE(m_page->hostField->text(), QString());
+    }
+
+    // What is kept for other sites, or for none, is not touched.
+    void nothingElseIsStoredWithAHost()
+    {
+        make();
+        choose(0);
+        QTest::keyClicks(m_page->hostField, "x");
+        QVERIFY(!m_stored->value(keys::SnapsiteHost1.name).has_value());
+        QVERIFY(!m_stored->value(keys::InfositeHost2.name).has_value());
+        QVERIFY(!m_stored->value(keys::VisitedRomPath.name).has_value());
+    }
+
+    void aHostThatChangesElsewhereIsShown()
+    {
+        make();
+        choose(2);
+        m_defaults->setText(keys::InfositeHost3, QStringLiteral("new.test"));
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("new.test"));
+        QCOMPARE(m_page->rominfoTextField->text(), QStringLiteral("http://new.test/game/{$gamename}"));
+        choose(9);
+        m_defaults->setText(keys::VisitedRomPath, QStringLiteral("https://mine.test"));
+        QCOMPARE(m_page->rominfoTextField->text(), QStringLiteral("https://mine.test"));
+    }
+
 private:
     /// What opening the page of a set does.
     QString opened()
