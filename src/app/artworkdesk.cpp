@@ -150,6 +150,26 @@ void ArtworkDesk::snapdownload()
     download().snapdownload_url(snapshot().name());
 }
 
+void ArtworkDesk::snappreview2()
+{
+    m_favorites->snappreview();
+}
+
+void ArtworkDesk::snapdownload2()
+{
+    download().snapdownload_url(m_favorites->name());
+}
+
+void ArtworkDesk::display_rom_Finder2()
+{
+    m_favorites->display_rom_Finder();
+}
+
+void ArtworkDesk::display_image_Finder2()
+{
+    m_favorites->display_image_Finder();
+}
+
 // The picture that stands for a missing one is no file.
 QString ArtworkDesk::pictureFile() const
 {

@@ -51,8 +51,10 @@ public:
     SnapSites& sites();
 
     void fillMenu(QMenuBar& bar);
-    /// A list's own menu.
+    /// The main list's own menu: the menu bar's commands.
     void addContextMenu(QAbstractItemView& list);
+    /// That of the favourites, with commands of its own.
+    void addFavoritesMenu(QAbstractItemView& list);
     void joinFavorites(FavoritesWindow& window);
     void joinMini(MiniWindow& window);
     /// Puts the page on pictures into the preferences, once.
@@ -68,6 +70,11 @@ public Q_SLOTS:
     void snapdownload();
     void display_rom_Finder();
     void display_image_Finder();
+    /// The same of the selected favourite, whatever window is key.
+    void snappreview2();
+    void snapdownload2();
+    void display_rom_Finder2();
+    void display_image_Finder2();
 
 Q_SIGNALS:
     void statusMessage(const QString& text);

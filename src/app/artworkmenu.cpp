@@ -19,6 +19,20 @@ namespace {
 constexpr std::array folderTexts{textKey("menu_snapfolder"), textKey("menu_titlefolder"),
                                  textKey("menu_flyerfolder")};
 
+struct ListCommand {
+    const char* name; ///< of the menu bar's command, and the key of its text
+    void (ArtworkDesk::*ofFavorites)();
+};
+
+// clang-format off
+constexpr std::array listCommands{
+    ListCommand{textKey("menu_showpicture"),     &ArtworkDesk::snappreview2},
+    ListCommand{textKey("menu_downloadpicture"), &ArtworkDesk::snapdownload2},
+    ListCommand{textKey("menu_revealpicture"),   &ArtworkDesk::display_image_Finder2},
+    ListCommand{textKey("menu_revealrom"),       &ArtworkDesk::display_rom_Finder2},
+};
+// clang-format on
+
 } // namespace
 
 void ArtworkDesk::fillMenu(QMenuBar& bar)
@@ -61,9 +75,18 @@ void ArtworkDesk::fillFolders(QMenu& menu)
 void ArtworkDesk::addContextMenu(QAbstractItemView& list)
 {
     const QMenuBar& bar = *m_hub.mainWindow().menuBar();
-    for (const char* name :
-         {"menu_showpicture", "menu_downloadpicture", "menu_revealpicture", "menu_revealrom"})
-        list.addAction(bar.findChild<QAction*>(QLatin1String(name)));
+    for (const ListCommand& command : listCommands)
+        list.addAction(bar.findChild<QAction*>(QLatin1String(command.name)));
+}
+
+void ArtworkDesk::addFavoritesMenu(QAbstractItemView& list)
+{
+    for (const ListCommand& command : listCommands) {
+        auto* action = new QAction(qtTrId(command.name), &list);
+        action->setObjectName(QLatin1String(command.name) + u'2');
+        connect(action, &QAction::triggered, this, command.ofFavorites);
+        list.addAction(action);
+    }
 }
 
 } // namespace tessera

@@ -374,8 +374,8 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     window.setRunning(m_launch->isRunning());
     m_commands->leaveOpen(*window.stopButton);
     m_info->addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
-    m_artwork->addContextMenu(*window.favoritesTable);
     m_artwork->joinFavorites(window);
+    m_artwork->addFavoritesMenu(*window.favoritesTable);
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &FavoritesWindow::say);
     connect(m_info.get(), &InfoDesk::statusMessage, &window, &FavoritesWindow::say);
     window.sidePanel->verifyButton->hide();

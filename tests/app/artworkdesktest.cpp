@@ -107,6 +107,42 @@ private Q_SLOTS:
         QCOMPARE(artwork().snapshot().snapimag(), noImage);
     }
 
+    // Whatever window is key, and whatever the main list has selected.
+    void theFavouritesOwnMenuActsOnTheFavourite()
+    {
+        select("qix");
+        m_staged->app->addFavorite();
+        m_staged->app->windowFavorites();
+        const auto* table = m_staged->app->favorites().window().favoritesTable;
+        m_staged->app->favorites().window().favoritesTable->selectRow(0);
+        m_staged->app->windowMain();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Main);
+        select("pong");
+        m_staged->desktop.takeTranscript();
+        const auto choose = [table](const char* name) {
+            const QList<QAction*> actions = table->actions();
+            const auto found = std::ranges::find(actions, QLatin1StringView(name), &QAction::objectName);
+            QVERIFY(found != actions.end());
+            QCOMPARE((*found)->text() + u'2', QLatin1StringView(name));
+            (*found)->trigger();
+        };
+        choose("menu_revealpicture2");
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"reveal " + m_staged->path("snap/qix.png")});
+        QVERIFY(QDir().mkpath(m_staged->path("roms/qix")));
+        m_staged->defaults.setValue(keys::RomsPath.name, m_staged->path("roms"));
+        choose("menu_revealrom2");
+        QCOMPARE(m_staged->desktop.takeTranscript(),
+                 (QStringList{"reveal " + m_staged->path("roms/qix.zip"),
+                              "reveal " + m_staged->path("roms/qix")}));
+        choose("menu_showpicture2");
+        QTRY_VERIFY(artwork().imageWindow().isVisible());
+        QVERIFY(artwork().imageWindow().windowTitle().contains("qix"));
+        const test::InstalledTexts texts("en");
+        choose("menu_downloadpicture2");
+        QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{"beep"});
+        QVERIFY(says("Picture site 1 has no host yet: Preferences › Support › Pictures."));
+    }
+
     void theNextKindIsShownEverywhere()
     {
         select("pong");
