@@ -6,6 +6,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "launch/ui/filespage.h"
 #include "launch/ui/folderproposal.h"
+#include "support/endings.h"
 #include "support/testmain.h"
 #include "widgets/pathfield.h"
 
@@ -240,6 +241,29 @@ private Q_SLOTS:
         QTRY_VERIFY(!window.runningStopButton->isVisible());
         QVERIFY(!window.runningLabel->isVisible());
         QVERIFY(!window.stopButton->isEnabled());
+    }
+
+    void aGameThatIsAskedToEndIsSaidUntilItHasEnded()
+    {
+        const MainWindow& window = m_staged->app->mainWindow();
+        const auto* message = window.findChild<QLabel*>("messageLabel");
+        pid_t game = 0;
+        m_staged->desktop.windows = [&game](qint64 process) {
+            game = static_cast<pid_t>(process);
+            return true;
+        };
+        qputenv("FAKE_COMMAND", "windowed");
+        m_staged->app->gameList().selectGame(QStringLiteral("pong"));
+        m_staged->app->playSelected();
+        QTRY_VERIFY(window.runningLabel->isVisible());
+        qunsetenv("FAKE_COMMAND");
+        window.runningStopButton->click();
+        QTRY_VERIFY(game > 0);
+        QCOMPARE(window.runningLabel->text(), QStringLiteral("launch_stopping"));
+        QCOMPARE(message->text(), QStringLiteral("launch_stopping"));
+        QVERIFY(test::clickCloseButton(game));
+        QTRY_VERIFY(!window.runningLabel->isVisible());
+        QCOMPARE(message->text(), QStringLiteral("launch_stopped"));
     }
 };
 

@@ -40,10 +40,13 @@ struct Room {
         pages->setChooser(*chooser);
     }
 
-    // What another program would read from the settings file now.
+    // What another program would read from the settings file now. At the same path it would share our memory.
     QString onDisk(const char* key) const
     {
-        return QSettings(settings.path(), QSettings::IniFormat).value(QString::fromLatin1(key)).toString();
+        const QTemporaryDir other;
+        const QString copy = other.filePath(QStringLiteral("copy.ini"));
+        QFile::copy(settings.path(), copy);
+        return QSettings(copy, QSettings::IniFormat).value(QString::fromLatin1(key)).toString();
     }
 };
 
@@ -222,12 +225,18 @@ private Q_SLOTS:
 
     void aRecordingOfNoKindBeepsAndStoresNothing()
     {
-        Room room;
-        room.desktop.answerSave("", "/movies/mine.x");
-        room.chooser->saveRecordfile(4);
-        QCOMPARE(room.desktop.transcript(), QStringList({"save", "beep"}));
-        for (const auto& key : {keys::Wavfilename, keys::Mngfilename, keys::Avifilename})
-            QVERIFY(!room.settings.value(key.name));
+        for (const int tag : {-1, 0, 4}) {
+            Room room;
+            room.defaults.setText(keys::Effectname, "typed");
+            room.desktop.answerSave("", "/movies/mine.x");
+            room.chooser->saveRecordfile(tag);
+            QCOMPARE(room.desktop.transcript(), QStringList({"save", "beep"}));
+            QCOMPARE(room.desktop.saveRequests.at(0).title, QStringLiteral("record_save"));
+            for (const auto& key : {keys::Wavfilename, keys::Mngfilename, keys::Avifilename})
+                QVERIFY(!room.settings.value(key.name));
+            // What was changed before is written all the same.
+            QCOMPARE(room.onDisk("Effectname"), QStringLiteral("typed"));
+        }
     }
 
     void theButtonsRunTheirCommands()

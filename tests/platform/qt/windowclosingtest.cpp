@@ -9,8 +9,11 @@
 
 #include <xcb/xcb.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <memory>
+
+#include <unistd.h>
 
 using namespace tessera;
 
@@ -163,6 +166,23 @@ private Q_SLOTS:
         windows.add(script.process.processId());
         QVERIFY(askWindowsToClose(static_cast<pid_t>(script.said)));
         QCOMPARE(windows.asked(), Asked({window}));
+    }
+
+    // What started it is gone, so that nothing but their group tells.
+    void theWindowOfWhatWasLeftBehindIsAsked()
+    {
+        QProcess script;
+        script.setChildProcessModifier([] { ::setpgid(0, 0); });
+        script.start("/bin/sh", {"-c", "exec 3<&0; sh -c 'echo $$; read end <&3' &"});
+        const qint64 leader = script.processId();
+        QVERIFY(script.waitForFinished());
+        const qint64 left = script.readLine().trimmed().toLongLong();
+        QVERIFY(left > 0 && left != leader);
+        Windows windows;
+        const auto window = windows.add(left);
+        QVERIFY(askWindowsToClose(static_cast<pid_t>(leader)));
+        QCOMPARE(windows.asked(), Asked({window}));
+        ::kill(static_cast<pid_t>(left), SIGKILL);
     }
 
     void withoutAWindowNothingIsAsked()
