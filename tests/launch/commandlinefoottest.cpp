@@ -25,6 +25,10 @@ private Q_SLOTS:
         QTextCursor cursor(foot.commandLineText->document());
         cursor.movePosition(QTextCursor::End);
         QVERIFY(cursor.charFormat().fontStrikeOut());
+        QCOMPARE(cursor.charFormat().toolTip(), QStringLiteral("commandline_leftout"));
+        // Not the blank before it.
+        cursor.setPosition(static_cast<int>(foot.commandLineText->toPlainText().indexOf("-\u2060beam")));
+        QVERIFY(!cursor.charFormat().fontStrikeOut());
         cursor.setPosition(1);
         QVERIFY(!cursor.charFormat().fontStrikeOut());
         foot.showLine("mame", {{"pong"}, {}});
@@ -65,9 +69,25 @@ private Q_SLOTS:
         foot.showLine(QStringLiteral("/usr/games/mame"), {QStringList(60, QStringLiteral("-window")), {}});
         const QTextBlock block = foot.commandLineText->document()->firstBlock();
         QVERIFY(block.layout()->lineCount() > 3);
-        const double shown = foot.commandLineText->viewport()->height();
         const double line = block.layout()->lineAt(0).height();
-        QVERIFY2(std::abs(shown / line - 3) < 0.1, qPrintable(QString::number(shown / line)));
+        QCOMPARE(foot.commandLineText->viewport()->height(), qRound(line * 3));
+        // A thicker frame takes nothing of them.
+        foot.commandLineText->setFrameStyle(QFrame::Box | QFrame::Plain);
+        foot.commandLineText->setLineWidth(4);
+        QCOMPARE(foot.commandLineText->frameWidth(), 4);
+        foot.hide();
+        foot.show();
+        QCOMPARE(foot.commandLineText->height(), qRound(line * 3) + 8);
+        QCOMPARE(foot.commandLineText->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    }
+
+    // A line is broken between words alone, not behind an option's hyphen.
+    void linesAreNotBrokenInsideOptions()
+    {
+        CommandLineFoot foot;
+        foot.showLine("mame", {{"-a-b", "x"}, {"-c 1"}});
+        QCOMPARE(foot.commandLineText->toPlainText(), QStringLiteral("mame -\u2060a-\u2060b x -\u2060c 1"));
+        QCOMPARE(foot.text(), QStringLiteral("mame -a-b x"));
     }
 };
 

@@ -141,6 +141,25 @@ private Q_SLOTS:
         QCOMPARE(ownOptions(" "), QStringList({"", ""}));
     }
 
+    void aShellReadsTheWordsAsTheyAre_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("plain") << QStringList{"/usr/games/mame", "-beam", "1.5", "a_b@c%d+e=f:g,h"}
+                               << "/usr/games/mame -beam 1.5 a_b@c%d+e=f:g,h";
+        QTest::newRow("empty") << QStringList{"a", "", "b"} << "a '' b";
+        QTest::newRow("a blank") << QStringList{"two words"} << "'two words'";
+        QTest::newRow("quotes") << QStringList{"it's \"x\""} << "'it'\\''s \"x\"'";
+        QTest::newRow("a variable") << QStringList{"$HOME;x"} << "'$HOME;x'";
+        QTest::newRow("no ASCII") << QStringList{QString::fromUtf8("日本")} << QString::fromUtf8("'日本'");
+    }
+
+    void aShellReadsTheWordsAsTheyAre()
+    {
+        QFETCH(QStringList, words);
+        QTEST(shellWords(words), "line");
+    }
+
     void theNameOfAGame()
     {
         QCOMPARE(gameName("pong"), QStringLiteral("pong"));

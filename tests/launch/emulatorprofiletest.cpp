@@ -121,6 +121,58 @@ private Q_SLOTS:
         QTEST(profile->snapshotFolderList(QStringLiteral("/opt/mame")).join(u';'), "folder");
     }
 
+    // A name of twenty characters leaves no blank before what describes it.
+    void aNameAsLongAsItsColumnRunsIntoItsDescription()
+    {
+        const auto profile = EmulatorProfile::fromUsage("-rompath             path\n"
+                                                        "-nineteen_characters words\n"
+                                                        "-twenty_characters_nowords\n");
+        QVERIFY(profile);
+        QVERIFY(profile->lists(u"-nineteen_characters"));
+        QVERIFY(profile->lists(u"-twenty_characters_no"));
+        QVERIFY(profile->lists(u"-notwenty_characters_no"));
+        for (const char* option : {"-nineteen_character", "-nineteen_characters_", "-twenty_characters_n",
+                                   "-twenty_characters_noo", "twenty_characters_no"})
+            QVERIFY2(!profile->lists(QString::fromLatin1(option)), option);
+        QStringList offered;
+        for (const EmulatorProfile::Option& option : profile->options())
+            offered << option.name + u'=' + option.description;
+        QCOMPARE(offered, (QStringList{"-rompath=path", "-nineteen_characters=words"}));
+    }
+
+    void foldersAreNamedWithVariablesAndFromTheProgramsFolder()
+    {
+        qputenv("TESSERA_A", "/a dir");
+        const auto profile = EmulatorProfile::fromUsage(
+            test::newUsage().append("rompath  $TESSERA_A/x;${TESSERA_A}_y;/p/${TESSERA_A}/$TESSERA_A;;rel/"
+                                    ";/q/../r;$TESSERA_MISSING/z\n"
+                                    "inipath  $TESSERA_A;.;ini\n"
+                                    "snapshot_directory  \"${TESSERA_A}/snap\"\n"));
+        QCOMPARE(profile->romFolderList("/opt/mame"),
+                 QStringList({"/a dir/x", "/a dir_y", "/p/a dir/a dir", "/opt/mame/rel", "/r", "/z"}));
+        QCOMPARE(profile->settingsFiles("/opt/mame"),
+                 QStringList({"/a dir/mame.ini", "/opt/mame/mame.ini", "/opt/mame/ini/mame.ini"}));
+        QCOMPARE(profile->snapshotFolderList("/opt/mame"), QStringList("/a dir/snap"));
+        qunsetenv("TESSERA_A");
+        QCOMPARE(newProfile().romFolderList("/opt/mame"), QStringList());
+        QCOMPARE(newProfile().settingsFiles("/opt/mame"), QStringList());
+    }
+
+    // For a shell that reads the options.
+    void quotesAreKeptWhereTheyAreWanted()
+    {
+        const QStringList built{"-effect", "\"scan lines\"", "-bios", "\"\"", "-nomultithreading", "-cheat"};
+        const auto fitted = newProfile().fit(built, EmulatorProfile::Quotes::Kept);
+        QCOMPARE(fitted.arguments, QStringList({"-effect", "\"scan lines\"", "-cheat"}));
+        QCOMPARE(fitted.leftOut, QStringList({"-bios \"\"", "-nomultithreading"}));
+    }
+
+    void anOptionWhoseValueIsMissingIsTakenAsItStands()
+    {
+        const auto fitted = newProfile().fit({"-cheat", "-rompath"});
+        QCOMPARE(fitted.arguments, QStringList({"-cheat", "-rompath"}));
+    }
+
     void leavesOutWhatIsNotListed()
     {
         const auto fitted

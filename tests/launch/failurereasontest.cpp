@@ -1,5 +1,6 @@
 #include "launch/failurereason.h"
 
+#include "support/argumenttexts.h"
 #include "support/testmain.h"
 
 using namespace tessera;
@@ -35,6 +36,14 @@ private Q_SLOTS:
             "galaga            Galaga (Namco rev. B)                       (Namco, 1981)\n"
             "galaga3           Galaga 3 (GP3 rev. D)                       (Namco, 1984)\n",
             "reason_closesystems", {"galgaa", "galaga, galaga3"});
+        for (const char* words : {"X11 not available", "Cannot open display :0", "unable to open X display",
+                                  "can't open the display", "couldn't open display", "could not open display",
+                                  "no available video device"})
+            row(words, words, "reason_display", {});
+        row("an option, in other letters", "ERROR: Unknown Option: -foo=1 here\n", "reason_option",
+            {"-foo=1"});
+        row("incorrect", "x INCORRECT CHECKSUM:\ny INCORRECT LENGTH: 3\nx INCORRECT LENGTH: 3\n",
+            "reason_wrong", {"x, y"});
         row("no display", "Could not initialize SDL No available video device\n", "reason_display", {});
     }
 
@@ -49,13 +58,38 @@ private Q_SLOTS:
         QCOMPARE(reasons[0].arguments, named);
     }
 
+    void manyFilesAreCounted_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("named");
+        QTest::newRow("six") << 6 << "rom1, rom2, rom3, rom4, rom5, rom6";
+        QTest::newRow("seven") << 7 << "reason_more (rom1, rom2, rom3, rom4, rom5, rom6, 1)";
+        QTest::newRow("nine") << 9 << "reason_more (rom1, rom2, rom3, rom4, rom5, rom6, 3)";
+    }
+
     void manyFilesAreCounted()
     {
+        QFETCH(int, count);
+        const test::ArgumentTexts texts;
         QString printed;
-        for (int i = 1; i <= 9; ++i)
+        for (int i = 1; i <= count; ++i)
             printed += QStringLiteral("rom%1 NOT FOUND (tried in set)\n").arg(i);
         const auto reasons = failureReasons(printed);
-        QCOMPARE(reasons.at(0).arguments, QStringList({"reason_more", "set.zip"}));
+        QTEST(reasons.at(0).arguments.at(0), "named");
+        QCOMPARE(reasons.at(0).arguments.at(1), QStringLiteral("set.zip"));
+    }
+
+    // The most usual first.
+    void severalReasonsAreSaidInOrder()
+    {
+        QStringList keys;
+        for (const Failure& reason :
+             failureReasons("could not initialize SDL\nUnknown system 'x'\nError: unknown option: -o\n"
+                            "a WRONG LENGTH\nb NOT FOUND\n"))
+            keys << QString::fromLatin1(reason.key);
+        QCOMPARE(keys,
+                 QStringList(
+                     {"reason_missing", "reason_wrong", "reason_option", "reason_system", "reason_display"}));
     }
 
     void whatIsNotSaidIsNotGuessed_data()

@@ -166,6 +166,42 @@ private Q_SLOTS:
         QCOMPARE(timesAsked(), 1);
     }
 
+    void anAnswerMayBeOneMebibyteLong_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("usable");
+        QTest::newRow("as long as that") << (1 << 20) << true;
+        QTest::newRow("longer") << (1 << 20) + 1 << false;
+    }
+
+    void anAnswerMayBeOneMebibyteLong()
+    {
+        QFETCH(int, size);
+        QFETCH(bool, usable);
+        QByteArray usage = test::newUsage();
+        write(m_folder->filePath("usage"), usage.append(size - usage.size(), '\n'));
+        ProfileCache cache(m_cache);
+        QCOMPARE(cache.ask(m_emulator).profile.has_value(), usable);
+        // Either is remembered.
+        QVERIFY(ProfileCache(m_cache).remembered(m_emulator));
+    }
+
+    void aFileThatIsTooLongIsNotRead()
+    {
+        QVERIFY(ProfileCache(m_cache).ask(m_emulator).profile);
+        QFile file(cacheFile());
+        QVERIFY(file.resize(3 << 20));
+        QVERIFY(!ProfileCache(m_cache).remembered(m_emulator));
+    }
+
+    void answersAreKeptInTheUsersCache()
+    {
+        const QByteArray before = qgetenv("XDG_CACHE_HOME");
+        qputenv("XDG_CACHE_HOME", "/some/cache");
+        QCOMPARE(ProfileCache::standardFolder(), QStringLiteral("/some/cache/Tessera/profiles"));
+        qputenv("XDG_CACHE_HOME", before);
+    }
+
     void aCrashIsNoAnswerForGood()
     {
         const QString program = script("kill -SEGV $$\n");
