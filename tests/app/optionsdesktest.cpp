@@ -245,6 +245,8 @@ private Q_SLOTS:
 
     void aGameThatIsAskedToEndIsSaidUntilItHasEnded()
     {
+        // By then the emulator was asked, and the game starts at once.
+        showPreferences();
         const MainWindow& window = m_staged->app->mainWindow();
         const auto* message = window.findChild<QLabel*>("messageLabel");
         pid_t game = 0;

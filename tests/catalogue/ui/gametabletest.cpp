@@ -1,34 +1,13 @@
-#include "catalogue/catalogue.h"
-#include "catalogue/storewriter.h"
 #include "catalogue/ui/familydelegate.h"
-#include "catalogue/ui/gamelistcontroller.h"
-#include "catalogue/ui/gametablemodel.h"
-#include "catalogue/ui/gametableview.h"
-#include "platform/defaultscontroller.h"
-#include "support/scripteddesktop.h"
+#include "stagedtable.h"
 #include "support/testmain.h"
 
 #include <QHeaderView>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace tessera;
-
-namespace {
-
-GameRecord machine(std::string_view name, std::string_view parent, std::string_view year,
-                   std::string_view status)
-{
-    return GameRecord{{"game", name, parent, name, name, year, "Maker", status, ""}};
-}
-
-const std::array machines{
-    machine("abc", "abc", "1999", "preliminary"), machine("Zed", "Zed", "1980", "imperfect"),
-    machine("zed", "abc", "1970", "good"),        machine("", "", "1990", "good"),
-    machine("mid", "mid", "1980", "unusual"),
-};
-
-} // namespace
+using test::machines;
+using test::StagedTable;
 
 /// The table with its commands, as somebody uses it with the mouse.
 class GameTableTest : public QObject
@@ -38,7 +17,7 @@ class GameTableTest : public QObject
 private Q_SLOTS:
     void init()
     {
-        m_stage = std::make_unique<Stage>();
+        m_stage = std::make_unique<StagedTable>();
         m_table = m_stage->table.get();
         m_list = &m_stage->list;
     }
@@ -216,41 +195,6 @@ private Q_SLOTS:
     }
 
 private:
-    struct Stage {
-        Stage()
-            : defaults(folder.filePath(QStringLiteral("settings.ini")))
-            , controls(defaults)
-            , catalogue(stored())
-            , list(catalogue, desktop, controls)
-            , table(std::make_unique<GameTableView>())
-        {
-            table->resize(900, 400);
-            list.setTable(table.get());
-            QObject::connect(table.get(), &GameTableView::doubleAction, &list,
-                             &GameListController::tableViewDoubleAction);
-            if (!catalogue.open())
-                qFatal("no records");
-            list.main_tableViewSort();
-            table->show();
-        }
-
-        QString stored() const
-        {
-            const QString path = folder.filePath(QStringLiteral("Tessera.xml"));
-            if (!writeStore(path, machines))
-                qFatal("no catalogue");
-            return path;
-        }
-
-        QTemporaryDir folder;
-        test::ScriptedDesktop desktop;
-        UserDefaults defaults;
-        DefaultsController controls;
-        Catalogue catalogue;
-        GameListController list;
-        std::unique_ptr<GameTableView> table;
-    };
-
     QStringList names() const
     {
         QStringList list;
@@ -289,7 +233,7 @@ private:
         QTest::mouseDClick(m_table->viewport(), button, Qt::NoModifier, place);
     }
 
-    std::unique_ptr<Stage> m_stage;
+    std::unique_ptr<StagedTable> m_stage;
     GameTableView* m_table = nullptr;
     GameListController* m_list = nullptr;
 };

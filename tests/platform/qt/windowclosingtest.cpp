@@ -173,11 +173,13 @@ private Q_SLOTS:
     {
         QProcess script;
         script.setChildProcessModifier([] { ::setpgid(0, 0); });
-        script.start("/bin/sh", {"-c", "exec 3<&0; sh -c 'echo $$; read end <&3' &"});
+        script.start("/bin/sh", {"-c", "sh -c 'echo $$; exec sleep 120' & read end"});
         const qint64 leader = script.processId();
-        QVERIFY(script.waitForFinished());
+        while (!script.canReadLine() && script.waitForReadyRead(20000)) { }
         const qint64 left = script.readLine().trimmed().toLongLong();
         QVERIFY(left > 0 && left != leader);
+        script.closeWriteChannel();
+        QVERIFY(script.waitForFinished());
         Windows windows;
         const auto window = windows.add(left);
         QVERIFY(askWindowsToClose(static_cast<pid_t>(leader)));
