@@ -74,12 +74,11 @@ void AspectChoice::snapviewAction()
     m_defaults.defaults().synchronize();
 }
 
+// Every pop-up follows the setting.
 void AspectChoice::MenuAspect(QAction* item)
 {
     check(item);
-    const int position = item->data().toInt();
-    m_popup->setCurrentIndex(position);
-    m_defaults.setIndex(keys::AspectRatio, position);
+    m_defaults.setIndex(keys::AspectRatio, item->data().toInt());
 }
 
 void AspectChoice::check(QAction* item)

@@ -24,7 +24,6 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
     , m_most(most)
     , m_kept(mostKept)
 {
-    m_pool.setMaxThreadCount(1);
 }
 
 PictureLoader::~PictureLoader() = default;

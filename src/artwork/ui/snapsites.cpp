@@ -4,7 +4,6 @@
 #include "artwork/ui/picturespage.h"
 #include "platform/defaultscontroller.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -38,7 +37,6 @@ SnapSites::SnapSites(DefaultsController& defaults, QObject* parent)
 void SnapSites::setPage(PicturesPage& page)
 {
     m_page = &page;
-    connect(page.snapdownsitePop, &QComboBox::activated, this, &SnapSites::snapdownsiteAction);
     connect(page.hostField, &QLineEdit::textEdited, this, &SnapSites::storeHost);
     int kind = 0;
     for (QLineEdit* field : page.templateFields()) {

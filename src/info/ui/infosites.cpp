@@ -5,7 +5,6 @@
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 
