@@ -95,6 +95,18 @@ private Q_SLOTS:
             QVERIFY2(qAbs(distance) < 1e-3, qPrintable(QString::number(distance)));
     }
 
+    void aHairBelowAWholeNumberIsThatNumber()
+    {
+        const auto widthOf = [](float scale) {
+            return inWholeSteps({0, 0, scale, scale}, {100, 100}).rectangle({100, 100}).width();
+        };
+        QVERIFY(qAbs(widthOf(2.9995F) - 300) < 1e-3);
+        QVERIFY(qAbs(widthOf(2.998F) - 200) < 1e-3);
+        QVERIFY(qAbs(widthOf(0.9995F) - 100) < 1e-3);
+        QVERIFY(qAbs(widthOf(0.998F) - 99.8) < 1e-3);
+        QVERIFY(qAbs(widthOf(1) - 100) < 1e-3);
+    }
+
     void theScaleIsHeldInSinglePrecision()
     {
         const auto place = picturePlace({3, 3}, {0, 0, 1, 1}, 0);

@@ -38,7 +38,10 @@ private Q_SLOTS:
         QCOMPARE(downloadPercent(0, 200), std::optional(0.0));
         QCOMPARE(downloadPercent(50, 200), std::optional(25.0));
         QCOMPARE(downloadPercent(200, 200), std::optional(100.0));
+        QCOMPARE(downloadPercent(1, 1), std::optional(100.0));
         QVERIFY(!downloadPercent(0, 0));
+        // A server may say less than it sends.
+        QCOMPARE(downloadPercent(300, 200), std::optional(100.0));
     }
 };
 

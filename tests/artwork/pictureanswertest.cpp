@@ -60,6 +60,9 @@ private Q_SLOTS:
         QTest::newRow("a sound") << QByteArray("RIFF....WAVEfmt ") << false;
         QTest::newRow("a page") << QByteArray("<!DOCTYPE html>") << false;
         QTest::newRow("changed line ends") << QByteArray("\x89PNG\n\x1a\n") + rest << false;
+        QTest::newRow("just long enough") << QByteArray("\x89PNG\r\n\x1a\n") + QByteArray(4, '\0') << true;
+        QTest::newRow("one byte too short") << QByteArray("\x89PNG\r\n\x1a\n") + QByteArray(3, '\0') << false;
+        QTest::newRow("a picture further on") << QByteArray("xBM") + rest << false;
         QTest::newRow("too short") << QByteArray("\x89PNG\r\n\x1a\n") << false;
         QTest::newRow("nothing") << QByteArray() << false;
     }
@@ -120,6 +123,20 @@ private Q_SLOTS:
         QTest::newRow("empty") << QByteArray("x; filename=\"\"") << "pong.png";
         QTest::newRow("not closed") << QByteArray("x; filename=\"qix.png") << "qix.png";
         QTest::newRow("a backslash at the end") << QByteArray("x; filename=\"qix.png\\") << "pong.png";
+        QTest::newRow("blanks around the sign") << QByteArray("x; filename = \"qix.png\"") << "qix.png";
+        QTest::newRow("another parameter")
+            << QByteArray("x; myfilename=no.png; filename=qix.png") << "qix.png";
+        QTest::newRow("without a sign") << QByteArray("x; filename; filename=qix.png") << "qix.png";
+        QTest::newRow("an escaped mark within another")
+            << QByteArray("x; a=\"\\\"; filename=no\"; filename=qix.png") << "qix.png";
+        QTest::newRow("an escaped backslash") << QByteArray("x; filename=\"a\\\\b.png\"") << "b.png";
+        QTest::newRow("behind the mark") << QByteArray("x; filename=\"qix.png\"no") << "qix.png";
+        QTest::newRow("bare, and another") << QByteArray("x; filename=qix.png;a=b") << "qix.png";
+        QTest::newRow("UTF-8 in capitals")
+            << QByteArray("x; FILENAME*=utf-8''%E3%83%91.png") << QString::fromUtf8("パ.png");
+        QTest::newRow("plain UTF-8") << QByteArray("x; filename=\"\xE3\x83\x91.png\"")
+                                     << QString::fromUtf8("パ.png");
+        QTest::newRow("at the front") << QByteArray("filename=no.png") << "pong.png";
         QTest::newRow("none") << QByteArray("attachment") << "pong.png";
     }
 

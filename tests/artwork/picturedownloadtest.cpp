@@ -1,6 +1,7 @@
 #include "artwork/picturedownload.h"
 
 #include "scriptedserver.h"
+#include "support/smalldisk.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -62,6 +63,7 @@ private Q_SLOTS:
             QVERIFY2(request.startsWith("GET /pong.png HTTP/1.1\r\n"), request);
             QVERIFY2(request.contains("Accept-Encoding: identity\r\n"), request);
             QVERIFY2(request.contains("Cache-Control: no-cache\r\n"), request);
+            QVERIFY2(request.contains("User-Agent: Tessera\r\n"), request);
             QVERIFY2(!request.toLower().contains("cookie") && !request.contains("Referer"), request);
         }
     }
@@ -95,6 +97,8 @@ private Q_SLOTS:
         QTest::newRow("a password is wanted")
             << answer("401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\nContent-Type: text/html", page);
         QTest::newRow("no type") << answer("200 OK", picture);
+        QTest::newRow("several to choose from") << answer("300 Choices\r\nContent-Type: image/png", picture);
+        QTest::newRow("the last of those") << answer("399 Odd\r\nContent-Type: image/png", picture);
         QTest::newRow("nowhere to go on to") << answer("304 Not Modified\r\nContent-Type: image/png", {});
         QTest::newRow("a page that calls itself a picture") << answer(png, page);
         QTest::newRow("a compressed picture")
@@ -116,9 +120,17 @@ private Q_SLOTS:
         QVERIFY(!m_download->isUnderWay());
     }
 
+    void thePicturesTypeCountsNotTheStatus_data()
+    {
+        QTest::addColumn<QByteArray>("status");
+        for (const char* status : {"299 Odd", "400 Bad Request", "404 Not Found", "500 Oops"})
+            QTest::newRow(status) << QByteArray(status);
+    }
+
     void thePicturesTypeCountsNotTheStatus()
     {
-        serve(ScriptedServer::answer("404 Not Found\r\nContent-Type: image/png", picture));
+        QFETCH(QByteArray, status);
+        serve(ScriptedServer::answer(status + "\r\nContent-Type: image/png", picture));
         run();
         QCOMPARE(m_said.constLast(), QStringLiteral("finished 100"));
         QCOMPARE(content("pong.png"), picture);
@@ -357,6 +369,58 @@ private Q_SLOTS:
         });
         run();
         QCOMPARE(m_said.constLast(), QStringLiteral("cancelled"));
+        QCOMPARE(names(), QStringList());
+    }
+
+    void whatIsCancelledAtOnceIsNotAskedFor()
+    {
+        connect(m_download.get(), &PictureDownload::began, this, [this] { m_download->cancel(); });
+        QVERIFY(m_download->start(m_server->url("/pong.png"), m_folder->path()));
+        QCOMPARE(m_said, (QStringList{"began", "cancelled"}));
+        QVERIFY(!m_download->isUnderWay());
+        m_download->disconnect(this);
+        make({});
+        serve(ScriptedServer::answer(png, picture));
+        run();
+        QCOMPARE(m_server->requests.size(), 1);
+    }
+
+    void anotherMayBeginWhereOneEnds()
+    {
+        serve(ScriptedServer::answer(png, picture));
+        m_server->answers["/qix.png"] = {ScriptedServer::answer(png, picture)};
+        const auto first = std::make_shared<bool>(true);
+        connect(m_download.get(), &PictureDownload::answered, this, [this, first] {
+            if (!std::exchange(*first, false))
+                return;
+            m_download->cancel();
+            QVERIFY(m_download->start(m_server->url("/qix.png"), m_folder->path()));
+        });
+        run();
+        QCOMPARE(m_said,
+                 (QStringList{"began", "answered 100", "cancelled", "began", "answered 100",
+                              "received 100 of 100", "finished 100"}));
+        QCOMPARE(names(), QStringList{"qix.png"});
+    }
+
+    void aFolderThatGoesMeanwhileIsAFailure()
+    {
+        serve(ScriptedServer::answer(png, picture));
+        connect(m_download.get(), &PictureDownload::received, this, [this] { QVERIFY(m_folder->remove()); });
+        run();
+        QCOMPARE(m_said,
+                 (QStringList{"began", "answered 100", "received 100 of 100", "failed failure_write"}));
+        QVERIFY(!m_download->isUnderWay());
+    }
+
+    void aFullDiskIsAFailure()
+    {
+        const test::SmallDisk disk(QFile::encodeName(m_folder->path()));
+        if (!disk.isThere())
+            QSKIP("No disk may be mounted here.");
+        serve(ScriptedServer::answer(png, picture + QByteArray(200'000, 'x')));
+        run();
+        QCOMPARE(m_said.constLast(), QStringLiteral("failed failure_write"));
         QCOMPARE(names(), QStringList());
     }
 

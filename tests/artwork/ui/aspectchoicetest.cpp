@@ -33,7 +33,12 @@ private Q_SLOTS:
         QCOMPARE(titles,
                  (QStringList{"aspect_own", "", "aspect_1_1", "aspect_4_3", "aspect_16_9", "", "aspect_6_4",
                               "aspect_8_3", "aspect_12_3"}));
-        QCOMPARE(m_menu->actions().size(), 9);
+        QStringList items;
+        for (const QAction* item : m_menu->actions()) {
+            items << item->text();
+            QCOMPARE(item->isCheckable(), !item->isSeparator());
+        }
+        QCOMPARE(items, titles);
         QVERIFY(m_menu->actions().at(1)->isSeparator() && m_menu->actions().at(5)->isSeparator());
     }
 
@@ -52,6 +57,14 @@ private Q_SLOTS:
         QCOMPARE(m_popup->currentIndex(), 7);
         QCOMPARE(checked(), QStringList{"aspect_8_3"});
         QCOMPARE(m_staging->defaults.number(keys::AspectRatio), 7.0);
+    }
+
+    void aChoiceIsWrittenAtOnce()
+    {
+        m_popup->setCurrentIndex(4);
+        Q_EMIT m_popup->activated(4);
+        const UserDefaults file(m_staging->path("settings.ini"));
+        QCOMPARE(file.value(keys::AspectRatio.name)->toDouble(), 4.0);
     }
 
     void theStoredRatioIsCheckedAtTheStart()

@@ -2,6 +2,7 @@
 
 #include "staging.h"
 #include "support/testmain.h"
+#include "widgets/theme.h"
 
 #include <QSignalSpy>
 #include <QStyleHints>
@@ -9,6 +10,24 @@
 
 using namespace tessera;
 using test::PictureStaging;
+
+namespace {
+
+/// Counts how often a widget is painted.
+class PaintWatch : public QObject
+{
+public:
+    int painted = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        painted += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
 
 class AspectViewTest : public QObject
 {
@@ -93,6 +112,94 @@ private Q_SLOTS:
         m_view->setImage(QImage());
         QTRY_VERIFY(!refining->isActive());
         QVERIFY(m_view->drawnRect().isEmpty());
+    }
+
+    void wholeStepsAreDrawnEvenly()
+    {
+        QImage halves(2, 2, QImage::Format_RGB32);
+        halves.fill(Qt::red);
+        halves.setPixelColor(1, 0, Qt::blue);
+        halves.setPixelColor(1, 1, Qt::blue);
+        m_staging->defaults.setText(keys::PictureWholeSteps, QStringLiteral("1"));
+        m_view->setImage(halves);
+        const QImage seen = m_window->grab().toImage();
+        QCOMPARE(seen.pixelColor(199, 200), QColor(Qt::red));
+        QCOMPARE(seen.pixelColor(200, 200), QColor(Qt::blue));
+        // There is nothing to be drawn better.
+        QVERIFY(!m_view->findChild<QTimer*>()->isActive());
+        m_staging->defaults.setText(keys::PictureWholeSteps, QStringLiteral("false"));
+        const QColor mixed = m_window->grab().toImage().pixelColor(200, 200);
+        QVERIFY(mixed.red() > 50 && mixed.blue() > 50);
+        QVERIFY(m_view->findChild<QTimer*>()->isActive());
+    }
+
+    void aLineOfAPictureIsStillDrawn()
+    {
+        m_view->setImage(image({2000, 1}));
+        QCOMPARE(m_view->drawnRect().size(), QSize(400, 1));
+        m_view->setImage(image({1, 2000}));
+        QCOMPARE(m_view->drawnRect().size(), QSize(1, 400));
+    }
+
+    void whereTheKeyboardIsItHasABorder()
+    {
+        m_view->setImage(image({320, 320}));
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        const QList<QPoint> corners{{0, 0}, {399, 0}, {0, 399}, {399, 399}};
+        m_view->setFocus();
+        QImage seen = m_window->grab().toImage();
+        for (const QPoint corner : corners)
+            QCOMPARE(seen.pixelColor(corner), theme::color("accent"));
+        QCOMPARE(seen.pixelColor(2, 2), QColor(Qt::red));
+        m_view->clearFocus();
+        seen = m_window->grab().toImage();
+        for (const QPoint corner : corners)
+            QCOMPARE(seen.pixelColor(corner), QColor(Qt::red));
+    }
+
+    void itIsReachedByTheKeyboardAndCanBeClicked()
+    {
+        QCOMPARE(m_view->focusPolicy(), Qt::TabFocus);
+        QCOMPARE(m_view->cursor().shape(), Qt::PointingHandCursor);
+        // The shape of most pictures.
+        QCOMPARE(m_view->sizeHint().width() * 3, m_view->sizeHint().height() * 4);
+    }
+
+    void aChangeThatConcernsItIsPainted_data()
+    {
+        QTest::addColumn<bool>("isRatio");
+        QTest::newRow("the ratio") << true;
+        QTest::newRow("whole steps") << false;
+    }
+
+    void aChangeThatConcernsItIsPainted()
+    {
+        QFETCH(bool, isRatio);
+        m_view->setImage(image({150, 100}));
+        PaintWatch watch;
+        m_view->installEventFilter(&watch);
+        QTRY_VERIFY(watch.painted > 0);
+        watch.painted = 0;
+        if (isRatio)
+            m_staging->defaults.setIndex(keys::AspectRatio, 2);
+        else
+            m_staging->defaults.setText(keys::PictureWholeSteps, QStringLiteral("1"));
+        QTRY_VERIFY(watch.painted > 0);
+        watch.painted = 0;
+        m_staging->defaults.revertToInitialValues();
+        QTRY_VERIFY(watch.painted > 0);
+    }
+
+    void anotherPictureIsNotDrawnFromTheOneBefore()
+    {
+        m_view->setImage(image({320, 240}));
+        m_window->grab();
+        auto* const refining = m_view->findChild<QTimer*>();
+        QTRY_VERIFY(!refining->isActive());
+        QImage other = image({320, 240});
+        other.fill(Qt::blue);
+        m_view->setImage(other);
+        QCOMPARE(m_window->grab().toImage().pixelColor(200, 200), QColor(Qt::blue));
     }
 
     void withoutAPictureNothingIsDrawn()

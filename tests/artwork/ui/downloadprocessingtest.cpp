@@ -5,9 +5,11 @@
 #include "artwork/ui/snapfolder.h"
 #include "artwork/ui/snapsites.h"
 #include "staging.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -296,6 +298,67 @@ private Q_SLOTS:
         QCOMPARE(m_texts.constLast(), QStringLiteral("Snap Download:  Cancel.\n"));
         QVERIFY(!m_processing->downloadstate() && !m_panel->cancelButton->isEnabled());
         QVERIFY(!QFile::exists(m_staging->path("snap/pong.png")));
+    }
+
+    void thePanelBeginsAnewWithEveryDownload()
+    {
+        m_panel->setPercent(70);
+        m_server->answers["/pong.png"] = {"", ScriptedServer::Then::Wait};
+        QSignalSpy began(m_processing.get(), &DownloadProcessing::began);
+        m_processing->snapdownload_url(QStringLiteral("pong"));
+        QCOMPARE(began.size(), 1);
+        QVERIFY(m_panel->cancelButton->isEnabled());
+        QCOMPARE(m_panel->folderLabel->text(), m_staging->path("snap"));
+        m_panel->setIndeterminate(false);
+        QVERIFY(m_panel->progressInd2->value() <= 0);
+        m_processing->cancel();
+        QCOMPARE(m_panel->progressInd2->maximum(), 100);
+    }
+
+    void whatHasComeIsAllOfIt()
+    {
+        serve("/pong.png", ScriptedServer::answer(png, picture));
+        download("pong");
+        QCOMPARE(m_panel->progressInd2->value(), 100);
+        QVERIFY(!m_panel->cancelButton->isEnabled());
+        m_desktop->takeTranscript();
+    }
+
+    void anAnswerMakesTheIndicatorATrueOne()
+    {
+        m_server->answers["/pong.png"]
+            = {"HTTP/1.1 200 OK\r\nContent-Type: image/png\r\nContent-Length: 1000\r\n\r\n",
+               ScriptedServer::Then::Wait};
+        m_processing->snapdownload_url(QStringLiteral("pong"));
+        QTRY_COMPARE(m_texts.constLast(), QStringLiteral("Snap Download:  1000 byte\n"));
+        QCOMPARE(m_panel->progressInd2->maximum(), 100);
+        m_processing->cancel();
+    }
+
+    void aSiteWithoutAHostIsNamed()
+    {
+        const test::InstalledTexts texts("en");
+        m_staging->defaults.setIndex(keys::Snapdownsite, 1);
+        QSignalSpy said(m_processing.get(), &DownloadProcessing::statusMessage);
+        m_processing->snapdownload_url(QStringLiteral("pong"));
+        QCOMPARE(said.size(), 1);
+        QCOMPARE(said.constFirst().constFirst().toString(),
+                 QString::fromUtf8("Picture site 2 has no host yet: Preferences › Support › Pictures."));
+        QCOMPARE(m_desktop->takeTranscript(), QStringList{"beep"});
+        QVERIFY(m_texts.isEmpty() && !m_processing->downloadstate());
+    }
+
+    void theErrorSaysWhy()
+    {
+        const test::InstalledTexts texts("en");
+        m_server->answers["/pong.png"] = {"", ScriptedServer::Then::Wait};
+        bool couldStop = true;
+        m_desktop->meanwhile = [&] { couldStop = m_panel->cancelButton->isEnabled(); };
+        m_desktop->answerAlert(QStringLiteral("The picture could not be downloaded."), 0);
+        download("pong");
+        QCOMPARE(m_desktop->alerts.at(0).informative, QString::fromUtf8("“127.0.0.1” does not answer."));
+        QVERIFY(!couldStop);
+        m_desktop->takeTranscript();
     }
 
 private:

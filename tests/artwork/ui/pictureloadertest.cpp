@@ -65,6 +65,82 @@ private Q_SLOTS:
         QTRY_COMPARE(seen.size(), QSize(40, 30));
     }
 
+    // Either alone tells that it is another file.
+    void aFileOfAnotherTimeOrLengthIsReadAnew_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("time") << QSize(4, 3) << 5;
+        QTest::newRow("length") << QSize(4, 6) << 0;
+    }
+
+    void aFileOfAnotherTimeOrLengthIsReadAnew()
+    {
+        QFETCH(QSize, size);
+        QFETCH(int, seconds);
+        QColor seen;
+        connect(m_loader.get(), &PictureLoader::loaded, this,
+                [&seen](const QString&, const QImage& image) { seen = image.pixelColor(0, 0); });
+        const QDateTime time(QDate(2026, 1, 2), QTime(3, 4, 5));
+        const QString path = m_staging.paint("one.bmp", {4, 3});
+        setTime(path, time);
+        m_loader->load(path);
+        QTRY_COMPARE(seen, QColor(Qt::red));
+        m_staging.paint("one.bmp", size, Qt::blue);
+        setTime(path, time.addSecs(seconds));
+        m_loader->load(path);
+        QTRY_COMPARE(seen, QColor(Qt::blue));
+    }
+
+    void whatIsTooLargeComesInTheSizeThatIsAskedFor_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QSize>("given");
+        QTest::newRow("smaller") << QSize(99, 79) << QSize(99, 79);
+        QTest::newRow("just as large") << QSize(100, 80) << QSize(100, 80);
+        QTest::newRow("wider") << QSize(200, 80) << QSize(100, 40);
+        QTest::newRow("higher") << QSize(50, 160) << QSize(25, 80);
+        QTest::newRow("both") << QSize(200, 160) << QSize(100, 80);
+    }
+
+    void whatIsTooLargeComesInTheSizeThatIsAskedFor()
+    {
+        QFETCH(QSize, size);
+        PictureLoader loader({100, 80});
+        QSize seen;
+        connect(&loader, &PictureLoader::loaded, &loader,
+                [&seen](const QString&, const QImage& image) { seen = image.size(); });
+        const QString path = m_staging.paint("sized.png", size);
+        loader.load(path);
+        QTRY_VERIFY(seen.isValid());
+        QTEST(seen, "given");
+    }
+
+    void whatCouldNotBeReadIsTriedAgain()
+    {
+        const QString path = m_staging.path("later.png");
+        m_loader->load(path);
+        QTRY_COMPARE(m_loaded, QStringList{"failed " + path});
+        m_staging.paint("later.png");
+        m_loader->load(path);
+        QTRY_COMPARE(m_loaded, (QStringList{"failed " + path, path}));
+    }
+
+    void whatIsAskedForFromWithinIsReadToo()
+    {
+        const QString first = m_staging.paint("first.png");
+        const QString second = m_staging.paint("second.png");
+        connect(m_loader.get(), &PictureLoader::loaded, this, [&](const QString& path) {
+            if (path == first)
+                m_loader->load(second);
+        });
+        m_loader->load(first);
+        QTRY_COMPARE(m_loaded, (QStringList{first, second}));
+        // A kept one just so.
+        m_loader->load(first);
+        QCOMPARE(m_loaded, (QStringList{first, second, first, second}));
+    }
+
     void aKeptOneEndsTheWaitForAnother()
     {
         const QString kept = m_staging.paint("kept.png");
@@ -107,6 +183,12 @@ private Q_SLOTS:
     }
 
 private:
+    static void setTime(const QString& path, const QDateTime& time)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+
     PictureStaging m_staging;
     std::unique_ptr<PictureLoader> m_loader;
     QStringList m_loaded;

@@ -58,6 +58,7 @@ private Q_SLOTS:
         QTest::newRow("text") << QByteArray("<html>not found</html>") << "picture_unreadable";
         QTest::newRow("cut off") << headOf(64, 64) << "picture_unreadable";
         QTest::newRow("enormous") << headOf(9000, 9000) << "picture_toolarge";
+        QTest::newRow("as much as can be, cut off") << headOf(8192, 4096) << "picture_unreadable";
         QTest::newRow("one more than can be") << headOf(8192, 4097) << "picture_toolarge";
         QTest::newRow("no size") << headOf(0, 0) << "picture_unreadable";
         QTest::newRow("a drawing") << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" "
@@ -77,6 +78,68 @@ private Q_SLOTS:
         QTEST(QString(image.error().key), "reason");
     }
 
+    void theReasonNamesTheFile()
+    {
+        const QString none = m_staging.path("none.png");
+        QCOMPARE(readPicture(none).error().arguments, (QStringList{none, "picture_nofile"}));
+        const QString large = write("large.png", headOf(9000, 8000));
+        QCOMPARE(readPicture(large).error().arguments, (QStringList{large, "9000", "8000"}));
+        for (const QByteArray& content : {QByteArray("text"), headOf(64, 64)}) {
+            const QStringList said = readPicture(write("bad.png", content)).error().arguments;
+            QCOMPARE(said.size(), 2);
+            QCOMPARE(said[0], m_staging.path("bad.png"));
+            QVERIFY(!said[1].isEmpty());
+        }
+    }
+
+    void everyUsualFormatIsRead_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("png") << m_staging.paint("a.png");
+        QTest::newRow("jpeg") << m_staging.paint("a.jpg");
+        QTest::newRow("bmp") << m_staging.paint("a.bmp");
+        QTest::newRow("gif") << write(
+            "a.gif", QByteArray::fromBase64("R0lGODlhAQABAIAAAAAAAP///yH5BAEAAAAALAAAAAABAAEAAAIBRAA7"));
+    }
+
+    void everyUsualFormatIsRead()
+    {
+        QFETCH(QString, path);
+        QVERIFY(readPicture(path));
+    }
+
+    void anyOtherFormatIsNot() { QVERIFY(!readPicture(m_staging.paint("a.ppm"))); }
+
+    // As a camera marks what is to be turned.
+    void aTurnedPictureIsShownUpright()
+    {
+        QFile file(m_staging.paint("turned.jpg", {16, 8}));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray mark = QByteArray::fromHex("ffe10022457869660000"
+                                                    "4d4d002a00000008"
+                                                    "0001011200030000000100060000"
+                                                    "00000000");
+        const auto image = readPicture(write("turned.png", file.readAll().insert(2, mark)));
+        QVERIFY(image);
+        QCOMPARE(image->size(), QSize(8, 16));
+    }
+
+    void itComesAsItIsDrawnFastest()
+    {
+        QCOMPARE(readPicture(m_staging.paint("a.png"))->format(), QImage::Format_RGB32);
+        QImage clear(4, 4, QImage::Format_ARGB32);
+        clear.fill(Qt::transparent);
+        QVERIFY(clear.save(m_staging.path("clear.png")));
+        QCOMPARE(readPicture(m_staging.path("clear.png"))->format(), QImage::Format_ARGB32_Premultiplied);
+    }
+
+    void aNameThatTellsOfADensityChangesNothing()
+    {
+        const auto image = readPicture(m_staging.paint("pong@2x.png", {32, 24}));
+        QVERIFY(image);
+        QCOMPARE(image->devicePixelRatio(), 1.0);
+    }
+
     void aPipeIsNotWaitedFor()
     {
         const QString pipe = m_staging.path("pipe.png");
@@ -87,6 +150,14 @@ private Q_SLOTS:
     void aFolderIsNoPicture() { QVERIFY(!readPicture(m_staging.path("snap"))); }
 
 private:
+    QString write(const QString& name, const QByteArray& content) const
+    {
+        QFile file(m_staging.path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("no file");
+        return file.fileName();
+    }
+
     PictureStaging m_staging;
 };
 

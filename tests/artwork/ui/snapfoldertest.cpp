@@ -83,6 +83,29 @@ private Q_SLOTS:
         QCOMPARE(pictures.size(), 1);
     }
 
+    void onlyWhatConcernsPicturesIsShownAnew()
+    {
+        m_folder->Setsnapfolder();
+        QSignalSpy labels(m_folder.get(), &SnapFolder::labelChanged);
+        QSignalSpy pictures(m_folder.get(), &SnapFolder::picturesChanged);
+        m_staging->defaults.setText(keys::VisitedURLPath, QStringLiteral("x"));
+        QCOMPARE(pictures.size(), 0);
+        m_staging->defaults.setFlag(keys::Suppress_PS, true);
+        QCOMPARE(pictures.size(), 1);
+        QCOMPARE(labels.size(), 0);
+        // Of another kind, too: it is asked for by its file.
+        m_staging->defaults.setText(keys::GameflyersPath, QStringLiteral("/flyers"));
+        QCOMPARE(pictures.size(), 2);
+        m_folder->setKind(2);
+        QCOMPARE(m_folder->kind(), 2);
+        QCOMPARE(m_folder->snappath(), QStringLiteral("/flyers"));
+        QCOMPARE(m_folder->label(), QStringLiteral("Game Flyer"));
+        m_staging->defaults.revertToInitialValues();
+        QCOMPARE(m_folder->kind(), 0);
+        QCOMPARE(m_folder->label(), QStringLiteral("Snapshot"));
+        QCOMPARE(labels.constLast().constFirst().toString(), QStringLiteral("Snapshot"));
+    }
+
     void eachTagOpensItsFolder_data()
     {
         QTest::addColumn<int>("tag");

@@ -3,6 +3,7 @@
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/snapfolder.h"
 #include "staging.h"
+#include "support/installedtexts.h"
 #include "support/testmain.h"
 
 #include <QSignalSpy>
@@ -125,6 +126,102 @@ private Q_SLOTS:
         QCOMPARE(said.size(), 1);
         QCOMPARE(m_controller->snapimag(), file.fileName());
         QVERIFY(m_staging->desktop.takeTranscript().isEmpty());
+    }
+
+    void thePictureIsDescribedByItsFile()
+    {
+        const QString path = m_staging->paint("snap/pong.png");
+        m_controller->Setsnapshot(QStringLiteral("pong"));
+        QCOMPARE(m_view->accessibleDescription(), path);
+        QCOMPARE(m_view->toolTip(), QString());
+        m_controller->Setsnapshot(QStringLiteral("qix"));
+        QCOMPARE(m_view->accessibleDescription(), QStringLiteral("picture_nopicture"));
+        QCOMPARE(m_view->toolTip(), QString());
+    }
+
+    void aParentsPictureIsSaidToBeOne()
+    {
+        const test::InstalledTexts texts("en");
+        m_staging->paint("snap/puckman.png");
+        m_parent = QStringLiteral("puckman");
+        m_controller->Setsnapshot(QStringLiteral("pacman"));
+        QCOMPARE(m_view->toolTip(), QStringLiteral("The picture of its parent, puckman"));
+        m_controller->Setsnapshot(QStringLiteral("puckman"));
+        QCOMPARE(m_view->toolTip(), QString());
+    }
+
+    void whyAPictureIsNotShownIsSaid()
+    {
+        const test::InstalledTexts texts("en");
+        QFile file(m_staging->path("snap/<b>.png"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("nothing like a picture");
+        file.close();
+        QSignalSpy said(m_controller.get(), &SnapshotController::statusMessage);
+        m_controller->Setsnapshot(QStringLiteral("<b>"));
+        QTRY_COMPARE(said.size(), 1);
+        const QString reason = said.constFirst().constFirst().toString();
+        QVERIFY2(
+            reason.startsWith(QString::fromUtf8("The picture “%1” cannot be shown: ").arg(file.fileName())),
+            qPrintable(reason));
+        QCOMPARE(m_view->accessibleDescription(), reason);
+        QCOMPARE(m_view->toolTip(), QStringLiteral("<qt>%1</qt>").arg(reason.toHtmlEscaped()));
+    }
+
+    void anOldPictureStandsForTheNextOneForAMoment()
+    {
+        m_staging->paint("snap/pong.png", {320, 240});
+        m_staging->paint("snap/qix.png", {30, 20});
+        m_controller->Setsnapshot(QStringLiteral("pong"));
+        QTRY_COMPARE(m_view->image().size(), QSize(320, 240));
+        m_controller->setHeld(true);
+        m_controller->Setsnapshot(QStringLiteral("qix"));
+        QCOMPARE(m_view->image().size(), QSize(320, 240));
+        QTRY_VERIFY(m_view->image().isNull());
+        m_controller->setHeld(false);
+        QTRY_COMPARE(m_view->image().size(), QSize(30, 20));
+    }
+
+    // The view beside it waits as long as this one would.
+    void aPictureThatHasComeStays()
+    {
+        const QString path = m_staging->paint("snap/pong.png", {320, 240});
+        AspectView other(m_staging->defaults);
+        QImage before(8, 8, QImage::Format_RGB32);
+        other.setImage(before);
+        SnapshotController beside(SnapshotParts{m_staging->desktop, m_staging->defaults, *m_folder, other,
+                                                [] { return QString(); }, [] { return QString(); }});
+        beside.setHeld(true);
+        m_controller->Setsnapshot(QStringLiteral("pong"));
+        beside.Setsnapshot(QStringLiteral("pong"));
+        QTRY_VERIFY(other.image().isNull());
+        QCOMPARE(m_view->image().size(), QSize(320, 240));
+    }
+
+    void aPictureOfNoUseAtItsSizeIsMadeSmaller()
+    {
+        m_staging->paint("snap/pong.png", {4096, 64});
+        m_controller->Setsnapshot(QStringLiteral("pong"));
+        QTRY_COMPARE(m_view->image().size(), QSize(2048, 32));
+        m_staging->paint("snap/qix.png", {2048, 16});
+        m_controller->Setsnapshot(QStringLiteral("qix"));
+        QTRY_COMPARE(m_view->image().size(), QSize(2048, 16));
+    }
+
+    void theSelectionIsShown()
+    {
+        const QString path = m_staging->paint("snap/pong.png");
+        m_name = QStringLiteral("pong");
+        QCOMPARE(m_controller->name(), QStringLiteral("pong"));
+        m_controller->showSelection();
+        QCOMPARE(m_controller->snapimag(), path);
+    }
+
+    void withoutAFolderNothingIsRevealed()
+    {
+        m_name = QStringLiteral("pong");
+        m_controller->display_rom_Finder();
+        QCOMPARE(m_staging->desktop.takeTranscript(), QStringList{"beep"});
     }
 
     void aClickAsksForTheShownPicture()

@@ -135,6 +135,71 @@ private Q_SLOTS:
         QCOMPARE(sites.templateOf(1), QStringLiteral("http://one.test/mmedia/titles/{$gamename}"));
     }
 
+    void whatIsTypedStaysWhereItIsTyped()
+    {
+        choose(1);
+        m_page->hostField->setCursorPosition(0);
+        QTest::keyClicks(m_page->hostField, " x");
+        QCOMPARE(m_page->hostField->text(), QStringLiteral(" xtwo.test"));
+        QCOMPARE(m_page->hostField->cursorPosition(), 2);
+        choose(3);
+        m_page->flyersdownTextField->setText(QStringLiteral("//mine.test"));
+        m_page->flyersdownTextField->setCursorPosition(0);
+        QTest::keyClicks(m_page->flyersdownTextField, "http:");
+        QCOMPARE(m_staging->defaults.text(keys::flyersdownloadPath), QStringLiteral("http://mine.test"));
+        QCOMPARE(m_page->flyersdownTextField->cursorPosition(), 5);
+    }
+
+    // What is kept for other sites, or for none, is not touched.
+    void nothingElseIsStoredWithAHost()
+    {
+        choose(2);
+        QTest::keyClicks(m_page->hostField, "x");
+        QVERIFY(!m_staging->defaults.defaults().value(keys::SnapsiteHost3.name).has_value());
+        QVERIFY(!m_staging->defaults.defaults().value(keys::snapdownloadPath.name).has_value());
+        QCOMPARE(m_staging->defaults.text(keys::SnapsiteHost2), QStringLiteral("two.test"));
+    }
+
+    void everySiteButTheUsersOwnHasAHost()
+    {
+        for (const int site : {0, 1, 2, 3}) {
+            choose(site);
+            QCOMPARE(m_page->hostField->isEnabled(), site < 3);
+        }
+        QCOMPARE(m_page->hostField->text(), QString());
+    }
+
+    void theSiteThatLacksAHostIsTold()
+    {
+        m_staging->defaults.setText(keys::SnapsiteHost1, QString());
+        m_staging->defaults.setText(keys::SnapsiteHost2, QStringLiteral("  "));
+        for (const int site : {0, 1, 2}) {
+            choose(site);
+            QCOMPARE(m_sites->siteWithoutHost(), std::optional(site + 1));
+        }
+        m_staging->defaults.setText(keys::SnapsiteHost3, QStringLiteral("three.test"));
+        QVERIFY(!m_sites->siteWithoutHost());
+    }
+
+    void thereIsNoTemplateOfAnotherKind()
+    {
+        choose(0);
+        QVERIFY(!m_sites->templateOf(0).isEmpty() && !m_sites->templateOf(2).isEmpty());
+        for (const int kind : {-1, 3})
+            QCOMPARE(m_sites->templateOf(kind), QString());
+    }
+
+    void whatChangesElsewhereIsShown()
+    {
+        choose(3);
+        m_staging->defaults.setText(keys::titlessdownloadPath, QStringLiteral("http://mine.test/t"));
+        QCOMPARE(fields(), (QStringList{"", "http://mine.test/t", ""}));
+        choose(1);
+        m_staging->defaults.setText(keys::SnapsiteHost2, QStringLiteral("new.test"));
+        QCOMPARE(m_page->hostField->text(), QStringLiteral("new.test"));
+        QCOMPARE(fields().constFirst(), QStringLiteral("http://new.test/snap/{$gamename}"));
+    }
+
 private:
     void choose(int position)
     {
