@@ -18,6 +18,15 @@ class ConversionTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Nothing of a process' memory stands at its beginning.
+    void aTitleListThatCannotBeReadSaysSo()
+    {
+        const auto titles = readTitles(QStringLiteral("/proc/self/mem"));
+        QVERIFY(!titles);
+        QCOMPARE(titles.error().key, "convert_not_read");
+        QCOMPARE(titles.error().arguments.constFirst(), QStringLiteral("/proc/self/mem"));
+    }
+
     void saysTheFixedTexts()
     {
         QCOMPARE(conversionReport(0), "The conversion work is finished.  ( 0 games )");

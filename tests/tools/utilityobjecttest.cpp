@@ -1,6 +1,8 @@
 #include "support/installedtexts.h"
 #include "tools/ui/conversionpage.h"
+#include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
+#include "tools/ui/separationpage.h"
 #include "tools/ui/verificationpage.h"
 #include "tools/utilitystage.h"
 
@@ -57,6 +59,20 @@ private Q_SLOTS:
                      qPrintable(widget->objectName()));
         }
         QVERIFY(controls > 40);
+    }
+
+    void tabLeavesAList()
+    {
+        Stage stage;
+        SeparationPage& page = *stage.window.separationPage;
+        page.rows->setRows({{"a", QString()}, {"b", QString()}});
+        stage.window.pageList->setCurrentRow(2);
+        stage.window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        page.separationList->setFocus();
+        page.separationList->setCurrentIndex(page.separationList->model()->index(0, 0));
+        QTest::keyClick(page.separationList, Qt::Key_Tab);
+        QVERIFY(!page.separationList->hasFocus());
     }
 
     void convertsThenAsksWhereToThenReports()
