@@ -1,6 +1,7 @@
 #include "launch/ui/filespage.h"
 
 #include "launch/launchroom.h"
+#include "launch/ui/effectspage.h"
 #include "launch/ui/folderproposal.h"
 #include "launch/ui/generalpage.h"
 #include "launch/ui/miscpage.h"
@@ -131,6 +132,31 @@ private Q_SLOTS:
         general.show();
         QVERIFY(!general.romProposal->isHidden());
         QCOMPARE(general.romProposal->findChildren<QPushButton*>().size(), 1);
+    }
+
+    // A field that is being typed in does not follow its setting, but what is chosen for it.
+    void whatIsChosenTakesThePlaceOfWhatIsTyped()
+    {
+        Room room;
+        room.pages.misc().show();
+        room.pages.effects().show();
+        const GeneralPage& general = room.pages.general();
+        const std::vector<std::pair<QLineEdit*, void (PathChooser::*)()>> choosers{
+            {general.exeTextField, &PathChooser::exeSelect},
+            {general.osxTextField, &PathChooser::osxSelect},
+            {general.appTextField, &PathChooser::appSelect},
+            {general.romsTextField, &PathChooser::romfolSelect},
+            {room.pages.misc().textfildPlayback, &PathChooser::playbackfileSelect},
+            {room.pages.effects().effectTextField, &PathChooser::effectfileSelect}};
+        for (const auto& [field, select] : choosers) {
+            field->window()->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(field->window()));
+            field->setFocus();
+            QTest::keyClicks(field, "typed");
+            room.desktop.answerOpen(QStringLiteral("chosen"));
+            (room.chooser.*select)();
+            QCOMPARE(field->text(), QStringLiteral("chosen"));
+        }
     }
 
     void aModeWithoutAFolderBeeps()

@@ -6,6 +6,7 @@
 #include "launch/ui/optionpage.h"
 #include "launch/ui/videopage.h"
 #include "platform/defaultscontroller.h"
+#include "support/argumenttexts.h"
 #include "support/testmain.h"
 #include "usagetexts.h"
 
@@ -130,6 +131,34 @@ private Q_SLOTS:
         QCOMPARE(page.scalingPop->toolTip(), QString());
         QCOMPARE(page.scalingPop->accessibleDescription(), QString());
         QVERIFY(!labelOf(page, page.scalingPop)->property("unknown").toBool());
+    }
+
+    // The style sheet sees the mark at once, and that it is gone.
+    void aMarkIsDrawnAtOnce()
+    {
+        Room room;
+        VideoPage& page = room.pages.video();
+        page.setStyleSheet("QCheckBox[unknown=\"true\"] { min-width: 321px }");
+        page.show();
+        room.marked(test::newUsage());
+        QCOMPARE(page.checkboxMultithread->minimumWidth(), 321);
+        QVERIFY(page.checkboxAspect->minimumWidth() != 321);
+        room.marked(test::oldUsage());
+        QVERIFY(page.checkboxMultithread->minimumWidth() != 321);
+    }
+
+    // Both names of what is missing, where a control sends several; and nothing where one is known.
+    void aControlIsMarkedWhereNoneOfItsOptionsIsKnown()
+    {
+        const test::ArgumentTexts texts;
+        Room room;
+        QByteArray usage = test::newUsage();
+        usage.replace("-flipx               flip left-right\n", "");
+        QVERIFY(!room.marked(usage).contains("displayflipPop"));
+        usage.replace("-flipy               flip upside-down\n", "");
+        QVERIFY(room.marked(usage).contains("displayflipPop"));
+        QCOMPARE(room.pages.video().displayflipPop->toolTip(),
+                 QStringLiteral("option_unknown (-flipx, -flipy, %2)"));
     }
 
     void aLabelOfSeveralBoxesStaysAsItIs()

@@ -59,6 +59,55 @@ private Q_SLOTS:
         QCOMPARE(shown.weight(), wanted.weight());
     }
 
+    void eachListHasItsOwnSample()
+    {
+        StagedPage at;
+        at.controller.setText(keys::FavoritefontName, QStringLiteral("DejaVu Serif"));
+        QCOMPARE(at.page.favoriteFontField->text(), QStringLiteral("DejaVu Serif"));
+        QCOMPARE(at.page.fontSampleField->text(), QStringLiteral("DejaVu Sans"));
+        // In the size of the page, from its beginning.
+        for (const QLineEdit* field : {at.page.favoriteFontField, at.page.fontSampleField}) {
+            QCOMPARE(field->font().pixelSize(), field->parentWidget()->fontInfo().pixelSize());
+            QCOMPARE(field->cursorPosition(), 0);
+        }
+    }
+
+    void aColourCanBeTakenBackWhereItIsAnother()
+    {
+        StagedPage at;
+        QVERIFY(!at.page.initialColorButton->isEnabled());
+        QVERIFY(!at.page.initialColorButton2->isEnabled());
+        at.controller.setText(keys::TableViewTextColor, QStringLiteral("#ff000001"));
+        QVERIFY(at.page.initialColorButton->isEnabled());
+        QVERIFY(!at.page.initialColorButton2->isEnabled());
+        QCOMPARE(at.page.textColorWell->color(), QColor(0, 0, 1));
+        at.controller.setText(keys::TableViewTextColor2, QStringLiteral("#ff000002"));
+        QVERIFY(at.page.initialColorButton2->isEnabled());
+        QCOMPARE(at.page.textColorWell2->color(), QColor(0, 0, 2));
+    }
+
+    void theStoredLanguageIsShown()
+    {
+        StagedPage at;
+        at.defaults.setValue(keys::Language.name, QStringLiteral("en"));
+        Q_EMIT at.controller.changed(QString());
+        QCOMPARE(at.page.languagePop->currentIndex(), 1);
+        at.page.languagePop->setCurrentIndex(1);
+        Q_EMIT at.page.languagePop->activated(1);
+        QCOMPARE(at.defaults.string(keys::Language.name), QStringLiteral("en"));
+    }
+
+    void theButtonsAreAllAlike()
+    {
+        StagedPage at;
+        for (const QToolButton* button : {at.page.smallerButton, at.page.biggerButton,
+                                          at.page.initialColorButton, at.page.initialColorButton2})
+            QCOMPARE(button->iconSize(), QSize(16, 16));
+        // A row begins with what takes its label's key.
+        QCOMPARE(at.page.fontButton->parentWidget()->focusProxy(), at.page.fontSampleField);
+        QCOMPARE(at.page.biggerButton->parentWidget()->focusProxy(), at.page.fontSizeField);
+    }
+
     void neitherFieldIsTypedIn()
     {
         StagedPage at;

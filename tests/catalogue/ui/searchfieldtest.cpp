@@ -38,6 +38,45 @@ private Q_SLOTS:
         QCOMPARE(m_field->text(), QString());
     }
 
+    // Where there is nothing to empty it is for whoever else wants it.
+    void escapeInAnEmptyFieldIsPassedOn()
+    {
+        m_field->setText(QStringLiteral("pac"));
+        QKeyEvent first(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_field.get(), &first);
+        QVERIFY(first.isAccepted());
+        QKeyEvent second(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_field.get(), &second);
+        QVERIFY(!second.isAccepted());
+    }
+
+    void theTermsOpenBeneathTheField()
+    {
+        QVERIFY(menu()->toolTipsVisible());
+        for (QAction* action : m_field->actions()) {
+            if (action->text() == QStringLiteral("search_terms"))
+                action->trigger();
+        }
+        QVERIFY(menu()->isVisible());
+        menu()->hide();
+    }
+
+    void aTermTakesTheFocusToTheField()
+    {
+        m_field->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_field.get()));
+        m_field->setText(QStringLiteral("pac"));
+        m_field->setCursorPosition(0);
+        m_field->clearFocus();
+        menu()->actions().constFirst()->trigger();
+        QVERIFY(m_field->hasFocus());
+        QCOMPARE(m_field->text(), QStringLiteral("pac maker:"));
+        m_field->clearFocus();
+        m_field->beginWith(QStringLiteral("x"));
+        QVERIFY(m_field->hasFocus());
+        QCOMPARE(m_field->text(), QStringLiteral("pac maker:x"));
+    }
+
     void whatWasTypedInTheListGoesOnHere()
     {
         m_field->setText(QStringLiteral("pa"));

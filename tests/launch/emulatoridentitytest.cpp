@@ -1,0 +1,83 @@
+#include "launch/emulatoridentity.h"
+
+#include "support/testmain.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+using namespace tessera;
+
+class EmulatorIdentityTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aProgramIsItsPathItsSizeAndItsTime()
+    {
+        const QTemporaryDir folder;
+        const QString path = QFileInfo(folder.path()).canonicalFilePath() + "/mame";
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("12345");
+        const QDateTime time(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
+        QVERIFY(file.flush() && file.setFileTime(time, QFileDevice::FileModificationTime));
+        file.close();
+        const auto identity = EmulatorIdentity::of(path);
+        QVERIFY(identity);
+        QCOMPARE(identity->path, path);
+        QCOMPARE(identity->size, 5);
+        QCOMPARE(identity->modified, time.toMSecsSinceEpoch());
+        QCOMPARE(identity->text(), "5 " + QString::number(time.toMSecsSinceEpoch()) + ' ' + path);
+        // A link is what it leads to.
+        QVERIFY(QFile::link(path, folder.filePath("link")));
+        QVERIFY(EmulatorIdentity::of(folder.filePath("link")) == identity);
+    }
+
+    void whatIsNoFileIsNoProgram()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(!EmulatorIdentity::of(QString()));
+        QVERIFY(!EmulatorIdentity::of(folder.path()));
+        QVERIFY(!EmulatorIdentity::of(folder.filePath("missing")));
+        QVERIFY(QFile::link(folder.filePath("missing"), folder.filePath("dangling")));
+        QVERIFY(!EmulatorIdentity::of(folder.filePath("dangling")));
+    }
+
+    // Numbers are written with a point, all the rest as the user has it.
+    void itsEnvironmentIsOursButForNumbers_data()
+    {
+        QTest::addColumn<QByteArray>("everything");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("one setting for everything") << QByteArray("de_DE.UTF-8") << "de_DE.UTF-8";
+        QTest::newRow("an empty one") << QByteArray("") << "fr_FR.UTF-8";
+        QTest::newRow("none") << QByteArray() << "fr_FR.UTF-8";
+    }
+
+    void itsEnvironmentIsOursButForNumbers()
+    {
+        QFETCH(QByteArray, everything);
+        const QByteArray before = qgetenv("LC_ALL");
+        if (everything.isNull())
+            qunsetenv("LC_ALL");
+        else
+            qputenv("LC_ALL", everything);
+        qputenv("LANG", "fr_FR.UTF-8");
+        qputenv("LC_NUMERIC", "fr_FR.UTF-8");
+        qputenv("TESSERA_A", "b");
+        const QProcessEnvironment environment = emulatorEnvironment();
+        for (const char* name : {"LANG", "LC_NUMERIC", "TESSERA_A"})
+            qunsetenv(name);
+        qputenv("LC_ALL", before);
+        QVERIFY(!environment.contains("LC_ALL"));
+        QTEST(environment.value("LANG"), "language");
+        QCOMPARE(environment.value("LC_NUMERIC"), QStringLiteral("C"));
+        QCOMPARE(environment.value("TESSERA_A"), QStringLiteral("b"));
+    }
+};
+
+TESSERA_TEST(EmulatorIdentityTest);
+#include "emulatoridentitytest.moc"
