@@ -153,6 +153,42 @@ private Q_SLOTS:
         QVERIFY(!run.task.isRunning());
     }
 
+    void charactersAreHeardAsSoonAsTheyAreWhole_data()
+    {
+        QTest::addColumn<QByteArray>("printed");
+        QTest::addColumn<QString>("heard");
+        const QByteArray pause = "; sleep 0.05; ";
+        QTest::newRow("two bytes") << QByteArray("printf 'a\\303\\251'") << QString::fromUtf8("aé");
+        QTest::newRow("three bytes") << QByteArray("printf '\\343\\201\\202'") << QString::fromUtf8("あ");
+        QTest::newRow("four bytes") << QByteArray("printf '\\360\\237\\230\\200'") << QString::fromUtf8("😀");
+        QTest::newRow("two bytes in pieces")
+            << QByteArray("printf 'a\\303'" + pause + "printf '\\251'") << QString::fromUtf8("aé");
+        QTest::newRow("three bytes in pieces")
+            << QByteArray("printf '\\343\\201'" + pause + "printf '\\202'") << QString::fromUtf8("あ");
+        QTest::newRow("four bytes in pieces")
+            << QByteArray("printf '\\360'" + pause + "printf '\\237\\230'" + pause + "printf '\\200'")
+            << QString::fromUtf8("😀");
+    }
+
+    // Not only when more is printed, or nothing any more.
+    void charactersAreHeardAsSoonAsTheyAreWhole()
+    {
+        QFETCH(QByteArray, printed);
+        QFETCH(QString, heard);
+        const QTemporaryDir folder;
+        QFile script(folder.filePath("mame"));
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\n" + printed + "\nexec sleep 120\n");
+        script.close();
+        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        Run run(Patience{200ms, 200ms});
+        run.task.start(script.fileName(), "/", {});
+        QTRY_COMPARE(run.text, heard);
+        QVERIFY(run.task.isRunning());
+        QVERIFY(run.stop());
+        QCOMPARE(run.text, heard);
+    }
+
     void whatARunPrintsGoesToItsFile()
     {
         const QTemporaryDir folder;
