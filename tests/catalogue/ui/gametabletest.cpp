@@ -194,7 +194,72 @@ private Q_SLOTS:
         QTEST(static_cast<int>(toggled.count()), "toggled");
     }
 
+    // The rest of the cell selects, and so does a row without clones.
+    void onlyTheCountOfClonesFolds_data()
+    {
+        QTest::addColumn<bool>("isOpen");
+        QTest::addColumn<QString>("badge");
+        QTest::newRow("folded") << false << QStringLiteral("▸ 1");
+        QTest::newRow("open") << true << QStringLiteral("▾ 1");
+    }
+    void onlyTheCountOfClonesFolds()
+    {
+        QFETCH(bool, isOpen);
+        QFETCH(QString, badge);
+        RecordSet open(machines.size());
+        if (isOpen)
+            open.insert(0);
+        m_list->list().setFamilies(ArrangedList::Families{{0, 1, 0, 3, 4}, open});
+        QSignalSpy toggled(m_table, &GameTableView::familyToggled);
+        const QRect cell = m_table->visualRect(indexOf("abc"));
+        const int begin = cell.right() - m_table->fontMetrics().horizontalAdvance(badge) - 16;
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, QPoint(begin, cell.center().y()));
+        QCOMPARE(toggled.count(), 0);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("abc"));
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, QPoint(begin + 1, cell.center().y()));
+        QCOMPARE(toggled.count(), 1);
+        QCOMPARE(toggled.constFirst().constFirst().toInt(), indexOf("abc").row());
+        const QRect other = m_table->visualRect(indexOf("mid"));
+        QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, QPoint(other.right(), other.center().y()));
+        QCOMPARE(toggled.count(), 1);
+    }
+
+    // A clone stands a little to the right of its parent, and a family's count at the right.
+    void clonesAreIndented()
+    {
+        RecordSet open(machines.size());
+        open.insert(0);
+        m_list->list().setFamilies(ArrangedList::Families{{0, 1, 0, 3, 4}, open});
+        m_table->clearSelection();
+        m_table->setCurrentIndex(QModelIndex());
+        const auto left = [this](const QString& name) { return inked(indexOf(name)).first; };
+        const auto right = [this](const QString& name) { return inked(indexOf(name)).second; };
+        QVERIFY(left("zed") - left("mid") >= 12);
+        QVERIFY(left("abc") < left("zed"));
+        QVERIFY(right("abc") > right("mid") + 20);
+        QVERIFY(right("abc") <= m_table->visualRect(indexOf("abc")).right() - 8 + 1);
+    }
+
 private:
+    // Where something is drawn in a cell, from left to right.
+    std::pair<int, int> inked(const QModelIndex& index) const
+    {
+        const QRect cell = m_table->visualRect(index);
+        const QImage image = m_table->viewport()->grab(cell).toImage();
+        const QRgb ground = image.pixel(image.width() / 2, image.height() - 2);
+        int first = image.width();
+        int last = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = 2; y < image.height() - 2; ++y) {
+                if (image.pixel(x, y) != ground) {
+                    first = std::min(first, x);
+                    last = std::max(last, x);
+                }
+            }
+        }
+        return {first, last};
+    }
+
     QStringList names() const
     {
         QStringList list;
