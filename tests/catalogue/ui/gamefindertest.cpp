@@ -226,7 +226,73 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringList({"Zed", "zed"}));
     }
 
+    // An answer that is under way tells of the records as they were.
+    void theFoldersAreAskedAgainWhereTheRecordsChangeMeanwhile_data()
+    {
+        QTest::addColumn<int>("change");
+        QTest::addColumn<int>("record");
+        QTest::newRow("renamed") << 0 << 4;
+        QTest::newRow("removed") << 1 << 3;
+        QTest::newRow("put back") << 2 << 0;
+    }
+
+    void theFoldersAreAskedAgainWhereTheRecordsChangeMeanwhile()
+    {
+        QFETCH(int, change);
+        QFETCH(int, record);
+        QVERIFY(put("abc.zip") && put("mid.zip"));
+        m_finder->prepare();
+        followRemovals();
+        if (change == 0)
+            QVERIFY(QFile::remove(m_stage->folder.filePath("mid.zip")));
+        m_finder->setRomFolders(std::make_shared<const RomFolders>(m_stage->folder.path(), QStringList()));
+        if (change == 0)
+            m_stage->catalogue.setValue(4, Field::Name, "abc");
+        else
+            m_stage->catalogue.remove({1});
+        if (change == 2)
+            m_stage->catalogue.undoStack().undo();
+        QTRY_VERIFY(m_finder->haveOf(static_cast<std::uint32_t>(record)) == Have::Here);
+    }
+
+    void aRenamedSetIsSearchedWithWhatItHas()
+    {
+        QVERIFY(put("abc.zip"));
+        m_finder->prepare();
+        m_finder->setRomFolders(std::make_shared<const RomFolders>(m_stage->folder.path(), QStringList()));
+        QTRY_VERIFY(m_finder->haveOf(0));
+        m_stage->catalogue.setValue(4, Field::Name, "abc");
+        m_finder->setQuery("have:yes");
+        QCOMPARE(shown().size(), 3);
+        m_stage->catalogue.setValue(0, Field::Year, "2000");
+        QCOMPARE(*m_finder->haveOf(0), Have::Here);
+    }
+
+    void otherRecordsAreFoundAndFoldedAsTheyAre()
+    {
+        m_finder->setFamilies(true);
+        m_finder->setQuery("mid");
+        QCOMPARE(shown(), QStringList("mid"));
+        const std::array others{GameRecord{{"game", "qix", "qix", "Qix", "", "1981", "Taito", "good", ""}},
+                                GameRecord{{"game", "qixa", "qix", "Qix", "", "1981", "Taito", "good", ""}}};
+        QVERIFY(writeStore(m_stage->folder.filePath("Tessera.xml"), others));
+        QVERIFY(m_stage->catalogue.open());
+        QCOMPARE(shown(), QStringList());
+        m_finder->setQuery("qix");
+        QCOMPARE(shown(), QStringList({"qix", "qixa"}));
+        m_finder->setQuery("");
+        QCOMPARE(shown(), QStringList("qix"));
+        QVERIFY(m_stage->catalogue.open());
+        QCOMPARE(shown(), QStringList("qix"));
+    }
+
 private:
+    void followRemovals()
+    {
+        const auto follow = [this] { m_stage->list.setContent(); };
+        connect(&m_stage->catalogue, &Catalogue::removed, &m_stage->list, follow);
+        connect(&m_stage->catalogue, &Catalogue::putBackAt, &m_stage->list, follow);
+    }
     QStringList shown() const
     {
         QStringList names;

@@ -98,6 +98,7 @@ private Q_SLOTS:
         QTest::keyClick(m_table, Qt::Key_F2);
         m_table->viewport()->findChild<QLineEdit*>()->setText("Middle");
         QVERIFY(m_list->commitEditing());
+        QTRY_VERIFY(m_table->viewport()->findChild<QLineEdit*>() == nullptr);
         QCOMPARE(m_stage->catalogue.records()[4][Field::Title], std::string_view("Middle"));
     }
 
