@@ -120,6 +120,41 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringList("Zed"));
     }
 
+    void countsFollowTheFoldersAndOtherRecords()
+    {
+        QVERIFY(put("abc.zip"));
+        m_finder->prepare();
+        m_finder->setRomFolders(std::make_shared<const RomFolders>(m_stage->folder.path(), QStringList()));
+        QTRY_COMPARE(m_counts, (ChipCounts{5, 5, 2, 2, 4, 0, 0}));
+        m_counts = {};
+        QVERIFY(m_stage->catalogue.open());
+        QCOMPARE(m_counts[0], std::size_t(5));
+        QTRY_COMPARE(m_counts, (ChipCounts{5, 5, 2, 2, 4, 0, 0}));
+    }
+
+    // A header click wins until something else is typed.
+    void aSortWinsOverTheRanks()
+    {
+        m_stage->catalogue.setValue(0, Field::Title, "a mid b");
+        m_finder->setQuery("mid");
+        QCOMPARE(shown(), QStringList({"mid", "abc"}));
+        m_stage->list.model()->sort(0, Qt::AscendingOrder);
+        QCOMPARE(shown(), QStringList({"abc", "mid"}));
+        m_finder->setChip(Chip::Games);
+        QCOMPARE(shown(), QStringList({"abc", "mid"}));
+        m_finder->setQuery("mid ");
+        QCOMPARE(shown(), QStringList({"mid", "abc"}));
+    }
+
+    void aSearchShowsClonesBesideTheirParents()
+    {
+        m_finder->setFamilies(true);
+        m_finder->setQuery("maker:maker");
+        QCOMPARE(shown().size(), 5);
+        m_finder->setQuery("");
+        QCOMPARE(shown().size(), 4);
+    }
+
     void favouritesAreKnownBeforeTheFirstSearch()
     {
         m_finder->setFavorites({"mid"});
@@ -196,6 +231,8 @@ private Q_SLOTS:
         QCOMPARE(m_finder->suggestions("ed", 5).size(), std::size_t(2));
         QCOMPARE(m_finder->suggestions("ed", 1), std::vector<std::uint32_t>({1}));
         QCOMPARE(m_finder->suggestions("zed", 9), std::vector<std::uint32_t>({1, 2}));
+        m_stage->catalogue.setValue(0, Field::Title, "a mid b");
+        QCOMPARE(m_finder->suggestions("mid", 9), std::vector<std::uint32_t>({4, 0}));
         QVERIFY(m_finder->suggestions("", 5).empty());
         QVERIFY(m_finder->suggestions("nothing", 5).empty());
         QVERIFY(m_finder->suggestions("zed", 0).empty());

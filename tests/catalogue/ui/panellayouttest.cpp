@@ -7,6 +7,7 @@
 #include "stagedtable.h"
 #include "support/rows.h"
 #include "support/testmain.h"
+#include "widgets/colorwell.h"
 #include "widgets/myscrollers.h"
 
 #include <QComboBox>
@@ -62,6 +63,27 @@ private Q_SLOTS:
                          "appearance_rows: coloringBox", "appearance_color: textColorWell initialColorButton",
                          "appearance_color2: textColorWell2 initialColorButton2", "appearance_note:", "---",
                          "appearance_language: languagePop", "appearance_language_note:"}));
+    }
+
+    // What is long has the width of the page; what is short leaves it.
+    void onlyTheFontsGrowWithThePage()
+    {
+        test::StagedPage at;
+        at.page.resize(1200, 600);
+        at.page.show();
+        QVERIFY(at.page.fontSampleField->width() > 500);
+        QVERIFY(at.page.favoriteFontField->width() > 500);
+        const auto gap = [](const QWidget* left, const QWidget* right) {
+            return right->geometry().left() - left->geometry().right();
+        };
+        QVERIFY(gap(at.page.fontSizeField, at.page.smallerButton) < 20);
+        QVERIFY(at.page.biggerButton->geometry().right() < 300);
+        for (const auto& [well, button] :
+             {std::pair<QWidget*, QWidget*>{at.page.textColorWell, at.page.initialColorButton},
+              std::pair<QWidget*, QWidget*>{at.page.textColorWell2, at.page.initialColorButton2}}) {
+            QVERIFY(well->width() < 300);
+            QVERIFY(gap(well, button) < 20);
+        }
     }
 
     void theFactsStandBeneathTheTitles()
@@ -153,6 +175,7 @@ private Q_SLOTS:
     {
         const ChipButton chip(QStringLiteral("label"));
         QCOMPARE(chip.sizePolicy(), QSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed));
+        QCOMPARE(chip.focusPolicy(), Qt::StrongFocus);
         QVERIFY(chip.isCheckable());
         QVERIFY(chip.testAttribute(Qt::WA_Hover));
         const ChipBar bar;
@@ -174,6 +197,20 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(79, 25), QColor(Qt::white));
         QVERIFY(image.pixelColor(0, 13) != QColor(Qt::white));
         QVERIFY(image.pixelColor(40, 0) != QColor(Qt::white));
+        // What it says is in it, and that it is chosen.
+        const auto drawn = [](const QString& label, bool isChosen) {
+            ChipButton other(label);
+            other.resize(80, 26);
+            other.setChecked(isChosen);
+            QImage picture(other.size(), QImage::Format_ARGB32_Premultiplied);
+            picture.fill(Qt::white);
+            other.render(&picture, QPoint(), QRegion(), QWidget::RenderFlags());
+            return picture;
+        };
+        QCOMPARE(drawn("x", false), image);
+        QVERIFY(drawn("w", false) != image);
+        QVERIFY(drawn("x", true) != image);
+        QVERIFY(drawn("x", true).pixelColor(70, 13) != QColor(Qt::white));
     }
 
     void theEditorBeginsWithItsFirstField()

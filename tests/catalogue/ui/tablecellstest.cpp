@@ -141,6 +141,23 @@ private Q_SLOTS:
         QCOMPARE(changed.last()[1].toModelIndex(), model().index(4, 8));
     }
 
+    void theRowsHaveTheChosenFont()
+    {
+        m_stage->controls.setText(keys::TablefontName, "DejaVu Serif");
+        QCOMPARE(cell("mid", 1).data(Qt::FontRole).value<QFont>().families().constFirst(),
+                 QStringLiteral("DejaVu Serif"));
+    }
+
+    void otherRowsAreToldBeforeAndAfter()
+    {
+        const QSignalSpy before(&model(), &QAbstractItemModel::modelAboutToBeReset);
+        const QSignalSpy after(&model(), &QAbstractItemModel::modelReset);
+        m_stage->list.list().setPredicate(
+            [](const GameRecord& record) { return record[Field::Name] != "mid"; });
+        QCOMPARE(before.size(), 1);
+        QCOMPARE(after.size(), 1);
+    }
+
     void everySettingOfTheLookPaintsTheRowsAnew()
     {
         QSignalSpy changed(&model(), &QAbstractItemModel::dataChanged);

@@ -233,11 +233,59 @@ private Q_SLOTS:
         m_list->selectRow(0);
         m_list->selectNeighbour(-1);
         QCOMPARE(m_list->firstSelectedRow(), 0);
+        m_list->selectNeighbour(1);
+        QCOMPARE(m_list->firstSelectedRow(), 1);
         m_table->clearSelection();
         m_list->selectNeighbour(1);
         QCOMPARE(m_list->firstSelectedRow(), -1);
         QVERIFY(!m_list->selectGame("nothing"));
         QCOMPARE(m_list->firstSelectedRow(), -1);
+    }
+
+    void aRowThatIsSelectedStandsInTheMiddle()
+    {
+        m_table->resize(300, m_table->horizontalHeader()->height() + 2 * m_table->rowHeight(0));
+        m_table->layOut();
+        QVERIFY(m_table->verticalScrollBar()->maximum() > 0);
+        m_list->selectRow(2);
+        const int middle = m_table->visualRect(m_list->model()->index(2, 0)).center().y();
+        QVERIFY2(std::abs(middle - m_table->viewport()->height() / 2) <= m_table->rowHeight(0) / 2 + 1,
+                 qPrintable(QString::number(middle)));
+    }
+
+    // Where nothing is selected nothing moves.
+    void aRearrangementStaysWhereItWasScrolled()
+    {
+        m_table->resize(300, m_table->horizontalHeader()->height() + 2 * m_table->rowHeight(0));
+        m_table->layOut();
+        m_table->clearSelection();
+        m_table->verticalScrollBar()->setValue(25);
+        m_list->rearrange([this] {
+            m_list->list().setPredicate(
+                [](const GameRecord& record) { return record[Field::Name] != "mid"; });
+        });
+        QCOMPARE(m_table->verticalScrollBar()->value(), 25);
+    }
+
+    void rowsAreAddedWithControlAndCopiedInTheirOrder()
+    {
+        const auto click = [this](int row, Qt::KeyboardModifiers modifiers) {
+            QTest::mouseClick(m_table->viewport(), Qt::LeftButton, modifiers,
+                              m_table->visualRect(m_list->model()->index(row, 1)).center());
+        };
+        m_list->selectRow(3);
+        click(1, Qt::ControlModifier);
+        QCOMPARE(m_list->selectedCount(), 2);
+        QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("Zed"));
+        for (int column = 1; column < 9; ++column)
+            m_table->hideColumn(column);
+        m_table->copySelection();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Zed\nmid\n"));
+        m_table->showColumn(1);
+        click(4, Qt::ShiftModifier);
+        QVERIFY(m_list->selectedCount() > 1);
+        click(0, {});
+        QCOMPARE(m_list->selectedCount(), 1);
     }
 
     void aRandomGameIsSelectedWithItsSound()
