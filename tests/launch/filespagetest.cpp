@@ -159,6 +159,23 @@ private Q_SLOTS:
         }
     }
 
+    void saysWhenTheSettingsCannotBeWritten()
+    {
+        QTemporaryDir folder;
+        QFile blocked(folder.filePath("file"));
+        QVERIFY(blocked.open(QIODevice::WriteOnly));
+        UserDefaults settings(folder.filePath("file/Tessera.ini"));
+        DefaultsController defaults(settings);
+        LaunchPages pages(defaults, [] { return QString(); });
+        test::ScriptedDesktop desktop;
+        PathChooser chooser(desktop, defaults, pages);
+        QSignalSpy spy(&chooser, &PathChooser::statusMessage);
+        desktop.answerOpen("/a/mame");
+        chooser.exeSelect();
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(pages.general().exeTextField->text(), QStringLiteral("/a/mame"));
+    }
+
     void aModeWithoutAFolderBeeps()
     {
         Room room;

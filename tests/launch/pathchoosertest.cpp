@@ -385,23 +385,6 @@ private Q_SLOTS:
         room.chooser->saveOpenRecent("/no such/file.zip");
         QCOMPARE(room.desktop.transcript(), QStringList({"recent /no such/file.zip"}));
     }
-
-    void saysWhenTheSettingsCannotBeWritten()
-    {
-        QTemporaryDir folder;
-        QFile blocked(folder.filePath("file"));
-        QVERIFY(blocked.open(QIODevice::WriteOnly));
-        UserDefaults settings(folder.filePath("file/Tessera.ini"));
-        DefaultsController defaults(settings);
-        LaunchPages pages(defaults, [] { return QString(); });
-        test::ScriptedDesktop desktop;
-        PathChooser chooser(desktop, defaults, pages);
-        QSignalSpy spy(&chooser, &PathChooser::statusMessage);
-        desktop.answerOpen("/a/mame");
-        chooser.exeSelect();
-        QCOMPARE(spy.size(), 1);
-        QCOMPARE(pages.general().exeTextField->text(), QStringLiteral("/a/mame"));
-    }
 };
 
 TESSERA_TEST(PathChooserTest);
