@@ -244,7 +244,7 @@ private Q_SLOTS:
 
     void aRowThatIsSelectedStandsInTheMiddle()
     {
-        m_table->resize(300, m_table->horizontalHeader()->height() + 2 * m_table->rowHeight(0));
+        m_table->resize(300, m_table->horizontalHeader()->height() + 3 * m_table->rowHeight(0));
         m_table->layOut();
         QVERIFY(m_table->verticalScrollBar()->maximum() > 0);
         m_list->selectRow(2);
