@@ -85,6 +85,7 @@ private Q_SLOTS:
         QVERIFY(isAscii(""));
         QVERIFY(isAscii("abc\x7F"));
         QVERIFY(!isAscii("abc\x80"));
+        QVERIFY(!isAscii("\x80"));
     }
 };
 
