@@ -255,6 +255,24 @@ private Q_SLOTS:
         QCOMPARE(colorOf("pong").rgba(), 0x80445566);
     }
 
+    void theMarkTellsTheStatusAndWhatIsGone()
+    {
+        m_staged->start();
+        m_staged->controller->addFavoritesTable(pong);
+        m_staged->controller->addFavoritesTable(bare);
+        const auto markOf = [this](const char* name) {
+            const auto row = static_cast<int>(m_staged->shownNames().indexOf(QString::fromLatin1(name)));
+            return m_staged->shown(row, FavouriteColumn::Name, Qt::DecorationRole).value<QIcon>().cacheKey();
+        };
+        QCOMPARE(markOf("a"), theme::icon(QStringLiteral("warning"), "imperfect").cacheKey());
+        QCOMPARE(markOf("pong"), theme::mark(QStringLiteral("plovermark_good")).cacheKey());
+        QCOMPARE(markOf("bare"), theme::mark(QStringLiteral("plovermark_none")).cacheKey());
+        // Another catalogue: pong is not in it.
+        QVERIFY(writeStore(m_staged->catalogue.path(), std::array{bare}).has_value());
+        QVERIFY(m_staged->catalogue.open().has_value());
+        QCOMPARE(markOf("pong"), theme::icon(QStringLiteral("warning"), "imperfect").cacheKey());
+    }
+
     void unsavedOnesAreKeptBesideTheFile()
     {
         m_staged->start();

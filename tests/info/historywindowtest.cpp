@@ -4,7 +4,9 @@
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "support/words.h"
+#include "widgets/theme.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QPushButton>
 #include <QToolButton>
@@ -109,6 +111,8 @@ private Q_SLOTS:
             QVERIFY(each->isClearButtonEnabled());
             // And it has the magnifying glass in front.
             QCOMPARE(each->actions().size(), 1);
+            QCOMPARE(each->actions().first()->icon().cacheKey(), theme::icon("search", "faint").cacheKey());
+            QVERIFY(!each->actions().first()->icon().isNull());
         }
     }
 

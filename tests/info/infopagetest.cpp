@@ -84,6 +84,23 @@ private Q_SLOTS:
         QVERIFY(!page.openButton->autoDefault());
     }
 
+    void itsRowsStandAtTheTopInTwoParts()
+    {
+        InfoPage page(*m_defaults);
+        page.resize(700, 2000);
+        page.show();
+        QVERIFY(page.urlTextField->mapTo(&page, QPoint()).y() < 700);
+        QList<const QFrame*> lines;
+        for (const QFrame* each : page.findChildren<QFrame*>()) {
+            if (each->property("role").toString() == QStringLiteral("line"))
+                lines << each;
+        }
+        QCOMPARE(lines.size(), 1);
+        const int between = lines.constFirst()->y();
+        QVERIFY(between > page.rominfoTextField->y());
+        QVERIFY(between < page.urlTextField->mapTo(&page, QPoint()).y());
+    }
+
     void theButtonStandsBehindItsAddress()
     {
         InfoPage page(*m_defaults);
