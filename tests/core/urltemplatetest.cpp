@@ -37,6 +37,32 @@ private Q_SLOTS:
                  QStringLiteral("a/..%2F%7B%24gamename%7D"));
         QCOMPARE(withGameName(QString(), QStringLiteral("pong")), QString());
     }
+
+    void onlyTheWebIsAnAddress_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isWeb");
+        const auto row = [](const char* text, bool isWeb) { QTest::newRow(text) << QString(text) << isWeb; };
+        row("http://a.test/pong", true);
+        row("https://a.test/pong", true);
+        row("HTTP://a.test/", true);
+        row("ftp://a.test/pong", false);
+        row("file:///etc/passwd", false);
+        row("javascript:alert(1)", false);
+        row("http:///pong", false);
+        row("a.test/pong", false);
+        row("http://a.test/a b", false);
+        row("", false);
+    }
+    void onlyTheWebIsAnAddress()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isWeb);
+        const auto address = webAddress(text);
+        QCOMPARE(address.has_value(), isWeb);
+        if (isWeb)
+            QCOMPARE(*address, QUrl(text));
+    }
 };
 
 TESSERA_TEST(UrlTemplateTest);

@@ -78,14 +78,17 @@ void DownloadProcessing::takeAnswer(double expectedLength)
     m_downloadPanel().setIndeterminate(false);
     m_lExLength = expectedLength;
     say(downloadtexts::answered(expectedLength));
+    m_lDlLength = 0;
 }
 
 void DownloadProcessing::takeData(double length)
 {
-    const auto text = downloadtexts::received(length, m_lExLength);
+    m_lDlLength = length;
+    const auto text = downloadtexts::received(m_lDlLength, m_lExLength);
     if (!text)
         return;
-    m_downloadPanel().setPercent(downloadPercent(length, m_lExLength).value_or(0));
+    m_dlPercent = downloadPercent(m_lDlLength, m_lExLength).value_or(0);
+    m_downloadPanel().setPercent(m_dlPercent);
     say(*text);
 }
 
@@ -100,6 +103,7 @@ void DownloadProcessing::finish()
 void DownloadProcessing::refuse()
 {
     m_desktop.beep();
+    m_lDlLength = 0;
     rest();
     say(downloadtexts::notAnImage);
 }

@@ -56,6 +56,8 @@ private:
     std::function<DownloadPanel&()> m_downloadPanel;
     PictureDownload m_download;
     double m_lExLength = unknownLength;
+    double m_lDlLength = 0;
+    double m_dlPercent = 0;
     bool m_downloadstate = false;
 };
 

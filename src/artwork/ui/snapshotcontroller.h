@@ -42,6 +42,7 @@ public:
     QString name() const { return m_parts.name(); }
     /// The path of the picture that is shown.
     QString snapimag() const { return m_snapimag; }
+    void setSnapimag(const QString& path) { m_snapimag = path; }
     /// While it is held, no picture is read.
     void setHeld(bool held) { m_loader.setHeld(held); }
 
