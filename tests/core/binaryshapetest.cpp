@@ -11,7 +11,7 @@ namespace {
 void add(QByteArray& to, quint64 number, int width)
 {
     for (int shift = 8 * (width - 1); shift >= 0; shift -= 8)
-        to += static_cast<char>(number >> shift);
+        to += shift < 64 ? static_cast<char>(number >> shift) : '\0';
 }
 
 /// The parts of a file in binary form; whatever is not stated is as it should be.
