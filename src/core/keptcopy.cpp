@@ -44,7 +44,7 @@ std::expected<QString, Failure> keepAs(const QString& path, const QString& name)
 {
     if (!QFileInfo(path).isFile())
         return QString();
-    const QString free = freeName(name);
+    QString free = freeName(name);
     // Where the file system has no second names, as some that are shared with other systems, a copy does as
     // well.
     // A link is followed: what it leads to is what a new text replaces.
