@@ -2,8 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
-
-class QSplitter;
+#include <QSplitter>
 
 namespace tessera {
 

@@ -72,8 +72,9 @@ struct Manners {
         std::puts(number == SIGUSR1 ? "asked to close" : "told to end");
         if (number == SIGUSR1 ? !manners.closes : !manners.heedsSignal)
             continue;
-        if (const char* path = std::getenv("FAKE_SAVED"); path && number == SIGUSR1)
-            std::fclose(std::fopen(path, "w"));
+        const char* path = number == SIGUSR1 ? std::getenv("FAKE_SAVED") : nullptr;
+        if (std::FILE* file = path != nullptr ? std::fopen(path, "w") : nullptr)
+            std::fclose(file);
         // The status of an end that was asked for says nothing.
         std::exit(3);
     }
