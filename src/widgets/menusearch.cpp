@@ -16,9 +16,10 @@ QString shownTitle(const QAction& item)
     const QString text = item.text();
     QString title;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'&' && ++i == text.size())
-            break;
-        title += text[i];
+        if (text[i] == u'&')
+            ++i;
+        if (i < text.size())
+            title += text[i];
     }
     return title;
 }
