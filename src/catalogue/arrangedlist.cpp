@@ -171,7 +171,7 @@ void ArrangedList::arrange(Content content)
 {
     std::vector<std::uint32_t> rows = chosenOf(ordered(), chosen());
     std::vector<std::uint32_t> clones;
-    if (isRanked()) {
+    if (m_found && isRanked()) {
         rows = byRank(rows, m_found->ranks);
     } else if (m_families && !(m_found && m_found->opensFamilies)) {
         FamilyRows folded = foldFamilies(rows, m_families->heads, m_families->open);
@@ -193,7 +193,7 @@ void ArrangedList::arrange(Content content)
 
 bool ArrangedList::isBeneath(std::size_t row) const
 {
-    if (m_clones.empty())
+    if (!m_families || m_clones.empty())
         return false;
     const std::uint32_t head = m_families->heads[m_rows[row]];
     return head != m_rows[row] && rowOf(head);

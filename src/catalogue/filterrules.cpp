@@ -40,6 +40,7 @@ Predicate predicateOf(const FilterRules& rules)
     if (rules.isEmpty())
         return {};
     std::vector<FoldedRule> foldedRules;
+    foldedRules.reserve(rules.rules.size());
     for (const FilterRule& rule : rules.rules)
         foldedRules.push_back({rule.field, rule.comparison, folded(rule.value.toStdString())});
     return [foldedRules = std::move(foldedRules), all = rules.all](const GameRecord& record) {

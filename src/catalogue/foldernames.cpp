@@ -83,7 +83,7 @@ FolderNames FolderNames::read(const QString& folder)
     }
     const int handle = ::dirfd(directory.get());
     // Who may look around but not enter sees names that do not exist for him.
-    if (::faccessat(handle, ".", X_OK, AT_EACCESS) != 0)
+    if (handle < 0 || ::faccessat(handle, ".", X_OK, AT_EACCESS) != 0)
         return FolderNames(folder, {}, Case::Matters);
     while (const dirent* entry = ::readdir(directory.get())) {
         const std::string_view name = entry->d_name;

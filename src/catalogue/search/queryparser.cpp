@@ -47,6 +47,7 @@ QString joined(std::span<const std::string_view> values)
 QString keyNames()
 {
     std::vector<std::string_view> names;
+    names.reserve(searchKeys.size());
     for (const SearchKey& key : searchKeys)
         names.push_back(key.name);
     return joined(names);

@@ -30,13 +30,13 @@ void SearchBuffer::begin(std::uint32_t record)
 
 void SearchBuffer::add(FieldMark mark, std::string_view folded)
 {
-    m_bytes += mark;
+    m_bytes += static_cast<char>(mark);
     m_bytes += folded;
 }
 
 void SearchBuffer::addFoldingAscii(FieldMark mark, std::string_view text)
 {
-    m_bytes += mark;
+    m_bytes += static_cast<char>(mark);
     appendFoldedAscii(m_bytes, text);
 }
 
@@ -46,7 +46,7 @@ void SearchBuffer::end()
         m_records.pop_back();
         return;
     }
-    m_bytes += EndMark;
+    m_bytes += static_cast<char>(EndMark);
     m_ends.push_back(static_cast<std::uint32_t>(m_bytes.size()));
     if (m_ends.size() % sampled == 1)
         sample(m_ends.size() - 1);

@@ -67,6 +67,8 @@ private:
     {
         const bool blank = bytes[end] == ' ';
         const int bracket = int{blank} & int{bytes[end + std::size_t{blank}] == '('};
+        // A blank is no mark: it is one of the three.
+        // NOLINTNEXTLINE(clang-analyzer-optin.core.EnumCastOutOfRange)
         return static_cast<Behind>(int{isFieldMark(bytes[end])} + 2 * bracket);
     }
 
