@@ -36,6 +36,7 @@ HistoryObject::HistoryObject(Desktop& desktop, DefaultsController& defaults, His
     , m_info{{keys::MameinfoPath, historytexts::infoMissing, historytexts::infoFailed}, {}}
     , m_following(new QTimer(this))
 {
+    m_following->setSingleShot(true);
     m_following->setInterval(settled);
     connect(m_following, &QTimer::timeout, this, [this] { search(m_next); });
     connect(window.historySearchField, &QLineEdit::returnPressed, this, &HistoryObject::searchAction);
@@ -172,8 +173,10 @@ void HistoryObject::show(const QString& text)
 
 void HistoryObject::settingChanged(const QString& name)
 {
-    m_window.setFontSize(qBound(smallestSize, m_defaults.index(keys::History_fontsize), largestSize));
-    m_window.showPaths(m_defaults.text(keys::HistoryPath), m_defaults.text(keys::MameinfoPath));
+    if (name.isEmpty() || name == keys::History_fontsize.name)
+        m_window.setFontSize(qBound(smallestSize, m_defaults.index(keys::History_fontsize), largestSize));
+    if (name.isEmpty() || name == keys::HistoryPath.name || name == keys::MameinfoPath.name)
+        m_window.showPaths(m_defaults.text(keys::HistoryPath), m_defaults.text(keys::MameinfoPath));
     for (Loaded* each : {&m_history, &m_info}) {
         if (name == each->kind.key.name)
             loadTyped(*each);
