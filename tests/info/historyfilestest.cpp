@@ -1,4 +1,4 @@
-#include "info/ui/historyobject.h"
+#include "info/historystaging.h"
 
 #include "info/ui/historywindow.h"
 #include "launch/ui/logview.h"
@@ -28,30 +28,19 @@ QByteArray historyOf(const char* name, const char* text)
 } // namespace
 
 /// When the history window's files are read, and what happens meanwhile.
-class HistoryFilesTest : public QObject
+class HistoryFilesTest : public test::HistoryStaging
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_desktop = std::make_unique<test::ScriptedDesktop>();
-        m_stored = std::make_unique<UserDefaults>(m_folder->filePath("settings.ini"));
-        m_defaults = std::make_unique<DefaultsController>(*m_stored);
-        m_defaults->setInitialValues(QString(), QString());
+        stage();
         write("history.dat", historyOf("pong", "Bats.") + historyOf("qix", "Lines."));
         write("mameinfo.dat", "$info=pong\r\n$mame\r\n0.36b1\r\n$end\r\n");
     }
 
-    void cleanup()
-    {
-        m_object.reset();
-        m_window.reset();
-        m_defaults.reset();
-        m_stored.reset();
-        m_desktop.reset();
-    }
+    void cleanup() { clear(); }
 
     void aFileThatChangedIsReadAnewWhenItIsAskedFor()
     {
@@ -291,24 +280,6 @@ private Q_SLOTS:
     }
 
 private:
-    void write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(m_folder->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-
-    void setPaths()
-    {
-        m_defaults->setText(keys::HistoryPath, m_folder->filePath("history.dat"));
-        m_defaults->setText(keys::MameinfoPath, m_folder->filePath("mameinfo.dat"));
-    }
-
-    void make()
-    {
-        m_window = std::make_unique<HistoryWindow>();
-        m_object = std::make_unique<HistoryObject>(*m_desktop, *m_defaults, *m_window);
-    }
-
     /// With both files read.
     void start()
     {
@@ -317,13 +288,6 @@ private:
         m_object->awakeFromNib();
         QTRY_VERIFY(!m_object->isLoading());
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<test::ScriptedDesktop> m_desktop;
-    std::unique_ptr<UserDefaults> m_stored;
-    std::unique_ptr<DefaultsController> m_defaults;
-    std::unique_ptr<HistoryWindow> m_window;
-    std::unique_ptr<HistoryObject> m_object;
 };
 
 TESSERA_TEST(HistoryFilesTest);

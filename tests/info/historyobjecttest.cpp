@@ -1,4 +1,4 @@
-#include "info/ui/historyobject.h"
+#include "info/historystaging.h"
 
 #include "info/ui/historywindow.h"
 #include "launch/ui/logview.h"
@@ -33,30 +33,18 @@ const QString found
 } // namespace
 
 /// The history window on files of its own.
-class HistoryObjectTest : public QObject
+class HistoryObjectTest : public test::HistoryStaging
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_desktop = std::make_unique<test::ScriptedDesktop>();
-        m_stored = std::make_unique<UserDefaults>(m_folder->filePath("settings.ini"));
-        m_defaults = std::make_unique<DefaultsController>(*m_stored);
-        m_defaults->setInitialValues(QString(), QString());
-        m_window = std::make_unique<HistoryWindow>();
-        m_object = std::make_unique<HistoryObject>(*m_desktop, *m_defaults, *m_window);
+        stage();
+        make();
     }
 
-    void cleanup()
-    {
-        m_object.reset();
-        m_window.reset();
-        m_defaults.reset();
-        m_stored.reset();
-        m_desktop.reset();
-    }
+    void cleanup() { clear(); }
 
     void bothMissingFilesAreNamed()
     {
@@ -298,18 +286,6 @@ private Q_SLOTS:
     }
 
 private:
-    void write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(m_folder->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-
-    void setPaths()
-    {
-        m_defaults->setText(keys::HistoryPath, m_folder->filePath("history.dat"));
-        m_defaults->setText(keys::MameinfoPath, m_folder->filePath("mameinfo.dat"));
-    }
-
     void useFiles()
     {
         write("history.dat", history);
@@ -318,13 +294,6 @@ private:
         m_object->awakeFromNib();
         QTRY_VERIFY(!m_object->isLoading());
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<test::ScriptedDesktop> m_desktop;
-    std::unique_ptr<UserDefaults> m_stored;
-    std::unique_ptr<DefaultsController> m_defaults;
-    std::unique_ptr<HistoryWindow> m_window;
-    std::unique_ptr<HistoryObject> m_object;
 };
 
 TESSERA_TEST(HistoryObjectTest);
