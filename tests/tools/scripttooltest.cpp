@@ -51,6 +51,8 @@ private Q_SLOTS:
         QCOMPARE(stage.information(), QString("Saved a Script file."));
         QCOMPARE(stage.desktop.transcript(), QStringList({"save pong.sh", "sound st_ovenbell"}));
         QCOMPARE(stage.desktop.saveRequests.at(0).title, QString("Save Script file"));
+        // Whatever name is given, nothing is added to it.
+        QCOMPARE(stage.desktop.saveRequests.at(0).extensions, QStringList());
         QVERIFY(!stage.isIndicatorRunning());
     }
 

@@ -51,10 +51,9 @@ void ScriptTool::makingAction()
     const ScriptEmulator emulator = scriptEmulatorAt(m_page.emulatorPop->currentIndex());
     const ScriptRequest request{format,           emulator, m_sources.emulatorPath(emulator),
                                 QDir::homePath(), game,     options(emulator)};
-    SaveRequest panel{QStringLiteral("Save Script file"), fileName(format), {}};
-    if (format != ScriptFormat::None)
-        panel.extensions << QLatin1String(scriptExtensions[static_cast<std::size_t>(format)]);
-    if (const auto path = m_workbench.desktop().savePanel(panel))
+    // The name alone says the format: another that the user gives is kept as it is.
+    if (const auto path
+        = m_workbench.desktop().savePanel({QStringLiteral("Save Script file"), fileName(format), {}}))
         save(*path, request);
     else
         m_workbench.inform(scripttexts::cancelled);
