@@ -3,9 +3,13 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTreeView>
 
 namespace tessera {
 
@@ -34,6 +38,7 @@ FilePanel::FilePanel(const QString& title, QWidget* parent)
     setOption(DontUseNativeDialog);
     m_name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     leaveFilesAlone();
+    layOut();
 }
 
 FilePanel::FilePanel(const OpenRequest& request, QWidget* parent)
@@ -81,6 +86,15 @@ void FilePanel::leaveFilesAlone()
                 delete shortcut;
         }
     }
+}
+
+// Names have what sizes, kinds and dates leave, and those are whole.
+void FilePanel::layOut()
+{
+    resize(860, 540);
+    auto* details = findChild<QTreeView*>(QStringLiteral("treeView"));
+    details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 std::optional<QString> FilePanel::run()

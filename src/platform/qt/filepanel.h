@@ -27,6 +27,7 @@ protected:
 private:
     explicit FilePanel(const QString& title, QWidget* parent);
     void leaveFilesAlone();
+    void layOut();
     bool takes(const QString& path) const;
     QString namedPath() const;
     void choose(const QString& path);
