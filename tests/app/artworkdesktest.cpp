@@ -22,6 +22,7 @@
 #include "launch/ui/folderproposal.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
+#include "widgets/bringforward.h"
 #include "widgets/pathfield.h"
 
 #include <QAction>
@@ -230,6 +231,22 @@ private Q_SLOTS:
         paint("snap/1943.png", {10, 10});
         Q_EMIT artwork().download().SnapChange(QStringLiteral("downloadDidFinish"));
         QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/1943.png"));
+    }
+
+    void aMinimisedDownloadComesBackBesides()
+    {
+        Q_EMIT artwork().download().began();
+        DownloadPanel* panel = nullptr;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* found = qobject_cast<DownloadPanel*>(window))
+                panel = found;
+        }
+        QVERIFY(panel != nullptr);
+        QTRY_VERIFY(isShown(*panel));
+        panel->setWindowState(panel->windowState() | Qt::WindowMinimized);
+        QVERIFY(!isShown(*panel));
+        Q_EMIT artwork().download().began();
+        QTRY_VERIFY(isShown(*panel));
     }
 
     void aCloneIsDownloadedUnderItsOwnName()

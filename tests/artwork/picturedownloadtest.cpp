@@ -321,6 +321,19 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList{"pong.png"});
     }
 
+    void theLargestPictureMayWaitForTheAnswer()
+    {
+        write("pong.png", "mine");
+        serve(ScriptedServer::answer(png, picture));
+        m_mayReplace = [&](const QString&) {
+            wait(100);
+            return true;
+        };
+        make({.length = picture.size()});
+        run();
+        QCOMPARE(content("pong.png"), picture);
+    }
+
     void aFileThatComesMeanwhileIsAskedAboutToo()
     {
         serve(ScriptedServer::answer(png, picture));

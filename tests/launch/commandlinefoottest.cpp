@@ -43,6 +43,19 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("mame pong -window"));
     }
 
+    void theButtonStandsBesideTheLine()
+    {
+        CommandLineFoot foot;
+        foot.showLine("mame", {{"pong"}, {}});
+        foot.resize(600, 60);
+        foot.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&foot));
+        const QRect line = foot.commandLineText->geometry();
+        const QRect button = foot.copyButton->geometry();
+        QVERIFY(button.left() > line.right() && button.right() < foot.width());
+        QVERIFY(line.width() > button.width());
+    }
+
     void aSelectionIsCopiedAsAShellTakesIt()
     {
         CommandLineFoot foot;

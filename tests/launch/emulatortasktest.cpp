@@ -122,7 +122,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("game");
         QTest::addColumn<QString>("text");
-        QTest::newRow("a character in two pieces") << "split" << QString::fromUtf8("あ\n");
+        QTest::newRow("two bytes in two pieces") << "split0" << QString::fromUtf8("é\n");
+        QTest::newRow("three bytes in two pieces") << "split1" << QString::fromUtf8("あ\n");
+        QTest::newRow("the first lead of three bytes") << "split2" << QString::fromUtf8("ก\n");
+        QTest::newRow("the first lead of four bytes") << "split3" << QString::fromUtf8("😀\n");
         QTest::newRow("bytes that are not UTF-8") << "latin1" << QString::fromUtf8("caf\uFFFD \uFFFD\n");
         QTest::newRow("a character cut off by the end") << "cutoff" << QString::fromUtf8("a\uFFFD");
         QTest::newRow("both channels") << "both" << "out\nerr\n";

@@ -6,6 +6,7 @@
 // with its number in it. It has no window: SIGUSR1 is the click on its close button; what it saves then is
 // the file that FAKE_SAVED names.
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -134,11 +135,14 @@ int plays(const std::string& game, int argc, char* argv[])
         std::fputs("caf\xE9 \xFF\n", stdout);
     } else if (game == "cutoff") {
         std::fputs("a\xE3\x81", stdout);
-    } else if (game == "split") {
-        std::fputs("\xE3", stdout);
+    } else if (game.starts_with("split")) {
+        // Characters of two to four bytes, the first of each length among them: the game's number says which.
+        constexpr std::array characters{"é", "あ", "ก", "😀"};
+        const char* character = characters.at(static_cast<std::size_t>(number(5)));
+        std::fputc(character[0], stdout);
         std::fflush(stdout);
         usleep(50'000);
-        std::fputs("\x81\x82\n", stdout);
+        std::puts(character + 1);
     } else if (game == "both") {
         std::fputs("out\n", stdout);
         std::fflush(stdout);

@@ -1,7 +1,9 @@
 #include "stagedtable.h"
 #include "support/testmain.h"
 
+#include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QInputMethodEvent>
@@ -9,6 +11,7 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace tessera;
 using test::machines;
@@ -213,6 +216,27 @@ private Q_SLOTS:
         QVERIFY(menu.actions().at(7)->isEnabled());
     }
 
+    void theHeaderOpensTheirMenu()
+    {
+        QStringList items;
+        QTimer::singleShot(0, this, [&items] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            for (const QAction* action : menu->actions())
+                items << action->text();
+            // As a click chooses it.
+            menu->setActiveAction(menu->actions().at(3));
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QHeaderView* header = m_table->horizontalHeader();
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(10, 5), header->mapToGlobal(QPoint(10, 5)));
+        QApplication::sendEvent(header->viewport(), &asked);
+        QCOMPARE(items.size(), 9);
+        QCOMPARE(items.at(3), QStringLiteral("column_year"));
+        QVERIFY(m_table->isColumnHidden(3));
+    }
+
     void aRowIsSelectedAloneAndInView()
     {
         m_table->resize(300, 60);
@@ -273,7 +297,7 @@ private Q_SLOTS:
             QTest::mouseClick(m_table->viewport(), Qt::LeftButton, modifiers,
                               m_table->visualRect(m_list->model()->index(row, 1)).center());
         };
-        m_list->selectRow(3);
+        click(3, {});
         click(1, Qt::ControlModifier);
         QCOMPARE(m_list->selectedCount(), 2);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("Zed"));
