@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QToolButton>

@@ -88,7 +88,7 @@ Done ItemCopy::copy(const Pair& item, const std::string& place)
 {
     struct stat facts{};
     if (m_watch.stop.stop_requested())
-        return std::unexpected(Failure{copyCancelled.data(), {}});
+        return std::unexpected(Failure{copyCancelled, {}});
     if (::fstatat(item.from, item.name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
         return notRead(item.fromPath);
     switch (facts.st_mode & S_IFMT) {
@@ -140,7 +140,7 @@ Done ItemCopy::copyBytes(const Pair& item, int from, int to)
     for (ssize_t count = 1; count > 0;) {
         count = ::copy_file_range(from, nullptr, to, nullptr, 8 * pieceSize, 0);
         if (count > 0 && !goOn(count))
-            return std::unexpected(Failure{copyCancelled.data(), {}});
+            return std::unexpected(Failure{copyCancelled, {}});
     }
     for (;;) {
         const ssize_t count = ::read(from, m_piece.data(), m_piece.size());
@@ -156,7 +156,7 @@ Done ItemCopy::copyBytes(const Pair& item, int from, int to)
             written += more;
         }
         if (!goOn(count))
-            return std::unexpected(Failure{copyCancelled.data(), {}});
+            return std::unexpected(Failure{copyCancelled, {}});
     }
 }
 

@@ -19,7 +19,7 @@ struct CopyWatch {
 };
 
 /// The failure's key where somebody asked to stop.
-inline constexpr std::string_view copyCancelled = textKey("copy_cancelled");
+inline constexpr const char* copyCancelled = textKey("copy_cancelled");
 
 /// Copies files, links, and folders with all that is in them, from one folder into another under their own
 /// names, with times and permissions. Nothing is removed and nothing replaced; a copy is there whole or not

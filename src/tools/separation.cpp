@@ -141,7 +141,7 @@ SeparationCounts Separation::run(std::span<const std::string> names, const CopyW
         else
             row = copy(names[index], copier);
         // What was stopped half way is not there.
-        counts.isCancelled = row.failure && row.failure->key == copyCancelled;
+        counts.isCancelled = row.failure && row.failure->key == std::string_view(copyCancelled);
         if (counts.isCancelled)
             break;
         row.index = index;

@@ -4,6 +4,7 @@
 #include "support/argumenttexts.h"
 #include "support/testmain.h"
 
+#include <QLayout>
 #include <QPushButton>
 #include <QTextCursor>
 

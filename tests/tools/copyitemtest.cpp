@@ -395,9 +395,9 @@ private Q_SLOTS:
         const CopyWatch watch{stop.get_token(), [&](std::int64_t) { stop.request_stop(); }};
         const auto copied = copyItem(m_from, "large", m_to, watch);
         QVERIFY(!copied.has_value());
-        QVERIFY(copied.error().key == copyCancelled);
+        QCOMPARE(copied.error().key, copyCancelled);
         QCOMPARE(names(m_to), QStringList());
-        QVERIFY(copyItem(m_from, "large", m_to, watch).error().key == copyCancelled);
+        QCOMPARE(copyItem(m_from, "large", m_to, watch).error().key, copyCancelled);
     }
 
 private:

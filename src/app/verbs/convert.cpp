@@ -35,8 +35,8 @@ int runConvert(const Verb& verb, const QStringList& arguments)
                           .arg(written.error().arguments[0], written.error().arguments[1]));
     print(conversionReport(converted->games));
     // The file holds what came before, and nobody takes it for the whole.
-    if (converted->stopped)
-        return failed(stopReason(*converted->stopped));
+    if (const auto& stopped = converted->stopped)
+        return failed(stopReason(*stopped));
     return Done;
 }
 

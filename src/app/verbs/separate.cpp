@@ -77,7 +77,7 @@ int runSeparate(const Verb& verb, const QStringList& arguments)
     };
     const auto counts = separation.run(names, {interruption.token(), {}}, note);
     if (counts.isCancelled)
-        return failed(Failure{copyCancelled.data(), {}});
+        return failed(Failure{copyCancelled, {}});
     print(separationSummary(names.size(), counts));
     if (failures.isEmpty())
         return Done;

@@ -46,9 +46,10 @@ void SnapshotController::Setsnapshot(const QString& name)
     const auto found = findPicture(wanted, FoldersOnDisk());
     m_snapimag = found ? found->path : QString(noImage);
     m_parts.view.setAccessibleDescription(found ? m_snapimag : qtTrId("picture_nopicture"));
-    m_parts.view.setToolTip(found && found->isOfParent
-                                ? plainToolTip(qtTrId("picture_ofparent").arg(*wanted.parent))
-                                : QString());
+    m_parts.view.setToolTip(
+        found && found->isOfParent
+            ? plainToolTip(qtTrId("picture_ofparent").arg(wanted.parent.value_or(QString())))
+            : QString());
     m_patience.start();
     m_loader.load(m_snapimag);
 }

@@ -68,8 +68,11 @@ void SearchBuffer::forEachHit(std::string_view word, Hit&& hit) const
     std::size_t place = 0;
     forEachPlace(m_bytes, word, m_counts, [&, ends, records](std::size_t offset) {
         // Most often it is the same record, or the next one.
-        if (ends[place] <= offset && ends[++place] <= offset)
-            place = placeOf(offset, place);
+        if (ends[place] <= offset) {
+            ++place;
+            if (ends[place] <= offset)
+                place = placeOf(offset, place);
+        }
         hit(records[place], offset);
     });
 }

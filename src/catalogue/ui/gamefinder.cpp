@@ -59,18 +59,18 @@ GameSearch& GameFinder::search()
         m_search->setHaves(m_haves);
         if (!m_favorites.empty())
             m_search->setFavorites(m_favorites, m_catalogue.records());
-        fold();
+        fold(*m_search);
     }
     return *m_search;
 }
 
 // What is not ASCII is folded beside the windows; until then it is found by its ASCII only.
-void GameFinder::fold()
+void GameFinder::fold(GameSearch& search)
 {
     m_folding.request_stop();
     m_folding = std::stop_source();
     m_pool.start(
-        [this, generation = m_generation, stop = m_folding.get_token(), unfolded = m_search->unfolded()] {
+        [this, generation = m_generation, stop = m_folding.get_token(), unfolded = search.unfolded()] {
             auto folded = std::make_shared<FoldedTexts>(SearchTexts::fold(unfolded, stop));
             if (stop.stop_requested())
                 return;

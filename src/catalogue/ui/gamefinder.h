@@ -73,7 +73,7 @@ private:
     void follow(std::uint32_t record, Field field);
     void takeOut(const std::vector<std::uint32_t>& records);
     void putBack(const std::vector<std::uint32_t>& records);
-    void fold();
+    void fold(GameSearch& search);
     void refresh();
     void find();
     Found found();

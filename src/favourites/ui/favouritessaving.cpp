@@ -86,7 +86,7 @@ std::expected<QString, Failure> UCAppController::keepUnsaved()
     const auto text = m_parts.favourites.text();
     if (!text)
         return std::unexpected(text.error());
-    const QString path = freeName(datedName(pathOfDataFile(), m_parts.desktop.now()));
+    QString path = freeName(datedName(pathOfDataFile(), m_parts.desktop.now()));
     dir_make(QFileInfo(path).path());
     if (const auto written = writeAtomically(path, std::array{std::string_view(*text)}); !written)
         return std::unexpected(written.error());

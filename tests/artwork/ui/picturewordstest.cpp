@@ -40,8 +40,8 @@ private Q_SLOTS:
                 ": for wholeStepsBox",
                 "wholeStepsBox: Enlarge by &whole steps only, so that every pixel stays even",
                 ": &Download from / for snapdownsitePop",
-                "snapdownsitePop: Picture site 1 / Picture site 2 / Picture site 3 / Other site / named "
-                "Download from",
+                ("snapdownsitePop: Picture site 1 / Picture site 2 / Picture site 3 / Other site / named "
+                 "Download from"),
                 ": &Host / for picturesHostField",
                 "picturesHostField: named Host",
                 ": Snapshot address / for snapdownTextField",

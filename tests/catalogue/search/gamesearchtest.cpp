@@ -442,6 +442,7 @@ private Q_SLOTS:
         GameSearch search = prepared(sample);
         RandomTexts random;
         std::vector<Have> haves;
+        haves.reserve(records.size());
         for (std::size_t i = 0; i < records.size(); ++i)
             haves.push_back(Have(random.number(3)));
         search.setHaves(haves);
