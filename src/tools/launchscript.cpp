@@ -29,10 +29,10 @@ QString filled(std::string_view form, const QStringList& values)
     QString text;
     for (const QString& value : values) {
         const std::size_t place = form.find("%@");
-        text += QLatin1String(form.data(), static_cast<qsizetype>(place)) + value;
+        text += QLatin1StringView(QByteArrayView(form.substr(0, place))) + value;
         form.remove_prefix(place + 2);
     }
-    return text + QLatin1String(form.data(), static_cast<qsizetype>(form.size()));
+    return text + QLatin1StringView(QByteArrayView(form));
 }
 
 QStringList valuesOf(const ScriptRequest& request)

@@ -44,9 +44,8 @@ private Q_SLOTS:
                      "hostField: named Host",
                      ": &Page / for rominfoTextField",
                      "rominfoTextField: named Page",
-                     ": {$gamename} stands for the set name. Sites come and go, so each needs its host here "
-                     "before it "
-                     "can be asked.",
+                     (": {$gamename} stands for the set name. Sites come and go, so each needs its host "
+                      "here before it can be asked."),
                      ": &Address",
                      ": named Address",
                      "urlTextField: named Address",

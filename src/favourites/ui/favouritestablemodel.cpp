@@ -112,7 +112,8 @@ int FavouritesTableModel::columnCount(const QModelIndex& parent) const
 
 QString FavouritesTableModel::edited(std::uint32_t favourite, FavouriteColumn column) const
 {
-    return m_favourites.value(favourite, *row(column).key);
+    const auto& key = row(column).key;
+    return key ? m_favourites.value(favourite, *key) : QString();
 }
 
 QVariant FavouritesTableModel::shown(std::uint32_t favourite, FavouriteColumn column) const

@@ -60,8 +60,8 @@ private Q_SLOTS:
                  ": appearance_font",
                  ": named appearance_favoritefont",
                  "favoriteFontField: named appearance_favoritefont",
-                 "favoriteFontButton: appearance_choosefont / named appearance_favoritefont – "
-                 "appearance_choosefont",
+                 ("favoriteFontButton: appearance_choosefont / named appearance_favoritefont – "
+                  "appearance_choosefont"),
                  ": appearance_favoritefont",
                  ": named appearance_size",
                  "fontSizeField: named appearance_size",
@@ -97,10 +97,10 @@ private Q_SLOTS:
                      {"filterPanel: window filter_window", ": filter_heading",
                       "joinPopup: filter_all / filter_any / named filter_join", ": filter_add",
                       ": filter_clear", ": filter_hint",
-                      ": column_title / column_titlejp / column_name / column_maker / column_year / "
-                      "column_cloneof / column_status / column_type / column_device / named filter_field",
-                      ": compare_is / compare_isnot / compare_contains / compare_containsnot / "
-                      "compare_begins / compare_ends / named filter_comparison",
+                      (": column_title / column_titlejp / column_name / column_maker / column_year / "
+                       "column_cloneof / column_status / column_type / column_device / named filter_field"),
+                      (": compare_is / compare_isnot / compare_contains / compare_containsnot / "
+                       "compare_begins / compare_ends / named filter_comparison"),
                       ": named filter_value", ": named filter_remove / tip filter_remove", ": filter_maker",
                       "filterTextView: hint filter_maker_placeholder / named filter_maker",
                       ": filter_maker_apply", ": filter_maker_clear", ": filter_maker_none"}));
