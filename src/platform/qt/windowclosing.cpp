@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QSysInfo>
 
 #include <xcb/xcb.h>
 
@@ -86,6 +87,25 @@ std::vector<std::vector<std::uint32_t>> property(xcb_connection_t* server, const
     return values;
 }
 
+std::string_view withoutDomain(std::string_view machine)
+{
+    return machine.substr(0, machine.find('.'));
+}
+
+// A display may show windows of other machines, where the same number is another process.
+bool isOfAnotherMachine(xcb_connection_t* server, xcb_window_t window)
+{
+    constexpr std::uint32_t most = 64; // times four bytes
+    const auto reply = owned(xcb_get_property_reply(
+        server, xcb_get_property(server, 0, window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 0, most),
+        nullptr));
+    if (!reply || reply->format != 8 || reply->value_len == 0)
+        return false;
+    const std::string_view machine(static_cast<const char*>(xcb_get_property_value(reply.get())),
+                                   reply->value_len);
+    return withoutDomain(machine) != withoutDomain(QSysInfo::machineHostName().toStdString());
+}
+
 pid_t parentOf(pid_t process)
 {
     QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
@@ -131,7 +151,8 @@ bool askWindowsToClose(pid_t process)
     const auto owners = property(server, windows, atom(server, "_NET_WM_PID"), XCB_ATOM_CARDINAL);
     Windows ours;
     for (std::size_t i = 0; i < windows.size(); ++i) {
-        if (!owners[i].empty() && belongsTo(static_cast<pid_t>(owners[i].front()), process))
+        if (!owners[i].empty() && belongsTo(static_cast<pid_t>(owners[i].front()), process)
+            && !isOfAnotherMachine(server, windows[i]))
             ours.push_back(windows[i]);
     }
     const auto understood = property(server, ours, protocols, XCB_ATOM_ATOM);

@@ -5,6 +5,7 @@
 #include "support/testmain.h"
 #include "support/xserver.h"
 
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <xcb/xcb.h>
@@ -50,6 +51,13 @@ public:
                             protocols.size(), protocols.data());
         sync();
         return window;
+    }
+
+    void setMachine(xcb_window_t window, const QByteArray& name)
+    {
+        xcb_change_property(m_server, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLIENT_MACHINE,
+                            XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(name.size()), name.constData());
+        sync();
     }
 
     /// The windows that were asked to close.
@@ -128,6 +136,25 @@ private Q_SLOTS:
         const auto second = windows.add(game.said);
         QVERIFY(askWindowsToClose(static_cast<pid_t>(game.said)));
         QCOMPARE(windows.asked(), Asked({first, second}));
+    }
+
+    // What another machine shows here has its own numbers.
+    void windowsOfOtherMachinesAreLeftAlone()
+    {
+        const Program game("echo $$; read end");
+        const QByteArray here = QSysInfo::machineHostName().toUtf8();
+        Windows windows;
+        const auto elsewhere = windows.add(game.said);
+        windows.setMachine(elsewhere, here + "-2");
+        QVERIFY(!askWindowsToClose(static_cast<pid_t>(game.said)));
+        const auto named = windows.add(game.said);
+        windows.setMachine(named, here);
+        const auto withDomain = windows.add(game.said);
+        windows.setMachine(withDomain, here + ".example.org");
+        const auto unnamed = windows.add(game.said);
+        windows.setMachine(unnamed, "");
+        QVERIFY(askWindowsToClose(static_cast<pid_t>(game.said)));
+        QCOMPARE(windows.asked(), Asked({named, withDomain, unnamed}));
     }
 
     // As a window manager puts them into windows of its own.
