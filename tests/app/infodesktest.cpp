@@ -26,6 +26,7 @@
 #include "launch/ui/filespage.h"
 #include "launch/ui/logview.h"
 #include "launch/ui/pathchooser.h"
+#include "support/showwatch.h"
 #include "support/testmain.h"
 #include "widgets/bringforward.h"
 #include "widgets/pathfield.h"
@@ -46,25 +47,6 @@
 
 using namespace tessera;
 using test::StagedApp;
-
-namespace {
-
-/// Notes how a window was last shown.
-class ShowWatch : public QObject
-{
-public:
-    bool withoutActivating = false;
-
-protected:
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show)
-            withoutActivating = static_cast<QWidget*>(object)->testAttribute(Qt::WA_ShowWithoutActivating);
-        return false;
-    }
-};
-
-} // namespace
 
 /// Which set is meant when its history or its page is asked for.
 class InfoDeskTest : public QObject
@@ -112,7 +94,7 @@ private Q_SLOTS:
     // The offscreen platform makes every new window key, so the request alone can be seen here.
     void theListStaysKey()
     {
-        ShowWatch watch;
+        test::ShowWatch watch;
         history().installEventFilter(&watch);
         m_staged->app->gameList().selectGame("pong");
         m_staged->app->searchHistoryinfo();

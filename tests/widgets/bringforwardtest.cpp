@@ -1,28 +1,11 @@
 #include "widgets/bringforward.h"
+
+#include "support/showwatch.h"
 #include "support/testmain.h"
 
 #include <QWidget>
 
 using namespace tessera;
-
-namespace {
-
-/// Notes how a window was last shown.
-class ShowWatch : public QObject
-{
-public:
-    bool withoutActivating = false;
-
-protected:
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        if (event->type() == QEvent::Show)
-            withoutActivating = static_cast<QWidget*>(object)->testAttribute(Qt::WA_ShowWithoutActivating);
-        return false;
-    }
-};
-
-} // namespace
 
 class BringForwardTest : public QObject
 {
@@ -53,7 +36,7 @@ private Q_SLOTS:
     void aWindowShownBesidesLeavesTheKeyWindow()
     {
         QWidget other;
-        ShowWatch watch;
+        test::ShowWatch watch;
         other.installEventFilter(&watch);
         showBesides(other);
         QVERIFY(watch.withoutActivating);
