@@ -25,7 +25,7 @@
     <message id="convert_too_long"><source></source><translation>The element of “%1” is larger than 64 MB: what stands before that set was converted.</translation></message>
     <message id="build_cut_off_in"><source></source><translation>The list that “%1” printed is cut off within “%2”. The catalogue was not changed.</translation></message>
     <message id="build_too_long"><source></source><translation>In the list of “%1” the element of “%2” is larger than 64 MB. The catalogue was not changed.</translation></message>
-    <message id="tool_undone"><source></source><translation>The tool was stopped when its window was closed; it had not ended, and nothing of it was kept.</translation></message>
+    <message id="tool_undone"><source></source><translation>The tool was stopped before its end; nothing of its result is shown.</translation></message>
     <message id="tool_close_Message"><source></source><translation>Stop the tool that is at work?</translation></message>
     <message id="tool_close_info"><source></source><translation>It has not ended yet. What it still had to do would be left undone.</translation></message>
     <message id="tool_close_stay"><source></source><translation>Let It Go On</translation></message>

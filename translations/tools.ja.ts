@@ -25,7 +25,7 @@
     <message id="convert_too_long"><source></source><translation>“%1”の要素が64 MBを超えています。その前のセットまで変換しました。</translation></message>
     <message id="build_cut_off_in"><source></source><translation>“%1”が出力した一覧は“%2”の途中で切れています。カタログは変更されていません。</translation></message>
     <message id="build_too_long"><source></source><translation>“%1”の一覧で“%2”の要素が64 MBを超えています。カタログは変更されていません。</translation></message>
-    <message id="tool_undone"><source></source><translation>ウインドウが閉じられたため、ツールは途中で停止しました。結果は残っていません。</translation></message>
+    <message id="tool_undone"><source></source><translation>ツールは途中で停止しました。結果は表示されません。</translation></message>
     <message id="tool_close_Message"><source></source><translation>実行中のツールを停止しますか？</translation></message>
     <message id="tool_close_info"><source></source><translation>まだ終わっていません。残りの作業は行われません。</translation></message>
     <message id="tool_close_stay"><source></source><translation>続ける</translation></message>

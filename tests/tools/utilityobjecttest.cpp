@@ -292,6 +292,58 @@ private Q_SLOTS:
         qunsetenv("XDG_CACHE_HOME");
     }
 
+    void whatEndsWhileTheQuestionStandsWaitsForTheAnswer_data()
+    {
+        QTest::addColumn<bool>("stops");
+        QTest::newRow("it goes on") << false;
+        QTest::newRow("it is stopped") << true;
+    }
+
+    // The job is done long before somebody has read the question.
+    void whatEndsWhileTheQuestionStandsWaitsForTheAnswer()
+    {
+        QFETCH(bool, stops);
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        stage.window.pageList->setCurrentRow(3);
+        stage.window.verificationPage->verifyromsTextField->setText(
+            stage.file("verifyroms.txt", "romset a is bad\n"));
+        QSignalSpy status(&stage.utility, &UtilityObject::statusMessage);
+        stage.desktop.answerAlert("tool_close_Message", stops ? 1 : 0);
+        stage.desktop.whileAsked = [] { QTest::qWait(300); };
+        if (!stops)
+            stage.desktop.answerSave("verifyroms_convert", stage.path("out.txt"));
+        QTest::mouseClick(stage.window.verificationPage->button_convert2, Qt::LeftButton);
+        QVERIFY(stage.isBusy());
+        stage.window.close();
+        QCOMPARE(stage.window.isVisible(), !stops);
+        if (stops)
+            QTRY_COMPARE(status.size(), 1);
+        else
+            QTRY_COMPARE(stage.information(), "Saved a Verifyroms text.");
+        QCOMPARE(stage.desktop.transcript().first(), "alert tool_close_Message");
+        QCOMPARE(stage.read("out.txt").isEmpty(), stops);
+        stage.desktop.takeTranscript();
+    }
+
+    void whatWasCancelledIsNotAskedAbout()
+    {
+        Stage stage;
+        stage.utility.utilityOrderFront();
+        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+        qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
+        stage.rooms.emulator = stage.script("exec sleep 60");
+        stage.window.pageList->setCurrentRow(3);
+        QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
+        QTest::mouseClick(stage.foot.button_cancel, Qt::LeftButton);
+        QVERIFY(stage.isBusy());
+        stage.window.close();
+        QVERIFY(!stage.window.isVisible());
+        QCOMPARE(stage.desktop.takeTranscript().filter("alert"), QStringList());
+        qunsetenv("XDG_CACHE_HOME");
+    }
+
     // The information line has what the buttons of the page that is shown leave.
     void theInformationLineHasTheWholeFreeWidth()
     {

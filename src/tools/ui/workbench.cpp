@@ -47,10 +47,12 @@ void Job::end(std::function<void()> done, std::function<void()> abandoned) const
     QMetaObject::invokeMethod(
         &workbench,
         [&workbench, number = m_number, done = std::move(done), abandoned = std::move(abandoned)] {
-            if (number != workbench.m_job)
-                return abandoned();
-            workbench.end();
-            done();
+            workbench.takeEnd([&workbench, number, done, abandoned] {
+                if (number != workbench.m_job)
+                    return abandoned();
+                workbench.end();
+                done();
+            });
         },
         Qt::QueuedConnection);
 }
@@ -187,16 +189,31 @@ void Workbench::explain(const QString& text)
     Q_EMIT statusMessage(text);
 }
 
+// What ends while the question stands is neither abandoned nor taken until it is answered.
+void Workbench::takeEnd(std::function<void()> end)
+{
+    if (m_isAsking)
+        m_ended = std::move(end);
+    else
+        end();
+}
+
 bool Workbench::mayBeAbandoned()
 {
-    if (!m_isBusy)
+    // What was cancelled is not asked about again.
+    if (!m_isBusy || m_stop.stop_requested())
         return true;
     Alert alert{qtTrId("tool_close_Message"),
                 qtTrId("tool_close_info"),
                 {qtTrId("tool_close_stay"), qtTrId("tool_close_stop")}};
     alert.style = Alert::Style::Warning;
     alert.escape = 0;
-    return m_desktop.runAlert(alert) == 1;
+    const bool wasAsking = std::exchange(m_isAsking, true);
+    const bool may = m_desktop.runAlert(alert) == 1;
+    m_isAsking = wasAsking;
+    if (!m_isAsking && m_ended)
+        QMetaObject::invokeMethod(this, std::exchange(m_ended, {}), Qt::QueuedConnection);
+    return may;
 }
 
 Job Workbench::begin()

@@ -126,6 +126,7 @@ private:
     static QString leftUndone();
     void sayUndone(const QString& text);
     Job begin();
+    void takeEnd(std::function<void()> end);
     void end();
 
     Desktop& m_desktop;
@@ -134,6 +135,8 @@ private:
     std::stop_source m_stop;
     bool m_isBusy = false;
     int m_job = 0;
+    bool m_isAsking = false; ///< whether a job may be abandoned
+    std::function<void()> m_ended; ///< what ended meanwhile
     QString m_explained;
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };
