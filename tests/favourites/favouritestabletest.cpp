@@ -111,6 +111,17 @@ private Q_SLOTS:
         QCOMPARE(m_staged->shownNames(), (QStringList{"pong", "old", "bare"}));
     }
 
+    void equalOnesKeepTheirOrderWhenThereIsOneMore()
+    {
+        m_staged->played.note(QStringLiteral("old"), m_staged->desktop.now());
+        clickHeader(FavouriteColumn::Times);
+        clickHeader(FavouriteColumn::Maker);
+        QCOMPARE(m_staged->shownNames(), (QStringList{"bare", "pong", "old"}));
+        m_staged->favourites.remove({0});
+        m_staged->favourites.undoStack().undo();
+        QCOMPARE(m_staged->shownNames(), (QStringList{"bare", "pong", "old"}));
+    }
+
     void theFirstSortIsByTheColumnThatStandsFirst()
     {
         QHeaderView* header = m_staged->table->horizontalHeader();

@@ -76,8 +76,9 @@ FavouritesTableModel::FavouritesTableModel(Favourites& favourites, ArrangedList&
 
 void FavouritesTableModel::showPlayed()
 {
-    if (m_sorted == FavouriteColumn::Times || m_sorted == FavouriteColumn::Last)
-        resort([this] { arrange(); });
+    const Sort& sort = m_sorts.back();
+    if (sort.column == FavouriteColumn::Times || sort.column == FavouriteColumn::Last)
+        resort([&] { arrange(sort); });
     showEverything();
 }
 
@@ -86,7 +87,9 @@ void FavouritesTableModel::reload()
     replace([this] {
         m_gone = RecordSet(m_favourites.records().size());
         list().setContent(m_favourites.records());
-        arrange();
+        // As when each of them were asked for again: those that are equal by the last one keep their order.
+        for (const Sort& sort : m_sorts)
+            arrange(sort);
     });
 }
 
@@ -205,13 +208,14 @@ bool FavouritesTableModel::setData(const QModelIndex& index, const QVariant& val
     return true;
 }
 
-void FavouritesTableModel::arrange()
+void FavouritesTableModel::arrange(const Sort& sort)
 {
-    const auto key = m_sorted ? row(*m_sorted).key : std::nullopt;
+    const auto key = sort.column ? row(*sort.column).key : std::nullopt;
     if (const auto field = key ? fieldOf(*key) : std::nullopt)
-        list().setSort(*field, m_ascending);
+        list().setSort(*field, sort.ascending);
     else
-        list().setSort(SortedRecords(orderNumbers(m_favourites, m_played, orderOf(m_sorted))), m_ascending);
+        list().setSort(SortedRecords(orderNumbers(m_favourites, m_played, orderOf(sort.column))),
+                       sort.ascending);
 }
 
 // The same favourites in another order: what is selected stays selected.
@@ -219,11 +223,10 @@ void FavouritesTableModel::sort(int column, Qt::SortOrder order)
 {
     if (column < 0 || column >= columns)
         return;
-    resort([&] {
-        m_sorted = columnAt(column);
-        m_ascending = order == Qt::AscendingOrder;
-        arrange();
-    });
+    const Sort sort{columnAt(column), order == Qt::AscendingOrder};
+    std::erase_if(m_sorts, [&](const Sort& each) { return each.column == sort.column; });
+    m_sorts.push_back(sort);
+    resort([&] { arrange(sort); });
 }
 
 } // namespace tessera

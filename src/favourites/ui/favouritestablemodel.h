@@ -58,7 +58,12 @@ public:
 private:
     void showPlayed();
     void showFavourite(std::uint32_t favourite, FavouriteKey key);
-    void arrange();
+    struct Sort {
+        std::optional<FavouriteColumn> column; ///< nothing: as the file has them
+        bool ascending;
+    };
+
+    void arrange(const Sort& sort);
     QVariant shown(std::uint32_t favourite, FavouriteColumn column) const;
     QString edited(std::uint32_t favourite, FavouriteColumn column) const;
     QVariant icon(std::uint32_t favourite) const;
@@ -68,8 +73,7 @@ private:
     const PlayedGames& m_played;
     const ColorTransformer& m_colors;
     RecordSet m_gone;
-    std::optional<FavouriteColumn> m_sorted; ///< nothing while the list stands as its file does
-    bool m_ascending = true;
+    std::vector<Sort> m_sorts{{std::nullopt, true}}; ///< each column once, the last one counts first
 };
 
 } // namespace tessera
