@@ -75,6 +75,7 @@ private Q_SLOTS:
         QTest::newRow("in its second cell") << QList<int>{Qt::Key_Tab, Qt::Key_Escape};
         QTest::newRow("nothing typed") << QList<int>{Qt::Key_Return};
         QTest::newRow("out of its last cell") << QList<int>{Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab};
+        QTest::newRow("for the one above") << QList<int>{Qt::Key_Backtab};
     }
 
     void anEntryThatIsGivenUpIsGone()

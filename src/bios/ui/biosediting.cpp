@@ -114,12 +114,14 @@ void BiosEditing::restore(const BiosEntries& entries)
     Q_EMIT edited();
 }
 
-// From cell to cell it is still being filled in; where there is no other cell it is not.
+// From cell to cell of its row it is still being filled in; where there is no other one it is not.
 void BiosEditing::endEditor(QWidget*, QAbstractItemDelegate::EndEditHint hint)
 {
     const bool goesOn
         = hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
-    if (goesOn && m_panel.biosView->indexWidget(m_panel.biosView->currentIndex()) != nullptr)
+    const QModelIndex current = m_panel.biosView->currentIndex();
+    const bool isSameEntry = current.row() == m_added.row() && current.parent() == m_added.parent();
+    if (goesOn && isSameEntry && m_panel.biosView->indexWidget(current) != nullptr)
         return;
     const QModelIndex added = std::exchange(m_added, QPersistentModelIndex());
     if (added.isValid() && m_panel.treeController_list->isBlank(added))

@@ -152,6 +152,9 @@ void Bioslist::outlineViewSelectionDidChange()
     const auto fixed = list.fixedRow(current);
     QLabel& text = *m_parts.panel.text_infomation;
     m_parts.panel.removeButton->setEnabled(entry && !fixed && !isAsking());
+    // What is said of the question stays until its answer.
+    if (isAsking())
+        return;
     if (entry && !fixed) {
         const bool isThere = hasArchive(m_parts.defaults.text(keys::RomsPath), entry->rom);
         showIcon(isThere ? iconOf(*entry) : theme::icon(QStringLiteral("no_romfile"), "faint"));

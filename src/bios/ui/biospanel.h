@@ -31,7 +31,7 @@ public:
 
     /// Every entry is shown, the first one in view.
     void expandAll();
-    /// While an emulator is asked the list stays as it is.
+    /// While an emulator is asked nothing is added, removed or typed.
     void setAsking(bool asking);
     /// The title of the pop-up's selected item.
     void showSetting(const QString& title);
