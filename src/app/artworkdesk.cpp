@@ -48,12 +48,13 @@ ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsCon
         m_main, pane, [&list] { return list.tableViewSelectionROM(); },
         [&list] { return list.tableViewSelectionParentROM(); });
     m_main->setHeld(true);
+    connect(m_main.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
     connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);
     connect(&m_preview, &PictureLoader::loaded, this,
             [this](const QString&, const QImage& image) { imageWindow().show(image, m_previewName); });
     connect(&m_preview, &PictureLoader::failed, this,
-            [this](const QString&, const QString& reason) { Q_EMIT statusMessage(reason); });
+            [this](const QString&, const QString& reason) { Q_EMIT commandMessage(reason); });
 }
 
 ArtworkDesk::~ArtworkDesk() = default;
@@ -74,7 +75,6 @@ void ArtworkDesk::show(Shown& shown, AspectView& view, std::function<QString()> 
     shown = std::make_unique<SnapshotController>(
         SnapshotParts{m_desktop, m_defaults, m_folder, view, std::move(name), std::move(parent)});
     connect(shown.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
-    connect(shown.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
 }
 
 void ArtworkDesk::joinFavorites(FavoritesWindow& window)
@@ -85,6 +85,7 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
     show(
         m_favorites, pane, [&favorites] { return favorites.tableViewSelectionROM2(); },
         [&favorites] { return favorites.tableViewSelectionCloneof(); });
+    connect(m_favorites.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
     connect(&favorites, &UCAppController::selectionChanged, m_favorites.get(),
             &SnapshotController::showSelection);
     m_favorites->showSelection();
@@ -101,6 +102,8 @@ void ArtworkDesk::joinMini(MiniWindow& window)
             const GameRecord* record = mini.record();
             return record != nullptr ? fieldText((*record)[Field::Cloneof]) : QString();
         });
+    // Its title's place is for its own game: of the hidden lists' pictures it says nothing.
+    connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::say);
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),
             &SnapshotController::showSelection);
     m_mini->showSelection();
@@ -206,7 +209,7 @@ DownloadProcessing& ArtworkDesk::download()
         m_download = std::make_unique<DownloadProcessing>(
             m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
-        connect(m_download.get(), &DownloadProcessing::statusMessage, this, &ArtworkDesk::statusMessage);
+        connect(m_download.get(), &DownloadProcessing::statusMessage, this, &ArtworkDesk::commandMessage);
         connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
     }
     return *m_download;

@@ -77,7 +77,10 @@ public Q_SLOTS:
     void display_image_Finder2();
 
 Q_SIGNALS:
+    /// About the pictures beside the lists.
     void statusMessage(const QString& text);
+    /// About what was asked for, from whatever window.
+    void commandMessage(const QString& text);
 
 private:
     using Shown = std::unique_ptr<SnapshotController>;

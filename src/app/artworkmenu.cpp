@@ -1,4 +1,4 @@
-// The menus of the pictures: kinds, ratios and folders.
+// The menus of the pictures: kinds, ratios and folders, and those of the lists, which say what a game has.
 
 #include "app/artworkdesk.h"
 #include "app/mainwindow.h"

@@ -283,6 +283,7 @@ void Tessera_AppDelegate::joinArtwork()
     connect(m_mainWindow->sidePanel->pageButton, &QPushButton::clicked, this,
             &Tessera_AppDelegate::openROMinfo);
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, m_mainWindow.get(), &MainWindow::say);
+    connect(m_artwork.get(), &ArtworkDesk::commandMessage, m_mainWindow.get(), &MainWindow::say);
     connect(m_chooser.get(), &PathChooser::chosen, m_artwork.get(), &ArtworkDesk::pathChosen);
 }
 
@@ -377,6 +378,7 @@ void Tessera_AppDelegate::joinFavoritesWindow()
     m_artwork->joinFavorites(window);
     m_artwork->addFavoritesMenu(*window.favoritesTable);
     connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &FavoritesWindow::say);
+    connect(m_artwork.get(), &ArtworkDesk::commandMessage, &window, &FavoritesWindow::say);
     connect(m_info.get(), &InfoDesk::statusMessage, &window, &FavoritesWindow::say);
     window.sidePanel->verifyButton->hide();
     joinSidePanel(*window.sidePanel);
@@ -402,7 +404,7 @@ void Tessera_AppDelegate::joinMiniWindow()
     connect(window.mainButton, &QToolButton::clicked, this, &Tessera_AppDelegate::windowMain);
     connect(&window, &TransparentWindow::orderedOut, this, &Tessera_AppDelegate::windowMain);
     m_artwork->joinMini(window);
-    connect(m_artwork.get(), &ArtworkDesk::statusMessage, &window, &MiniWindow::say);
+    connect(m_artwork.get(), &ArtworkDesk::commandMessage, &window, &MiniWindow::say);
     connect(m_info.get(), &InfoDesk::statusMessage, &window, &MiniWindow::say);
     carryMenuKeys(*m_mainWindow->menuBar(), window);
     joinWindow(window, KeyWindow::Kind::Mini, keys::MiniWindowGeometry.name.data());

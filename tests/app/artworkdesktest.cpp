@@ -35,6 +35,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSplitter>
 #include <QToolButton>
 
@@ -194,6 +195,30 @@ private Q_SLOTS:
         m_staged->desktop.takeTranscript();
     }
 
+    // The list behind it may show a picture that cannot be read.
+    void theMiniWindowSpeaksOfItsOwnGameOnly()
+    {
+        select("1943");
+        m_staged->app->windowMini();
+        MiniWindow& window = m_staged->app->mini().window();
+        m_staged->app->mini().setGame("pong");
+        QTRY_COMPARE(window.imageView->image().size(), QSize(64, 48));
+        QStringList labels;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            labels << label->text();
+        QFile broken(m_staged->path("snap/1943.png"));
+        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no picture") > 0);
+        broken.close();
+        QSignalSpy complaints(&artwork(), &ArtworkDesk::statusMessage);
+        artwork().snap_change();
+        QTRY_VERIFY(!complaints.isEmpty());
+        QStringList left;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            left << label->text();
+        QCOMPARE(left, labels);
+        m_staged->desktop.takeTranscript();
+    }
+
     void theRatioIsOneForAll()
     {
         QMenu& menu = *m_staged->app->mainWindow().menuBar()->findChild<QMenu*>("Menu_aspect");
@@ -241,7 +266,8 @@ private Q_SLOTS:
             if (auto* found = qobject_cast<DownloadPanel*>(window))
                 panel = found;
         }
-        QVERIFY(panel != nullptr);
+        if (panel == nullptr)
+            QFAIL("no panel is made");
         QTRY_VERIFY(isShown(*panel));
         panel->setWindowState(panel->windowState() | Qt::WindowMinimized);
         QVERIFY(!isShown(*panel));

@@ -28,9 +28,15 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
 
 PictureLoader::~PictureLoader() = default;
 
-void PictureLoader::load(QString path)
+void PictureLoader::load(const QString& path)
 {
     m_wanted = path;
+    loadWanted();
+}
+
+void PictureLoader::loadWanted()
+{
+    const QString path = m_wanted;
     if (const Kept* kept = m_kept.object(path)) {
         const QFileInfo file(path);
         if (kept->changed == file.lastModified() && kept->length == file.size()) {
@@ -48,7 +54,7 @@ void PictureLoader::setHeld(bool held)
 {
     m_isHeld = held;
     if (!held && !m_wanted.isEmpty())
-        load(m_wanted);
+        loadWanted();
 }
 
 void PictureLoader::read(const QString& path)
@@ -79,7 +85,7 @@ void PictureLoader::take(const QString& path, const QDateTime& changed, qint64 l
     if (m_wanted.isEmpty())
         return;
     if (m_wanted != path)
-        return load(m_wanted);
+        return loadWanted();
     m_wanted.clear();
     if (image.isNull())
         Q_EMIT failed(path, reason);

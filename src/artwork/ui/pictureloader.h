@@ -21,7 +21,7 @@ public:
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.
-    void load(QString path);
+    void load(const QString& path);
     /// While it is held, nothing is read; what was asked for last is read at the end.
     void setHeld(bool held);
 
@@ -37,6 +37,7 @@ private:
         QImage image;
     };
 
+    void loadWanted();
     void read(const QString& path);
     void take(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
               const QString& reason);
