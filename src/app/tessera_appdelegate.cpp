@@ -96,8 +96,8 @@ bool Tessera_AppDelegate::run(const QString& file)
     if (m_buildWanted)
         QTimer::singleShot(0, m_rebuild.get(), &CatalogueRebuild::build);
     application_openFile(file);
-    if (m_wanted)
-        comeForward(*std::exchange(m_wanted, std::nullopt));
+    if (const auto wanted = std::exchange(m_wanted, std::nullopt))
+        comeForward(*wanted);
     return !m_isEnding;
 }
 
@@ -168,8 +168,12 @@ QAction* Tessera_AppDelegate::findMenuItemNamed(const QString& title) const
 
 void Tessera_AppDelegate::comeForward(const QString& file)
 {
+    if (m_isEnding)
+        return;
     if (!m_isRestored) {
-        m_wanted = file;
+        // A file is not forgotten because the program is started once more without one.
+        if (!m_wanted || !file.isEmpty())
+            m_wanted = file;
         return;
     }
     m_switching->comeForward();
@@ -181,8 +185,8 @@ void Tessera_AppDelegate::showSelection()
     FactsPanel& facts = *m_mainWindow->factsPanel;
     const GameRecord* record = m_gameList->selectedRecord();
     facts.showRecord(record, m_gameList->selectedCount());
-    facts.showHave(
-        record != nullptr ? m_finding->finder().haveOf(*m_gameList->firstSelected()) : std::nullopt, record);
+    const auto first = m_gameList->firstSelected();
+    facts.showHave(first ? m_finding->finder().haveOf(*first) : std::nullopt, record);
 }
 
 void Tessera_AppDelegate::showCount()
@@ -321,7 +325,8 @@ void Tessera_AppDelegate::applicationWillTerminate()
     m_favorites->remember();
     m_places.remember();
     m_defaults.defaults().synchronize();
-    // Last, as it takes its time.
+    // Before what takes its time: another start need not wait for it, and would find nobody at home.
+    Q_EMIT everythingIsSaved();
     m_launch->stopAndWait();
 }
 

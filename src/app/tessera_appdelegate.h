@@ -173,6 +173,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Posted by the reset, so that other controllers can reset their own state.
     void defaultAction();
+    /// The program ends, and nothing is left to do but to wait for a game.
+    void everythingIsSaved();
 
 private:
     void initialize();

@@ -29,6 +29,8 @@ int runWindows(QApplication& application, UserDefaults& defaults, const QString&
     theme::apply(application);
     Tessera_AppDelegate delegate(desktop, defaults, recent, standardCataloguePath());
     QObject::connect(&instance, &SingleInstance::handedOver, &delegate, &Tessera_AppDelegate::comeForward);
+    QObject::connect(&delegate, &Tessera_AppDelegate::everythingIsSaved, &instance,
+                     &SingleInstance::stopListening);
     const SessionEnd sessionEnd;
     QObject::connect(&sessionEnd, &SessionEnd::mayEnd, &delegate, &Tessera_AppDelegate::saveForSessionEnd);
     QObject::connect(&sessionEnd, &SessionEnd::ended, &delegate, &Tessera_AppDelegate::endWithSession);

@@ -83,8 +83,8 @@ public:
     virtual bool openWith(const QString& path, const QString& application) = 0;
     /// Opens a web page in the user's browser; false where that was not possible.
     virtual bool openUrl(const QUrl& url) = 0;
-    /// Asks the windows of a process, and of those that it started, to close, as their own button would;
-    /// false where there is none that can be asked.
+    /// Asks the windows of a process, of its process group and of those that it started to close, as their
+    /// own button would; false where there is none that can be asked.
     virtual bool askToClose(qint64 process) = 0;
     virtual void noteRecent(const QString& path) = 0;
     /// A line in the system log.

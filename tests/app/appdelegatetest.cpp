@@ -212,6 +212,19 @@ private Q_SLOTS:
             staged.app->logWindow().infomationTextView->text().contains(QStringLiteral("qix  Launch...")));
     }
 
+    void aFileIsNotForgottenForAStartWithoutOne()
+    {
+        StagedApp staged;
+        staged.writeStore("<database><object type=\"MAME\"");
+        staged.desktop.answerError(QString());
+        staged.desktop.whileAsked = [&staged] {
+            staged.app->comeForward(QStringLiteral("/roms/qix.zip"));
+            staged.app->comeForward(QString());
+        };
+        staged.start();
+        QVERIFY(staged.desktop.transcript().contains(QStringLiteral("recent /roms/qix.zip")));
+    }
+
     void aMissingEmulatorIsSaidAtTheStart()
     {
         StagedApp staged;

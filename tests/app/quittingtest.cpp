@@ -158,6 +158,28 @@ private Q_SLOTS:
         QVERIFY(log.text().endsWith(QStringLiteral("asked to close\n")));
     }
 
+    // Another start finds nobody who would take its file and then be gone.
+    void whileTheGameEndsAnotherStartIsLeftToItself()
+    {
+        StagedApp staged;
+        staged.writeCatalogue();
+        staged.start();
+        staged.desktop.windows = test::clickCloseButton;
+        staged.app->launcher().Launchusing(QStringLiteral("windowed"));
+        const LogView& log = *staged.app->logWindow().infomationTextView;
+        QVERIFY(QTest::qWaitFor([&] { return log.text().contains(QStringLiteral("ready")); }, 20000));
+        bool wasRunning = false;
+        connect(staged.app.get(), &Tessera_AppDelegate::everythingIsSaved, this, [&] {
+            wasRunning = staged.app->launcher().isRunning();
+            staged.app->comeForward(QStringLiteral("/roms/qix.zip"));
+        });
+        QTimer::singleShot(0, staged.app.get(), &Tessera_AppDelegate::endWithSession);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(wasRunning);
+        QVERIFY(!staged.desktop.takeTranscript().contains(QStringLiteral("recent /roms/qix.zip")));
+        QVERIFY(log.text().endsWith(QStringLiteral("asked to close\n")));
+    }
+
     // As by a second Ctrl+C, or by a session that ends while the program does.
     void tellingItTwiceDoesNotCutTheGamesEndShort()
     {

@@ -75,6 +75,28 @@ private Q_SLOTS:
         QTRY_COMPARE(heard, (QStringList{QStringLiteral("one"), QStringLiteral("another")}));
     }
 
+    void afterItsEndTheNextStartGoesOnByItself()
+    {
+        QTemporaryDir folder;
+        const QString name = folder.filePath(QStringLiteral("socket"));
+        SingleInstance first(name);
+        QVERIFY(first.listen());
+        QSignalSpy handedOver(&first, &SingleInstance::handedOver);
+        // One that is not answered yet hears that it must.
+        QLocalSocket second;
+        second.connectToServer(name);
+        QVERIFY(second.waitForConnected());
+        second.write("half of a mess");
+        QVERIFY(second.waitForBytesWritten());
+        QCoreApplication::processEvents();
+        first.stopListening();
+        QTRY_COMPARE(second.state(), QLocalSocket::UnconnectedState);
+        QVERIFY(!first.handOver(QString()));
+        SingleInstance third(name);
+        QVERIFY(third.listen());
+        QCOMPARE(handedOver.count(), 0);
+    }
+
     void aSocketLeftByAKilledProgramIsTakenOver()
     {
         QTemporaryDir folder;

@@ -50,6 +50,13 @@ bool SingleInstance::listen()
     return m_server.listen(m_name);
 }
 
+void SingleInstance::stopListening()
+{
+    m_server.close();
+    for (QLocalSocket* socket : m_server.findChildren<QLocalSocket*>())
+        socket->abort();
+}
+
 void SingleInstance::receive()
 {
     while (QLocalSocket* socket = m_server.nextPendingConnection()) {
@@ -62,6 +69,7 @@ void SingleInstance::receive()
                 return;
             const QString path = QString::fromUtf8(socket->readLine(longestPath)).chopped(1);
             socket->write("\n");
+            socket->flush();
             // Later: whoever opens the file may wait for an answer, and this socket is gone by then.
             QMetaObject::invokeMethod(this, [this, path] { Q_EMIT handedOver(path); }, Qt::QueuedConnection);
         });

@@ -20,6 +20,8 @@ public:
     bool handOver(const QString& path);
     /// Becomes the instance that others hand over to.
     bool listen();
+    /// The next start goes on by itself, and so does one that was not answered yet.
+    void stopListening();
 
 Q_SIGNALS:
     /// Another start of the program: bring ours to the front, and open `path` unless it is empty.
