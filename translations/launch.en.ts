@@ -15,6 +15,7 @@
     <message id="launch_endedbadly"><source></source><translation>%1 has ended with status %2.</translation></message>
     <message id="launch_stopping"><source></source><translation>%1 is being stopped…</translation></message>
     <message id="launch_stopped"><source></source><translation>%1 was stopped.</translation></message>
+    <message id="launch_given_up"><source></source><translation>%1 is not started.</translation></message>
     <message id="launch_notstarted"><source></source><translation>“%1” could not be started: %2.</translation></message>
     <message id="launch_leftout"><source></source><translation>Left out for this emulator: %1</translation></message>
     <message id="launch_quitmessage"><source></source><translation>%1 is still running.</translation></message>

@@ -15,6 +15,7 @@
     <message id="launch_endedbadly"><source></source><translation>%1がステータス%2で終了しました。</translation></message>
     <message id="launch_stopping"><source></source><translation>%1を停止しています…</translation></message>
     <message id="launch_stopped"><source></source><translation>%1を停止しました。</translation></message>
+    <message id="launch_given_up"><source></source><translation>%1は起動しません。</translation></message>
     <message id="launch_notstarted"><source></source><translation>“%1”を起動できませんでした: %2</translation></message>
     <message id="launch_leftout"><source></source><translation>このエミュレータ向けに省いたもの: %1</translation></message>
     <message id="launch_quitmessage"><source></source><translation>%1はまだ実行中です。</translation></message>

@@ -148,7 +148,7 @@ void EmulatorTask::stop()
 
 bool EmulatorTask::waitForExit()
 {
-    if (!m_process || m_isWaitedFor)
+    if (!isRunning() || m_isWaitedFor)
         return false;
     m_isWaitedFor = true;
     bool hasEnded = false;

@@ -6,9 +6,8 @@
 
 namespace tessera {
 
-RunEnding::RunEnding(Desktop& desktop, const Patience& patience, QObject* parent)
-    : QObject(parent)
-    , m_desktop(desktop)
+RunEnding::RunEnding(Desktop& desktop, const Patience& patience)
+    : m_desktop(desktop)
     , m_patience(patience)
 {
     m_timer.setSingleShot(true);

@@ -22,7 +22,7 @@ struct Patience {
 class RunEnding : public QObject
 {
 public:
-    explicit RunEnding(Desktop& desktop, const Patience& patience, QObject* parent = nullptr);
+    RunEnding(Desktop& desktop, const Patience& patience);
 
     /// `leader` leads the process group of the run.
     void begin(pid_t leader);

@@ -345,11 +345,28 @@ private Q_SLOTS:
         room.controller.stopProcess();
         QVERIFY(room.controller.confirmQuit());
         QVERIFY(room.desktop.alerts.empty());
-        // But about the one that is to follow.
-        room.desktop.answerAlert("launch_quitmessage", 1);
+        // Nor about the one that is to follow: it has not begun.
         room.controller.Launchusing("exit0");
-        QVERIFY(!room.controller.confirmQuit());
+        QVERIFY(room.controller.confirmQuit());
+        QVERIFY(room.desktop.alerts.empty());
         QVERIFY(room.waitForText("leaving"));
+    }
+
+    void stoppingSaysWhatIsGivenUp()
+    {
+        Room room;
+        room.desktop.windows = test::clickCloseButton;
+        room.controller.Launchusing("windowed");
+        QVERIFY(room.waitForText("ready"));
+        room.controller.Launchusing("first");
+        QSignalSpy status(&room.controller, &LaunchController::statusMessage);
+        // Another one takes its place without a word.
+        room.controller.Launchusing("exit0");
+        QVERIFY(status.isEmpty());
+        room.controller.stopProcess();
+        QCOMPARE(status.takeFirst().first().toString(), QStringLiteral("launch_given_up"));
+        QVERIFY(room.waitForEnd());
+        QVERIFY(!room.text().contains("exit0"));
     }
 
     void aMissingEmulatorAlertsAndTheLaunchGoesOn()

@@ -103,6 +103,7 @@ void LaunchController::Launchusing(const QString& game)
     // Only another start of the program can ask for a game while a command is waited for.
     if (m_parts.task.isWaitedFor())
         return m_parts.desktop.beep();
+    m_next.reset();
     stopProcess();
     if (m_parts.task.isRunning())
         m_next = game;
@@ -285,7 +286,8 @@ void LaunchController::MenuLaunchusing(const QString& title)
 
 void LaunchController::stopProcess()
 {
-    m_next.reset();
+    if (const auto next = std::exchange(m_next, std::nullopt))
+        Q_EMIT statusMessage(qtTrId("launch_given_up").arg(gameName(*next)));
     if (!m_waiting)
         return m_parts.runs.stopProcess();
     m_waiting.reset();
@@ -300,8 +302,8 @@ bool LaunchController::confirmQuit()
         m_parts.desktop.beep();
         return false;
     }
-    // What ends already is no question; what is to follow it is one.
-    if (!isRunning() || (m_parts.task.isEnding() && !m_next))
+    // What ends already is no question, and what is to follow it has not begun.
+    if (!isRunning() || m_parts.task.isEnding())
         return true;
     const Alert alert{aboutGame(textKey("launch_quitmessage")),
                       qtTrId("launch_quitinfo"),
