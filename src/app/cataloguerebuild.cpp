@@ -19,6 +19,12 @@ namespace tessera {
 
 namespace {
 
+// Where the catalogue before lies; empty where there was none.
+QString keptSentence(const QString& kept)
+{
+    return kept.isEmpty() ? QString() : qtTrId("rebuild_kept").arg(kept);
+}
+
 QString identityText(const QString& emulator)
 {
     const auto identity = EmulatorIdentity::of(emulator);
@@ -124,7 +130,8 @@ void CatalogueRebuild::finish(int machines)
     letGo();
     const auto changes = reopen();
     if (!changes) {
-        m_desktop.presentError(changes.error().text(), QString(), {});
+        // Where the old one lies is wanted now more than ever.
+        m_desktop.presentError(changes.error().text(), keptSentence(kept), {});
         return;
     }
     QStringList sentences{qtTrId("rebuild_done").arg(QLocale().toString(machines))};
@@ -140,7 +147,7 @@ void CatalogueRebuild::finish(int machines)
 QString CatalogueRebuild::concluded(QStringList sentences, const QString& kept)
 {
     if (!kept.isEmpty())
-        sentences << qtTrId("rebuild_kept").arg(kept);
+        sentences << keptSentence(kept);
     UserDefaults& settings = m_defaults.defaults();
     if (!settings.synchronize())
         sentences << Failure{"failure_settings", {settings.path()}}.text();
@@ -176,7 +183,7 @@ std::optional<QString> CatalogueRebuild::useFile(const QString& path)
     const auto placed = put(path);
     const auto changes = placed ? reopen() : std::unexpected(placed.error());
     if (!changes) {
-        m_desktop.presentError(changes.error().text(), QString(), {});
+        m_desktop.presentError(changes.error().text(), keptSentence(placed.value_or(QString())), {});
         return std::nullopt;
     }
     // No emulator is known to have made it.
@@ -186,7 +193,7 @@ std::optional<QString> CatalogueRebuild::useFile(const QString& path)
             .arg(QLocale().toString(static_cast<qulonglong>(m_catalogue.records().size())))};
     if (!changes->isEmpty())
         sentences << *changes;
-    const QString message = concluded(sentences, *placed);
+    QString message = concluded(sentences, *placed);
     Q_EMIT statusMessage(message);
     return message;
 }

@@ -187,8 +187,8 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
     const auto list = m_converter->finish();
     if (!list)
         return std::unexpected(list.error());
-    if (list->stopped)
-        return std::unexpected(Failure{"build_cut_off_in", {m_emulator, list->stopped->set}});
+    if (const auto& stopped = list->stopped)
+        return std::unexpected(Failure{"build_cut_off_in", {m_emulator, stopped->set}});
     if (list->games == 0)
         return std::unexpected(Failure{"build_no_list", {m_emulator}});
     if (!list->isWhole)
@@ -211,7 +211,7 @@ std::expected<void, Failure> CatalogueBuild::replace(const ConvertedList& list)
     }
     const auto written = list.text.save(m_output);
     if (!written && !m_keptAs.isEmpty())
-        QFile::remove(m_keptAs);
+        QFile::remove(std::exchange(m_keptAs, QString()));
     return written;
 }
 
