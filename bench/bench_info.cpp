@@ -5,6 +5,7 @@
 
 #include "core/encodings.h"
 #include "info/historytext.h"
+#include "info/textencoding.h"
 
 #include <unicode/unistr.h>
 

@@ -28,7 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto list = parsePropertyList(bytes, QString());
     if (!list)
         return 0;
-    const PropertyList copy = *list;
+    const std::vector<PropertyList> copies(2, *list);
+    const PropertyList& copy = copies.back();
     for (const PropertyList& item : copy.items()) {
         if (item.kind() == PropertyList::Kind::Dictionary)
             (void)item.text("name");

@@ -49,7 +49,7 @@ FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Cat
 
 FavoritesDesk::~FavoritesDesk() = default;
 
-bool FavoritesDesk::isShown() const
+bool FavoritesDesk::isVisible() const
 {
     return m_window && m_window->isVisible();
 }

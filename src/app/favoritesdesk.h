@@ -35,7 +35,7 @@ public:
 
     /// Made when it is first asked for.
     FavoritesWindow& window();
-    bool isShown() const;
+    bool isVisible() const;
     /// Where it was made, what it looks like goes into the settings.
     void remember();
     UCAppController& controller() { return m_controller; }

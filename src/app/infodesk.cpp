@@ -199,7 +199,7 @@ void InfoDesk::follow(KeyWindow::Kind list)
 
 bool InfoDesk::isListShown(KeyWindow::Kind list) const
 {
-    return list == Kind::Main ? m_hub.mainWindow().isVisible() : m_hub.favorites().isShown();
+    return list == Kind::Main ? m_hub.mainWindow().isVisible() : m_hub.favorites().isVisible();
 }
 
 // No set is meant in any other window.

@@ -11,7 +11,7 @@ namespace tessera {
 struct StoredCatalogue {
     TextArena arena;
     std::vector<GameRecord> records;
-    bool isOurLayout = false; ///< byte by byte as we write it: nothing is lost where ours replaces it
+    bool isOurLayout = false; ///< nothing is lost where what we write replaces it
 };
 
 } // namespace tessera

@@ -42,6 +42,14 @@ std::unexpected<Failure> notWritten(const std::string& path)
     return failed("failure_write", path, errno);
 }
 
+std::string pathIn(const std::string& folder, const std::string& name)
+{
+    std::string path = folder;
+    path += '/';
+    path += name;
+    return path;
+}
+
 // A file or folder that is copied, and where to; both are named by an open folder and a name in it.
 struct Pair {
     int from;
@@ -166,7 +174,8 @@ Done ItemCopy::copyFolder(const Pair& item, const struct stat& facts, const std:
     const FileHandle handle(::openat(item.from, item.name.c_str(), flags));
     if (!handle)
         return notRead(item.fromPath);
-    const FolderEntries entries(::fdopendir(::dup(handle.number())));
+    const int listed = ::dup(handle.number());
+    const FolderEntries entries(listed < 0 ? nullptr : ::fdopendir(listed));
     if (!entries)
         return notRead(item.fromPath);
     if (::mkdirat(item.to, item.name.c_str(), 0700) != 0)
@@ -180,9 +189,9 @@ Done ItemCopy::copyFolder(const Pair& item, const struct stat& facts, const std:
         const std::string name = entry->d_name;
         if (name == "." || name == "..")
             continue;
-        const Pair inner{handle.number(), to.number(), name, item.fromPath + '/' + name,
-                         item.toPath + '/' + name};
-        if (const auto copied = copy(inner, place + '/' + name); !copied)
+        const Pair inner{handle.number(), to.number(), name, pathIn(item.fromPath, name),
+                         pathIn(item.toPath, name)};
+        if (const auto copied = copy(inner, pathIn(place, name)); !copied)
             return copied;
         errno = 0;
     }
@@ -208,7 +217,7 @@ Done ItemCopy::copyLink(const Pair& item, const struct stat& facts)
 void ItemCopy::finishFolders(const std::string& at) const
 {
     for (auto folder = m_folders.rbegin(); folder != m_folders.rend(); ++folder) {
-        const std::string path = at + '/' + folder->place;
+        const std::string path = pathIn(at, folder->place);
         const timespec times[2] = {folder->facts.st_atim, folder->facts.st_mtim};
         ::utimensat(AT_FDCWD, path.c_str(), times, 0);
         ::chmod(path.c_str(), folder->facts.st_mode & keptPermissions);
@@ -240,7 +249,7 @@ public:
     void clear(const std::string& name) const
     {
         std::error_code ignored;
-        std::filesystem::remove_all(m_path + '/' + name, ignored);
+        std::filesystem::remove_all(pathIn(m_path, name), ignored);
     }
 
 private:
@@ -303,52 +312,53 @@ struct ItemCopier::Parts {
     std::vector<char> piece = std::vector<char>(pieceSize);
     std::optional<Staging> staging;
 
-    // Anew where somebody took it away.
-    bool hasStaging()
+    // Anew where somebody took it away; nothing where it cannot be made.
+    Staging* usableStaging()
     {
-        if (staging && *staging && isThere(staging->path()))
-            return true;
-        staging.reset();
-        staging.emplace(into);
-        return static_cast<bool>(*staging);
+        if (!staging || !*staging || !isThere(staging->path())) {
+            staging.reset();
+            staging.emplace(into);
+        }
+        return *staging ? &*staging : nullptr;
     }
 
     Done copy(const std::string& name);
-    Done copyThrough(const Pair& item, FileIdentity leftOut);
+    Done copyThrough(const Staging& hidden, const Pair& item, FileIdentity leftOut);
 };
 
 Done ItemCopier::Parts::copy(const std::string& name)
 {
-    const std::string source = from + '/' + name;
-    const std::string destination = into + '/' + name;
+    const std::string source = pathIn(from, name);
+    const std::string destination = pathIn(into, name);
     const FileIdentity leftOut = identityOf(into);
     struct stat facts{};
     if (::lstat(source.c_str(), &facts) == 0 && FileIdentity::of(facts) == leftOut)
         return std::unexpected(Failure{"copy_into_itself", {shown(source)}});
     if (isThere(destination))
         return std::unexpected(Failure{"copy_exists", {shown(destination)}});
-    if (!hasStaging())
+    Staging* const hidden = usableStaging();
+    if (hidden == nullptr)
         return notWritten(destination);
     const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
     const FileHandle fromFolder(::open(from.c_str(), flags));
     if (!fromFolder)
         return notRead(source);
-    const FileHandle toFolder(::open(staging->path().c_str(), flags));
+    const FileHandle toFolder(::open(hidden->path().c_str(), flags));
     if (!toFolder)
         return notWritten(destination);
     const auto copied
-        = copyThrough({fromFolder.number(), toFolder.number(), name, source, destination}, leftOut);
+        = copyThrough(*hidden, {fromFolder.number(), toFolder.number(), name, source, destination}, leftOut);
     if (!copied)
-        staging->clear(name);
+        hidden->clear(name);
     return copied;
 }
 
-Done ItemCopier::Parts::copyThrough(const Pair& item, FileIdentity leftOut)
+Done ItemCopier::Parts::copyThrough(const Staging& hidden, const Pair& item, FileIdentity leftOut)
 {
     ItemCopy copying(watch, leftOut, piece);
     if (const auto copied = copying.copy(item, item.name); !copied)
         return copied;
-    if (!giveName(staging->path() + '/' + item.name, item.toPath)) {
+    if (!giveName(pathIn(hidden.path(), item.name), item.toPath)) {
         return errno == EEXIST ? std::unexpected(Failure{"copy_exists", {shown(item.toPath)}})
                                : notWritten(item.toPath);
     }
@@ -370,7 +380,7 @@ std::expected<void, Failure> ItemCopier::copy(const std::string& name)
 
 std::int64_t itemSize(const std::string& from, const std::string& name, const std::string& into)
 {
-    return sizeAt(AT_FDCWD, (from + '/' + name).c_str(), identityOf(into));
+    return sizeAt(AT_FDCWD, pathIn(from, name).c_str(), identityOf(into));
 }
 
 } // namespace tessera

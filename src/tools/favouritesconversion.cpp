@@ -20,9 +20,10 @@ PropertyList entryOf(const RecordDictionary& record)
 {
     PropertyList entry = PropertyList::dictionary();
     for (const Field field : writtenOrder) {
-        const auto value = record.constFind(fieldText(fieldName(field)));
+        const std::string name(fieldName(field));
+        const auto value = record.constFind(fieldText(name));
         if (value != record.cend())
-            entry.setText(fieldName(field).data(), *value);
+            entry.setText(name.c_str(), *value);
     }
     return entry;
 }

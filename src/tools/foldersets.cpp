@@ -131,7 +131,8 @@ bool FolderSets::ask(std::string_view setName) const
         return false;
     const QString path
         = m_folder + u'/' + QString::fromUtf8(setName.data(), static_cast<qsizetype>(setName.size()));
-    return QFileInfo::exists(path + QLatin1String(archiveEnding.data())) || QFileInfo::exists(path);
+    return QFileInfo::exists(path + QLatin1StringView(QByteArrayView(archiveEnding)))
+        || QFileInfo::exists(path);
 }
 
 } // namespace tessera

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace tessera {
 
-/// Takes a file that is dropped anywhere on a window, its text fields included; of several the first.
-/// Whatever else is dragged stays with the window's own views.
+/// Takes a file that is dropped anywhere on a window, the text fields that it has by then included; of
+/// several the first. Whatever else is dragged stays with the window's own views.
 class FileDrop : public QObject
 {
     Q_OBJECT

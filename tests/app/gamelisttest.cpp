@@ -314,7 +314,8 @@ private Q_SLOTS:
         FontPanel* panel = nullptr;
         for (QWidget* window : QApplication::topLevelWidgets())
             panel = panel != nullptr ? panel : qobject_cast<FontPanel*>(window);
-        QVERIFY(panel != nullptr);
+        if (panel == nullptr)
+            QFAIL("no panel is shown");
         panel->setPanelFont(QFontDatabase::font(QStringLiteral("DejaVu Sans"), QStringLiteral("Bold"), 12));
         Q_EMIT panel->fontChosen();
         const auto font = m_list->model()->index(0, 0).data(Qt::FontRole).value<QFont>();

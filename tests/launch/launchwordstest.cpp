@@ -15,6 +15,8 @@
 #include "support/testmain.h"
 #include "support/words.h"
 
+#include <QPushButton>
+
 using namespace tessera;
 
 namespace {

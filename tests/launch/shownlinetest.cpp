@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 
 using namespace tessera;
 

@@ -93,7 +93,7 @@ private Q_SLOTS:
         const std::vector<PropertyList> entries = list->items();
         QCOMPARE(entries.size(), std::size_t(2));
         for (const std::string_view field : fieldNames)
-            QCOMPARE(entries[0].text(field.data()), record.value(fieldText(field)));
+            QCOMPARE(entries[0].text(std::string(field).c_str()), record.value(fieldText(field)));
         QCOMPARE(entries[1].text("name"), QStringLiteral("qix"));
         QVERIFY(!entries[1].text("title"));
     }

@@ -13,6 +13,8 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+#include <fstream>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -321,9 +323,7 @@ private Q_SLOTS:
         Stage stage;
         const QByteArray name = "caf\xE9\n\"x\".zip";
         const std::string path = stage.path("roms/").toStdString() + name.toStdString();
-        std::FILE* file = std::fopen(path.c_str(), "w");
-        QVERIFY(file != nullptr);
-        std::fclose(file);
+        QVERIFY(std::ofstream(path).is_open());
         stage.check();
         stage.separate();
         QCOMPARE(stage.information(), "4 ROMs ( Support: 1 / Moved: 3 )");

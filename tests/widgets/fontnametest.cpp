@@ -50,7 +50,8 @@ private Q_SLOTS:
     {
         int tried = 0;
         for (const QString& family : QFontDatabase::families()) {
-            if (!QFontDatabase::hasFamily(family))
+            // Of two foundries' families of one name ("C059 [urw]") the toolkit shows either.
+            if (!QFontDatabase::hasFamily(family) || family.endsWith(u']'))
                 continue;
             for (const QString& style : QFontDatabase::styles(family)) {
                 const QFont font = QFontDatabase::font(family, style, 12);

@@ -11,8 +11,24 @@
 #include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
+#include <vector>
 
 namespace tessera {
+
+namespace {
+
+// As the system takes them: one behind the other, and none behind the last.
+std::vector<char*> pointersTo(std::vector<QByteArray>& words)
+{
+    std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
+    for (QByteArray& word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+} // namespace
 
 Failure becomeEmulator(const QString& executable, const QStringList& arguments)
 {
@@ -21,26 +37,17 @@ Failure becomeEmulator(const QString& executable, const QStringList& arguments)
     words.reserve(static_cast<std::size_t>(arguments.size()) + 1);
     for (const QString& argument : arguments)
         words.push_back(argument.toLocal8Bit());
-    std::vector<char*> pointers;
-    for (QByteArray& word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-
     const QStringList ours = emulatorEnvironment().toStringList();
     std::vector<QByteArray> environment;
     environment.reserve(static_cast<std::size_t>(ours.size()));
     for (const QString& variable : ours)
         environment.push_back(variable.toLocal8Bit());
-    std::vector<char*> variables;
-    for (QByteArray& variable : environment)
-        variables.push_back(variable.data());
-    variables.push_back(nullptr);
 
     std::fflush(stdout);
     const QByteArray folder = QFile::encodeName(QFileInfo(executable).absolutePath());
     const int ownStderr = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
     if (dup2(STDOUT_FILENO, STDERR_FILENO) >= 0 && chdir(folder.constData()) == 0)
-        execve(program.constData(), pointers.data(), variables.data());
+        execve(program.constData(), pointersTo(words).data(), pointersTo(environment).data());
     const auto failure = Failure{"failure_exec", {executable, QString::fromLocal8Bit(std::strerror(errno))}};
     dup2(ownStderr, STDERR_FILENO);
     return failure;

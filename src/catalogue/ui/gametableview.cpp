@@ -145,7 +145,7 @@ void GameTableView::setModel(QAbstractItemModel* model)
         m_rowsSelected = rowsSelected();
     });
     connect(model, &QAbstractItemModel::layoutChanged, this, [this] {
-        if (m_firstSelected != firstSelected() || m_rowsSelected != rowsSelected())
+        if (std::exchange(m_firstSelected, {}) != firstSelected() || m_rowsSelected != rowsSelected())
             Q_EMIT selectionDidChange();
     });
 }

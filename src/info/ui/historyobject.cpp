@@ -99,8 +99,8 @@ void HistoryObject::take(Loaded& which, int load,
     if (isLoading())
         return;
     m_window.showLoading(false);
-    if (m_waiting)
-        showFound(*std::exchange(m_waiting, std::nullopt));
+    if (const auto waiting = std::exchange(m_waiting, std::nullopt))
+        showFound(*waiting);
 }
 
 void HistoryObject::searchHistoryInfo(const QString& name)

@@ -18,8 +18,7 @@ constexpr int ownItem = 6;
 // A site without a host has no address; its name stands there.
 QString titleOf(int item, const DefaultsController& defaults)
 {
-    const QString name
-        = qtTrId("infosite_number").arg(informationSites[static_cast<std::size_t>(item)].number);
+    QString name = qtTrId("infosite_number").arg(informationSites[static_cast<std::size_t>(item)].number);
     if (item >= templates)
         return name;
     const auto text = tessera::siteTemplate(item, [&](const ChosenKey& key) { return defaults.text(key); });

@@ -82,8 +82,8 @@ void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCa
     }
     m_workbench.desktop().log(conversiontexts::logged);
     // Before it is saved, who saves it knows that it is a part.
-    if (list->stopped)
-        m_workbench.inform(stopReason(*list->stopped).text());
+    if (const auto& stopped = list->stopped)
+        m_workbench.inform(stopReason(*stopped).text());
     const auto path = m_workbench.desktop().savePanel(
         {QStringLiteral("Save XMLlist file"), QStringLiteral("Tessera"), {QStringLiteral("xml")}});
     if (path)
@@ -97,8 +97,8 @@ void ConversionTool::save(const QString& path, ConvertedList list)
     // What a job holds is copied; a list is not.
     auto held = std::make_shared<ConvertedList>(std::move(list));
     QString report = conversionReport(held->games);
-    if (held->stopped)
-        report += QStringLiteral("  ") + stopReason(*held->stopped).text();
+    if (const auto& stopped = held->stopped)
+        report += QStringLiteral("  ") + stopReason(*stopped).text();
     m_workbench.run(
         [path, held](const Job&) { return held->text.save(path); },
         [this, report](const std::expected<void, Failure>& written, bool) { conclude(written, report); },

@@ -162,7 +162,7 @@ QString SeparationTool::leftUndone(const SeparationCounts& counts, std::size_t a
 {
     if (!counts.isCancelled)
         return {};
-    const auto done = static_cast<std::size_t>(counts.supported + counts.moved);
+    const int done = counts.supported + counts.moved;
     return Failure{"separation_undone", {QString::number(done), QString::number(all)}}.text();
 }
 

@@ -93,6 +93,7 @@ void StagedVerbs::writeStoreOf(const QString& name, const std::vector<std::strin
 {
     std::vector<GameRecord> games;
     std::vector<std::string> titles;
+    titles.reserve(sets.size());
     for (const std::string& set : sets)
         titles.push_back("Title of " + set);
     for (std::size_t i = 0; i < sets.size(); ++i) {
