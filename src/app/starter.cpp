@@ -67,10 +67,14 @@ std::string ownFolder()
 int main(int argc, char* argv[])
 {
     const std::string program = isForVerbs({argv + 1, argv + argc}) ? "tessera-verbs" : "tessera-windows";
-    // Beside this one where it was built, in a folder of its own where it was installed.
     const std::string folder = ownFolder();
-    for (const std::string& place : {folder + program, folder + TESSERA_PROGRAMS "/" + program})
-        execv(place.c_str(), argv);
+    // Beside this one where it was built, in a folder of its own where it was installed.
+    for (const char* place : {"", TESSERA_PROGRAMS "/"}) {
+        std::string path = folder;
+        path += place;
+        path += program;
+        execv(path.c_str(), argv);
+    }
     std::fprintf(stderr, "tessera: %s%s cannot be started (%s)\n", folder.c_str(), program.c_str(),
                  std::strerror(errno));
     return 1;

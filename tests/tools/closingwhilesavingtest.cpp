@@ -4,6 +4,7 @@
 #include "tools/utilitystage.h"
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QSignalSpy>
 
 #include <optional>
