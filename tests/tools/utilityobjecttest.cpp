@@ -3,7 +3,6 @@
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "tools/ui/separationpage.h"
-#include "tools/ui/verificationpage.h"
 #include "tools/utilitystage.h"
 
 #include <QCheckBox>
@@ -12,7 +11,6 @@
 #include <QListWidget>
 #include <QLayout>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QToolButton>
 
@@ -239,109 +237,6 @@ private Q_SLOTS:
         QCOMPARE(stage.information(), "The conversion work is finished.  ( 1 games )  " + reason);
         QVERIFY(stage.read("out.xml").contains("<nextObjectID>102</nextObjectID>"));
         stage.desktop.takeTranscript();
-    }
-
-    void closingWhileAJobRunsAsksFirst_data()
-    {
-        QTest::addColumn<bool>("byKey");
-        QTest::addColumn<bool>("stops");
-        QTest::newRow("Escape, and it goes on") << true << false;
-        QTest::newRow("Escape, and it is stopped") << true << true;
-        QTest::newRow("closing, and it goes on") << false << false;
-        QTest::newRow("closing, and it is stopped") << false << true;
-    }
-
-    void closingWhileAJobRunsAsksFirst()
-    {
-        QFETCH(bool, byKey);
-        QFETCH(bool, stops);
-        Stage stage;
-        stage.utility.utilityOrderFront();
-        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
-        QSignalSpy status(&stage.utility, &UtilityObject::statusMessage);
-        // An emulator that is verified ends when the test says so.
-        const QString go = stage.path("go");
-        qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
-        stage.rooms.emulator = stage.script("while [ ! -e '" + go.toUtf8()
-                                            + "' ]; do sleep 0.02; done; echo romset a is good");
-        stage.window.pageList->setCurrentRow(3);
-        QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
-        QVERIFY(stage.isBusy());
-        stage.desktop.answerAlert("tool_close_Message", stops ? 1 : 0);
-        if (byKey)
-            QTest::keyClick(&stage.window, Qt::Key_Escape);
-        else
-            stage.window.close();
-        QCOMPARE(stage.window.isVisible(), !stops);
-        QCOMPARE(stage.isBusy(), !stops);
-        QCOMPARE(stage.desktop.alerts.back().escape, std::optional(0));
-        if (stops) {
-            QTRY_COMPARE(status.size(), 1);
-            QCOMPARE(status.front().front().toString(), "tool_undone");
-            QVERIFY(stage.desktop.transcript().contains("log tool_undone"));
-        } else {
-            stage.file("go", "");
-            QTRY_VERIFY(!stage.isBusy());
-            QCOMPARE(stage.window.verificationPage->rows->size(), std::size_t(1));
-            QCOMPARE(status.size(), 0);
-            // Nothing is at work any more, and nothing is asked.
-            QTest::keyClick(&stage.window, Qt::Key_Escape);
-            QVERIFY(!stage.window.isVisible());
-        }
-        stage.desktop.takeTranscript();
-        qunsetenv("XDG_CACHE_HOME");
-    }
-
-    void whatEndsWhileTheQuestionStandsWaitsForTheAnswer_data()
-    {
-        QTest::addColumn<bool>("stops");
-        QTest::newRow("it goes on") << false;
-        QTest::newRow("it is stopped") << true;
-    }
-
-    // The job is done long before somebody has read the question.
-    void whatEndsWhileTheQuestionStandsWaitsForTheAnswer()
-    {
-        QFETCH(bool, stops);
-        Stage stage;
-        stage.utility.utilityOrderFront();
-        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
-        stage.window.pageList->setCurrentRow(3);
-        stage.window.verificationPage->verifyromsTextField->setText(
-            stage.file("verifyroms.txt", "romset a is bad\n"));
-        QSignalSpy status(&stage.utility, &UtilityObject::statusMessage);
-        stage.desktop.answerAlert("tool_close_Message", stops ? 1 : 0);
-        stage.desktop.whileAsked = [] { QTest::qWait(300); };
-        if (!stops)
-            stage.desktop.answerSave("verifyroms_convert", stage.path("out.txt"));
-        QTest::mouseClick(stage.window.verificationPage->button_convert2, Qt::LeftButton);
-        QVERIFY(stage.isBusy());
-        stage.window.close();
-        QCOMPARE(stage.window.isVisible(), !stops);
-        if (stops)
-            QTRY_COMPARE(status.size(), 1);
-        else
-            QTRY_COMPARE(stage.information(), "Saved a Verifyroms text.");
-        QCOMPARE(stage.desktop.transcript().first(), "alert tool_close_Message");
-        QCOMPARE(stage.read("out.txt").isEmpty(), stops);
-        stage.desktop.takeTranscript();
-    }
-
-    void whatWasCancelledIsNotAskedAbout()
-    {
-        Stage stage;
-        stage.utility.utilityOrderFront();
-        QVERIFY(QTest::qWaitForWindowActive(&stage.window));
-        qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
-        stage.rooms.emulator = stage.script("exec sleep 60");
-        stage.window.pageList->setCurrentRow(3);
-        QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
-        QTest::mouseClick(stage.foot.button_cancel, Qt::LeftButton);
-        QVERIFY(stage.isBusy());
-        stage.window.close();
-        QVERIFY(!stage.window.isVisible());
-        QCOMPARE(stage.desktop.takeTranscript().filter("alert"), QStringList());
-        qunsetenv("XDG_CACHE_HOME");
     }
 
     // The information line has what the buttons of the page that is shown leave.
