@@ -4,10 +4,8 @@ namespace tessera {
 
 std::optional<QString> siteTemplate(int index, const SettingReader& settingOf)
 {
-    if (index == keptSite)
-        return std::nullopt;
     if (index < 0 || index >= static_cast<int>(informationSites.size()))
-        return QString();
+        return index == keptSite ? std::nullopt : std::optional(QString());
     const InformationSite& site = informationSites[static_cast<std::size_t>(index)];
     return templateAt(hostText(site.host, settingOf), QLatin1StringView(site.page));
 }
