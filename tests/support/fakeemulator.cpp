@@ -136,7 +136,7 @@ int plays(const std::string& game, int argc, char* argv[])
     } else if (game == "cutoff") {
         std::fputs("a\xE3\x81", stdout);
     } else if (game.starts_with("split")) {
-        // Characters of two to four bytes, the first of each length among them: the game's number says which.
+        // Characters of two to four bytes, with the first leads of three and of four; the number says which.
         constexpr std::array characters{"é", "あ", "ก", "😀"};
         const char* character = characters.at(static_cast<std::size_t>(number(5)));
         std::fputc(character[0], stdout);

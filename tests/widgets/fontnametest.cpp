@@ -50,8 +50,7 @@ private Q_SLOTS:
     {
         int tried = 0;
         for (const QString& family : QFontDatabase::families()) {
-            // Of two foundries' families of one name ("C059 [urw]") the toolkit shows either.
-            if (!QFontDatabase::hasFamily(family) || family.endsWith(u']'))
+            if (!QFontDatabase::hasFamily(family))
                 continue;
             for (const QString& style : QFontDatabase::styles(family)) {
                 const QFont font = QFontDatabase::font(family, style, 12);
