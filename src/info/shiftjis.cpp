@@ -100,7 +100,7 @@ std::optional<std::string> strictShiftJis(std::string_view bytes)
 {
     static const PairTable pairs;
     std::string text;
-    std::array<char, 32 * 1024> piece;
+    std::array<char, std::size_t{32} * 1024> piece;
     while (!bytes.empty()) {
         char* const end = decode(pairs, bytes, piece.data(), piece.data() + piece.size());
         if (end == nullptr)

@@ -33,6 +33,8 @@ private Q_SLOTS:
         QTest::newRow("a family that begins like another")
             << "DejaVu Sans Mono" << "Bold" << "DejaVu Sans Mono Bold";
         QTest::newRow("regular") << "Inter" << "Regular" << "Inter";
+        QTest::newRow("a family with its maker")
+            << "DejaVu Sans [PfEd]" << "Bold Oblique" << "DejaVu Sans [PfEd] Bold Oblique";
         QTest::newRow("semi bold") << "Inter" << "Semi Bold" << "Inter Semi Bold";
     }
 
