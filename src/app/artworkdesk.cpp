@@ -8,7 +8,7 @@
 #include "app/preferenceswindow.h"
 #include "app/sidepanel.h"
 #include "app/supportpage.h"
-#include "app/tessera_appdelegate.h"
+#include "app/windows.h"
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/downloadpanel.h"
 #include "artwork/ui/downloadprocessing.h"
@@ -18,6 +18,7 @@
 #include "artwork/ui/snapsites.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamelistcontroller.h"
+#include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bringforward.h"
 
@@ -31,18 +32,14 @@
 
 namespace tessera {
 
-ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
-                         std::function<void(QWidget& window)> made, QObject* parent)
+ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
     : QObject(parent)
-    , m_hub(hub)
-    , m_desktop(desktop)
-    , m_defaults(defaults)
-    , m_made(std::move(made))
-    , m_folder(desktop, defaults)
-    , m_aspect(defaults)
+    , m_parts(parts)
+    , m_folder(parts.desktop, parts.defaults)
+    , m_aspect(parts.defaults)
 {
-    GameListController& list = hub.gameList();
-    PicturePane& pane = *hub.mainWindow().sidePanel->picturePane;
+    GameListController& list = m_parts.list;
+    PicturePane& pane = *m_parts.mainWindow.sidePanel->picturePane;
     m_aspect.setPopup(*pane.aspectPop);
     show(
         m_main, pane, [&list] { return list.tableViewSelectionROM(); },
@@ -51,6 +48,8 @@ ArtworkDesk::ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsCon
     connect(m_main.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
     connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);
+    connect(&m_parts.paths, &PathChooser::chosen, this, &ArtworkDesk::pathChosen);
+    connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &ArtworkDesk::addPage);
     connect(&m_preview, &PictureLoader::loaded, this,
             [this](const QString&, const QImage& image) { imageWindow().show(image, m_previewName); });
     connect(&m_preview, &PictureLoader::failed, this,
@@ -73,13 +72,13 @@ void ArtworkDesk::show(Shown& shown, AspectView& view, std::function<QString()> 
                        std::function<QString()> parent)
 {
     shown = std::make_unique<SnapshotController>(
-        SnapshotParts{m_desktop, m_defaults, m_folder, view, std::move(name), std::move(parent)});
+        SnapshotParts{m_parts.desktop, m_parts.defaults, m_folder, view, std::move(name), std::move(parent)});
     connect(shown.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
 }
 
 void ArtworkDesk::joinFavorites(FavoritesWindow& window)
 {
-    UCAppController& favorites = m_hub.favorites().controller();
+    UCAppController& favorites = m_parts.favorites.controller();
     PicturePane& pane = *window.sidePanel->picturePane;
     m_aspect.addPopup(*pane.aspectPop);
     show(
@@ -93,7 +92,7 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
 
 void ArtworkDesk::joinMini(MiniWindow& window)
 {
-    MiniDesk& mini = m_hub.mini();
+    MiniDesk& mini = m_parts.mini;
     connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
     window.shotTextField2->setText(m_folder.label());
     show(
@@ -114,7 +113,7 @@ void ArtworkDesk::joinMini(MiniWindow& window)
 ArtworkDesk::Shown& ArtworkDesk::shown()
 {
     using Kind = KeyWindow::Kind;
-    const Kind key = m_hub.keyWindow();
+    const Kind key = m_parts.windows.key().kind();
     if (m_favorites && (key == Kind::Favorites || key == Kind::FavoritesEditor))
         return m_favorites;
     return m_mini && key == Kind::Mini ? m_mini : m_main;
@@ -127,8 +126,8 @@ SnapshotController& ArtworkDesk::snapshot()
 
 void ArtworkDesk::snap_change()
 {
-    m_hub.gameList().tableViewSelectionDidChange();
-    m_hub.favorites().controller().tableViewSelectionDidChange();
+    m_parts.list.tableViewSelectionDidChange();
+    m_parts.favorites.controller().tableViewSelectionDidChange();
     if (m_mini)
         m_mini->showSelection();
 }
@@ -191,7 +190,8 @@ ImageWindow& ArtworkDesk::imageWindow()
 {
     if (!m_imageWindow) {
         m_imageWindow = std::make_unique<ImageWindow>();
-        m_made(*m_imageWindow);
+        m_parts.windows.carryMenuKeys(*m_imageWindow);
+        m_parts.windows.places().keep(*m_imageWindow, keys::ImageWindowGeometry);
     }
     return *m_imageWindow;
 }
@@ -199,7 +199,7 @@ ImageWindow& ArtworkDesk::imageWindow()
 SnapSites& ArtworkDesk::sites()
 {
     if (!m_sites)
-        m_sites = std::make_unique<SnapSites>(m_defaults);
+        m_sites = std::make_unique<SnapSites>(m_parts.defaults);
     return *m_sites;
 }
 
@@ -207,7 +207,7 @@ DownloadProcessing& ArtworkDesk::download()
 {
     if (!m_download) {
         m_download = std::make_unique<DownloadProcessing>(
-            m_desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
+            m_parts.desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
         connect(m_download.get(), &DownloadProcessing::statusMessage, this, &ArtworkDesk::commandMessage);
         connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
@@ -227,18 +227,19 @@ DownloadPanel& ArtworkDesk::downloadPanel()
         m_downloadPanel = std::make_unique<DownloadPanel>();
         connect(m_downloadPanel->cancelButton, &QPushButton::clicked, m_download.get(),
                 &DownloadProcessing::cancel);
-        m_made(*m_downloadPanel);
+        m_parts.windows.carryMenuKeys(*m_downloadPanel);
+        m_parts.windows.places().keep(*m_downloadPanel, keys::DownloadPanelGeometry);
     }
     return *m_downloadPanel;
 }
 
-void ArtworkDesk::addPage(PreferencesWindow& preferences)
+void ArtworkDesk::addPage()
 {
     if (m_page != nullptr)
         return;
-    m_page = new PicturesPage(m_defaults);
+    m_page = new PicturesPage(m_parts.defaults);
     sites().setPage(*m_page);
-    preferences.supportPage().addPage(qtTrId("support_pictures"), m_page);
+    m_parts.preferences.supportPage().addPage(qtTrId("support_pictures"), m_page);
 }
 
 void ArtworkDesk::pathChosen(const QString& key)

@@ -17,14 +17,19 @@ namespace tessera {
 
 class DownloadPanel;
 class DownloadProcessing;
+class FavoritesDesk;
 class FavoritesWindow;
+class GameListController;
 class ImageWindow;
+class MainWindow;
+class MiniDesk;
 class MiniWindow;
+class PathChooser;
 class PicturePane;
 class PicturesPage;
 class PreferencesWindow;
 class SnapSites;
-class Tessera_AppDelegate;
+class Windows;
 
 /// Joins the pictures to the lists whose selection they follow, and to menus and preferences. Windows, page
 /// and download are made when they are first asked for.
@@ -33,9 +38,18 @@ class ArtworkDesk : public QObject
     Q_OBJECT
 
 public:
-    /// `made` gets each new window, to give it keys and a place.
-    ArtworkDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
-                std::function<void(QWidget& window)> made, QObject* parent = nullptr);
+    struct Parts {
+        Windows& windows;
+        Desktop& desktop;
+        DefaultsController& defaults;
+        MainWindow& mainWindow;
+        GameListController& list;
+        FavoritesDesk& favorites;
+        MiniDesk& mini;
+        PathChooser& paths;
+        PreferencesWindow& preferences;
+    };
+    explicit ArtworkDesk(const Parts& parts, QObject* parent = nullptr);
     ~ArtworkDesk() override;
 
     SnapFolder& folder() { return m_folder; }
@@ -57,10 +71,6 @@ public:
     void addFavoritesMenu(QAbstractItemView& list);
     void joinFavorites(FavoritesWindow& window);
     void joinMini(MiniWindow& window);
-    /// Puts the page on pictures into the preferences, once.
-    void addPage(PreferencesWindow& preferences);
-    /// A folder was chosen anew.
-    void pathChosen(const QString& key);
 
 public Q_SLOTS:
     /// The lists' selection handlers again.
@@ -89,15 +99,14 @@ private:
               std::function<QString()> parent);
     void show(Shown& shown, AspectView& view, std::function<QString()> name, std::function<QString()> parent);
     Shown& shown();
+    void addPage();
+    void pathChosen(const QString& key);
     void fillKinds(QMenu& menu);
     void fillFolders(QMenu& menu);
     DownloadPanel& downloadPanel();
     void showDownload();
 
-    Tessera_AppDelegate& m_hub;
-    Desktop& m_desktop;
-    DefaultsController& m_defaults;
-    std::function<void(QWidget& window)> m_made;
+    Parts m_parts;
     SnapFolder m_folder;
     AspectChoice m_aspect;
     Shown m_main;

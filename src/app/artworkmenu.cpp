@@ -1,8 +1,7 @@
 // The menus of the pictures: kinds, ratios and folders, and those of the lists, which say what a game has.
 
 #include "app/artworkdesk.h"
-#include "app/mainwindow.h"
-#include "app/tessera_appdelegate.h"
+#include "app/windows.h"
 #include "artwork/artworkkinds.h"
 #include "core/failure.h"
 
@@ -74,7 +73,7 @@ void ArtworkDesk::fillFolders(QMenu& menu)
 
 void ArtworkDesk::addContextMenu(QAbstractItemView& list)
 {
-    const QMenuBar& bar = *m_hub.mainWindow().menuBar();
+    const QMenuBar& bar = m_parts.windows.menus();
     for (const ListCommand& command : listCommands)
         list.addAction(bar.findChild<QAction*>(QLatin1String(command.name)));
 }

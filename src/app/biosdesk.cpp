@@ -1,11 +1,14 @@
 #include "app/biosdesk.h"
 
+#include "app/windows.h"
 #include "bios/ui/bioslist.h"
 #include "bios/ui/biospanel.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "launch/ui/generalpage.h"
 
 namespace tessera {
 
-BiosDesk::BiosDesk(std::function<BiosParts(BiosPanel& panel)> parts, QObject* parent)
+BiosDesk::BiosDesk(Parts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
 {
@@ -17,7 +20,13 @@ BiosPanel& BiosDesk::panel()
 {
     if (!m_panel) {
         m_panel = std::make_unique<BiosPanel>();
-        m_list = std::make_unique<Bioslist>(m_parts(*m_panel));
+        m_parts.windows.places().keep(*m_panel, keys::BiosPanelGeometry);
+        m_parts.windows.watch(*m_panel, KeyWindow::Kind::Bios);
+        m_parts.windows.carryMenuKeys(*m_panel);
+        m_list = std::make_unique<Bioslist>(
+            BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_parts.popup, m_undo, m_parts.ownFile,
+                      [this] { return m_parts.general.emulatorNow(); },
+                      [this] { return m_parts.list.tableViewSelectionROM(); }});
         m_list->awakeFromNib();
     }
     return *m_panel;
@@ -27,6 +36,11 @@ Bioslist& BiosDesk::list()
 {
     panel();
     return *m_list;
+}
+
+void BiosDesk::ViewBiosList()
+{
+    list().ViewBiosList();
 }
 
 } // namespace tessera

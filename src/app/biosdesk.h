@@ -3,14 +3,19 @@
 #include <QObject>
 #include <QUndoStack>
 
-#include <functional>
 #include <memory>
+
+class QComboBox;
 
 namespace tessera {
 
 class BiosPanel;
 class Bioslist;
-struct BiosParts;
+class DefaultsController;
+class Desktop;
+class GameListController;
+class GeneralPage;
+class Windows;
 
 /// The BIOS panel, made when it is first asked for.
 class BiosDesk : public QObject
@@ -18,8 +23,16 @@ class BiosDesk : public QObject
     Q_OBJECT
 
 public:
-    /// `parts` gives what the list needs, for a panel; it is asked once.
-    explicit BiosDesk(std::function<BiosParts(BiosPanel& panel)> parts, QObject* parent = nullptr);
+    struct Parts {
+        Windows& windows;
+        Desktop& desktop;
+        DefaultsController& defaults;
+        GeneralPage& general; ///< knows the emulator to ask
+        QComboBox& popup; ///< of the launch options
+        GameListController& list;
+        QString ownFile; ///< the user's copy of the list
+    };
+    explicit BiosDesk(Parts parts, QObject* parent = nullptr);
     ~BiosDesk() override;
 
     BiosPanel& panel();
@@ -27,8 +40,11 @@ public:
     /// Of the list's edits.
     QUndoStack& undoStack() { return m_undo; }
 
+public Q_SLOTS:
+    void ViewBiosList();
+
 private:
-    std::function<BiosParts(BiosPanel& panel)> m_parts;
+    Parts m_parts;
     QUndoStack m_undo;
     std::unique_ptr<BiosPanel> m_panel;
     std::unique_ptr<Bioslist> m_list;

@@ -5,7 +5,6 @@
 #include <QObject>
 
 #include <expected>
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -13,8 +12,12 @@ namespace tessera {
 
 class Catalogue;
 class CatalogueBuild;
+class CatalogueSaving;
 class DefaultsController;
 class Desktop;
+class Favourites;
+class GeneralPage;
+class PathChooser;
 class RebuildStrip;
 struct CatalogueComparison;
 
@@ -24,12 +27,17 @@ class CatalogueRebuild : public QObject
     Q_OBJECT
 
 public:
-    /// `emulator` gives the path of the emulator to ask, empty where there is none; `chooseEmulator` lets the
-    /// user choose one; `favourites` are set names, for what differs between two catalogues.
-    CatalogueRebuild(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
-                     RebuildStrip& strip, std::function<QString()> emulator,
-                     std::function<void()> chooseEmulator, std::function<QStringList()> favourites,
-                     QObject* parent = nullptr);
+    struct Parts {
+        Catalogue& catalogue;
+        CatalogueSaving& saving;
+        Desktop& desktop;
+        DefaultsController& defaults;
+        RebuildStrip& strip;
+        GeneralPage& general; ///< knows the emulator to ask
+        PathChooser& paths;
+        const Favourites& favourites; ///< of which it is said where they differ
+    };
+    explicit CatalogueRebuild(const Parts& parts, QObject* parent = nullptr);
     ~CatalogueRebuild() override;
 
     bool isRunning() const { return m_build != nullptr; }
@@ -64,13 +72,7 @@ private:
     std::expected<QString, Failure> put(const QString& path);
     std::expected<QString, Failure> reopen();
 
-    Catalogue& m_catalogue;
-    Desktop& m_desktop;
-    DefaultsController& m_defaults;
-    RebuildStrip& m_strip;
-    std::function<QString()> m_emulator;
-    std::function<void()> m_chooseEmulator;
-    std::function<QStringList()> m_favourites;
+    Parts m_parts;
     std::unique_ptr<CatalogueBuild> m_build;
     QString m_identity; ///< of the emulator that is being asked
 };

@@ -1,7 +1,10 @@
 #include "app/commandsdesk.h"
 
+#include "app/artworkdesk.h"
 #include "app/preferenceswindow.h"
+#include "catalogue/ui/gamelistcontroller.h"
 #include "core/atomicfile.h"
+#include "launch/profilecache.h"
 #include "launch/ui/commandbar.h"
 #include "launch/ui/commandcontroller.h"
 #include "launch/ui/commandlinefoot.h"
@@ -35,11 +38,14 @@ constexpr std::array audits{
 
 } // namespace
 
-CommandsDesk::CommandsDesk(Parts parts, QObject* parent)
+CommandsDesk::CommandsDesk(const Parts& parts, QObject* parent)
     : QObject(parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
 {
     connect(&m_parts.logWindow, &LogWindow::aboutToShow, this, &CommandsDesk::make);
+    connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &CommandsDesk::addLine);
+    connect(&m_parts.list, &GameListController::selectionChanged, this, &CommandsDesk::showLine);
+    connect(&m_parts.profiles, &ProfileCache::answered, this, &CommandsDesk::showLine);
 }
 
 CommandsDesk::~CommandsDesk() = default;
@@ -50,11 +56,11 @@ void CommandsDesk::make()
         return;
     m_bar = new CommandBar(m_parts.defaults);
     m_parts.logWindow.setCommands(m_bar);
-    m_controller = std::make_unique<CommandController>(CommandParts{m_parts.desktop, *m_bar, m_parts.task,
-                                                                    m_parts.runs, m_parts.launches,
-                                                                    m_parts.paths, m_parts.selectedGame});
+    m_controller = std::make_unique<CommandController>(
+        CommandParts{m_parts.desktop, *m_bar, m_parts.task, m_parts.runs, m_parts.launches, m_parts.paths,
+                     [this] { return m_parts.list.tableViewSelectionROM(); }});
     connect(m_controller.get(), &CommandController::statusMessage, this, &CommandsDesk::statusMessage);
-    for (QObject* stop : m_parts.stops)
+    for (QObject* stop : m_stops)
         m_controller->leaveOpen(*stop);
 }
 
@@ -81,29 +87,27 @@ void CommandsDesk::verifySelected()
     controller().MiniAudit(audits.front().tag);
 }
 
-void CommandsDesk::addLineTo(PreferencesWindow& preferences)
+void CommandsDesk::addLine()
 {
-    connect(&preferences, &PreferencesWindow::aboutToShow, this, [this, &preferences] {
-        if (!m_foot) {
-            m_foot = new CommandLineFoot;
-            preferences.setFoot(m_foot);
-            connect(&m_parts.defaults, &DefaultsController::changed, m_foot, [this] { showLine(); });
-        }
-        showLine();
-    });
+    if (!m_foot) {
+        m_foot = new CommandLineFoot;
+        m_parts.preferences.setFoot(m_foot);
+        connect(&m_parts.defaults, &DefaultsController::changed, this, &CommandsDesk::showLine);
+    }
+    showLine();
 }
 
 void CommandsDesk::showLine()
 {
     if (!m_foot || !m_foot->window()->isVisible())
         return;
-    const ShownLine shown = m_parts.launches.shownLine(m_parts.selectedGame());
+    const ShownLine shown = m_parts.launches.shownLine(m_parts.list.tableViewSelectionROM());
     m_foot->showLine(shown.executable, shown.line);
 }
 
 void CommandsDesk::saveLauncher()
 {
-    const QString game = m_parts.selectedGame();
+    const QString game = m_parts.list.tableViewSelectionROM();
     if (game.isEmpty())
         return m_parts.desktop.beep();
     const auto path = m_parts.desktop.savePanel(
@@ -111,10 +115,10 @@ void CommandsDesk::saveLauncher()
     if (!path)
         return;
     const ShownLine shown = m_parts.launches.shownLine(game);
-    const QString title = m_parts.selectedTitle();
+    const QString title = m_parts.list.tableViewSelectionTitleE();
     const QByteArray entry
         = desktopEntry(title.isEmpty() ? game : title, QStringList{shown.executable} + shown.line.arguments,
-                       QFileInfo(shown.executable).path(), m_parts.selectedPicture());
+                       QFileInfo(shown.executable).path(), m_parts.artwork.pictureFile());
     const std::string_view bytes(entry.constData(), static_cast<std::size_t>(entry.size()));
     if (const auto written = writeAtomically(*path, std::array{bytes}); !written) {
         Q_EMIT statusMessage(written.error().text());
@@ -144,7 +148,7 @@ void CommandsDesk::leaveOpen(QObject& stop)
     if (m_controller)
         m_controller->leaveOpen(stop);
     else
-        m_parts.stops << &stop;
+        m_stops << &stop;
 }
 
 } // namespace tessera

@@ -3,23 +3,25 @@
 #include <QObject>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
 class QMenu;
 
 namespace tessera {
 
+class ArtworkDesk;
 class CommandBar;
 class CommandController;
 class CommandLineFoot;
 class DefaultsController;
 class Desktop;
 class EmulatorTask;
+class GameListController;
 class LaunchController;
 class LogWindow;
 class PathChooser;
 class PreferencesWindow;
+class ProfileCache;
 class RunController;
 
 /// Puts the emulator's commands into the log window and the menus. The controls are made when they are first
@@ -36,26 +38,27 @@ public:
         EmulatorTask& task;
         RunController& runs;
         LaunchController& launches;
+        ProfileCache& profiles;
         PathChooser& paths;
-        std::function<QString()> selectedGame;
-        std::function<QString()> selectedTitle;
-        std::function<QString()> selectedPicture; ///< its file; empty for none
-        QList<QObject*> stops; ///< buttons and menu items that stop the emulator
+        GameListController& list;
+        const ArtworkDesk& artwork;
+        PreferencesWindow& preferences;
     };
-    explicit CommandsDesk(Parts parts, QObject* parent = nullptr);
+    /// The command line of the selected game stands at the preferences' foot.
+    explicit CommandsDesk(const Parts& parts, QObject* parent = nullptr);
     ~CommandsDesk() override;
 
     CommandBar& bar();
     CommandController& controller();
     /// The quick audits of the selected game are added to the menu when it is first opened.
     void addAuditsTo(QMenu& menu);
-    /// The first of them.
-    void verifySelected();
-    /// The command line of the selected game at the preferences' foot, while they are shown.
-    void addLineTo(PreferencesWindow& preferences);
-    void showLine();
-    /// One more button or menu item that stops the emulator.
+    /// A button or menu item that stops the emulator, which a command leaves open.
     void leaveOpen(QObject& stop);
+
+public Q_SLOTS:
+    /// The first of the audits.
+    void verifySelected();
+    void showLine();
     /// Saves a desktop entry that starts the selected game as it would be started now.
     void saveLauncher();
 
@@ -64,9 +67,11 @@ Q_SIGNALS:
 
 private:
     void make();
+    void addLine();
     void addAudits(QMenu& menu);
 
     Parts m_parts;
+    QList<QObject*> m_stops;
     CommandBar* m_bar = nullptr;
     QPointer<CommandLineFoot> m_foot;
     std::unique_ptr<CommandController> m_controller;

@@ -2,12 +2,17 @@
 
 #include "app/emptystate.h"
 #include "app/favoriteswindow.h"
+#include "app/finding.h"
+#include "app/windows.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "favourites/favouritespath.h"
+#include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
+#include "launch/profilecache.h"
+#include "launch/ui/generalpage.h"
 #include "platform/defaultscontroller.h"
 
 #include <QFileInfo>
@@ -26,25 +31,64 @@ QString pathBeside(const Catalogue& catalogue)
 
 } // namespace
 
-FavoritesDesk::FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Catalogue& catalogue,
-                             GameListController& list,
-                             std::function<QString(const QString& name)> commandLine, QObject* parent)
+FavoritesDesk::FavoritesDesk(Parts parts, QObject* parent)
     : QObject(parent)
-    , m_defaults(defaults)
-    , m_favourites(pathBeside(catalogue))
+    , m_parts(std::move(parts))
+    , m_favourites(pathBeside(m_parts.catalogue))
     , m_played(playedPath(m_favourites.path()))
-    , m_controller(
-          {desktop, defaults, m_favourites, m_played, catalogue, [&list] { return list.selectedRecord(); }})
-    , m_editing(m_favourites, m_controller, std::move(commandLine))
-    , m_playing(m_played, desktop, defaults)
+    , m_controller({m_parts.desktop, m_parts.defaults, m_favourites, m_played, m_parts.catalogue,
+                    [this] { return m_parts.list.selectedRecord(); }})
+    , m_editing(m_favourites, m_controller, m_parts.commandLine)
+    , m_playing(m_played, m_parts.desktop, m_parts.defaults)
 {
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
     connect(&m_controller, &UCAppController::statusMessage, this, &FavoritesDesk::statusMessage);
     for (const auto& changed : {&Favourites::replaced, &Favourites::appended})
-        connect(&m_favourites, changed, this, &FavoritesDesk::namesChanged);
-    connect(&m_favourites, &Favourites::removed, this, &FavoritesDesk::namesChanged);
-    connect(&m_favourites, &Favourites::putBackAt, this, &FavoritesDesk::namesChanged);
-    connect(&m_favourites, &Favourites::valueChanged, this, &FavoritesDesk::namesChanged);
+        connect(&m_favourites, changed, this, &FavoritesDesk::tellNames);
+    connect(&m_favourites, &Favourites::removed, this, &FavoritesDesk::tellNames);
+    connect(&m_favourites, &Favourites::putBackAt, this, &FavoritesDesk::tellNames);
+    connect(&m_favourites, &Favourites::valueChanged, this, &FavoritesDesk::tellNames);
+    const RomWatcher& roms = m_parts.finding.roms();
+    connect(&roms, &RomWatcher::changed, this, [this, &roms] { m_controller.setRomFolders(roms.folders()); });
+    joinEditor();
+}
+
+void FavoritesDesk::joinEditor()
+{
+    connect(&m_editing, &FavouriteEditing::windowMade, this, [this](QWidget& editor) {
+        m_parts.windows.watch(editor, KeyWindow::Kind::FavoritesEditor);
+        m_parts.windows.places().keep(editor, keys::FavoritesEditorGeometry);
+        offerKnownOptions();
+    });
+    connect(&m_parts.profiles, &ProfileCache::answered, this, [this] {
+        if (m_editing.isMade())
+            offerKnownOptions();
+    });
+    // Its command line is made from the settings and from what the emulator understands.
+    connect(&m_parts.profiles, &ProfileCache::answered, &m_editing, &FavouriteEditing::showSelection);
+    connect(&m_parts.defaults, &DefaultsController::changed, &m_editing, &FavouriteEditing::showSelection);
+}
+
+// What the emulator in use lists; before it has answered everything is taken as it is typed.
+void FavoritesDesk::offerKnownOptions()
+{
+    const auto answer = m_parts.profiles.remembered(m_parts.general.emulator());
+    KnownOptions known;
+    if (answer && answer->profile) {
+        for (const EmulatorProfile::Option& option : answer->profile->options())
+            known.options << KnownOption{option.name, option.description};
+        known.lists = [profile = *answer->profile](QStringView option) { return profile.lists(option); };
+    }
+    m_editing.editor().setKnownOptions(std::move(known));
+}
+
+// Searches ask which sets are favourites.
+void FavoritesDesk::tellNames()
+{
+    NameSet names;
+    for (const QString& name : m_favourites.names())
+        names.insert(name.toStdString());
+    m_parts.finding.finder().setFavorites(std::move(names));
 }
 
 FavoritesDesk::~FavoritesDesk() = default;
@@ -58,7 +102,7 @@ FavoritesWindow& FavoritesDesk::window()
 {
     if (m_window)
         return *m_window;
-    m_window = std::make_unique<FavoritesWindow>(m_defaults);
+    m_window = std::make_unique<FavoritesWindow>(m_parts.defaults);
     joinWindow();
     m_controller.setTable(m_window->favoritesTable);
     m_window->restore();
@@ -68,16 +112,14 @@ FavoritesWindow& FavoritesDesk::window()
     showCount();
     showSelection();
     m_controller.romStatus2();
+    m_window->takeMenus(m_parts.windows.menus());
+    m_parts.windows.watch(*m_window, KeyWindow::Kind::Favorites);
+    m_parts.windows.openDropped(*m_window);
     Q_EMIT windowMade(*m_window);
+    m_parts.windows.places().keep(*m_window, keys::FavoritesWindowGeometry);
+    // It is shown in the main window's place, if not in its own.
+    m_parts.windows.places().restore(*m_window);
     return *m_window;
-}
-
-NameSet FavoritesDesk::names() const
-{
-    NameSet names;
-    for (const QString& name : m_favourites.names())
-        names.insert(name.toStdString());
-    return names;
 }
 
 void FavoritesDesk::remember()

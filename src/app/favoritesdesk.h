@@ -1,6 +1,5 @@
 #pragma once
 
-#include "catalogue/search/nameset.h"
 #include "favourites/favourites.h"
 #include "favourites/playedgames.h"
 #include "favourites/ui/favouriteediting.h"
@@ -9,9 +8,8 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
-
-class QWidget;
 
 namespace tessera {
 
@@ -19,7 +17,11 @@ class Catalogue;
 class DefaultsController;
 class Desktop;
 class FavoritesWindow;
+class Finding;
 class GameListController;
+class GeneralPage;
+class ProfileCache;
+class Windows;
 
 /// Joins the favourites and what was played to their window and to the game list.
 class FavoritesDesk : public QObject
@@ -27,10 +29,19 @@ class FavoritesDesk : public QObject
     Q_OBJECT
 
 public:
-    /// `commandLine` gives a set's whole command line with its options.
-    FavoritesDesk(Desktop& desktop, DefaultsController& defaults, Catalogue& catalogue,
-                  GameListController& list, std::function<QString(const QString& name)> commandLine,
-                  QObject* parent = nullptr);
+    struct Parts {
+        Windows& windows;
+        Desktop& desktop;
+        DefaultsController& defaults;
+        Catalogue& catalogue;
+        GameListController& list;
+        Finding& finding;
+        ProfileCache& profiles;
+        const GeneralPage& general;
+        /// A set's whole command line with its options. (Launches ask the favourites for those in turn.)
+        std::function<QString(const QString& name)> commandLine;
+    };
+    explicit FavoritesDesk(Parts parts, QObject* parent = nullptr);
     ~FavoritesDesk() override;
 
     /// Made when it is first asked for.
@@ -42,7 +53,6 @@ public:
     FavouriteEditing& editing() { return m_editing; }
     PlayedController& played() { return m_playing; }
     Favourites& favourites() { return m_favourites; }
-    NameSet names() const;
 
     /// Reads both files.
     void awakeFromNib();
@@ -53,18 +63,19 @@ Q_SIGNALS:
     void mainWanted();
     void miniWanted();
     void statusMessage(const QString& text);
-    /// The names of the sets in the list are others now.
-    void namesChanged();
-    void windowMade(QWidget& window);
+    void windowMade(tessera::FavoritesWindow& window);
 
 private:
+    void joinEditor();
+    void offerKnownOptions();
+    void tellNames();
     void joinWindow();
     void showSelection();
     void showCount();
     void actOnEmptyList();
     void showRecentlyPlayed(bool only);
 
-    DefaultsController& m_defaults;
+    Parts m_parts;
     Favourites m_favourites;
     PlayedGames m_played;
     UCAppController m_controller;

@@ -176,7 +176,7 @@ void FavoritesWindow::setRunning(bool running)
 
 void FavoritesWindow::restore()
 {
-    const UserDefaults& stored = m_defaults.defaults();
+    const UserDefaults& stored = m_defaults.stored();
     m_split->splitView()->setSizes({sidePanelWidth, firstSize.width() - sidePanelWidth});
     if (const auto split = stored.value(keys::FavoritesWindowSplit.name))
         m_split->splitView()->restoreState(split->toByteArray());
@@ -193,10 +193,9 @@ void FavoritesWindow::restore()
 
 void FavoritesWindow::remember()
 {
-    UserDefaults& stored = m_defaults.defaults();
-    stored.setValue(keys::FavoritesWindowSplit.name, m_split->splitView()->saveState());
-    stored.setValue(keys::FavoritesWindowSplit2.name, m_split->splitView2()->saveState());
-    stored.setValue(keys::FavoritesWindowColumns.name, favoritesTable->horizontalHeader()->saveState());
+    m_defaults.keep(keys::FavoritesWindowSplit, m_split->splitView()->saveState());
+    m_defaults.keep(keys::FavoritesWindowSplit2, m_split->splitView2()->saveState());
+    m_defaults.keep(keys::FavoritesWindowColumns, favoritesTable->horizontalHeader()->saveState());
 }
 
 void FavoritesWindow::closeEvent(QCloseEvent* event)

@@ -1,6 +1,7 @@
 #include "app/finding.h"
 
 #include "app/mainwindow.h"
+#include "app/windows.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -8,6 +9,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "launch/profilecache.h"
+#include "launch/ui/generalpage.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bringforward.h"
 
@@ -21,16 +23,12 @@
 
 namespace tessera {
 
-Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& list,
-                 DefaultsController& defaults, ProfileCache& profiles, std::function<QString()> emulator,
-                 QObject* parent)
+Finding::Finding(const Parts& parts, QObject* parent)
     : QObject(parent)
-    , m_window(window)
-    , m_list(list)
-    , m_defaults(defaults)
-    , m_emulator(std::move(emulator))
-    , m_finder(catalogue, list, defaults)
+    , m_parts(parts)
+    , m_finder(parts.catalogue, parts.list, parts.defaults)
 {
+    MainWindow& window = m_parts.window;
     joinField();
     connect(&m_finder, &GameFinder::changed, this, &Finding::changed);
     connect(&m_finder, &GameFinder::countsChanged, window.chipBar, &ChipBar::setCounts);
@@ -40,8 +38,8 @@ Finding::Finding(MainWindow& window, Catalogue& catalogue, GameListController& l
     connect(window.showAllButton, &QPushButton::clicked, this, &Finding::showAll);
     connect(window.filterButton, &QToolButton::clicked, this, &Finding::showPredicatePanel);
     connect(&m_roms, &RomWatcher::changed, this, [this] { m_finder.setRomFolders(m_roms.folders()); });
-    connect(&profiles, &ProfileCache::answered, this, &Finding::takeProfile);
-    connect(&defaults, &DefaultsController::changed, this, [this](const QString& name) {
+    connect(&m_parts.profiles, &ProfileCache::answered, this, &Finding::takeProfile);
+    connect(&m_parts.defaults, &DefaultsController::changed, this, [this](const QString& name) {
         if (name.isEmpty() || name == keys::RomsPath.name)
             readRomFolders();
     });
@@ -55,18 +53,18 @@ Finding::~Finding() = default;
 
 void Finding::joinField()
 {
-    SearchField* field = m_window.searchField;
+    SearchField* field = m_parts.window.searchField;
     connect(field, &QLineEdit::textChanged, &m_finder, &GameFinder::setQuery);
     connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
     connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
-    connect(field, &QLineEdit::returnPressed, m_window.gameTable, &GameTableView::doubleAction);
+    connect(field, &QLineEdit::returnPressed, m_parts.window.gameTable, &GameTableView::doubleAction);
     connect(field, &SearchField::leftDownwards, this, [this] {
-        m_window.gameTable->setFocus();
-        if (m_list.firstSelectedRow() < 0)
-            m_list.selectRow(0);
+        m_parts.window.gameTable->setFocus();
+        if (m_parts.list.firstSelectedRow() < 0)
+            m_parts.list.selectRow(0);
     });
-    connect(m_window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
-    connect(m_window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
+    connect(m_parts.window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
+    connect(m_parts.window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
 
 FilterPanel& Finding::panel()
@@ -79,28 +77,28 @@ FilterPanel& Finding::panel()
     connect(m_panel.get(), &FilterPanel::makerCleared, &m_finder, &GameFinder::clearPredicate);
     connect(&m_finder, &GameFinder::changed, this, [this] { m_panel->showMaker(m_finder.maker()); });
     m_panel->showMaker(m_finder.maker());
-    Q_EMIT windowMade(*m_panel);
+    m_parts.windows.places().keep(*m_panel, keys::FilterPanelGeometry);
     return *m_panel;
 }
 
 // What is wrong stands beside the chips; a term that is half typed is no complaint.
 void Finding::showQuery()
 {
-    m_window.searchField->markTerms(m_finder.query());
+    m_parts.window.searchField->markTerms(m_finder.query());
     QStringList wrong;
     for (const Term& term : m_finder.query().terms()) {
         if (term.state == Term::State::Wrong && term.why)
             wrong << term.why->text();
     }
-    m_window.chipBar->complain(wrong.join(u' '));
+    m_parts.window.chipBar->complain(wrong.join(u' '));
 }
 
 void Finding::showSort()
 {
     // Ranked rows have no sorted column; the first click on a header sorts them upwards.
-    QHeaderView* header = m_window.gameTable->horizontalHeader();
+    QHeaderView* header = m_parts.window.gameTable->horizontalHeader();
     const QSignalBlocker quiet(header);
-    const ArrangedList& list = m_list.list();
+    const ArrangedList& list = m_parts.list.list();
     if (list.isRanked())
         header->setSortIndicator(-1, Qt::AscendingOrder);
     else
@@ -117,7 +115,7 @@ void Finding::prepare()
 
 void Finding::takeProfile(const QString& executable, const ProfileAnswer& answer)
 {
-    if (executable != m_emulator())
+    if (executable != m_parts.general.emulator())
         return;
     m_emulatorFolders = answer.profile ? answer.profile->romFolderList(QFileInfo(executable).absolutePath())
                                        : QStringList();
@@ -128,7 +126,7 @@ void Finding::readRomFolders()
 {
     if (!m_isPrepared)
         return;
-    const auto folder = m_defaults.defaults().value(keys::RomsPath.name);
+    const auto folder = m_parts.defaults.stored().value(keys::RomsPath.name);
     m_roms.setFolders(folder ? std::optional(folder->toString()) : std::nullopt, m_emulatorFolders);
 }
 
@@ -142,19 +140,19 @@ void Finding::showPredicatePanel()
 
 void Finding::focusSearch()
 {
-    m_window.activateWindow();
-    m_window.searchField->setFocus(Qt::ShortcutFocusReason);
-    m_window.searchField->selectAll();
+    m_parts.window.activateWindow();
+    m_parts.window.searchField->setFocus(Qt::ShortcutFocusReason);
+    m_parts.window.searchField->selectAll();
 }
 
 void Finding::showAll()
 {
-    m_window.searchField->clear();
+    m_parts.window.searchField->clear();
     if (m_panel)
         m_panel->clear();
     m_finder.showAll();
-    m_window.chipBar->setChip(m_finder.chip());
-    m_window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());
+    m_parts.window.chipBar->setChip(m_finder.chip());
+    m_parts.window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());
 }
 
 } // namespace tessera

@@ -5,16 +5,15 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
-
-class QWidget;
 
 namespace tessera {
 
 class FilterPanel;
+class GeneralPage;
 class MainWindow;
 class ProfileCache;
+class Windows;
 struct ProfileAnswer;
 
 /// Joins what the user searches with (field, chips, filter panel) and what is known of the ROM folders to the
@@ -24,8 +23,16 @@ class Finding : public QObject
     Q_OBJECT
 
 public:
-    Finding(MainWindow& window, Catalogue& catalogue, GameListController& list, DefaultsController& defaults,
-            ProfileCache& profiles, std::function<QString()> emulator, QObject* parent = nullptr);
+    struct Parts {
+        MainWindow& window;
+        Windows& windows;
+        Catalogue& catalogue;
+        GameListController& list;
+        DefaultsController& defaults;
+        ProfileCache& profiles;
+        const GeneralPage& general;
+    };
+    explicit Finding(const Parts& parts, QObject* parent = nullptr);
     ~Finding() override;
 
     GameFinder& finder() { return m_finder; }
@@ -43,7 +50,6 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Which rows are shown, or why, or what is known of them.
     void changed();
-    void windowMade(QWidget& window);
 
 private:
     void joinField();
@@ -52,10 +58,7 @@ private:
     void takeProfile(const QString& executable, const ProfileAnswer& answer);
     void readRomFolders();
 
-    MainWindow& m_window;
-    GameListController& m_list;
-    DefaultsController& m_defaults;
-    std::function<QString()> m_emulator;
+    Parts m_parts;
     QStringList m_emulatorFolders;
     bool m_isPrepared = false;
     GameFinder m_finder;

@@ -6,7 +6,7 @@
 #include "app/minidesk.h"
 #include "app/preferenceswindow.h"
 #include "app/supportpage.h"
-#include "app/tessera_appdelegate.h"
+#include "app/windows.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestable.h"
@@ -15,6 +15,7 @@
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
 #include "info/ui/sitechoice.h"
+#include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"
@@ -22,6 +23,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -55,27 +57,25 @@ void addToMenu(QAbstractItemView& list, InfoDesk& desk, int tag)
 
 } // namespace
 
-InfoDesk::InfoDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
-                   std::function<void(HistoryWindow& window)> made, QObject* parent)
+InfoDesk::InfoDesk(const Parts& parts, QObject* parent)
     : QObject(parent)
-    , m_hub(hub)
-    , m_desktop(desktop)
-    , m_defaults(defaults)
-    , m_made(std::move(made))
+    , m_parts(parts)
     , m_subjects(subjects())
 {
-    connect(&hub.gameList(), &GameListController::selectionChanged, this, [this] { follow(Kind::Main); });
-    connect(&hub.favorites().controller(), &UCAppController::selectionChanged, this,
+    connect(&m_parts.list, &GameListController::selectionChanged, this, [this] { follow(Kind::Main); });
+    connect(&m_parts.favorites.controller(), &UCAppController::selectionChanged, this,
             [this] { follow(Kind::Favorites); });
+    connect(&m_parts.paths, &PathChooser::chosen, this, &InfoDesk::pathChosen);
+    connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &InfoDesk::addPage);
 }
 
 InfoDesk::~InfoDesk() = default;
 
 std::vector<InfoDesk::Subject> InfoDesk::subjects()
 {
-    GameListController& list = m_hub.gameList();
-    UCAppController& favorites = m_hub.favorites().controller();
-    MiniDesk& mini = m_hub.mini();
+    GameListController& list = m_parts.list;
+    UCAppController& favorites = m_parts.favorites.controller();
+    MiniDesk& mini = m_parts.mini;
     const Reader game = [&list] { return list.tableViewSelectionROM(); };
     const Reader parent = [&list] { return list.tableViewSelectionParentROM(); };
     const Reader favorite = [&favorites] { return favorites.tableViewSelectionROM2(); };
@@ -95,7 +95,7 @@ std::vector<InfoDesk::Subject> InfoDesk::subjects()
 
 const InfoDesk::Subject* InfoDesk::subject() const
 {
-    const auto found = std::ranges::find(m_subjects, m_hub.keyWindow(), &Subject::window);
+    const auto found = std::ranges::find(m_subjects, m_parts.windows.key().kind(), &Subject::window);
     return found == m_subjects.end() ? nullptr : &*found;
 }
 
@@ -103,8 +103,14 @@ HistoryWindow& InfoDesk::window()
 {
     if (!m_window) {
         m_window = std::make_unique<HistoryWindow>();
-        m_history = std::make_unique<HistoryObject>(m_desktop, m_defaults, *m_window);
-        m_made(*m_window);
+        m_history = std::make_unique<HistoryObject>(m_parts.desktop, m_parts.defaults, *m_window);
+        m_parts.windows.carryMenuKeys(*m_window);
+        m_parts.windows.watch(*m_window, Kind::History);
+        m_parts.windows.places().keep(*m_window, keys::HistoryWindowGeometry);
+        connect(m_window->historyButton, &QPushButton::clicked, &m_parts.paths,
+                &PathChooser::selectHistorybat);
+        connect(m_window->mameinfoButton, &QPushButton::clicked, &m_parts.paths,
+                &PathChooser::selectMameinfobat);
         m_history->awakeFromNib();
     }
     return *m_window;
@@ -119,16 +125,16 @@ HistoryObject& InfoDesk::history()
 InfoSites& InfoDesk::sites()
 {
     if (!m_sites) {
-        m_sites = std::make_unique<InfoSites>(m_desktop, m_defaults);
+        m_sites = std::make_unique<InfoSites>(m_parts.desktop, m_parts.defaults);
         connect(m_sites.get(), &InfoSites::statusMessage, this, &InfoDesk::statusMessage);
     }
     return *m_sites;
 }
 
-void InfoDesk::addPage(PreferencesWindow& preferences)
+void InfoDesk::addPage()
 {
     if (!std::exchange(m_hasPage, true))
-        preferences.supportPage().addPage(qtTrId("support_sites"), sites().makePage());
+        m_parts.preferences.supportPage().addPage(qtTrId("support_sites"), sites().makePage());
 }
 
 void InfoDesk::addContextMenu(QAbstractItemView& list, Kind window)
@@ -193,13 +199,13 @@ void InfoDesk::follow(KeyWindow::Kind list)
     const QString name = asked->name();
     if (std::exchange(m_names[list], name) == name || !isListShown(list))
         return;
-    if (m_window && m_window->isVisible() && m_defaults.defaults().flag(keys::HistoryFollows.name))
+    if (m_window && m_window->isVisible() && m_parts.defaults.stored().flag(keys::HistoryFollows.name))
         m_history->followTo(name, asked->key());
 }
 
 bool InfoDesk::isListShown(KeyWindow::Kind list) const
 {
-    return list == Kind::Main ? m_hub.mainWindow().isVisible() : m_hub.favorites().isVisible();
+    return list == Kind::Main ? m_parts.mainWindow.isVisible() : m_parts.favorites.isVisible();
 }
 
 // No set is meant in any other window.
@@ -213,19 +219,14 @@ void InfoDesk::openROMinfo()
 // the preferences.
 void InfoDesk::openROMinfo2()
 {
-    FavoritesDesk& favorites = m_hub.favorites();
+    FavoritesDesk& favorites = m_parts.favorites;
     const QString name = favorites.controller().tableViewSelectionROM2();
     const SiteChoice& choice = *favorites.window().siteChoice;
     if (const QString why = choice.hindrance(); !name.isEmpty() && !why.isEmpty())
         Q_EMIT statusMessage(why);
     const auto page = name.isEmpty() ? std::nullopt : choice.page(name);
-    if (!page || !m_desktop.openUrl(*page))
-        m_desktop.beep();
-}
-
-bool InfoDesk::isKey() const
-{
-    return m_window && m_hub.keyWindow() == Kind::History;
+    if (!page || !m_parts.desktop.openUrl(*page))
+        m_parts.desktop.beep();
 }
 
 } // namespace tessera

@@ -12,11 +12,16 @@ namespace tessera {
 
 class DefaultsController;
 class Desktop;
+class FavoritesDesk;
+class GameListController;
 class HistoryObject;
 class HistoryWindow;
 class InfoSites;
+class MainWindow;
+class MiniDesk;
+class PathChooser;
 class PreferencesWindow;
-class Tessera_AppDelegate;
+class Windows;
 
 /// Which set is meant when its history or its page is asked for: one table of key windows. The window, its
 /// files and the sites are made when they are first asked for.
@@ -25,21 +30,27 @@ class InfoDesk : public QObject
     Q_OBJECT
 
 public:
-    /// `made` gets the history window once, to give it a place, keys and a row among the key windows.
-    InfoDesk(Tessera_AppDelegate& hub, Desktop& desktop, DefaultsController& defaults,
-             std::function<void(HistoryWindow& window)> made, QObject* parent = nullptr);
+    struct Parts {
+        Windows& windows;
+        Desktop& desktop;
+        DefaultsController& defaults;
+        const MainWindow& mainWindow;
+        GameListController& list;
+        FavoritesDesk& favorites;
+        MiniDesk& mini;
+        PathChooser& paths;
+        PreferencesWindow& preferences;
+    };
+    explicit InfoDesk(const Parts& parts, QObject* parent = nullptr);
     ~InfoDesk() override;
 
     HistoryWindow& window();
     HistoryObject& history();
     InfoSites& sites();
-    /// Puts the page of the sites into the preferences, once.
-    void addPage(PreferencesWindow& preferences);
     /// A list's own menu; `window` is the one that it stands in.
     void addContextMenu(QAbstractItemView& list, KeyWindow::Kind window);
-    /// A file was chosen anew.
-    void pathChosen(const QString& key);
 
+public Q_SLOTS:
     void showHistoryinfo();
     void searchHistoryinfo();
     /// For the list whose menu was used: 2 the game list, 3 the favourites; any other tag, nothing.
@@ -47,8 +58,6 @@ public:
     void openROMinfo();
     /// The page of the selected favourite, by the favourites window's own choice of a site.
     void openROMinfo2();
-    /// Where the history window is key, what else has the same key.
-    bool isKey() const;
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
@@ -62,16 +71,15 @@ private:
         Reader site; ///< whose page is opened; none
     };
 
+    void addPage();
+    void pathChosen(const QString& key);
     std::vector<Subject> subjects();
     const Subject* subject() const;
     void show(const QString& name, const QString& key);
     void follow(KeyWindow::Kind list);
     bool isListShown(KeyWindow::Kind list) const;
 
-    Tessera_AppDelegate& m_hub;
-    Desktop& m_desktop;
-    DefaultsController& m_defaults;
-    std::function<void(HistoryWindow& window)> m_made;
+    Parts m_parts;
     std::vector<Subject> m_subjects;
     QHash<KeyWindow::Kind, QString> m_names; ///< that each list had selected last
     std::unique_ptr<HistoryWindow> m_window;

@@ -1,15 +1,13 @@
 #include "app/keycommands.h"
 
-#include <QWidget>
-
 #include <algorithm>
 
 namespace tessera {
 
-KeyCommands::KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run, QObject* parent)
+KeyCommands::KeyCommands(KeyWindow& keyWindow, std::vector<Row> rows, QObject* parent)
     : QObject(parent)
+    , m_keyWindow(keyWindow)
     , m_rows(std::move(rows))
-    , m_run(std::move(run))
 {
     connect(&m_keyWindow, &KeyWindow::changed, this, &KeyCommands::keyWindowChanged);
 }
@@ -24,6 +22,12 @@ QUndoStack* KeyCommands::undoStack() const
 {
     const Row* key = row();
     return key != nullptr && key->undo != nullptr ? key->undo : m_rows.front().undo;
+}
+
+GameTableView* KeyCommands::list() const
+{
+    const Row* key = row();
+    return key != nullptr && key->list ? key->list() : nullptr;
 }
 
 // Any other window: nothing.
@@ -53,7 +57,7 @@ void KeyCommands::scrollsEndAction()
 void KeyCommands::menuRun()
 {
     const Row* key = row();
-    m_run(key != nullptr && key->game ? key->game() : QString());
+    Q_EMIT runRequested(key != nullptr && key->game ? key->game() : QString());
 }
 
 void KeyCommands::remove()
@@ -64,6 +68,26 @@ void KeyCommands::remove()
 void KeyCommands::save()
 {
     run(&Row::save);
+}
+
+void KeyCommands::edit()
+{
+    run(&Row::edit);
+}
+
+void KeyCommands::find()
+{
+    run(&Row::find);
+}
+
+void KeyCommands::makeTextBigger()
+{
+    run(&Row::bigger);
+}
+
+void KeyCommands::makeTextSmaller()
+{
+    run(&Row::smaller);
 }
 
 } // namespace tessera

@@ -9,6 +9,8 @@ class QUndoStack;
 
 namespace tessera {
 
+class GameTableView;
+
 /// The commands that act on the window that is key: one table of windows by commands. Its columns differ from
 /// each other on purpose.
 class KeyCommands : public QObject
@@ -26,16 +28,18 @@ public:
         std::function<QString()> game; ///< that is run
         Command remove;
         Command save;
+        Command edit;
+        Command find;
+        Command bigger;
+        Command smaller;
+        std::function<GameTableView*()> list; ///< in which cells are edited and copied
         QUndoStack* undo;
     };
 
-    /// `run` starts a game by its reference, the empty one included.
-    KeyCommands(std::vector<Row> rows, std::function<void(const QString& game)> run,
-                QObject* parent = nullptr);
+    KeyCommands(KeyWindow& keyWindow, std::vector<Row> rows, QObject* parent = nullptr);
 
-    /// Each window, as soon as it is made.
-    void watch(QWidget& window, KeyWindow::Kind kind) { m_keyWindow.watch(window, kind); }
-    KeyWindow::Kind keyWindow() const { return m_keyWindow.kind(); }
+    /// The list of the key window; null where it has none.
+    GameTableView* list() const;
     /// Nothing to undo in a window without edits of its own: the catalogue's, which is the first row's.
     QUndoStack* undoStack() const;
 
@@ -47,17 +51,22 @@ public Q_SLOTS:
     void menuRun();
     void remove();
     void save();
+    void edit();
+    void find();
+    void makeTextBigger();
+    void makeTextSmaller();
 
 Q_SIGNALS:
     void keyWindowChanged();
+    /// By its reference, the empty one included.
+    void runRequested(const QString& game);
 
 private:
     const Row* row() const;
     void run(Command Row::* command);
 
+    KeyWindow& m_keyWindow;
     std::vector<Row> m_rows;
-    std::function<void(const QString& game)> m_run;
-    KeyWindow m_keyWindow;
 };
 
 } // namespace tessera

@@ -237,6 +237,11 @@ void MainWindow::offerRebuild(bool offered)
         say(qtTrId("rebuild_outdated"));
 }
 
+void MainWindow::Setwindowtitle(const QString& kind)
+{
+    setWindowTitle(QStringLiteral("Tessera  |  ") + kind);
+}
+
 void MainWindow::setBusy(bool busy)
 {
     progressIndicator->setRange(0, busy ? 0 : 1);
@@ -245,7 +250,7 @@ void MainWindow::setBusy(bool busy)
 
 void MainWindow::restore()
 {
-    const UserDefaults& stored = m_defaults.defaults();
+    const UserDefaults& stored = m_defaults.stored();
     resize(firstSize);
     if (const auto geometry = stored.value(keys::MainWindowGeometry.name))
         restoreGeometry(geometry->toByteArray());
@@ -271,11 +276,10 @@ void MainWindow::restore()
 
 void MainWindow::remember()
 {
-    UserDefaults& stored = m_defaults.defaults();
-    stored.setValue(keys::MainWindowGeometry.name, saveGeometry());
-    stored.setValue(keys::MainWindowSplit.name, m_split->saveState());
-    stored.setValue(keys::MainWindowSplit2.name, sidePanel->splitView->saveState());
-    stored.setValue(keys::MainWindowColumns.name, gameTable->horizontalHeader()->saveState());
+    m_defaults.keep(keys::MainWindowGeometry, saveGeometry());
+    m_defaults.keep(keys::MainWindowSplit, m_split->saveState());
+    m_defaults.keep(keys::MainWindowSplit2, sidePanel->splitView->saveState());
+    m_defaults.keep(keys::MainWindowColumns, gameTable->horizontalHeader()->saveState());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -60,6 +60,8 @@ public:
     /// Says nothing, where that was the last sentence.
     void takeBack(const QString& sentence);
     void showEmulator(const QString& text);
+    /// The title names the kind of emulator.
+    void Setwindowtitle(const QString& kind);
     /// `sentence` says what runs.
     void setRunning(bool running, const QString& sentence);
     /// While a catalogue is being built the old one is not edited: the edits would go with it.

@@ -1,9 +1,11 @@
 #include "app/minidesk.h"
 
 #include "app/miniwindow.h"
+#include "app/windows.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamefinder.h"
+#include "catalogue/ui/gamelistcontroller.h"
 #include "platform/defaultscontroller.h"
 
 #include <QLineEdit>
@@ -19,9 +21,12 @@ constexpr std::size_t mostSuggested = 12;
 
 } // namespace
 
-MiniDesk::MiniDesk(Catalogue& catalogue, GameFinder& finder, DefaultsController& defaults, QObject* parent)
+MiniDesk::MiniDesk(Windows& windows, Catalogue& catalogue, GameListController& list, GameFinder& finder,
+                   DefaultsController& defaults, QObject* parent)
     : QObject(parent)
+    , m_windows(windows)
     , m_catalogue(catalogue)
+    , m_list(list)
     , m_finder(finder)
     , m_defaults(defaults)
 {
@@ -39,10 +44,18 @@ MiniWindow& MiniDesk::window()
     connect(m_window->setnameTextField2, &QLineEdit::textEdited, this, &MiniDesk::suggest);
     connect(m_window->setnameTextField2, &QLineEdit::textChanged, this, &MiniDesk::showTitle);
     connect(m_window->aboveButton, &QToolButton::clicked, this, &MiniDesk::setAbove);
-    const bool above = m_defaults.defaults().flag(keys::MiniWindowAbove.name);
+    connect(m_window.get(), &MiniWindow::playRequested, this, [this] { Q_EMIT launchRequested(game()); });
+    connect(m_window->randomButton, &QToolButton::clicked, this, &MiniDesk::random);
+    connect(m_window->mainButton, &QToolButton::clicked, this, &MiniDesk::mainWanted);
+    connect(m_window.get(), &TransparentWindow::orderedOut, this, &MiniDesk::mainWanted);
+    const bool above = m_defaults.stored().flag(keys::MiniWindowAbove.name);
     m_window->aboveButton->setChecked(above);
     m_window->setAbove(above);
     m_window->setEmulator(m_emulator);
+    m_windows.carryMenuKeys(*m_window);
+    m_windows.watch(*m_window, KeyWindow::Kind::Mini);
+    m_windows.places().keep(*m_window, keys::MiniWindowGeometry);
+    m_windows.openDropped(*m_window);
     Q_EMIT windowMade(*m_window);
     return *m_window;
 }
@@ -57,6 +70,12 @@ void MiniDesk::setEmulator(const QString& title)
 QString MiniDesk::game() const
 {
     return m_window ? m_window->setnameTextField2->text() : QString();
+}
+
+void MiniDesk::random()
+{
+    m_list.gameShuffle();
+    setGame(m_list.tableViewSelectionROM());
 }
 
 void MiniDesk::setGame(const QString& set)
@@ -93,7 +112,7 @@ void MiniDesk::showTitle()
 
 void MiniDesk::setAbove(bool above)
 {
-    m_defaults.defaults().setValue(keys::MiniWindowAbove.name, above);
+    m_defaults.keep(keys::MiniWindowAbove, above);
     m_window->setAbove(above);
 }
 

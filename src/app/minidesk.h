@@ -5,15 +5,15 @@
 
 #include <memory>
 
-class QWidget;
-
 namespace tessera {
 
 class Catalogue;
 class DefaultsController;
 class GameFinder;
+class GameListController;
 struct GameRecord;
 class MiniWindow;
+class Windows;
 
 /// Joins the mini window to the catalogue: what is suggested, and the title of the set in its field.
 class MiniDesk : public QObject
@@ -21,8 +21,8 @@ class MiniDesk : public QObject
     Q_OBJECT
 
 public:
-    MiniDesk(Catalogue& catalogue, GameFinder& finder, DefaultsController& defaults,
-             QObject* parent = nullptr);
+    MiniDesk(Windows& windows, Catalogue& catalogue, GameListController& list, GameFinder& finder,
+             DefaultsController& defaults, QObject* parent = nullptr);
     ~MiniDesk() override;
 
     /// Made when it is first asked for.
@@ -35,15 +35,23 @@ public:
     /// Names the kind of emulator.
     void setEmulator(const QString& title);
 
+public Q_SLOTS:
+    /// A random game's set name into the field.
+    void random();
+
 Q_SIGNALS:
-    void windowMade(QWidget& window);
+    void windowMade(tessera::MiniWindow& window);
+    void launchRequested(const QString& game);
+    void mainWanted();
 
 private:
     void suggest(const QString& text);
     void showTitle();
     void setAbove(bool above);
 
+    Windows& m_windows;
     Catalogue& m_catalogue;
+    GameListController& m_list;
     GameFinder& m_finder;
     DefaultsController& m_defaults;
     QString m_emulator;

@@ -65,6 +65,7 @@ void OptionsDesk::addPages()
 // The profile is the command-line emulator's; the other modes start something else.
 void OptionsDesk::show()
 {
+    addPages();
     const QString emulator = m_parts.launches.executable();
     const auto answer = m_parts.profiles.remembered(emulator);
     if (!answer)

@@ -32,10 +32,8 @@ public:
     };
     explicit OptionsDesk(Parts parts, QObject* parent = nullptr);
 
-    /// Before the preferences are shown; once.
-    void addPages();
-
 private:
+    void addPages();
     void show();
     void offer(const EmulatorProfile* profile);
     void proposeFolders(const QStringList& roms, const QStringList& snapshots);

@@ -1,6 +1,6 @@
 #include "app/windowplaces.h"
 
-#include "platform/userdefaults.h"
+#include "platform/defaultscontroller.h"
 
 #include <QEvent>
 #include <QWidget>
@@ -9,14 +9,14 @@
 
 namespace tessera {
 
-WindowPlaces::WindowPlaces(UserDefaults& defaults)
+WindowPlaces::WindowPlaces(DefaultsController& defaults)
     : m_defaults(defaults)
 {
 }
 
-void WindowPlaces::keep(QWidget& window, const char* key)
+void WindowPlaces::keep(QWidget& window, const ChosenKey& key)
 {
-    m_places.push_back({&window, key});
+    m_places.push_back({&window, &key});
     window.installEventFilter(this);
 }
 
@@ -38,7 +38,7 @@ void WindowPlaces::takeUp(const QObject& window)
                                          [](const Place& each) -> const QObject* { return each.window; });
     if (place == m_places.end() || std::exchange(place->wasShown, true))
         return;
-    if (const auto geometry = m_defaults.value(QLatin1StringView(place->key)))
+    if (const auto geometry = m_defaults.stored().value(place->key->name))
         place->window->restoreGeometry(geometry->toByteArray());
 }
 
@@ -46,7 +46,7 @@ void WindowPlaces::remember()
 {
     for (const Place& place : m_places) {
         if (place.wasShown)
-            m_defaults.setValue(QLatin1StringView(place.key), place.window->saveGeometry());
+            m_defaults.keep(*place.key, place.window->saveGeometry());
     }
 }
 

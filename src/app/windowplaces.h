@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/settingskeys.h"
+
 #include <QObject>
 
 #include <vector>
@@ -8,7 +10,7 @@ class QWidget;
 
 namespace tessera {
 
-class UserDefaults;
+class DefaultsController;
 
 /// Shows windows where they were left, also over runs of the program.
 class WindowPlaces : public QObject
@@ -16,10 +18,10 @@ class WindowPlaces : public QObject
     Q_OBJECT
 
 public:
-    explicit WindowPlaces(UserDefaults& defaults);
+    explicit WindowPlaces(DefaultsController& defaults);
 
     /// The window outlives this. Its place is taken up when it is first shown.
-    void keep(QWidget& window, const char* key);
+    void keep(QWidget& window, const ChosenKey& key);
     /// Its place is taken up now, for a window that is placed before it is shown.
     void restore(QWidget& window);
     /// Stores the places of those that were shown.
@@ -30,13 +32,13 @@ public:
 private:
     struct Place {
         QWidget* window;
-        const char* key;
+        const ChosenKey* key;
         bool wasShown = false;
     };
 
     void takeUp(const QObject& window);
 
-    UserDefaults& m_defaults;
+    DefaultsController& m_defaults;
     std::vector<Place> m_places;
 };
 

@@ -1,4 +1,4 @@
-#include "app/mainwindow.h"
+#include "app/program.h"
 #include "app/tessera_appdelegate.h"
 #include "core/texts.h"
 #include "catalogue/cataloguepath.h"
@@ -37,7 +37,7 @@ int runWindows(QApplication& application, UserDefaults& defaults, const QString&
     if (!delegate.run(file))
         return 0;
     // Drawing it in all its sizes is nothing that the list has to wait for.
-    afterFirstPaint(delegate.mainWindow(),
+    afterFirstPaint(delegate.program().mainWindow,
                     [] { QGuiApplication::setWindowIcon(theme::mark(QStringLiteral("tessera"))); });
     return application.exec();
 }

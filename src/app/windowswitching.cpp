@@ -1,5 +1,10 @@
 #include "app/windowswitching.h"
 
+#include "app/favoritesdesk.h"
+#include "app/favoriteswindow.h"
+#include "app/minidesk.h"
+#include "app/miniwindow.h"
+#include "catalogue/ui/gamelistcontroller.h"
 #include "widgets/bringforward.h"
 
 namespace tessera {
@@ -23,18 +28,21 @@ void hide(QWidget* window)
 
 } // namespace
 
-WindowSwitching::WindowSwitching(QWidget& main, Maker mini, Maker favorites, std::function<void()> refresh)
-    : m_main(main)
-    , m_makeMini(std::move(mini))
-    , m_makeFavorites(std::move(favorites))
-    , m_refresh(std::move(refresh))
+WindowSwitching::WindowSwitching(QWidget& main, MiniDesk& mini, FavoritesDesk& favorites,
+                                 GameListController& list, QObject* parent)
+    : QObject(parent)
+    , m_main(main)
+    , m_miniDesk(mini)
+    , m_favoritesDesk(favorites)
+    , m_list(list)
 {
 }
 
 // Hidden, not closed: closing the main window asks for the end of the program.
 void WindowSwitching::windowMain()
 {
-    m_refresh();
+    // Picture and status mark follow the present selection.
+    m_list.tableViewSelectionDidChange();
     windowAdjustment();
     hide(m_mini);
     hide(m_favorites);
@@ -43,8 +51,8 @@ void WindowSwitching::windowMain()
 
 void WindowSwitching::windowFavorites()
 {
-    m_refresh();
-    m_favorites = &m_makeFavorites();
+    m_list.tableViewSelectionDidChange();
+    m_favorites = &m_favoritesDesk.window();
     windowAdjustment();
     m_main.hide();
     hide(m_mini);
@@ -53,7 +61,7 @@ void WindowSwitching::windowFavorites()
 
 void WindowSwitching::windowMini()
 {
-    m_mini = &m_makeMini();
+    m_mini = &m_miniDesk.window();
     m_main.hide();
     hide(m_favorites);
     bringForward(*m_mini);

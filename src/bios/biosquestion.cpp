@@ -1,16 +1,8 @@
 #include "bios/biosquestion.h"
 
-#include "launch/emulatoridentity.h"
-
-#include <QProcessEnvironment>
-
 #include <algorithm>
 
 namespace tessera {
-
-namespace {
-constexpr int patience = 2000; // milliseconds
-}
 
 bool isSetName(const QString& name)
 {
@@ -25,8 +17,6 @@ BiosQuestion::BiosQuestion(const QString& emulator, const QString& set, QObject*
     , m_set(set)
     , m_sets(set.isEmpty() ? BiosSets::Machines::BiosOnly : BiosSets::Machines::All)
 {
-    m_process.setProcessEnvironment(emulatorEnvironment());
-    m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
     connect(&m_process, &QProcess::readyReadStandardOutput, this, [this] {
         const QByteArray piece = m_process.readAllStandardOutput();
@@ -39,21 +29,12 @@ BiosQuestion::BiosQuestion(const QString& emulator, const QString& set, QObject*
     });
 }
 
-BiosQuestion::~BiosQuestion()
-{
-    m_process.disconnect(this);
-    if (m_process.state() == QProcess::NotRunning)
-        return;
-    m_process.kill();
-    m_process.waitForFinished(patience);
-}
-
 void BiosQuestion::ask()
 {
     QStringList arguments{QStringLiteral("-listxml")};
     if (!m_set.isEmpty())
         arguments << m_set;
-    m_process.start(m_emulator, arguments);
+    m_process.run(m_emulator, arguments);
 }
 
 void BiosQuestion::end(int status, QProcess::ExitStatus how)

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "bios/biossets.h"
-
-#include <QObject>
-#include <QProcess>
+#include "launch/emulatorprocess.h"
 
 namespace tessera {
 
-/// Asks an emulator which BIOS sets it knows. The answer comes from the event loop.
+/// Asks an emulator which BIOS sets it knows. The answer comes from the event loop; a question that is still
+/// open ends with the object.
 class BiosQuestion : public QObject
 {
     Q_OBJECT
@@ -15,9 +14,6 @@ class BiosQuestion : public QObject
 public:
     /// With a set's name, only what this set can choose from; otherwise all BIOS of the emulator.
     BiosQuestion(const QString& emulator, const QString& set, QObject* parent = nullptr);
-    /// A run that is still going is ended.
-    ~BiosQuestion() override;
-
     void ask();
     const BiosEntries& entries() const { return m_sets.entries(); }
 
@@ -31,7 +27,7 @@ private:
     QString m_emulator;
     QString m_set;
     BiosSets m_sets;
-    QProcess m_process;
+    EmulatorProcess m_process;
 };
 
 /// Whether a name can be handed to an emulator as a set, and be taken for nothing else.

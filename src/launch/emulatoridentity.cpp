@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QFileInfo>
-#include <QProcessEnvironment>
 
 namespace tessera {
 
@@ -17,18 +16,6 @@ std::optional<EmulatorIdentity> EmulatorIdentity::of(const QString& executable)
 QString EmulatorIdentity::text() const
 {
     return QStringLiteral("%1 %2 ").arg(size).arg(modified) + path;
-}
-
-QProcessEnvironment emulatorEnvironment()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // LC_ALL would outvote LC_NUMERIC; as LANG it still decides all the rest.
-    const QString everything = QStringLiteral("LC_ALL");
-    if (!environment.value(everything).isEmpty())
-        environment.insert(QStringLiteral("LANG"), environment.value(everything));
-    environment.remove(everything);
-    environment.insert(QStringLiteral("LC_NUMERIC"), QStringLiteral("C"));
-    return environment;
 }
 
 } // namespace tessera

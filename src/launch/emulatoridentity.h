@@ -4,8 +4,6 @@
 
 #include <optional>
 
-class QProcessEnvironment;
-
 namespace tessera {
 
 /// Which program a file is: another size or time means that it was changed. The path is the file's own, links
@@ -23,8 +21,5 @@ struct EmulatorIdentity {
 
     bool operator==(const EmulatorIdentity&) const = default;
 };
-
-/// Our own environment, but numbers are written with a point: emulators print and read them by the locale.
-QProcessEnvironment emulatorEnvironment();
 
 } // namespace tessera

@@ -1,10 +1,9 @@
 #include "launch/emulatortask.h"
 
 #include "core/encodings.h"
-#include "launch/emulatoridentity.h"
+#include "launch/emulatorprocess.h"
 
 #include <QEventLoop>
-#include <QProcess>
 #include <QTimer>
 
 #include <chrono>
@@ -22,7 +21,8 @@ constexpr int quitGraceTime = 2000; // milliseconds
 // answering.
 constexpr qint64 pieceSize = qint64{64} * 1024;
 
-// How many bytes at the end may be the beginning of a character.
+// How many bytes at the end may be the beginning of a character. (QStringDecoder would know it, but of a
+// character that is broken off by the next piece it swallows that piece's first byte as well.)
 std::size_t beginningAtTheEnd(std::string_view bytes)
 {
     for (std::size_t count = 1; count <= 3 && count <= bytes.size(); ++count) {
@@ -42,7 +42,6 @@ QString decoded(std::string_view bytes)
     return QString::fromStdString(text);
 }
 
-// Each run leads a process group of its own.
 pid_t groupOf(const QProcess& process)
 {
     return static_cast<pid_t>(process.processId());
@@ -58,18 +57,18 @@ EmulatorTask::EmulatorTask(Desktop& desktop, const Patience& patience, QObject* 
 
 EmulatorTask::~EmulatorTask()
 {
-    QList<QProcess*> left = findChildren<QProcess*>(Qt::FindDirectChildrenOnly);
-    for (QProcess* process : left) {
+    const auto left = findChildren<EmulatorProcess*>(Qt::FindDirectChildrenOnly);
+    for (EmulatorProcess* process : left) {
         process->disconnect();
         if (process->waitForStarted())
-            RunEnding::signalGroup(groupOf(*process), SIGTERM);
+            process->signalAll(SIGTERM);
     }
-    for (QProcess* process : left) {
+    for (EmulatorProcess* process : left) {
         const pid_t group = groupOf(*process);
         if (process->state() != QProcess::NotRunning) {
             process->waitForFinished(quitGraceTime);
             // And whatever it leaves behind.
-            RunEnding::signalGroup(group, SIGKILL);
+            signalGroup(group, SIGKILL);
             process->waitForFinished();
         }
         delete process;
@@ -83,7 +82,7 @@ void EmulatorTask::occupy()
     m_cutOff.clear();
     m_exited = false;
     m_isBegun = false;
-    m_process = new QProcess(this);
+    m_process = new EmulatorProcess(EmulatorProcess::End::ByItself, this);
 }
 
 void EmulatorTask::start(const QString& executable, const QString& workingFolder,
@@ -91,17 +90,10 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
 {
     occupy();
     m_isBegun = true;
-    QProcess* process = m_process;
+    EmulatorProcess* process = m_process;
     process->setProcessChannelMode(QProcess::MergedChannels);
     if (!outputFile.isEmpty())
         process->setStandardOutputFile(outputFile);
-    process->setStandardInputFile(QProcess::nullDevice());
-    process->setProcessEnvironment(emulatorEnvironment());
-    process->setWorkingDirectory(workingFolder);
-    process->setProgram(executable);
-    process->setArguments(arguments);
-    // A script may have started the game: what is said to one of them is said to all.
-    process->setChildProcessModifier([] { ::setpgid(0, 0); });
     connect(process, &QProcess::started, this, [this, process] {
         if (m_isEnding)
             m_ending.begin(groupOf(*process));
@@ -127,7 +119,7 @@ void EmulatorTask::start(const QString& executable, const QString& workingFolder
                 Q_EMIT failedToStart(process->errorString());
         },
         Qt::QueuedConnection);
-    process->start(QIODevice::ReadOnly);
+    process->run(executable, arguments, workingFolder);
 }
 
 void EmulatorTask::stop()
@@ -170,15 +162,14 @@ void EmulatorTask::letGo()
 {
     m_ending.forget();
     m_isEnding = false;
-    QProcess* process = std::exchange(m_process, nullptr);
+    EmulatorProcess* process = std::exchange(m_process, nullptr);
     process->disconnect(this);
     if (process->state() == QProcess::NotRunning) {
         process->deleteLater();
         return;
     }
     connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    RunEnding::signalGroup(groupOf(*process), SIGKILL);
-    process->kill();
+    process->killAll();
 }
 
 void EmulatorTask::pumpLater()
@@ -193,7 +184,7 @@ void EmulatorTask::pumpLater()
 
 void EmulatorTask::pump()
 {
-    QProcess* process = m_process;
+    EmulatorProcess* process = m_process;
     if (!process)
         return;
     // What goes to a file is not read by us.

@@ -7,9 +7,9 @@
 
 #include <string>
 
-class QProcess;
-
 namespace tessera {
+
+class EmulatorProcess;
 
 /// The one child-process slot of the program: a run of the emulator with its standard output and standard
 /// error on one pipe. A new start takes the place of a run that has ended.
@@ -63,7 +63,7 @@ private:
     void letGo();
 
     RunEnding m_ending;
-    QProcess* m_process = nullptr;
+    EmulatorProcess* m_process = nullptr;
     bool m_isBegun = false; ///< false for a run that is not to be started
     bool m_isEnding = false;
     std::string m_cutOff; ///< bytes of a character whose rest is still to come

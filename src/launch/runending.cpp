@@ -1,5 +1,6 @@
 #include "launch/runending.h"
 
+#include "launch/emulatorprocess.h"
 #include "platform/desktop.h"
 
 #include <csignal>
@@ -57,13 +58,6 @@ void RunEnding::forget()
 {
     m_timer.stop();
     m_leader = 0;
-}
-
-void RunEnding::signalGroup(pid_t leader, int number)
-{
-    // 0 and 1 would mean our own group, and everybody.
-    if (leader > 1)
-        ::kill(-leader, number);
 }
 
 } // namespace tessera

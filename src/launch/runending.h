@@ -32,9 +32,6 @@ public:
     /// Nothing more is done to the run.
     void forget();
 
-    /// Only what leads a group of its own may be sent a signal.
-    static void signalGroup(pid_t leader, int number);
-
 private:
     enum class Stage { Asked, Terminated, Killed };
     void goOn();

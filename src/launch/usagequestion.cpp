@@ -1,9 +1,8 @@
 #include "launch/usagequestion.h"
 
-#include "launch/emulatoridentity.h"
 #include "launch/emulatorprofile.h"
 
-#include <QFileInfo>
+#include <QDeadlineTimer>
 #include <QTimer>
 
 #include <chrono>
@@ -21,10 +20,6 @@ UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
     : QObject(parent)
     , m_executable(executable)
 {
-    m_process.setProgram(executable);
-    m_process.setWorkingDirectory(QFileInfo(executable).path());
-    m_process.setProcessEnvironment(emulatorEnvironment());
-    m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &UsageQuestion::read);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
@@ -33,14 +28,6 @@ UsageQuestion::UsageQuestion(const QString& executable, QObject* parent)
     });
     // The status is of no interest: some programs end with an error after a good text.
     connect(&m_process, &QProcess::finished, this, [this](int, QProcess::ExitStatus how) { runEnded(how); });
-}
-
-UsageQuestion::~UsageQuestion()
-{
-    // Its end would be told when the members after it are gone.
-    m_process.disconnect(this);
-    m_process.kill();
-    m_process.waitForFinished();
 }
 
 void UsageQuestion::ask()
@@ -60,8 +47,7 @@ void UsageQuestion::askAndWait()
 
 void UsageQuestion::start(const QString& option)
 {
-    m_process.setArguments({option});
-    m_process.start(QIODevice::ReadOnly);
+    m_process.run(m_executable, {option});
 }
 
 void UsageQuestion::runEnded(QProcess::ExitStatus how)
@@ -94,7 +80,7 @@ void UsageQuestion::read()
 void UsageQuestion::giveUp()
 {
     settle(m_usage);
-    m_process.kill();
+    m_process.killAll();
 }
 
 void UsageQuestion::settle(const std::optional<QByteArray>& answer)

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QDeadlineTimer>
-#include <QObject>
-#include <QProcess>
+#include "launch/emulatorprocess.h"
 
 #include <optional>
 
@@ -15,9 +13,8 @@ class UsageQuestion : public QObject
     Q_OBJECT
 
 public:
+    /// Ends with the object.
     explicit UsageQuestion(const QString& executable, QObject* parent = nullptr);
-    /// Ends a program that has not answered yet.
-    ~UsageQuestion() override;
 
     /// Starts the program; answered() follows from the event loop.
     void ask();
@@ -41,7 +38,7 @@ private:
     void settle(const std::optional<QByteArray>& answer);
 
     QString m_executable;
-    QProcess m_process;
+    EmulatorProcess m_process;
     QByteArray m_usage; ///< once it is complete
     QByteArray m_text; ///< of the present run
     std::optional<QByteArray> m_answer;

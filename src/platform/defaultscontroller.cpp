@@ -1,5 +1,7 @@
 #include "platform/defaultscontroller.h"
 
+#include "core/failure.h"
+
 #include <QLocale>
 
 namespace tessera {
@@ -120,6 +122,22 @@ void DefaultsController::setText(const Key<QLatin1StringView>& key, const QStrin
 void DefaultsController::setText(const ChosenKey& key, const QString& text)
 {
     store(key.name, text);
+}
+
+void DefaultsController::keep(const ChosenKey& key, const QVariant& value)
+{
+    store(key.name, value);
+}
+
+void DefaultsController::forget(const ChosenKey& key)
+{
+    m_defaults.remove(key.name);
+    Q_EMIT changed(key.name);
+}
+
+QString DefaultsController::flush()
+{
+    return m_defaults.synchronize() ? QString() : Failure{"failure_settings", {m_defaults.path()}}.text();
 }
 
 } // namespace tessera

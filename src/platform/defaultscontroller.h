@@ -38,8 +38,14 @@ public:
     void setText(const Key<float>& key, const QString& text);
     void setText(const Key<QLatin1StringView>& key, const QString& text);
     void setText(const ChosenKey& key, const QString& text);
+    /// For what no control is bound to.
+    void keep(const ChosenKey& key, const QVariant& value);
+    void forget(const ChosenKey& key);
 
-    UserDefaults& defaults() { return m_defaults; }
+    /// What was stored, without initial values. Whatever is written is written by the controller.
+    const UserDefaults& stored() const { return m_defaults; }
+    /// Writes what has changed to disk. What there is to say where that failed, otherwise nothing.
+    QString flush();
 
 Q_SIGNALS:
     /// One setting has another value now; an empty name stands for all of them.

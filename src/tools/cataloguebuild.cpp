@@ -1,7 +1,6 @@
 #include "tools/cataloguebuild.h"
 
 #include "catalogue/storereader.h"
-#include "launch/emulatoridentity.h"
 #include "tools/conversion.h"
 #include "core/keptcopy.h"
 #include "tools/titletable.h"
@@ -15,7 +14,6 @@
 
 #include <csignal>
 #include <fcntl.h>
-#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace tessera {
@@ -31,16 +29,12 @@ constexpr qsizetype lastLines = 3;
 CatalogueBuild::CatalogueBuild(QObject* parent)
     : QObject(parent)
 {
-    m_process.setProcessEnvironment(emulatorEnvironment());
-    m_process.setStandardInputFile(QProcess::nullDevice());
-    // An emulator does not go on by itself when we are killed.
-    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &CatalogueBuild::read);
     connect(&m_process, &QProcess::readyReadStandardError, this, &CatalogueBuild::readErrors);
     connect(&m_process, &QProcess::finished, this, &CatalogueBuild::conclude);
     m_grace.setSingleShot(true);
     m_grace.setInterval(graceTime);
-    connect(&m_grace, &QTimer::timeout, &m_process, &QProcess::kill);
+    connect(&m_grace, &QTimer::timeout, &m_process, &EmulatorProcess::killAll);
     connect(
         &m_process, &QProcess::errorOccurred, this,
         [this](QProcess::ProcessError error) {
@@ -50,12 +44,7 @@ CatalogueBuild::CatalogueBuild(QObject* parent)
         Qt::QueuedConnection);
 }
 
-CatalogueBuild::~CatalogueBuild()
-{
-    m_process.disconnect(this);
-    m_process.kill();
-    m_process.waitForFinished();
-}
+CatalogueBuild::~CatalogueBuild() = default;
 
 void CatalogueBuild::start(const QString& emulator, const QString& output, const QString& titles,
                            const QString& keepOldAs)
@@ -74,10 +63,7 @@ void CatalogueBuild::start(const QString& emulator, const QString& output, const
         QTimer::singleShot(0, this, [this, failure = *found] { fail(failure); });
         return;
     }
-    m_process.setProgram(emulator);
-    m_process.setArguments({QStringLiteral("-listxml")});
-    m_process.setWorkingDirectory(QFileInfo(emulator).path());
-    m_process.start(QIODevice::ReadOnly);
+    m_process.run(emulator, {QStringLiteral("-listxml")});
 }
 
 void CatalogueBuild::readTitleList(const QString& path)
@@ -115,7 +101,7 @@ void CatalogueBuild::cancel()
     m_isCancelled = true;
     if (m_process.state() == QProcess::NotRunning)
         return;
-    m_process.terminate();
+    m_process.signalAll(SIGTERM);
     m_grace.start();
 }
 
@@ -134,11 +120,11 @@ void CatalogueBuild::read()
             continue;
         if (const auto taken = m_converter->extend(static_cast<std::size_t>(count)); !taken) {
             m_failure = taken.error();
-            m_process.kill();
+            m_process.killAll();
         } else if (const auto& stopped = m_converter->stopped()) {
             // Half a catalogue is not wanted: the rest need not be waited for.
             m_failure = Failure{"build_too_long", {m_emulator, stopped->set}};
-            m_process.kill();
+            m_process.killAll();
         }
     }
     if (m_converter->games() != before && !m_isCancelled)

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/failure.h"
+#include "launch/emulatorprocess.h"
 
 #include <QObject>
-#include <QProcess>
 #include <QTimer>
 
 #include <expected>
@@ -58,7 +58,7 @@ private:
     void fail(const Failure& failure);
     void letGo();
 
-    QProcess m_process;
+    EmulatorProcess m_process;
     QTimer m_grace; ///< runs while a cancelled emulator may still end by itself
     std::unique_ptr<TitleTable> m_titles;
     std::unique_ptr<ListxmlConverter> m_converter;

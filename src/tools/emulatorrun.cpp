@@ -1,18 +1,13 @@
 #include "tools/emulatorrun.h"
 
 #include "core/atomicfile.h"
-#include "launch/emulatoridentity.h"
+#include "launch/emulatorprocess.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 
 #include <array>
-
-#include <csignal>
-#include <sys/prctl.h>
-#include <unistd.h>
 
 namespace tessera {
 
@@ -20,21 +15,6 @@ namespace {
 
 constexpr int lookEvery = 50; // milliseconds, whether somebody asks to stop
 constexpr qsizetype errorsKept = 2000; // bytes
-
-void prepare(QProcess& process, const QString& emulator, const QStringList& arguments)
-{
-    process.setProgram(emulator);
-    process.setArguments(arguments);
-    process.setWorkingDirectory(QFileInfo(emulator).path());
-    process.setProcessEnvironment(emulatorEnvironment());
-    process.setStandardInputFile(QProcess::nullDevice());
-    // A group of its own: one kill reaches what a start script has started. An emulator does not go on by
-    // itself when we are killed.
-    process.setChildProcessModifier([] {
-        ::setpgid(0, 0);
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    });
-}
 
 void handOver(QProcess& process, const EmulatorRunWatch& watch)
 {
@@ -53,21 +33,16 @@ QString lastWords(QProcess& process)
 std::expected<int, Failure> runEmulator(const QString& emulator, const QStringList& arguments,
                                         const EmulatorRunWatch& watch)
 {
-    QProcess process;
-    prepare(process, emulator, arguments);
-    process.start(QIODevice::ReadOnly);
+    EmulatorProcess process;
+    process.run(emulator, arguments);
     if (!process.waitForStarted())
         return std::unexpected(Failure{"build_not_started", {emulator, process.errorString()}});
-    const auto group = static_cast<pid_t>(process.processId());
     while (process.state() != QProcess::NotRunning && !watch.stop.stop_requested()) {
         process.waitForReadyRead(lookEvery);
         handOver(process, watch);
     }
-    if (process.state() != QProcess::NotRunning) {
-        ::kill(-group, SIGKILL);
-        process.waitForFinished();
+    if (process.state() != QProcess::NotRunning)
         return 0;
-    }
     handOver(process, watch);
     if (process.exitStatus() == QProcess::CrashExit)
         return std::unexpected(

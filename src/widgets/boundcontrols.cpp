@@ -50,7 +50,7 @@ void bind(QCheckBox& box, DefaultsController& defaults, const Key<bool>& key)
 void bind(QCheckBox& box, DefaultsController& defaults, const ChosenKey& key)
 {
     follow(box, defaults, key.name,
-           [&box, &defaults, &key] { box.setChecked(defaults.defaults().flag(key.name)); });
+           [&box, &defaults, &key] { box.setChecked(defaults.stored().flag(key.name)); });
     QObject::connect(&box, &QCheckBox::clicked, &defaults, [&defaults, &key](bool on) {
         defaults.setText(key, on ? QStringLiteral("true") : QStringLiteral("false"));
     });

@@ -261,7 +261,7 @@ private Q_SLOTS:
                               progress.isHidden() ? QStringLiteral("at rest") : QStringLiteral("busy"),
                               log.text());
         };
-        connect(staged.app.get(), &Tessera_AppDelegate::defaultAction, this, [&] { note("posted"); });
+        connect(&staged.app->program().reset, &SettingsReset::defaultAction, this, [&] { note("posted"); });
         connect(&staged.app->launcher(), &LaunchController::launchModeChanged, this, [&] { note("mode"); });
 
         staged.desktop.answerAlert(QStringLiteral("reset_Message"), 0);

@@ -448,7 +448,7 @@ private Q_SLOTS:
         m_staged->app->searchHistoryinfo();
         shows("Bats.");
         write("history.dat", "$info=pong\r\n$bio\r\nTwo bats.\r\n$end\r\n");
-        m_staged->app->info().pathChosen(keys::HistoryPath.name);
+        Q_EMIT m_staged->app->program().paths.chosen(keys::HistoryPath.name, QString());
         QTRY_VERIFY(!m_staged->app->info().history().isLoading());
         m_staged->app->info().searchHistoryinfo_menu(2);
         shows("Two bats.");

@@ -232,7 +232,7 @@ private Q_SLOTS:
     void withoutEditingNothingChanges()
     {
         QVERIFY(m_list->selectGame(QStringLiteral("galaga")));
-        m_staged->app->editing().setEnabled(false);
+        m_staged->app->editing().setLocked(true);
         m_staged->app->editRecord();
         QVERIFY(!m_editor->isVisible());
         m_staged->app->removeRecord();

@@ -57,7 +57,7 @@ QByteArray StagedApp::store() const
 
 void StagedApp::start(const QString& file)
 {
-    app = std::make_unique<Tessera_AppDelegate>(desktop, defaults, recent, storePath());
+    app = std::make_unique<App>(desktop, defaults, recent, storePath());
     app->run(file);
     // Most tests have no favourites, which every start says.
     if (!QFile::exists(app->favorites().favourites().path()))

@@ -587,7 +587,7 @@ private:
     // Opens a window by its name in the tests' tables; what can be chosen in it is.
     QWidget& open(const QString& name)
     {
-        Tessera_AppDelegate& app = *m_staged->app;
+        test::App& app = *m_staged->app;
         if (name.startsWith(QStringLiteral("favourites"))) {
             app.windowFavorites();
             favorites().favoritesTable->selectRow(0);

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 using namespace tessera;
@@ -45,37 +44,6 @@ private Q_SLOTS:
         QVERIFY(!EmulatorIdentity::of(folder.filePath("missing")));
         QVERIFY(QFile::link(folder.filePath("missing"), folder.filePath("dangling")));
         QVERIFY(!EmulatorIdentity::of(folder.filePath("dangling")));
-    }
-
-    // Numbers are written with a point, all the rest as the user has it.
-    void itsEnvironmentIsOursButForNumbers_data()
-    {
-        QTest::addColumn<QByteArray>("everything");
-        QTest::addColumn<QString>("language");
-        QTest::newRow("one setting for everything") << QByteArray("de_DE.UTF-8") << "de_DE.UTF-8";
-        QTest::newRow("an empty one") << QByteArray("") << "fr_FR.UTF-8";
-        QTest::newRow("none") << QByteArray() << "fr_FR.UTF-8";
-    }
-
-    void itsEnvironmentIsOursButForNumbers()
-    {
-        QFETCH(QByteArray, everything);
-        const QByteArray before = qgetenv("LC_ALL");
-        if (everything.isNull())
-            qunsetenv("LC_ALL");
-        else
-            qputenv("LC_ALL", everything);
-        qputenv("LANG", "fr_FR.UTF-8");
-        qputenv("LC_NUMERIC", "fr_FR.UTF-8");
-        qputenv("TESSERA_A", "b");
-        const QProcessEnvironment environment = emulatorEnvironment();
-        for (const char* name : {"LANG", "LC_NUMERIC", "TESSERA_A"})
-            qunsetenv(name);
-        qputenv("LC_ALL", before);
-        QVERIFY(!environment.contains("LC_ALL"));
-        QTEST(environment.value("LANG"), "language");
-        QCOMPARE(environment.value("LC_NUMERIC"), QStringLiteral("C"));
-        QCOMPARE(environment.value("TESSERA_A"), QStringLiteral("b"));
     }
 };
 

@@ -127,6 +127,8 @@ private Q_SLOTS:
         QTest::newRow("the first lead of three bytes") << "split2" << QString::fromUtf8("ก\n");
         QTest::newRow("the first lead of four bytes") << "split3" << QString::fromUtf8("😀\n");
         QTest::newRow("bytes that are not UTF-8") << "latin1" << QString::fromUtf8("caf\uFFFD \uFFFD\n");
+        QTest::newRow("a character broken off by the next piece")
+            << "brokenoff" << QString::fromUtf8("\uFFFDxyz\n");
         QTest::newRow("a character cut off by the end") << "cutoff" << QString::fromUtf8("a\uFFFD");
         QTest::newRow("both channels") << "both" << "out\nerr\n";
         QTest::newRow("no input") << "stdin" << "nothing\n";

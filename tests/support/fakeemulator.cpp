@@ -135,6 +135,11 @@ int plays(const std::string& game, int argc, char* argv[])
         std::fputs("caf\xE9 \xFF\n", stdout);
     } else if (game == "cutoff") {
         std::fputs("a\xE3\x81", stdout);
+    } else if (game == "brokenoff") {
+        std::fputs("\xE3", stdout);
+        std::fflush(stdout);
+        usleep(50'000);
+        std::fputs("xyz\n", stdout);
     } else if (game.starts_with("split")) {
         // Characters of two to four bytes, with the first leads of three and of four; the number says which.
         constexpr std::array characters{"é", "あ", "ก", "😀"};

@@ -1,6 +1,6 @@
 #include "app/verbs/becomeemulator.h"
 
-#include "launch/emulatoridentity.h"
+#include "launch/emulatorprocess.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -2,18 +2,15 @@
 
 #include "launch/emulatorcommands.h"
 #include "launch/emulatorfinder.h"
-#include "launch/emulatoridentity.h"
+#include "launch/emulatorprocess.h"
 #include "platform/userdefaults.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 
 namespace tessera {
 
 namespace {
-
-constexpr int patience = 2000; // milliseconds
 
 // Everything that the emulator prints goes into the file as it comes.
 bool writePrinted(QProcess& process, QFile& file)
@@ -37,20 +34,14 @@ bool writePrinted(QProcess& process, QFile& file)
 // A file that is there loses what it holds only to an emulator that runs.
 int exportInto(const QString& path, const QString& executable, int position)
 {
-    QProcess process;
+    EmulatorProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setProcessEnvironment(emulatorEnvironment());
-    process.setWorkingDirectory(QFileInfo(executable).path());
-    process.start(executable, exportArguments(position));
+    process.run(executable, exportArguments(position));
     if (!process.waitForStarted(-1))
         return failed(Failure{"launch_notstarted", {executable, process.errorString()}});
     QFile file(path);
-    if (!writePrinted(process, file)) {
-        process.kill();
-        process.waitForFinished(patience);
+    if (!writePrinted(process, file))
         return failed(Failure{"failure_write", {path, file.errorString()}});
-    }
     print(QString(exportCompleted).trimmed());
     if (const int status = process.exitCode(); status != 0 || process.exitStatus() != QProcess::NormalExit)
         return failed(Failure{"launch_endedbadly", {executable, QString::number(status)}});

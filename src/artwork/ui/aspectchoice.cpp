@@ -71,7 +71,7 @@ void AspectChoice::snapviewAction()
     const QList<QAction*> items = m_items->actions();
     const auto item = std::ranges::find(items, title, &QAction::text);
     check(item == items.end() ? nullptr : *item);
-    m_defaults.defaults().synchronize();
+    m_defaults.flush();
 }
 
 // Every pop-up follows the setting.

@@ -39,7 +39,7 @@ int AspectView::rationum() const
 
 bool AspectView::hasWholeSteps() const
 {
-    return m_defaults.defaults().flag(keys::PictureWholeSteps.name);
+    return m_defaults.stored().flag(keys::PictureWholeSteps.name);
 }
 
 void AspectView::settingChanged(const QString& name)

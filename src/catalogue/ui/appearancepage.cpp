@@ -103,7 +103,7 @@ AppearancePage::AppearancePage(DefaultsController& defaults, QWidget* parent)
     , initialColorButton2(makeButton("revert", qtTrId("appearance_initialcolor2"), "initialColorButton2"))
     , languagePop(new QComboBox(this))
     , m_defaults(defaults)
-    , m_colors(defaults.defaults())
+    , m_colors(defaults.stored())
 {
     coloringBox->setObjectName(QStringLiteral("coloringBox"));
     languagePop->setObjectName(QStringLiteral("languagePop"));
@@ -169,7 +169,7 @@ void AppearancePage::bindControls(DefaultsController& defaults)
 
 void AppearancePage::showLanguage()
 {
-    const QString stored = m_defaults.defaults().string(keys::Language.name);
+    const QString stored = m_defaults.stored().string(keys::Language.name);
     const auto chosen = std::ranges::find(
         languages, stored, [](const Language& each) { return QString::fromLatin1(each.code); });
     languagePop->setCurrentIndex(chosen == languages.end() ? 0
@@ -179,10 +179,10 @@ void AppearancePage::showLanguage()
 void AppearancePage::storeLanguage(int position)
 {
     if (position == 0)
-        m_defaults.defaults().remove(keys::Language.name);
+        m_defaults.forget(keys::Language);
     else
-        m_defaults.defaults().setValue(
-            keys::Language.name, QString::fromLatin1(languages[static_cast<std::size_t>(position)].code));
+        m_defaults.keep(keys::Language,
+                        QString::fromLatin1(languages[static_cast<std::size_t>(position)].code));
 }
 
 void AppearancePage::showFonts()

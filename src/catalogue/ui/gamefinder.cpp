@@ -44,11 +44,11 @@ GameFinder::GameFinder(Catalogue& catalogue, GameListController& list, DefaultsC
 
 void GameFinder::restore()
 {
-    const QString chip = m_defaults.defaults().string(keys::GameListChip.name);
+    const QString chip = m_defaults.stored().string(keys::GameListChip.name);
     const auto row
         = std::ranges::find_if(chips, [&](const ChipRow& each) { return chip == textOf(each.name); });
     m_chip = row == chips.end() ? Chip::All : row->chip;
-    m_foldsFamilies = m_defaults.defaults().flag(keys::GameListFamilies.name);
+    m_foldsFamilies = m_defaults.stored().flag(keys::GameListFamilies.name);
     takeContent();
 }
 
@@ -192,7 +192,7 @@ void GameFinder::setQuery(const QString& text)
 void GameFinder::setChip(Chip chip)
 {
     m_chip = chip;
-    m_defaults.defaults().setValue(keys::GameListChip.name, textOf(rowOf(chip).name));
+    m_defaults.keep(keys::GameListChip, textOf(rowOf(chip).name));
     refresh();
 }
 
@@ -283,7 +283,7 @@ void GameFinder::filter()
 void GameFinder::setFamilies(bool folded)
 {
     m_foldsFamilies = folded;
-    m_defaults.defaults().setValue(keys::GameListFamilies.name, folded);
+    m_defaults.keep(keys::GameListFamilies, folded);
     m_list.rearrange([this] { applyFamilies(); });
     Q_EMIT changed();
 }

@@ -17,11 +17,11 @@
 namespace tessera {
 
 GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
-                                       QObject* parent)
+                                       GameTableView* table, QObject* parent)
     : QObject(parent)
     , m_catalogue(catalogue)
     , m_desktop(desktop)
-    , m_colors(defaults.defaults())
+    , m_colors(defaults.stored())
     , m_model(new GameTableModel(catalogue, m_list, m_colors, defaults, this))
 {
     setContent();
@@ -33,6 +33,8 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
             romStatus();
     });
     connect(&m_list, &ArrangedList::arranged, this, &GameListController::countChanged);
+    if (table != nullptr)
+        setTable(table);
 }
 
 void GameListController::setTable(GameTableView* table)

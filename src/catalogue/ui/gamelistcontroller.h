@@ -25,8 +25,9 @@ class GameListController : public QObject
     Q_OBJECT
 
 public:
+    /// The table can be given later.
     GameListController(Catalogue& catalogue, Desktop& desktop, DefaultsController& defaults,
-                       QObject* parent = nullptr);
+                       GameTableView* table = nullptr, QObject* parent = nullptr);
 
     void setTable(GameTableView* table);
     ArrangedList& list() { return m_list; }

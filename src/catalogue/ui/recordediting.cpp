@@ -38,10 +38,10 @@ RecordEditor& RecordEditing::editor()
     return *m_editor;
 }
 
-void RecordEditing::setEnabled(bool enabled)
+void RecordEditing::setLocked(bool locked)
 {
-    m_enabled = enabled;
-    if (!enabled && m_editor)
+    m_isLocked = locked;
+    if (locked && m_editor)
         m_editor->close();
     showSelection();
 }
@@ -54,7 +54,7 @@ void RecordEditing::commitEditing()
 
 void RecordEditing::editRecord()
 {
-    if (!m_enabled)
+    if (m_isLocked)
         return;
     editor().bringForward();
 }
@@ -63,7 +63,7 @@ void RecordEditing::editRecord()
 void RecordEditing::removeRecord()
 {
     std::vector<std::uint32_t> records = m_list.selectedRecords();
-    if (records.empty() || !m_enabled)
+    if (records.empty() || m_isLocked)
         return;
     m_desktop.beep();
     Alert alert;
@@ -78,7 +78,7 @@ void RecordEditing::removeRecord()
 void RecordEditing::showSelection()
 {
     if (m_editor)
-        m_editor->show(m_list.firstSelected(), m_catalogue.records(), m_enabled);
+        m_editor->show(m_list.firstSelected(), m_catalogue.records(), !m_isLocked);
 }
 
 // The row that took the place of the first one is selected, so that several can be removed in a row.

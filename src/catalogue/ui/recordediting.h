@@ -26,7 +26,7 @@ public:
     /// Made when it is first asked for.
     RecordEditor& editor();
     /// While a catalogue is being built the old one is not edited.
-    void setEnabled(bool enabled);
+    void setLocked(bool locked);
     void commitEditing();
 
 public Q_SLOTS:
@@ -45,7 +45,7 @@ private:
     Desktop& m_desktop;
     GameListController& m_list;
     std::unique_ptr<RecordEditor> m_editor;
-    bool m_enabled = true;
+    bool m_isLocked = false;
 };
 
 } // namespace tessera

@@ -78,9 +78,8 @@ void TableFont::changeFont(const FontPanel& panel)
 {
     const QFont font = panel.convertFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     m_defaults.setText(*m_chosen, fontName(font));
-    UserDefaults& stored = m_defaults.defaults();
-    if (!stored.synchronize())
-        Q_EMIT statusMessage(Failure{"failure_settings", {stored.path()}}.text());
+    if (const QString failure = m_defaults.flush(); !failure.isEmpty())
+        Q_EMIT statusMessage(failure);
 }
 
 void TableFont::showFontPanel1()

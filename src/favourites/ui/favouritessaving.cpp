@@ -39,7 +39,7 @@ void UCAppController::set_favorites()
     } else {
         // The row is counted in the order of now: at start that of the file, although the stored one was
         // counted in the order that was shown. Nothing stored is the first row.
-        const auto stored = m_parts.defaults.defaults().value(keys::FavoriteTable.name);
+        const auto stored = m_parts.defaults.stored().value(keys::FavoriteTable.name);
         m_selection.selectRow(stored ? stored->toLongLong() : 0);
     }
 }
@@ -47,10 +47,9 @@ void UCAppController::set_favorites()
 void UCAppController::saveFavorites()
 {
     commitEditing();
-    UserDefaults& defaults = m_parts.defaults.defaults();
     const int row = m_selection.firstRow();
-    defaults.setValue(keys::FavoriteTable.name, row < 0 ? nothingSelected : row);
-    defaults.synchronize();
+    m_parts.defaults.keep(keys::FavoriteTable, row < 0 ? nothingSelected : row);
+    m_parts.defaults.flush();
     // Deliberate: an edit alone is not written, a cancelled removal is. Nobody is asked at quit: the log
     // alone tells of a failure.
     if (!m_favoritesUpdate)

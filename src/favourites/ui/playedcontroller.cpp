@@ -24,9 +24,19 @@ void PlayedController::open()
         m_desktop.log(opened.error().text());
 }
 
+bool PlayedController::notesPlayed() const
+{
+    return !m_defaults.stored().flag(keys::PlayedIsOff.name);
+}
+
+void PlayedController::setNotesPlayed(bool notes)
+{
+    m_defaults.keep(keys::PlayedIsOff, !notes);
+}
+
 void PlayedController::notePlayed(const QString& game)
 {
-    if (game.isEmpty() || m_defaults.defaults().flag(keys::PlayedIsOff.name))
+    if (game.isEmpty() || !notesPlayed())
         return;
     m_played.note(QDir::isAbsolutePath(game) ? QFileInfo(game).completeBaseName() : game, m_desktop.now());
     save();

@@ -19,12 +19,14 @@ public:
 
     /// Reads what was played; a failure is for the log only.
     void open();
+    bool notesPlayed() const;
 
 public Q_SLOTS:
     /// A game was started: a short name, or the path of an archive, which counts under its set name.
     void notePlayed(const QString& game);
     /// Forgets everything, when the user agrees.
     void clearPlayed();
+    void setNotesPlayed(bool notes);
 
 private:
     void save();

@@ -25,7 +25,7 @@ constexpr int recentDays = 30;
 UCAppController::UCAppController(FavouritesParts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
-    , m_colors(m_parts.defaults.defaults())
+    , m_colors(m_parts.defaults.stored())
     , m_model(new FavouritesTableModel(m_parts.favourites, m_list, m_parts.played, m_colors, m_parts.defaults,
                                        this))
     , m_selection(m_list)

@@ -99,6 +99,12 @@ QString GeneralPage::emulator() const
     return chosen.isEmpty() ? m_foundEmulator : chosen;
 }
 
+QString GeneralPage::emulatorNow()
+{
+    lookForEmulator();
+    return emulator();
+}
+
 void GeneralPage::lookForEmulator()
 {
     if (QFileInfo::exists(m_foundEmulator) || !m_defaults.text(keys::ExecutionPath).isEmpty())

@@ -24,6 +24,8 @@ public:
 
     /// The emulator that launches use: the chosen one, or the found one.
     QString emulator() const;
+    /// The same, but looked for once more where none was found.
+    QString emulatorNow();
     /// Where none was chosen, and none was found or its file has gone: one may have been installed since.
     void lookForEmulator();
     /// Where no folder is chosen; it is never taken by itself.

@@ -195,6 +195,14 @@ QStringList LaunchController::osxOptions() const
     return argumentsArray2(options());
 }
 
+void LaunchController::runGame(const QString& game)
+{
+    if (game.isEmpty())
+        m_parts.desktop.beep();
+    else
+        Launchusing(game);
+}
+
 void LaunchController::LaunchTask_SDLMAME(const QString& game)
 {
     noteRecent(game);
@@ -273,7 +281,7 @@ void LaunchController::LaunchemuCheck()
 
 void LaunchController::LaunchemuPopAction()
 {
-    Q_EMIT launchModeChanged();
+    Q_EMIT launchModeChanged(m_parts.pages.general().launchusingPop->currentText());
 }
 
 void LaunchController::MenuLaunchusing(const QString& title)
@@ -281,7 +289,7 @@ void LaunchController::MenuLaunchusing(const QString& title)
     QComboBox* mode = m_parts.pages.general().launchusingPop;
     mode->setCurrentIndex(mode->findText(title));
     m_parts.defaults.setIndex(keys::Launchgamesusing, mode->currentIndex());
-    Q_EMIT launchModeChanged();
+    Q_EMIT launchModeChanged(m_parts.pages.general().launchusingPop->currentText());
 }
 
 void LaunchController::stopProcess()

@@ -88,6 +88,8 @@ public Q_SLOTS:
     /// `game` is a short name or the absolute path of an archive. Where something runs it is asked to end,
     /// and the game is started when it has ended.
     void Launchusing(const QString& game);
+    /// The same of what a window has selected; beeps where that is nothing.
+    void runGame(const QString& game);
     void LaunchTask_SDLMAME(const QString& game);
     void LaunchTask_MAMEOSX(const QString& game);
     void LaunchTask_APPMAME(const QString& game);
@@ -100,7 +102,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     /// Another launch mode is selected: window titles name it.
-    void launchModeChanged();
+    void launchModeChanged(const QString& title);
     void runningChanged(bool running);
     /// Another application has got the archive of a set.
     void handedOver(const QString& game);

@@ -168,9 +168,8 @@ void PathChooser::store(QLatin1StringView key, const QString& path)
 
 void PathChooser::flush()
 {
-    UserDefaults& defaults = m_defaults.defaults();
-    if (!defaults.synchronize())
-        Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
+    if (const QString failure = m_defaults.flush(); !failure.isEmpty())
+        Q_EMIT statusMessage(failure);
 }
 
 void PathChooser::saveRecordfile(int tag)

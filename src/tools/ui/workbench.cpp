@@ -164,9 +164,8 @@ void Workbench::take(QLineEdit& field, const ChosenKey& key, const QString& path
 {
     field.setText(path);
     m_defaults.setText(key, path);
-    UserDefaults& defaults = m_defaults.defaults();
-    if (!defaults.synchronize())
-        Q_EMIT statusMessage(Failure{"failure_settings", {defaults.path()}}.text());
+    if (const QString failure = m_defaults.flush(); !failure.isEmpty())
+        Q_EMIT statusMessage(failure);
 }
 
 QString Workbench::leftUndone()

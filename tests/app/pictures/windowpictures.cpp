@@ -115,7 +115,7 @@ void stage(test::StagedApp& staged, const QString& catalogue)
     staged.defaults.setValue(keys::HistoryPath.name, staged.path(QStringLiteral("history.dat")));
 }
 
-void takeViews(Tessera_AppDelegate& app, Album& album)
+void takeViews(test::App& app, Album& album)
 {
     album.take(app.mainWindow(), QStringLiteral("main"));
     app.gameList().selectGame(QStringLiteral("pong"));
@@ -143,7 +143,7 @@ void takeViews(Tessera_AppDelegate& app, Album& album)
     app.windowMain();
 }
 
-void takePanels(Tessera_AppDelegate& app, Album& album)
+void takePanels(test::App& app, Album& album)
 {
     app.gameList().selectGame(QStringLiteral("pong"));
     album.take(app.editing().editor(), QStringLiteral("record-editor"));
@@ -164,7 +164,7 @@ void takePanels(Tessera_AppDelegate& app, Album& album)
     }
 }
 
-void takePages(Tessera_AppDelegate& app, Album& album)
+void takePages(test::App& app, Album& album)
 {
     app.showPrefsWindow();
     PreferencesWindow& preferences = app.preferencesWindow();

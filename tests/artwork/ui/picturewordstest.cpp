@@ -122,7 +122,7 @@ private Q_SLOTS:
         page.checkboxSuppress->click();
         QVERIFY(m_staging.defaults.flag(keys::Suppress_PS));
         page.wholeStepsBox->click();
-        QVERIFY(m_staging.defaults.defaults().flag(keys::PictureWholeSteps.name));
+        QVERIFY(m_staging.defaults.stored().flag(keys::PictureWholeSteps.name));
         m_staging.defaults.setIndex(keys::Screenfolder, 2);
         QCOMPARE(page.screenfolderPop->currentText(), QStringLiteral("Game Flyer"));
         m_staging.defaults.setIndex(keys::Snapdownsite, 3);

@@ -155,8 +155,8 @@ private Q_SLOTS:
     {
         choose(2);
         QTest::keyClicks(m_page->hostField, "x");
-        QVERIFY(!m_staging->defaults.defaults().value(keys::SnapsiteHost3.name).has_value());
-        QVERIFY(!m_staging->defaults.defaults().value(keys::snapdownloadPath.name).has_value());
+        QVERIFY(!m_staging->defaults.stored().value(keys::SnapsiteHost3.name).has_value());
+        QVERIFY(!m_staging->defaults.stored().value(keys::snapdownloadPath.name).has_value());
         QCOMPARE(m_staging->defaults.text(keys::SnapsiteHost2), QStringLiteral("two.test"));
     }
 

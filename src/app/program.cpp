@@ -1,0 +1,190 @@
+// What the rooms tell each other.
+
+#include "app/program.h"
+
+#include "app/emptystate.h"
+#include "app/favoriteswindow.h"
+#include "app/helpwindow.h"
+#include "app/miniwindow.h"
+#include "app/sidepanel.h"
+#include "catalogue/ui/factspanel.h"
+#include "favourites/ui/favouritestable.h"
+#include "widgets/theme.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tessera {
+
+Program::Program(const Ground& ground)
+    : desktop(ground.desktop)
+    , settings(ground.settings)
+    , recent(ground.recent)
+    , catalogue(ground.catalogue)
+{
+    // Here it costs least: the main window's widgets take it together, the others when they are first shown.
+    theme::applyStyleSheet(*qApp);
+    fillPreferences();
+    joinMenus();
+    joinStatusLines();
+    joinLaunches();
+    joinCatalogue();
+    joinMainWindow();
+    connect(&favorites, &FavoritesDesk::windowMade, this, &Program::joinFavorites);
+    connect(&mini, &MiniDesk::windowMade, this, &Program::joinMini);
+}
+
+Program::~Program() = default;
+
+QString Program::biosFile() const
+{
+    return QFileInfo(catalogue.path()).absolutePath() + QStringLiteral("/bioslist.xml");
+}
+
+HelpWindow& Program::help()
+{
+    if (!m_help) {
+        m_help = std::make_unique<HelpWindow>(settings, *mainWindow.menuBar());
+        windows.places().keep(*m_help, keys::HelpWindowGeometry);
+    }
+    return *m_help;
+}
+
+void Program::fillPreferences()
+{
+    pages.setChooser(paths);
+    for (OptionPage* page : pages.all())
+        preferences.addPage(page->identifier(), page);
+    preferences.addPage(QStringLiteral("appearance"), &appearance);
+    connect(preferences.resetButton, &QPushButton::clicked, &reset, &SettingsReset::resetSettings);
+}
+
+void Program::joinMenus()
+{
+    menu.addRecent(recent);
+    menu.addColumns(keys);
+    menu.addPlayedSwitch(favorites.played());
+    artwork.fillMenu(*mainWindow.menuBar());
+    commands.addAuditsTo(menu.menu("menu_game"));
+    edits.follow(menu.action("menu_undo"), menu.action("menu_redo"),
+                 {&catalogue.undoStack(), &favorites.favourites().undoStack(), &bios.undoStack()});
+    connect(&menu, &MainMenu::openRequested, this, &Program::openRequested);
+    connect(&windows, &Windows::dropped, this, &Program::openRequested);
+    info.addContextMenu(*mainWindow.gameTable, KeyWindow::Kind::Main);
+    artwork.addContextMenu(*mainWindow.gameTable);
+}
+
+void Program::joinStatusLines()
+{
+    const auto say = &MainWindow::say;
+    connect(&saving, &CatalogueSaving::statusMessage, &mainWindow, say);
+    connect(&launches, &LaunchController::statusMessage, &mainWindow, say);
+    connect(&paths, &PathChooser::statusMessage, &mainWindow, say);
+    connect(&tableFont, &TableFont::statusMessage, &mainWindow, say);
+    connect(&rebuild, &CatalogueRebuild::statusMessage, &mainWindow, say);
+    // The favourites can be saved from any window.
+    connect(&favorites, &FavoritesDesk::statusMessage, &mainWindow, say);
+    connect(&commands, &CommandsDesk::statusMessage, &mainWindow, say);
+    connect(&info, &InfoDesk::statusMessage, &mainWindow, say);
+    connect(&artwork, &ArtworkDesk::statusMessage, &mainWindow, say);
+    connect(&artwork, &ArtworkDesk::commandMessage, &mainWindow, say);
+    connect(&utility, &UtilityDesk::statusMessage, &mainWindow, say);
+    connect(&utility, &UtilityDesk::statusWithdrawn, &mainWindow, &MainWindow::takeBack);
+}
+
+void Program::joinLaunches()
+{
+    connect(&gameList, &GameListController::launchRequested, &launches, &LaunchController::Launchusing);
+    connect(&favorites, &FavoritesDesk::launchRequested, &launches, &LaunchController::Launchusing);
+    connect(&mini, &MiniDesk::launchRequested, &launches, &LaunchController::runGame);
+    connect(&keys, &KeyCommands::runRequested, &launches, &LaunchController::runGame);
+    connect(&runs, &RunController::started, &favorites.played(), &PlayedController::notePlayed);
+    connect(&launches, &LaunchController::handedOver, &favorites.played(), &PlayedController::notePlayed);
+    connect(&launches, &LaunchController::launchModeChanged, &mainWindow, &MainWindow::Setwindowtitle);
+    connect(&launches, &LaunchController::launchModeChanged, &mini, &MiniDesk::setEmulator);
+    connect(&launches, &LaunchController::launchModeChanged, &modeMenu, &ModeMenu::mark);
+    connect(&paths, &PathChooser::chosen, &launches, &LaunchController::prepareProfile);
+    connect(&pages.general(), &GeneralPage::emulatorFound, &launches, &LaunchController::prepareProfile);
+    for (QObject* stop : std::initializer_list<QObject*>{&menu.action("menu_stop"), mainWindow.stopButton,
+                                                         mainWindow.runningStopButton})
+        commands.leaveOpen(*stop);
+}
+
+void Program::joinCatalogue()
+{
+    connect(&rebuild, &CatalogueRebuild::compared, &changes, &ChangesDesk::take);
+    connect(&changes, &ChangesDesk::opened, &opening, &GameOpening::openOrBeep);
+    connect(&rebuild, &CatalogueRebuild::runningChanged, &editing, &RecordEditing::setLocked);
+    connect(&mainDesk, &MainDesk::catalogueWanted, &rebuild, &CatalogueRebuild::rebuild);
+    connect(&mainDesk, &MainDesk::romFolderWanted, &paths, &PathChooser::selectROMfolder);
+    connect(&editing, &RecordEditing::windowMade, this, [this](QWidget& editor) {
+        windows.watch(editor, KeyWindow::Kind::Editor);
+        windows.places().keep(editor, keys::RecordEditorGeometry);
+    });
+}
+
+void Program::joinMainWindow()
+{
+    const auto pressed = &QAbstractButton::clicked;
+    windows.watch(mainWindow, KeyWindow::Kind::Main);
+    windows.openDropped(mainWindow);
+    connect(&mainWindow, &MainWindow::closeRequested, this, &Program::quitRequested);
+    connect(mainWindow.stopButton, pressed, &launches, &LaunchController::stopProcess);
+    connect(mainWindow.runningStopButton, pressed, &launches, &LaunchController::stopProcess);
+    connect(mainWindow.favoritesButton, pressed, &switching, &WindowSwitching::windowFavorites);
+    connect(mainWindow.logButton, pressed, &runs, &RunController::showLogWindow);
+    connect(mainWindow.toolsButton, pressed, &utility, &UtilityDesk::utilityOrderFront);
+    connect(mainWindow.preferencesButton, pressed, &menu.action("menu_preferences"), &QAction::trigger);
+    connect(mainWindow.rebuildButton, pressed, &rebuild, &CatalogueRebuild::rebuild);
+    connect(mainWindow.sidePanel->pageButton, pressed, &info, &InfoDesk::openROMinfo);
+    joinSidePanel(*mainWindow.sidePanel);
+
+    windows.watch(logWindow, KeyWindow::Kind::Log);
+    windows.places().keep(logWindow, keys::LogWindowGeometry);
+    windows.carryMenuKeys(logWindow);
+}
+
+void Program::joinSidePanel(SidePanel& panel)
+{
+    connect(panel.historyButton, &QPushButton::clicked, &info, &InfoDesk::searchHistoryinfo);
+    connect(panel.revealButton, &QPushButton::clicked, &artwork, &ArtworkDesk::display_rom_Finder);
+    connect(panel.verifyButton, &QPushButton::clicked, &commands, &CommandsDesk::verifySelected);
+}
+
+void Program::joinFavorites(FavoritesWindow& window)
+{
+    const auto say = &FavoritesWindow::say;
+    connect(&launches, &LaunchController::statusMessage, &window, say);
+    connect(&info, &InfoDesk::statusMessage, &window, say);
+    connect(&artwork, &ArtworkDesk::statusMessage, &window, say);
+    connect(&artwork, &ArtworkDesk::commandMessage, &window, say);
+    connect(&launches, &LaunchController::runningChanged, &window, [this, &window](bool running) {
+        window.setRunning(running);
+        if (running)
+            window.say(launches.runningText());
+    });
+    window.setRunning(launches.isRunning());
+    info.addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
+    artwork.joinFavorites(window);
+    artwork.addFavoritesMenu(*window.favoritesTable);
+    window.sidePanel->verifyButton->hide();
+    joinSidePanel(*window.sidePanel);
+    connect(window.sidePanel->pageButton, &QPushButton::clicked, &info, &InfoDesk::openROMinfo2);
+    connect(window.stopButton, &QToolButton::clicked, &launches, &LaunchController::stopProcess);
+    commands.leaveOpen(*window.stopButton);
+    connect(&favorites, &FavoritesDesk::mainWanted, &switching, &WindowSwitching::windowMain);
+    connect(&favorites, &FavoritesDesk::miniWanted, &switching, &WindowSwitching::windowMini);
+}
+
+void Program::joinMini(MiniWindow& window)
+{
+    const auto say = &MiniWindow::say;
+    connect(&info, &InfoDesk::statusMessage, &window, say);
+    connect(&artwork, &ArtworkDesk::commandMessage, &window, say);
+    artwork.joinMini(window);
+    connect(&mini, &MiniDesk::mainWanted, &switching, &WindowSwitching::windowMain);
+}
+
+} // namespace tessera

@@ -1,0 +1,161 @@
+#pragma once
+
+#include "app/artworkdesk.h"
+#include "app/biosdesk.h"
+#include "app/cataloguerebuild.h"
+#include "app/changesdesk.h"
+#include "app/commandsdesk.h"
+#include "app/editcommands.h"
+#include "app/favoritesdesk.h"
+#include "app/finding.h"
+#include "app/infodesk.h"
+#include "app/keycommands.h"
+#include "app/maindesk.h"
+#include "app/mainmenu.h"
+#include "app/mainwindow.h"
+#include "app/minidesk.h"
+#include "app/modemenu.h"
+#include "app/opengame.h"
+#include "app/optionsdesk.h"
+#include "app/preferenceswindow.h"
+#include "app/settingsreset.h"
+#include "app/utilitydesk.h"
+#include "app/windows.h"
+#include "app/windowswitching.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/ui/appearancepage.h"
+#include "catalogue/ui/cataloguesaving.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/rowcolors.h"
+#include "catalogue/ui/tablefont.h"
+#include "launch/emulatorfinder.h"
+#include "launch/emulatortask.h"
+#include "launch/profilecache.h"
+#include "launch/ui/generalpage.h"
+#include "launch/ui/launchcontroller.h"
+#include "launch/ui/launchpages.h"
+#include "launch/ui/logwindow.h"
+#include "launch/ui/miscpage.h"
+#include "launch/ui/pathchooser.h"
+#include "launch/ui/runcontroller.h"
+#include "widgets/calmwheel.h"
+
+namespace tessera {
+
+class HelpWindow;
+class RecentDocuments;
+class SidePanel;
+
+/// The plan of the house: every object that lives as long as the windows, each after those that it is made
+/// with. What one tells the others is joined in program.cpp, the menus' commands are in programmenus.cpp, and
+/// those that go by the key window in programkeys.cpp.
+class Program : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What it stands on.
+    struct Ground {
+        Desktop& desktop;
+        DefaultsController& settings;
+        RecentDocuments& recent;
+        Catalogue& catalogue;
+    };
+    explicit Program(const Ground& ground);
+    ~Program() override;
+
+    Desktop& desktop;
+    DefaultsController& settings;
+    RecentDocuments& recent;
+    Catalogue& catalogue;
+
+    // Windows that are there from the beginning, and the preferences' pages that launches read.
+    CalmWheel calmWheel;
+    MainWindow mainWindow{settings};
+    Windows windows{*mainWindow.menuBar(), settings};
+    LogWindow logWindow;
+    PreferencesWindow preferences;
+    LaunchPages pages{settings, [] { return findEmulator(); }};
+    PathChooser paths{desktop, settings, pages};
+    AppearancePage& appearance = *new AppearancePage(settings); ///< the preferences' own
+    TableFont tableFont{desktop, settings, appearance};
+    RowColors rowColors{desktop, settings, appearance};
+
+    // The game list, and what finds and changes its records.
+    GameListController gameList{catalogue, desktop, settings, mainWindow.gameTable};
+    ProfileCache profiles;
+    Finding finding{{mainWindow, windows, catalogue, gameList, settings, profiles, pages.general()}};
+    RecordEditing editing{catalogue, desktop, gameList};
+    CatalogueSaving saving{catalogue, desktop, gameList, editing};
+
+    // Favourites, and the launches that heed their options.
+    FavoritesDesk favorites{{windows, desktop, settings, catalogue, gameList, finding, profiles,
+                             pages.general(),
+                             [this](const QString& name) { return launches.shownCommandLine(name); }}};
+    EmulatorTask task{desktop};
+    RunController runs{desktop, settings, logWindow, task};
+    LaunchController launches{
+        {desktop, settings, pages, paths, task, runs, profiles,
+         SelectionReaders{[this] { return gameList.tableViewSelectionROM(); },
+                          [this] { return gameList.tableViewSelectionTitleE(); },
+                          [this] { return gameList.tableViewSelectionTitleJ(); }},
+         [this](const QString& name) { return favorites.controller().search_priorityOption(name); }}};
+
+    // Three windows, one of which is shown.
+    MiniDesk mini{windows, catalogue, gameList, finding.finder(), settings};
+    WindowSwitching switching{mainWindow, mini, favorites, gameList};
+    GameOpening opening{desktop, catalogue, gameList, finding, switching};
+
+    // Another catalogue.
+    CatalogueRebuild rebuild{{catalogue, saving, desktop, settings, *mainWindow.rebuildStrip, pages.general(),
+                              paths, favorites.favourites()}};
+    ChangesDesk changes{mainWindow};
+    MainDesk mainDesk{
+        {mainWindow, catalogue, settings, gameList, finding, launches, pages.general(), rebuild}};
+
+    // What is told of a game, and of the emulator.
+    OptionsDesk options{{settings, pages, launches, profiles, paths, preferences}};
+    ArtworkDesk artwork{
+        {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
+    InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
+    BiosDesk bios{{windows, desktop, settings, pages.general(), *pages.misc().biosPop, gameList, biosFile()}};
+    CommandsDesk commands{{desktop, settings, logWindow, task, runs, launches, profiles, paths, gameList,
+                           artwork, preferences}};
+    UtilityDesk utility{{desktop, settings, windows, catalogue, saving, rebuild, changes, commands, gameList,
+                         finding, opening, pages.general(), launches, favorites.controller()}};
+
+    // Commands.
+    SettingsReset reset{
+        {desktop, settings, mainWindow, *logWindow.infomationTextView, launches, artwork.aspect()}};
+    KeyCommands keys{windows.key(), keyTable()};
+    EditCommands edits{keys, catalogue, rebuild, gameList, favorites.controller()};
+    MainMenu menu{*mainWindow.menuBar(), menuRows()};
+    ModeMenu modeMenu{*mainWindow.menuBar(), launches};
+
+    /// The guide; made when it is first asked for.
+    HelpWindow& help();
+
+Q_SIGNALS:
+    void quitRequested();
+    /// A file was dropped, or chosen among those that were used last.
+    void openRequested(const QString& path);
+
+private:
+    QString biosFile() const;
+    std::vector<KeyCommands::Row> keyTable();
+    std::vector<MenuRow> menuRows();
+    void fillPreferences();
+    void joinMenus();
+    void joinStatusLines();
+    void joinLaunches();
+    void joinCatalogue();
+    void joinMainWindow();
+    void joinFavorites(FavoritesWindow& window);
+    void joinMini(MiniWindow& window);
+    void joinSidePanel(SidePanel& panel);
+
+    std::unique_ptr<HelpWindow> m_help;
+};
+
+} // namespace tessera
