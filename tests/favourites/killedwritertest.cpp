@@ -54,7 +54,8 @@ private:
                                SharedFlag& isWriting)
 {
     Favourites favourites(path);
-    (void)favourites.open();
+    if (!favourites.open())
+        _exit(1);
     for (std::size_t i = 0;; ++i) {
         isWriting.set(true);
         if (!favourites.write(texts[i % 2]))
@@ -79,6 +80,7 @@ private Q_SLOTS:
         const std::array texts{manyFavourites("old"), manyFavourites("another, which is longer")};
         QVERIFY(writeBytes(path, texts[0]));
         const auto writeTime = timeOfAWrite(folder.filePath(QStringLiteral("timed.xml")), texts[1]);
+        QVERIFY(writeTime > 0);
         std::mt19937 random{20260102};
         std::uniform_int_distribution<qint64> moment{0, 3 * writeTime};
 
@@ -121,8 +123,11 @@ private:
         Favourites favourites(path);
         QElapsedTimer timer;
         timer.start();
+        bool isWritten = true;
         for (int i = 0; i < 10; ++i)
-            (void)favourites.write(text);
+            isWritten = favourites.write(text) && isWritten;
+        if (!isWritten)
+            return -1;
         return std::max(qint64(1), timer.nsecsElapsed() / 10'000);
     }
 

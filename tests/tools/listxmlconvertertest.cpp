@@ -376,7 +376,7 @@ private Q_SLOTS:
         text += "<game name=\"b\" ></game></mame>";
         const TitleTable titles;
         ListxmlConverter converter(titles, {});
-        const std::size_t step = inPieces ? 128 * 1024 : text.size();
+        const std::size_t step = inPieces ? std::size_t{128} * 1024 : text.size();
         for (std::size_t at = 0; at < text.size(); at += step)
             QVERIFY(converter.feed(std::string_view(text).substr(at, step)));
         const auto list = converter.finish();
