@@ -16,7 +16,6 @@
 #include "artwork/ui/picturepane.h"
 #include "artwork/ui/picturespage.h"
 #include "artwork/ui/snapsites.h"
-#include "catalogue/recorddictionary.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
@@ -41,9 +40,7 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
     GameListController& list = m_parts.list;
     PicturePane& pane = *m_parts.mainWindow.sidePanel->picturePane;
     m_aspect.setPopup(*pane.aspectPop);
-    show(
-        m_main, pane, [&list] { return list.tableViewSelectionROM(); },
-        [&list] { return list.tableViewSelectionParentROM(); });
+    show(m_main, pane, list);
     m_main->setHeld(true);
     connect(m_main.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
@@ -58,21 +55,19 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
 
 ArtworkDesk::~ArtworkDesk() = default;
 
-void ArtworkDesk::show(Shown& shown, PicturePane& pane, std::function<QString()> name,
-                       std::function<QString()> parent)
+void ArtworkDesk::show(Shown& shown, PicturePane& pane, const GameSelection& selection)
 {
     fillKinds(*pane.buttonShot->menu());
     connect(pane.buttonShot, &QToolButton::clicked, &m_folder, &SnapFolder::ChangesnapPop);
     connect(&m_folder, &SnapFolder::labelChanged, pane.shotTextField, &QLabel::setText);
     pane.shotTextField->setText(m_folder.label());
-    show(shown, *pane.imageView, std::move(name), std::move(parent));
+    show(shown, *pane.imageView, selection);
 }
 
-void ArtworkDesk::show(Shown& shown, AspectView& view, std::function<QString()> name,
-                       std::function<QString()> parent)
+void ArtworkDesk::show(Shown& shown, AspectView& view, const GameSelection& selection)
 {
     shown = std::make_unique<SnapshotController>(
-        SnapshotParts{m_parts.desktop, m_parts.defaults, m_folder, view, std::move(name), std::move(parent)});
+        SnapshotParts{m_parts.desktop, m_parts.defaults, m_folder, view, selection});
     connect(shown.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
 }
 
@@ -81,9 +76,7 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
     UCAppController& favorites = m_parts.favorites.controller();
     PicturePane& pane = *window.sidePanel->picturePane;
     m_aspect.addPopup(*pane.aspectPop);
-    show(
-        m_favorites, pane, [&favorites] { return favorites.tableViewSelectionROM2(); },
-        [&favorites] { return favorites.tableViewSelectionCloneof(); });
+    show(m_favorites, pane, favorites);
     connect(m_favorites.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
     connect(&favorites, &UCAppController::selectionChanged, m_favorites.get(),
             &SnapshotController::showSelection);
@@ -92,15 +85,9 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
 
 void ArtworkDesk::joinMini(MiniWindow& window)
 {
-    MiniDesk& mini = m_parts.mini;
     connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
     window.shotTextField2->setText(m_folder.label());
-    show(
-        m_mini, *window.imageView, [&mini] { return mini.game(); },
-        [&mini] {
-            const GameRecord* record = mini.record();
-            return record != nullptr ? fieldText((*record)[Field::Cloneof]) : QString();
-        });
+    show(m_mini, *window.imageView, m_parts.mini);
     // Its title's place is for its own game: of the hidden lists' pictures it says nothing.
     connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::say);
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),

@@ -95,9 +95,8 @@ Q_SIGNALS:
 private:
     using Shown = std::unique_ptr<SnapshotController>;
 
-    void show(Shown& shown, PicturePane& pane, std::function<QString()> name,
-              std::function<QString()> parent);
-    void show(Shown& shown, AspectView& view, std::function<QString()> name, std::function<QString()> parent);
+    void show(Shown& shown, PicturePane& pane, const GameSelection& selection);
+    void show(Shown& shown, AspectView& view, const GameSelection& selection);
     Shown& shown();
     void addPage();
     void pathChosen(const QString& key);

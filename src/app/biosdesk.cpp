@@ -25,8 +25,7 @@ BiosPanel& BiosDesk::panel()
         m_parts.windows.carryMenuKeys(*m_panel);
         m_list = std::make_unique<Bioslist>(
             BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_parts.popup, m_undo, m_parts.ownFile,
-                      [this] { return m_parts.general.emulatorNow(); },
-                      [this] { return m_parts.list.tableViewSelectionROM(); }});
+                      [this] { return m_parts.general.emulatorNow(); }, m_parts.list});
         m_list->awakeFromNib();
     }
     return *m_panel;

@@ -73,22 +73,17 @@ InfoDesk::~InfoDesk() = default;
 
 std::vector<InfoDesk::Subject> InfoDesk::subjects()
 {
-    GameListController& list = m_parts.list;
-    UCAppController& favorites = m_parts.favorites.controller();
-    MiniDesk& mini = m_parts.mini;
-    const Reader game = [&list] { return list.tableViewSelectionROM(); };
-    const Reader parent = [&list] { return list.tableViewSelectionParentROM(); };
-    const Reader favorite = [&favorites] { return favorites.tableViewSelectionROM2(); };
-    const Reader favoriteParent = [&favorites] { return favorites.tableViewSelectionCloneof(); };
-    const Reader typed = [&mini] { return mini.game(); };
+    const GameSelection* game = &m_parts.list;
+    const GameSelection* favorite = &m_parts.favorites.controller();
+    const GameSelection* typed = &m_parts.mini;
     // Deliberate: the record editor shows the game list's name, and looks up the favourites' parent.
     // clang-format off
     return {
-        {Kind::Main,            game,     parent,         game},
-        {Kind::Favorites,       favorite, favoriteParent, favorite},
-        {Kind::FavoritesEditor, favorite, favoriteParent, nullptr},
-        {Kind::Mini,            typed,    typed,          typed},
-        {Kind::Editor,          game,     favoriteParent, game},
+        {Kind::Main,            game,     game,     true},
+        {Kind::Favorites,       favorite, favorite, true},
+        {Kind::FavoritesEditor, favorite, favorite, false},
+        {Kind::Mini,            typed,    nullptr,  true},
+        {Kind::Editor,          game,     favorite, true},
     };
     // clang-format on
 }
@@ -212,7 +207,7 @@ bool InfoDesk::isListShown(KeyWindow::Kind list) const
 void InfoDesk::openROMinfo()
 {
     const Subject* asked = subject();
-    sites().openROMinfo(asked != nullptr && asked->site ? asked->site() : QString());
+    sites().openROMinfo(asked != nullptr && asked->hasPage ? asked->name() : QString());
 }
 
 // Deliberate: the favourites window's own commands go by its own choice of a site, the menu bar's by that of

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/keywindow.h"
+#include "catalogue/gameselection.h"
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -63,12 +63,14 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
-    using Reader = std::function<QString()>;
     struct Subject {
         KeyWindow::Kind window;
-        Reader name; ///< that is shown
-        Reader key; ///< that is looked up
-        Reader site; ///< whose page is opened; none
+        const GameSelection* selection;
+        const GameSelection* parent; ///< whose parent is looked up; of a name that was typed that name
+        bool hasPage;
+
+        QString name() const { return selection->selected().name; }
+        QString key() const { return parent != nullptr ? parent->selected().parent : name(); }
     };
 
     void addPage();

@@ -1,5 +1,7 @@
 #include "app/keycommands.h"
 
+#include "catalogue/gameselection.h"
+
 #include <algorithm>
 
 namespace tessera {
@@ -57,7 +59,7 @@ void KeyCommands::scrollsEndAction()
 void KeyCommands::menuRun()
 {
     const Row* key = row();
-    Q_EMIT runRequested(key != nullptr && key->game ? key->game() : QString());
+    Q_EMIT runRequested(key != nullptr && key->game != nullptr ? key->game->selected().name : QString());
 }
 
 void KeyCommands::remove()

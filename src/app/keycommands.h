@@ -9,6 +9,7 @@ class QUndoStack;
 
 namespace tessera {
 
+class GameSelection;
 class GameTableView;
 
 /// The commands that act on the window that is key: one table of windows by commands. Its columns differ from
@@ -25,7 +26,7 @@ public:
         Command random;
         Command home;
         Command end;
-        std::function<QString()> game; ///< that is run
+        const GameSelection* game; ///< that is run
         Command remove;
         Command save;
         Command edit;

@@ -67,6 +67,15 @@ void MiniDesk::setEmulator(const QString& title)
         m_window->setEmulator(title);
 }
 
+SelectedGame MiniDesk::selected() const
+{
+    const GameRecord* game = record();
+    if (game == nullptr)
+        return {this->game(), {}, {}, {}};
+    return {this->game(), fieldText((*game)[Field::Title]), fieldText((*game)[Field::Titlejp]),
+            fieldText((*game)[Field::Cloneof])};
+}
+
 QString MiniDesk::game() const
 {
     return m_window ? m_window->setnameTextField2->text() : QString();

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "catalogue/gameselection.h"
+
 #include <QObject>
-#include <QString>
 
 #include <memory>
 
@@ -16,7 +17,7 @@ class MiniWindow;
 class Windows;
 
 /// Joins the mini window to the catalogue: what is suggested, and the title of the set in its field.
-class MiniDesk : public QObject
+class MiniDesk : public QObject, public GameSelection
 {
     Q_OBJECT
 
@@ -27,10 +28,9 @@ public:
 
     /// Made when it is first asked for.
     MiniWindow& window();
-    /// The text of its field.
+    /// The text of its field, and what the catalogue has of it.
+    SelectedGame selected() const override;
     QString game() const;
-    /// Its record; null where the catalogue has none.
-    const GameRecord* record() const;
     void setGame(const QString& set);
     /// Names the kind of emulator.
     void setEmulator(const QString& title);
@@ -45,6 +45,7 @@ Q_SIGNALS:
     void mainWanted();
 
 private:
+    const GameRecord* record() const;
     void suggest(const QString& text);
     void showTitle();
     void setAbove(bool above);

@@ -96,10 +96,7 @@ public:
     EmulatorTask task{desktop};
     RunController runs{desktop, settings, logWindow, task};
     LaunchController launches{
-        {desktop, settings, pages, paths, task, runs, profiles,
-         SelectionReaders{[this] { return gameList.tableViewSelectionROM(); },
-                          [this] { return gameList.tableViewSelectionTitleE(); },
-                          [this] { return gameList.tableViewSelectionTitleJ(); }},
+        {desktop, settings, pages, paths, task, runs, profiles, gameList,
          [this](const QString& name) { return favorites.controller().search_priorityOption(name); }}};
 
     // Three windows, one of which is shown.

@@ -38,9 +38,9 @@ std::vector<KeyCommands::Row> Program::keyTable()
     const auto list2 = [this] { return favorites.window().favoritesTable; };
     const auto log = [this] { return logWindow.infomationTextView; };
     const auto history = [this] { return info.window().historyinfoTextView; };
-    const auto game = [this] { return gameList.tableViewSelectionROM(); };
-    const auto favorite = [favourites] { return favourites->tableViewSelectionROM2(); };
-    const auto typed = [this] { return mini.game(); };
+    const GameSelection* game = &gameList;
+    const GameSelection* favorite = favourites;
+    const GameSelection* typed = &mini;
 
     const Command random = [this] { gameList.gameShuffle(); };
     const Command random2 = [favourites] { favourites->gameShuffle2(); };

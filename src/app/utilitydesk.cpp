@@ -15,7 +15,6 @@
 #include "platform/defaultscontroller.h"
 #include "tools/ui/favouritestool.h"
 #include "tools/ui/scriptpage.h"
-#include "tools/ui/scripttool.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 
@@ -37,9 +36,8 @@ UtilityObject& UtilityDesk::utility()
 {
     if (m_utility)
         return *m_utility;
-    m_utility = std::make_unique<UtilityObject>(m_parts.desktop, m_parts.defaults, hooks());
+    m_utility = std::make_unique<UtilityObject>(m_parts.desktop, m_parts.defaults, *this);
     UtilityWindow& window = m_utility->utilityWindow();
-    m_scripts = std::make_unique<ScriptTool>(*window.scriptPage, m_utility->workbench(), scriptSources());
     connect(window.scriptPage->button_launcher, &QPushButton::clicked, &m_parts.commands,
             &CommandsDesk::saveLauncher);
     FavouritesTool* favourites = &m_utility->favourites();
@@ -51,49 +49,6 @@ UtilityObject& UtilityDesk::utility()
     return *m_utility;
 }
 
-UtilityHooks UtilityDesk::hooks()
-{
-    UtilityHooks hooks;
-    hooks.search_arrangedObjects = [this](const QStringList& names) {
-        return m_parts.list.search_arrangedObjects(Field::Name, names);
-    };
-    hooks.hiddenRecords = [this] {
-        const std::size_t all = m_parts.catalogue.records().size();
-        return all - std::min(all, m_parts.list.list().size());
-    };
-    hooks.showAllRecords = [this] { m_parts.finding.showAll(); };
-    hooks.openGame = [this](const QString& name) { return m_parts.opening.openGame(name); };
-    hooks.emulator = [this] { return m_parts.general.emulatorNow(); };
-    hooks.romFolder = [this] { return m_parts.defaults.text(keys::RomsPath); };
-    hooks.useAsCatalogue = [this](const QString& path) {
-        m_parts.saving.commitEditing();
-        return m_parts.rebuild.useFile(path);
-    };
-    hooks.showChanges = [this] { m_parts.changes.showChanges(); };
-    hooks.pathOfDataFile = [this] { return m_parts.favorites.pathOfDataFile(); };
-    hooks.dir_make = [this](const QString& path) { m_parts.favorites.dir_make(path); };
-    hooks.set_favorites = [this] { m_parts.favorites.set_favorites(); };
-    hooks.keepUnsavedFavorites = [this] { return m_parts.favorites.keepUnsaved(); };
-    return hooks;
-}
-
-ScriptSources UtilityDesk::scriptSources()
-{
-    ScriptSources sources;
-    sources.tableViewSelectionROM = [this] { return m_parts.list.tableViewSelectionROM(); };
-    sources.tableViewSelectionTitleE = [this] { return m_parts.list.tableViewSelectionTitleE(); };
-    sources.tableViewSelectionTitleJ = [this] { return m_parts.list.tableViewSelectionTitleJ(); };
-    sources.emulatorPath = [this](ScriptEmulator emulator) {
-        if (emulator == ScriptEmulator::CommandLine)
-            return m_parts.launches.executable();
-        return m_parts.defaults.text(emulator == ScriptEmulator::MameOsx ? keys::MameosxPath
-                                                                         : keys::ApplicationPath);
-    };
-    sources.argumentsArray = [this] { return m_parts.launches.shellOptions(); };
-    sources.argumentsArray2 = [this] { return m_parts.launches.osxOptions(); };
-    return sources;
-}
-
 bool UtilityDesk::mayBeAbandoned()
 {
     return !m_utility || m_utility->mayBeAbandoned();
@@ -102,6 +57,91 @@ bool UtilityDesk::mayBeAbandoned()
 void UtilityDesk::utilityOrderFront()
 {
     utility().utilityOrderFront();
+}
+
+SelectedGame UtilityDesk::selectedGame() const
+{
+    return m_parts.list.selected();
+}
+
+QList<RecordDictionary> UtilityDesk::search_arrangedObjects(const QStringList& names)
+{
+    return m_parts.list.search_arrangedObjects(Field::Name, names);
+}
+
+std::size_t UtilityDesk::hiddenRecords() const
+{
+    const std::size_t all = m_parts.catalogue.records().size();
+    return all - std::min(all, m_parts.list.list().size());
+}
+
+void UtilityDesk::showAllRecords()
+{
+    m_parts.finding.showAll();
+}
+
+bool UtilityDesk::openGame(const QString& name)
+{
+    return m_parts.opening.openGame(name);
+}
+
+QString UtilityDesk::emulator()
+{
+    return m_parts.general.emulatorNow();
+}
+
+QString UtilityDesk::emulatorPath(ScriptEmulator emulator) const
+{
+    if (emulator == ScriptEmulator::CommandLine)
+        return m_parts.launches.executable();
+    return m_parts.defaults.text(emulator == ScriptEmulator::MameOsx ? keys::MameosxPath
+                                                                     : keys::ApplicationPath);
+}
+
+QStringList UtilityDesk::argumentsArray()
+{
+    return m_parts.launches.shellOptions();
+}
+
+QStringList UtilityDesk::argumentsArray2()
+{
+    return m_parts.launches.osxOptions();
+}
+
+QString UtilityDesk::romFolder() const
+{
+    return m_parts.defaults.text(keys::RomsPath);
+}
+
+std::optional<QString> UtilityDesk::useAsCatalogue(const QString& path)
+{
+    m_parts.saving.commitEditing();
+    return m_parts.rebuild.useFile(path);
+}
+
+void UtilityDesk::showChanges()
+{
+    m_parts.changes.showChanges();
+}
+
+QString UtilityDesk::pathOfDataFile() const
+{
+    return m_parts.favorites.pathOfDataFile();
+}
+
+void UtilityDesk::dir_make(const QString& path)
+{
+    m_parts.favorites.dir_make(path);
+}
+
+void UtilityDesk::set_favorites()
+{
+    m_parts.favorites.set_favorites();
+}
+
+std::expected<QString, Failure> UtilityDesk::keepUnsavedFavorites()
+{
+    return m_parts.favorites.keepUnsaved();
 }
 
 } // namespace tessera

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/ui/utilityhost.h"
+
 #include <QObject>
 
 #include <memory>
@@ -18,16 +20,13 @@ class GameListController;
 class GameOpening;
 class GeneralPage;
 class LaunchController;
-class ScriptTool;
 class UCAppController;
 class UtilityObject;
 class Windows;
-struct ScriptSources;
-struct UtilityHooks;
 
 /// The utility window, joined to what its tools ask of the rooms. It is made when it is first asked for: a
 /// start of the program needs none of its pages.
-class UtilityDesk : public QObject
+class UtilityDesk : public QObject, public UtilityHost
 {
     Q_OBJECT
 
@@ -63,12 +62,25 @@ Q_SIGNALS:
     void statusWithdrawn(const QString& text);
 
 private:
-    UtilityHooks hooks();
-    ScriptSources scriptSources();
+    SelectedGame selectedGame() const override;
+    QList<RecordDictionary> search_arrangedObjects(const QStringList& names) override;
+    std::size_t hiddenRecords() const override;
+    void showAllRecords() override;
+    bool openGame(const QString& name) override;
+    QString emulator() override;
+    QString emulatorPath(ScriptEmulator emulator) const override;
+    QStringList argumentsArray() override;
+    QStringList argumentsArray2() override;
+    QString romFolder() const override;
+    std::optional<QString> useAsCatalogue(const QString& path) override;
+    void showChanges() override;
+    QString pathOfDataFile() const override;
+    void dir_make(const QString& path) override;
+    void set_favorites() override;
+    std::expected<QString, Failure> keepUnsavedFavorites() override;
 
     Parts m_parts;
     std::unique_ptr<UtilityObject> m_utility;
-    std::unique_ptr<ScriptTool> m_scripts;
 };
 
 } // namespace tessera

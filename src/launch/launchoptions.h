@@ -1,17 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "catalogue/gameselection.h"
 
 namespace tessera {
-
-/// The game that is selected in the game list; each text is empty when nothing is selected.
-struct SelectedGame {
-    QString name; ///< the short name
-    QString title;
-    QString titlejp;
-
-    bool operator==(const SelectedGame&) const = default;
-};
 
 /// A pop-up whose title is sent. Without a selection the position is -1 and the title empty.
 struct PopupState {

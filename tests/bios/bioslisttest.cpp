@@ -297,9 +297,9 @@ private Q_SLOTS:
 
     void withoutAnEmulatorOrAGameItBeeps()
     {
-        m_room->game = QStringLiteral("-version");
+        m_room->selection.game.name = QStringLiteral("-version");
         m_room->list->addOfGame();
-        m_room->game.clear();
+        m_room->selection.game = {};
         m_room->list->addOfGame();
         m_room->emulator.clear();
         m_room->list->rebuild();

@@ -7,6 +7,7 @@
 #include "launch/popupitems.h"
 #include "launch/ui/growingpopup.h"
 #include "platform/defaultscontroller.h"
+#include "support/chosengame.h"
 #include "support/scripteddesktop.h"
 #include "widgets/boundcontrols.h"
 
@@ -42,7 +43,7 @@ struct BiosRoom {
         list.reset();
         panel = std::make_unique<BiosPanel>();
         list = std::make_unique<Bioslist>(BiosParts{desktop, defaults, *panel, popup, undo, ownFile(),
-                                                    [this] { return emulator; }, [this] { return game; }});
+                                                    [this] { return emulator; }, selection});
         list->awakeFromNib();
     }
 
@@ -71,7 +72,7 @@ struct BiosRoom {
     QUndoStack undo;
     QComboBox popup;
     QString emulator = QStringLiteral(TESSERA_FAKEEMULATOR);
-    QString game = QStringLiteral("pong");
+    test::ChosenGame selection{SelectedGame{QStringLiteral("pong"), {}, {}}};
     std::unique_ptr<BiosPanel> panel;
     std::unique_ptr<Bioslist> list;
 };

@@ -20,8 +20,7 @@ namespace {
 // A launch's room with the commands in its log window.
 struct Room : test::Room {
     CommandBar& bar = *new CommandBar(defaults);
-    CommandController commands{
-        CommandParts{desktop, bar, task, runs, controller, chooser, [this] { return selected; }}};
+    CommandController commands{CommandParts{desktop, bar, task, runs, controller, chooser, selected}};
 
     Room() { log.setCommands(&bar); }
 
@@ -74,7 +73,7 @@ private Q_SLOTS:
         QFETCH(int, position);
         qputenv("FAKE_COMMAND", "print");
         Room room;
-        room.selected = "galaga";
+        room.selected.game.name = "galaga";
         room.run(position);
         const QString title = QString::fromLatin1(commandRow(position).title);
         QVERIFY(room.text().startsWith(commandHeader(position, "galaga", title)));
@@ -91,7 +90,7 @@ private Q_SLOTS:
     void aCommandWithoutItsGameBeepsAndChangesNothing()
     {
         Room room;
-        room.selected.clear();
+        room.selected.game = {};
         room.runs.appendOutput("before");
         for (const int position : {7, 17, 20, 21, 23}) {
             room.run(position);
@@ -139,7 +138,7 @@ private Q_SLOTS:
     void worksInTheEmulatorsFolder()
     {
         Room room;
-        room.selected = "folder";
+        room.selected.game.name = "folder";
         room.run(8);
         QVERIFY(room.text().endsWith("\n\n" + QFileInfo(room.folder.path()).canonicalFilePath() + "\n"));
     }
@@ -181,7 +180,7 @@ private Q_SLOTS:
     void aBadEndIsToldBehindTheOutputAndBeforeThePop()
     {
         Room room;
-        room.selected = "exit3";
+        room.selected.game.name = "exit3";
         QString atEnd;
         connect(&room.runs, &RunController::runningChanged, this, [&](bool running) {
             if (!running)
@@ -209,7 +208,7 @@ private Q_SLOTS:
     {
         Room room;
         room.log.show();
-        room.selected = "wait";
+        room.selected.game.name = "wait";
         bool seen = false;
         room.whileItRuns([&] {
             seen = room.bar.progressInd->isVisible() && !room.bar.returnButton->isEnabled()
@@ -229,7 +228,7 @@ private Q_SLOTS:
         Room room;
         room.log.show();
         QVERIFY(QTest::qWaitForWindowExposed(&room.log));
-        room.selected = "wait";
+        room.selected.game.name = "wait";
         room.whileItRuns([&] {
             QTest::mouseClick(room.log.saveButton, Qt::LeftButton);
             QTest::keyClick(room.log.infomationTextView, Qt::Key_Escape);
@@ -244,7 +243,7 @@ private Q_SLOTS:
     void quittingAndLaunchesAreRefusedWhileItIsWaitedFor()
     {
         Room room;
-        room.selected = "wait";
+        room.selected.game.name = "wait";
         bool quits = true;
         room.whileItRuns([&] {
             quits = room.controller.confirmQuit();
@@ -262,7 +261,7 @@ private Q_SLOTS:
     {
         Room room;
         room.log.show();
-        room.selected = "endless";
+        room.selected.game.name = "endless";
         QTimer::singleShot(300, &room.commands, [&] { room.runs.stopProcess(); });
         room.run(7);
         QVERIFY(room.text().size() > 1000);
@@ -273,7 +272,7 @@ private Q_SLOTS:
     {
         test::Grandchild grandchild;
         Room room;
-        room.selected = "grandchild";
+        room.selected.game.name = "grandchild";
         room.run(7);
         QVERIFY(room.text().endsWith("gone\n"));
         QVERIFY(grandchild.isAlive());

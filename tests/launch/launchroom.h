@@ -10,6 +10,7 @@
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"
 #include "platform/defaultscontroller.h"
+#include "support/chosengame.h"
 #include "support/scripteddesktop.h"
 
 #include <QProcess>
@@ -35,13 +36,10 @@ struct Room {
     EmulatorTask task;
     ProfileCache profiles{folder.filePath(QStringLiteral("profiles"))};
     QHash<QString, QString> favourites;
-    QString selected = QStringLiteral("sel");
+    ChosenGame selected{SelectedGame{QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}};
     RunController runs{desktop, defaults, log, task};
-    LaunchController controller{
-        LaunchParts{desktop, defaults, pages, chooser, task, runs, profiles,
-                    SelectionReaders{[this] { return selected; }, [] { return QStringLiteral("Title"); },
-                                     [] { return QStringLiteral("題"); }},
-                    [this](const QString& name) { return favourites.value(name); }}};
+    LaunchController controller{LaunchParts{desktop, defaults, pages, chooser, task, runs, profiles, selected,
+                                            [this](const QString& name) { return favourites.value(name); }}};
     QSignalSpy running{&controller, &LaunchController::runningChanged};
 
     explicit Room(const Patience& patience = {std::chrono::milliseconds(200), std::chrono::milliseconds(200)})

@@ -80,8 +80,8 @@ private Q_SLOTS:
         // An emulator that is verified ends when the test says so.
         const QString go = stage.path("go");
         qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
-        stage.rooms.emulator = stage.script("while [ ! -e '" + go.toUtf8()
-                                            + "' ]; do sleep 0.02; done; echo romset a is good");
+        stage.rooms.emulatorToAsk = stage.script("while [ ! -e '" + go.toUtf8()
+                                                 + "' ]; do sleep 0.02; done; echo romset a is good");
         stage.window.pageList->setCurrentRow(3);
         QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
         QVERIFY(stage.isBusy());
@@ -151,7 +151,7 @@ private Q_SLOTS:
         stage.utility.utilityOrderFront();
         QVERIFY(QTest::qWaitForWindowActive(&stage.window));
         qputenv("XDG_CACHE_HOME", QFile::encodeName(stage.path("cache")));
-        stage.rooms.emulator = stage.script("exec sleep 60");
+        stage.rooms.emulatorToAsk = stage.script("exec sleep 60");
         stage.window.pageList->setCurrentRow(3);
         QTest::mouseClick(stage.window.verificationPage->button_ask3, Qt::LeftButton);
         QTest::mouseClick(stage.foot.button_cancel, Qt::LeftButton);

@@ -319,7 +319,7 @@ private Q_SLOTS:
         Stage stage;
         stage.fill("");
         stage.useCache();
-        stage.rooms.emulator
+        stage.rooms.emulatorToAsk
             = stage.script("[ \"$*\" = -listfull ] || exit 1\nprintf 'Name: D:\\nz x\\nd x\\n'");
         stage.press(stage.page.button_ask2);
         QTRY_VERIFY(!stage.isIndicatorRunning());
@@ -350,7 +350,7 @@ private Q_SLOTS:
         stage.fill("");
         stage.useCache();
         if (!commands.isEmpty())
-            stage.rooms.emulator = stage.script(commands);
+            stage.rooms.emulatorToAsk = stage.script(commands);
         stage.press(stage.page.button_ask2);
         QTRY_COMPARE(stage.information(), information);
         QCOMPARE(stage.page.rows->size(), std::size_t(0));
@@ -363,8 +363,9 @@ private Q_SLOTS:
         stage.fill("");
         stage.useCache();
         const QString begun = stage.path("begun");
-        stage.rooms.emulator = stage.script("echo $$ > '" + begun.toUtf8() + ".new'; mv '" + begun.toUtf8()
-                                            + ".new' '" + begun.toUtf8() + "'; echo Name:; sleep 100");
+        stage.rooms.emulatorToAsk
+            = stage.script("echo $$ > '" + begun.toUtf8() + ".new'; mv '" + begun.toUtf8() + ".new' '"
+                           + begun.toUtf8() + "'; echo Name:; sleep 100");
         QTest::mouseClick(stage.page.button_ask2, Qt::LeftButton);
         QVERIFY(stage.isBusy());
         QTRY_VERIFY(QFile::exists(begun));

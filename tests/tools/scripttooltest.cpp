@@ -11,16 +11,9 @@ using namespace tessera;
 namespace {
 
 struct Stage : test::UtilityStage {
-    QString game = QStringLiteral("pong");
     ScriptPage& page = *window.scriptPage;
-    ScriptTool tool{page, utility.workbench(),
-                    ScriptSources{[this] { return game; }, [] { return QStringLiteral("Pong"); },
-                                  [] { return QString::fromUtf8("ポン"); },
-                                  [this](ScriptEmulator emulator) {
-                                      return path(QStringLiteral("apps/%1").arg(static_cast<int>(emulator)));
-                                  },
-                                  [] { return QStringList{QStringLiteral("-one")}; },
-                                  [] { return QStringList{QStringLiteral("-Two"), QStringLiteral("1")}; }}};
+
+    Stage() { rooms.scriptFolder = folder.path(); }
 };
 
 } // namespace
@@ -70,7 +63,7 @@ private Q_SLOTS:
     void withoutAGameThereIsNothingToMake()
     {
         Stage stage;
-        stage.game.clear();
+        stage.rooms.selected = {};
         stage.press(stage.page.button_make);
         QCOMPARE(stage.information(), QString("Game is not selected."));
         QCOMPARE(stage.desktop.transcript(), QStringList({"beep"}));

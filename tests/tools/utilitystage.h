@@ -4,7 +4,7 @@
 #include "support/scripteddesktop.h"
 #include "support/testmain.h"
 #include "tools/ui/utilityfoot.h"
-#include "tools/ui/utilityhooks.h"
+#include "tools/ui/utilityhost.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
 
@@ -18,51 +18,60 @@
 namespace tessera::test {
 
 /// What the rest of the program would answer to the tools, and what it was told.
-struct ScriptedRooms {
+struct ScriptedRooms : UtilityHost {
     QStringList games; ///< the list's set names, as they are shown
     std::size_t hidden = 0;
     QString favourites; ///< the path of their file
-    QString emulator; ///< its path
-    QString romFolder;
+    QString emulatorToAsk; ///< its path
+    QString scriptFolder; ///< in which the ones are that scripts start
+    QString roms; ///< their folder
+    SelectedGame selected{QStringLiteral("pong"), QStringLiteral("Pong"), QString::fromUtf8("ポン"), {}};
     std::optional<QString> changes; ///< what differs from the catalogue before
     std::expected<QString, Failure> unsaved; ///< where it is kept
     QStringList told;
 
-    UtilityHooks hooks()
+    SelectedGame selectedGame() const override { return selected; }
+    QList<RecordDictionary> search_arrangedObjects(const QStringList& names) override
     {
-        UtilityHooks hooks;
-        hooks.search_arrangedObjects = [this](const QStringList& names) {
-            QList<RecordDictionary> found;
-            for (const QString& name : names) {
-                if (games.contains(name))
-                    found << record(name);
-            }
-            return found;
-        };
-        hooks.hiddenRecords = [this] { return hidden; };
-        hooks.showAllRecords = [this] { told << QStringLiteral("show all"); };
-        hooks.openGame = [this](const QString& name) {
-            told << QStringLiteral("open ") + name;
-            return games.contains(name);
-        };
-        hooks.emulator = [this] { return emulator; };
-        hooks.romFolder = [this] { return romFolder; };
-        hooks.useAsCatalogue = [this](const QString& path) {
-            told << QStringLiteral("use ") + path;
-            return changes;
-        };
-        hooks.showChanges = [this] { told << QStringLiteral("show changes"); };
-        hooks.pathOfDataFile = [this] { return favourites; };
-        hooks.dir_make = [this](const QString& path) {
-            told << QStringLiteral("make ") + path;
-            QDir().mkpath(path);
-        };
-        hooks.set_favorites = [this] { told << QStringLiteral("read favourites"); };
-        hooks.keepUnsavedFavorites = [this] {
-            told << QStringLiteral("keep unsaved");
-            return unsaved;
-        };
-        return hooks;
+        QList<RecordDictionary> found;
+        for (const QString& name : names) {
+            if (games.contains(name))
+                found << record(name);
+        }
+        return found;
+    }
+    std::size_t hiddenRecords() const override { return hidden; }
+    void showAllRecords() override { told << QStringLiteral("show all"); }
+    bool openGame(const QString& name) override
+    {
+        told << QStringLiteral("open ") + name;
+        return games.contains(name);
+    }
+    QString emulator() override { return emulatorToAsk; }
+    QString emulatorPath(ScriptEmulator emulator) const override
+    {
+        return scriptFolder + QStringLiteral("/apps/%1").arg(static_cast<int>(emulator));
+    }
+    QStringList argumentsArray() override { return {QStringLiteral("-one")}; }
+    QStringList argumentsArray2() override { return {QStringLiteral("-Two"), QStringLiteral("1")}; }
+    QString romFolder() const override { return roms; }
+    std::optional<QString> useAsCatalogue(const QString& path) override
+    {
+        told << QStringLiteral("use ") + path;
+        return changes;
+    }
+    void showChanges() override { told << QStringLiteral("show changes"); }
+    QString pathOfDataFile() const override { return favourites; }
+    void dir_make(const QString& path) override
+    {
+        told << QStringLiteral("make ") + path;
+        QDir().mkpath(path);
+    }
+    void set_favorites() override { told << QStringLiteral("read favourites"); }
+    std::expected<QString, Failure> keepUnsavedFavorites() override
+    {
+        told << QStringLiteral("keep unsaved");
+        return unsaved;
     }
 
     static RecordDictionary record(const QString& name)
@@ -97,7 +106,7 @@ struct UtilityStage {
     bool hasInitialValues
         = (controller.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home")), true);
     ScriptedRooms rooms;
-    UtilityObject utility{desktop, controller, rooms.hooks()};
+    UtilityObject utility{desktop, controller, rooms};
     UtilityWindow& window = utility.utilityWindow();
     UtilityFoot& foot = *window.foot;
 

@@ -209,9 +209,9 @@ private Q_SLOTS:
     void letsTheEmulatorVerify()
     {
         Stage stage;
-        stage.rooms.romFolder = "/my roms";
-        stage.rooms.emulator = stage.script("echo \"$@\" > '" + stage.path("arguments").toUtf8()
-                                            + "'; echo romset a is bad; echo romset b is good; exit 2");
+        stage.rooms.roms = "/my roms";
+        stage.rooms.emulatorToAsk = stage.script("echo \"$@\" > '" + stage.path("arguments").toUtf8()
+                                                 + "'; echo romset a is bad; echo romset b is good; exit 2");
         stage.press(stage.page.button_ask3);
         QCOMPARE(stage.read("arguments"), QByteArray("-verifyroms -rompath /my roms\n"));
         QCOMPARE(stage.information(), "verification_verified");
@@ -228,7 +228,7 @@ private Q_SLOTS:
     void withoutARomFolderTheEmulatorHasItsOwn()
     {
         Stage stage;
-        stage.rooms.emulator
+        stage.rooms.emulatorToAsk
             = stage.script("echo \"$@\" > '" + stage.path("arguments").toUtf8() + "'; echo romset a is good");
         stage.press(stage.page.button_ask3);
         QCOMPARE(stage.read("arguments"), QByteArray("-verifyroms\n"));
@@ -238,7 +238,7 @@ private Q_SLOTS:
     void theSetsAreCountedWhileItVerifies()
     {
         Stage stage;
-        stage.rooms.emulator = stage.script("echo romset a is good; echo romset b is good; sleep 100");
+        stage.rooms.emulatorToAsk = stage.script("echo romset a is good; echo romset b is good; sleep 100");
         QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
         QTRY_VERIFY(stage.foot.progressCount->isVisible());
         QCOMPARE(stage.foot.progressCount->text(), "verification_count");
@@ -253,7 +253,7 @@ private Q_SLOTS:
     {
         Stage stage;
         const QByteArray id = stage.path("id").toUtf8();
-        stage.rooms.emulator = stage.script("echo $$ > '" + id + "'; echo romset a is good; sleep 100");
+        stage.rooms.emulatorToAsk = stage.script("echo $$ > '" + id + "'; echo romset a is good; sleep 100");
         QTest::mouseClick(stage.page.button_ask3, Qt::LeftButton);
         QTRY_VERIFY(stage.foot.progressCount->isVisible());
         const int emulator = stage.read("id").trimmed().toInt();
@@ -270,7 +270,7 @@ private Q_SLOTS:
         Stage stage;
         stage.press(stage.page.button_ask3);
         QCOMPARE(stage.information(), "failure_no_emulator");
-        stage.rooms.emulator = stage.script("kill -SEGV $$");
+        stage.rooms.emulatorToAsk = stage.script("kill -SEGV $$");
         stage.press(stage.page.button_ask3);
         QCOMPARE(stage.information(), "emulator_crashed");
         QCOMPARE(stage.desktop.transcript(), QStringList({"beep", "beep"}));

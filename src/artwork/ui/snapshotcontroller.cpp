@@ -35,14 +35,14 @@ SnapshotController::SnapshotController(SnapshotParts parts, QObject* parent)
 
 void SnapshotController::showSelection()
 {
-    Setsnapshot(m_parts.name());
+    Setsnapshot(name());
 }
 
 void SnapshotController::Setsnapshot(const QString& name)
 {
     WantedPicture wanted{m_parts.folder.snappath(), name, std::nullopt};
     if (m_parts.folder.showsParents())
-        wanted.parent = m_parts.parent();
+        wanted.parent = m_parts.selection.selected().parent;
     const auto found = findPicture(wanted, FoldersOnDisk());
     m_snapimag = found ? found->path : QString(noImage);
     m_parts.view.setAccessibleDescription(found ? m_snapimag : qtTrId("picture_nopicture"));
@@ -90,7 +90,7 @@ void SnapshotController::display_image_Finder()
 // The file, then the folder of the same name, then the folder that they would be in.
 void SnapshotController::reveal(const QString& folder, const QString& suffix)
 {
-    const QString name = m_parts.name();
+    const QString name = m_parts.selection.selected().name;
     if (name.isEmpty() || folder.isEmpty()) {
         m_parts.desktop.beep();
         return;

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "artwork/ui/pictureloader.h"
+#include "catalogue/gameselection.h"
 
 #include <QObject>
 #include <QTimer>
-
-#include <functional>
 
 namespace tessera {
 
@@ -26,8 +25,7 @@ struct SnapshotParts {
     DefaultsController& defaults;
     SnapFolder& folder;
     AspectView& view;
-    std::function<QString()> name; ///< the selected set; empty for none
-    std::function<QString()> parent;
+    const GameSelection& selection;
 };
 
 /// Finds and shows the picture of the set that is selected in one list.
@@ -39,7 +37,7 @@ public:
     explicit SnapshotController(SnapshotParts parts, QObject* parent = nullptr);
 
     /// The selected set; empty for none.
-    QString name() const { return m_parts.name(); }
+    QString name() const { return m_parts.selection.selected().name; }
     /// The path of the picture that is shown.
     QString snapimag() const { return m_snapimag; }
     void setSnapimag(const QString& path) { m_snapimag = path; }

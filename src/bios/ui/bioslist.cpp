@@ -1,5 +1,6 @@
 #include "bios/ui/bioslist.h"
 
+#include "catalogue/gameselection.h"
 #include "bios/biosquestion.h"
 #include "bios/ui/biosediting.h"
 #include "bios/ui/biosmodel.h"
@@ -218,7 +219,7 @@ void Bioslist::rebuild()
 
 void Bioslist::addOfGame()
 {
-    if (const QString game = m_parts.game(); isSetName(game))
+    if (const QString game = m_parts.selection.selected().name; isSetName(game))
         ask(game);
     else
         m_parts.desktop.beep();

@@ -18,6 +18,7 @@ class BiosEditing;
 class BiosPanel;
 class BiosQuestion;
 class DefaultsController;
+class GameSelection;
 class Desktop;
 
 /// What the BIOS list needs; all of it outlives the controller.
@@ -29,7 +30,7 @@ struct BiosParts {
     QUndoStack& undo; ///< of the list
     QString ownFile; ///< the user's copy of the list
     std::function<QString()> emulator; ///< its path, empty where there is none
-    std::function<QString()> game; ///< the selected game's set name
+    const GameSelection& selection; ///< of the game list
 };
 
 /// The commands of the BIOS panel.

@@ -111,6 +111,12 @@ QString GameListController::selectedValue(Field field) const
     return record == nullptr ? QString() : shownValue(*record, field);
 }
 
+SelectedGame GameListController::selected() const
+{
+    return {tableViewSelectionROM(), tableViewSelectionTitleE(), tableViewSelectionTitleJ(),
+            tableViewSelectionParentROM()};
+}
+
 QString GameListController::tableViewSelectionROM() const
 {
     return selectedValue(Field::Name);

@@ -3,6 +3,7 @@
 #include "catalogue/arrangedlist.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/colortransformer.h"
+#include "catalogue/gameselection.h"
 #include "catalogue/recorddictionary.h"
 
 #include <QItemSelection>
@@ -20,7 +21,7 @@ class GameTableModel;
 class GameTableView;
 
 /// The game list's commands: what is selected, what a double click does, how the table is sorted.
-class GameListController : public QObject
+class GameListController : public QObject, public GameSelection
 {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ public:
     ArrangedList& list() { return m_list; }
     GameTableModel* model() { return m_model; }
 
+    SelectedGame selected() const override;
     // Selection readers: a field of the first selected record, empty where nothing is selected.
     QString tableViewSelectionROM() const;
     QString tableViewSelectionParentROM() const;

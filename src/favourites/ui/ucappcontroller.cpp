@@ -259,6 +259,12 @@ QString UCAppController::selectedValue(Field field) const
     return favourite ? shownValue(m_parts.favourites.records()[*favourite], field) : QString();
 }
 
+SelectedGame UCAppController::selected() const
+{
+    return {tableViewSelectionROM2(), selectedValue(Field::Title), selectedValue(Field::Titlejp),
+            tableViewSelectionCloneof()};
+}
+
 QString UCAppController::tableViewSelectionROM2() const
 {
     return selectedValue(Field::Name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/colortransformer.h"
+#include "catalogue/gameselection.h"
 #include "favourites/favourites.h"
 #include "favourites/ui/favouriteselection.h"
 
@@ -28,7 +29,7 @@ struct FavouritesParts {
 };
 
 /// The favourites' commands.
-class UCAppController : public QObject
+class UCAppController : public QObject, public GameSelection
 {
     Q_OBJECT
 
@@ -45,6 +46,7 @@ public:
     bool favoritesUpdate() const { return m_favoritesUpdate; }
 
     // Selection readers: a value of the first selected favourite, empty where nothing is selected.
+    SelectedGame selected() const override;
     QString tableViewSelectionROM2() const;
     QString tableViewSelectionParentROM2() const;
     QString tableViewSelectionCloneof() const;

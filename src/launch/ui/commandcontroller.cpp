@@ -1,5 +1,6 @@
 #include "launch/ui/commandcontroller.h"
 
+#include "catalogue/gameselection.h"
 #include "core/failure.h"
 #include "launch/archivepath.h"
 #include "launch/emulatorcommands.h"
@@ -46,7 +47,7 @@ void CommandController::commandAction()
         return;
     }
     const QString executable = m_parts.launches.executable();
-    const QString game = m_parts.tableViewSelectionROM();
+    const QString game = m_parts.selection.selected().name;
     const int position = bar.commandPop->currentIndex();
     const QString title = bar.commandPop->currentText();
     m_parts.task.occupy();

@@ -3,7 +3,6 @@
 #include <QObject>
 #include <QPointer>
 
-#include <functional>
 #include <memory>
 
 class QAbstractButton;
@@ -13,6 +12,7 @@ namespace tessera {
 class CommandBar;
 class Desktop;
 class EmulatorTask;
+class GameSelection;
 class LaunchController;
 class PathChooser;
 class RunController;
@@ -25,7 +25,7 @@ struct CommandParts {
     RunController& runs;
     LaunchController& launches;
     PathChooser& paths;
-    std::function<QString()> tableViewSelectionROM;
+    const GameSelection& selection; ///< of the game list
 };
 
 /// Runs the emulator's informational commands, and waits for them.

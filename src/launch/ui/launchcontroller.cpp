@@ -141,10 +141,7 @@ void LaunchController::launch(const QString& game)
 
 LaunchOptions LaunchController::options() const
 {
-    const SelectionReaders& selection = m_parts.selection;
-    return liveOptions(m_parts.pages,
-                       {selection.tableViewSelectionROM(), selection.tableViewSelectionTitleE(),
-                        selection.tableViewSelectionTitleJ()});
+    return liveOptions(m_parts.pages, m_parts.selection.selected());
 }
 
 LaunchController::Launch LaunchController::launchOf(const QString& game) const

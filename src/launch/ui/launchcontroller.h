@@ -21,13 +21,6 @@ class ProfileCache;
 class RunController;
 struct ProfileAnswer;
 
-/// The readers of the game list's selection; each gives an empty text when nothing is selected.
-struct SelectionReaders {
-    std::function<QString()> tableViewSelectionROM;
-    std::function<QString()> tableViewSelectionTitleE;
-    std::function<QString()> tableViewSelectionTitleJ;
-};
-
 /// What a launch needs; all of it outlives the controller.
 struct LaunchParts {
     Desktop& desktop;
@@ -37,7 +30,7 @@ struct LaunchParts {
     EmulatorTask& task;
     RunController& runs;
     ProfileCache& profiles;
-    SelectionReaders selection;
+    const GameSelection& selection; ///< of the game list
     /// The extra options of the favourite with that short name; empty where there is none.
     std::function<QString(const QString& name)> search_priorityOption;
 };

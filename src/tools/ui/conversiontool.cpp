@@ -22,18 +22,17 @@ QString notWritten(const QString& path, const Failure& failure)
 
 } // namespace
 
-ConversionTool::ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHooks hooks,
-                               QObject* parent)
+ConversionTool::ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHost& host, QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
-    , m_hooks(std::move(hooks))
+    , m_host(host)
 {
     connect(m_page.button_convert, &QPushButton::clicked, this, &ConversionTool::xmloutputAction);
     connect(m_page.button_listxml, &QPushButton::clicked, this, &ConversionTool::selectlistxml);
     connect(m_page.button_mame32jp, &QPushButton::clicked, this, &ConversionTool::selectlocalize);
     connect(m_page.button_useNow, &QPushButton::clicked, this, &ConversionTool::useAsCatalogue);
-    connect(m_page.button_changes, &QPushButton::clicked, this, [this] { m_hooks.showChanges(); });
+    connect(m_page.button_changes, &QPushButton::clicked, this, [this] { m_host.showChanges(); });
 }
 
 void ConversionTool::xmloutputAction()
@@ -120,7 +119,7 @@ void ConversionTool::useAsCatalogue()
 {
     if (m_workbench.isBusy())
         return m_workbench.desktop().beep();
-    if (const auto changes = m_hooks.useAsCatalogue(m_saved))
+    if (const auto changes = m_host.useAsCatalogue(m_saved))
         m_page.showUsed(*changes);
 }
 

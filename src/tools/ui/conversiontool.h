@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tools/listxmlconverter.h"
-#include "tools/ui/utilityhooks.h"
+#include "tools/ui/utilityhost.h"
 
 #include <QObject>
 
@@ -16,7 +16,7 @@ class ConversionTool : public QObject
     Q_OBJECT
 
 public:
-    ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent = nullptr);
+    ConversionTool(ConversionPage& page, Workbench& workbench, UtilityHost& host, QObject* parent = nullptr);
 
 public Q_SLOTS:
     void xmloutputAction();
@@ -34,7 +34,7 @@ private:
 
     ConversionPage& m_page;
     Workbench& m_workbench;
-    UtilityHooks m_hooks;
+    UtilityHost& m_host;
     QString m_saved;
 };
 

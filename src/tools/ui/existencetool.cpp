@@ -27,16 +27,16 @@ QString text(std::string_view existence)
 
 } // namespace
 
-ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent)
+ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHost& host, QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
-    , m_hooks(std::move(hooks))
+    , m_host(host)
 {
     connect(m_page.button_ask2, &QPushButton::clicked, this, &ExistenceTool::askEmulator);
     connect(m_page.button_csv, &QPushButton::clicked, this, &ExistenceTool::exportCsv);
     connect(m_page.reportList, &RowsList::opened, this, [this](const QString& name) {
-        if (!m_hooks.openGame(name))
+        if (!m_host.openGame(name))
             m_workbench.desktop().beep();
     });
     connect(m_page.button_check2, &QPushButton::clicked, this, &ExistenceTool::romlistup);
@@ -77,7 +77,7 @@ void ExistenceTool::askEmulator()
     if (m_workbench.isBusy())
         return m_workbench.desktop().beep();
     m_workbench.inform(existencetexts::started);
-    const QString emulator = m_hooks.emulator();
+    const QString emulator = m_host.emulator();
     if (emulator.isEmpty())
         return m_workbench.refuse(Failure{"failure_no_emulator", {}}.text());
     if (!QFileInfo::exists(m_page.rompathTextField2->text()))

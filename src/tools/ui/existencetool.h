@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tools/existence.h"
-#include "tools/ui/utilityhooks.h"
+#include "tools/ui/utilityhost.h"
 
 #include <QObject>
 
@@ -16,7 +16,7 @@ class ExistenceTool : public QObject
     Q_OBJECT
 
 public:
-    ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent = nullptr);
+    ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityHost& host, QObject* parent = nullptr);
 
     /// "Found" or "Not found"; counted.
     QString existscheck(const QString& setName);
@@ -45,7 +45,7 @@ private:
 
     ExistencePage& m_page;
     Workbench& m_workbench;
-    UtilityHooks m_hooks;
+    UtilityHost& m_host;
     int m_found = 0;
     int m_notFound = 0;
     std::string m_report;

@@ -14,23 +14,22 @@
 
 namespace tessera {
 
-FavouritesTool::FavouritesTool(FavouritesPage& page, Workbench& workbench, UtilityHooks hooks,
-                               QObject* parent)
+FavouritesTool::FavouritesTool(FavouritesPage& page, Workbench& workbench, UtilityHost& host, QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
-    , m_hooks(std::move(hooks))
+    , m_host(host)
 {
     m_trashPool.setMaxThreadCount(1);
     connect(m_page.button_convert3, &QPushButton::clicked, this, &FavouritesTool::favoritesConvert);
     connect(m_page.button_favorites, &QPushButton::clicked, this, &FavouritesTool::selectFavoritesxml);
-    connect(m_page.button_showAll, &QPushButton::clicked, this, [this] { m_hooks.showAllRecords(); });
+    connect(m_page.button_showAll, &QPushButton::clicked, this, [this] { m_host.showAllRecords(); });
     showHidden();
 }
 
 void FavouritesTool::showHidden()
 {
-    m_page.showHidden(m_hooks.hiddenRecords());
+    m_page.showHidden(m_host.hiddenRecords());
 }
 
 void FavouritesTool::favoritesConvert()
@@ -64,11 +63,11 @@ void FavouritesTool::convert(const QString& old)
     const auto names = oldFavourites(old);
     if (!names)
         m_page.showResult(names.error().text());
-    const auto found = m_hooks.search_arrangedObjects(names.value_or(QStringList()));
+    const auto found = m_host.search_arrangedObjects(names.value_or(QStringList()));
     if (found.isEmpty())
         return m_workbench.inform(favouritestexts::noData);
     // They would be gone without a trace: the list is about to be read anew.
-    const auto kept = m_hooks.keepUnsavedFavorites();
+    const auto kept = m_host.keepUnsavedFavorites();
     if (!kept)
         return m_workbench.inform(kept.error().text());
     QStringList notes;
@@ -80,18 +79,18 @@ void FavouritesTool::convert(const QString& old)
         return;
     m_page.showResult(notes.join(QLatin1Char('\n')));
     m_workbench.inform(favouritestexts::finished);
-    m_hooks.set_favorites();
+    m_host.set_favorites();
     trash(old);
 }
 
 // Deliberate: a backup that fails stops nothing, and a file that cannot be written is nobody's to hear of.
 bool FavouritesTool::replaceFavorites(const QList<RecordDictionary>& records)
 {
-    const QString favourites = m_hooks.pathOfDataFile();
+    const QString favourites = m_host.pathOfDataFile();
     const auto text = favouritesText(records, favourites);
     if (QFileInfo::exists(favourites))
         backUp(favourites);
-    m_hooks.dir_make(QFileInfo(favourites).path());
+    m_host.dir_make(QFileInfo(favourites).path());
     return text && writeAtomically(favourites, std::array{std::string_view(*text)}).has_value();
 }
 
@@ -107,7 +106,7 @@ void FavouritesTool::backUp(const QString& favourites)
 // A path that leads to the new favourites stays: it is not the old file any more.
 void FavouritesTool::trash(const QString& old)
 {
-    if (QFileInfo(old).canonicalFilePath() == QFileInfo(m_hooks.pathOfDataFile()).canonicalFilePath())
+    if (QFileInfo(old).canonicalFilePath() == QFileInfo(m_host.pathOfDataFile()).canonicalFilePath())
         return;
     m_trashPool.start([this, old] {
         const auto moved = moveToTrash(old);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/ui/utilityhooks.h"
+#include "tools/ui/utilityhost.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -16,7 +16,7 @@ class FavouritesTool : public QObject
     Q_OBJECT
 
 public:
-    FavouritesTool(FavouritesPage& page, Workbench& workbench, UtilityHooks hooks, QObject* parent = nullptr);
+    FavouritesTool(FavouritesPage& page, Workbench& workbench, UtilityHost& host, QObject* parent = nullptr);
 
 public Q_SLOTS:
     void favoritesConvert();
@@ -33,7 +33,7 @@ private:
 
     FavouritesPage& m_page;
     Workbench& m_workbench;
-    UtilityHooks m_hooks;
+    UtilityHost& m_host;
     QThreadPool m_trashPool; ///< ends first, while everything else still stands
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/desktop.h"
 #include "tools/ui/scriptpage.h"
+#include "tools/ui/utilityhost.h"
 #include "tools/ui/workbench.h"
 #include "widgets/theme.h"
 
@@ -17,11 +18,11 @@ namespace {
 constexpr std::array pictures{"script_com", "script_sh", "script_apple"};
 } // namespace
 
-ScriptTool::ScriptTool(ScriptPage& page, Workbench& workbench, ScriptSources sources, QObject* parent)
+ScriptTool::ScriptTool(ScriptPage& page, Workbench& workbench, UtilityHost& host, QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
-    , m_sources(std::move(sources))
+    , m_host(host)
 {
     connect(m_page.button_make, &QPushButton::clicked, this, &ScriptTool::makingAction);
     connect(m_page.formatPop, &QComboBox::currentIndexChanged, this, &ScriptTool::scriptChangeAction);
@@ -43,13 +44,13 @@ void ScriptTool::makingAction()
     if (m_workbench.isBusy())
         return m_workbench.desktop().beep();
     m_workbench.inform(scripttexts::started);
-    const QString game = m_sources.tableViewSelectionROM();
+    const QString game = m_host.selectedGame().name;
     if (game.isEmpty())
         return m_workbench.refuse(scripttexts::noGame);
     m_workbench.indicator_start();
     const ScriptFormat format = scriptFormatAt(m_page.formatPop->currentIndex());
     const ScriptEmulator emulator = scriptEmulatorAt(m_page.emulatorPop->currentIndex());
-    const ScriptRequest request{format,           emulator, m_sources.emulatorPath(emulator),
+    const ScriptRequest request{format,           emulator, m_host.emulatorPath(emulator),
                                 QDir::homePath(), game,     options(emulator)};
     // The name alone says the format: another that the user gives is kept as it is.
     if (const auto path
@@ -66,9 +67,9 @@ QStringList ScriptTool::options(ScriptEmulator emulator) const
         return {};
     switch (emulator) {
     case ScriptEmulator::CommandLine:
-        return m_sources.argumentsArray();
+        return m_host.argumentsArray();
     case ScriptEmulator::MameOsx:
-        return m_sources.argumentsArray2();
+        return m_host.argumentsArray2();
     default:
         return {};
     }
@@ -76,9 +77,9 @@ QStringList ScriptTool::options(ScriptEmulator emulator) const
 
 QString ScriptTool::fileName(ScriptFormat format) const
 {
+    const SelectedGame game = m_host.selectedGame();
     return scriptFileName(m_page.filenamePop->currentIndex(), format,
-                          {m_sources.tableViewSelectionROM(), m_sources.tableViewSelectionTitleE(),
-                           m_sources.tableViewSelectionTitleJ(), m_page.emulatorPop->currentText()});
+                          {game.name, game.title, game.titlejp, m_page.emulatorPop->currentText()});
 }
 
 // A failure sounds like success: deliberate.

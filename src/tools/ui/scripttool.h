@@ -4,22 +4,11 @@
 
 #include <QObject>
 
-#include <functional>
-
 namespace tessera {
 
 class ScriptPage;
+class UtilityHost;
 class Workbench;
-
-/// What the script maker asks of the rest of the program.
-struct ScriptSources {
-    std::function<QString()> tableViewSelectionROM;
-    std::function<QString()> tableViewSelectionTitleE;
-    std::function<QString()> tableViewSelectionTitleJ;
-    std::function<QString(ScriptEmulator emulator)> emulatorPath;
-    std::function<QStringList()> argumentsArray; ///< as the command-line emulator understands them
-    std::function<QStringList()> argumentsArray2;
-};
 
 /// The commands of the launch script maker.
 class ScriptTool : public QObject
@@ -27,7 +16,7 @@ class ScriptTool : public QObject
     Q_OBJECT
 
 public:
-    ScriptTool(ScriptPage& page, Workbench& workbench, ScriptSources sources, QObject* parent = nullptr);
+    ScriptTool(ScriptPage& page, Workbench& workbench, UtilityHost& host, QObject* parent = nullptr);
 
 public Q_SLOTS:
     void makingAction();
@@ -40,7 +29,7 @@ private:
 
     ScriptPage& m_page;
     Workbench& m_workbench;
-    ScriptSources m_sources;
+    UtilityHost& m_host;
 };
 
 } // namespace tessera

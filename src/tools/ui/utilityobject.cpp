@@ -5,6 +5,7 @@
 #include "tools/ui/conversiontool.h"
 #include "tools/ui/existencetool.h"
 #include "tools/ui/favouritestool.h"
+#include "tools/ui/scripttool.h"
 #include "tools/ui/separationtool.h"
 #include "tools/ui/utilitywindow.h"
 #include "tools/ui/verificationtool.h"
@@ -46,17 +47,18 @@ constexpr std::array fields{
 
 } // namespace
 
-UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, const UtilityHooks& hooks,
+UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, UtilityHost& host,
                              QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_window(std::make_unique<UtilityWindow>(defaults))
     , m_workbench(std::make_unique<Workbench>(desktop, defaults, *m_window->foot))
-    , m_conversion(std::make_unique<ConversionTool>(*m_window->conversionPage, *m_workbench, hooks))
-    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench, hooks))
+    , m_conversion(std::make_unique<ConversionTool>(*m_window->conversionPage, *m_workbench, host))
+    , m_existence(std::make_unique<ExistenceTool>(*m_window->existencePage, *m_workbench, host))
     , m_separation(std::make_unique<SeparationTool>(*m_window->separationPage, *m_workbench))
-    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench, hooks))
-    , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, hooks))
+    , m_verification(std::make_unique<VerificationTool>(*m_window->verificationPage, *m_workbench, host))
+    , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, host))
+    , m_scripts(std::make_unique<ScriptTool>(*m_window->scriptPage, *m_workbench, host))
 {
     connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
     m_window->mayClose = [this] { return mayBeAbandoned(); };

@@ -11,11 +11,12 @@ class DefaultsController;
 class Desktop;
 class ExistenceTool;
 class FavouritesTool;
+class ScriptTool;
 class SeparationTool;
 class UtilityWindow;
 class VerificationTool;
 class Workbench;
-struct UtilityHooks;
+class UtilityHost;
 
 /// The commands of the utility window as a whole; its pages have tools of their own.
 class UtilityObject : public QObject
@@ -23,7 +24,7 @@ class UtilityObject : public QObject
     Q_OBJECT
 
 public:
-    UtilityObject(Desktop& desktop, DefaultsController& defaults, const UtilityHooks& hooks,
+    UtilityObject(Desktop& desktop, DefaultsController& defaults, UtilityHost& host,
                   QObject* parent = nullptr);
     ~UtilityObject() override;
 
@@ -73,6 +74,7 @@ private:
     std::unique_ptr<SeparationTool> m_separation;
     std::unique_ptr<VerificationTool> m_verification;
     std::unique_ptr<FavouritesTool> m_favourites;
+    std::unique_ptr<ScriptTool> m_scripts;
 };
 
 } // namespace tessera

@@ -26,12 +26,12 @@ QString notWritten(const Failure& failure)
 }
 } // namespace
 
-VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHooks hooks,
+VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHost& host,
                                    QObject* parent)
     : QObject(parent)
     , m_page(page)
     , m_workbench(workbench)
-    , m_hooks(std::move(hooks))
+    , m_host(host)
 {
     connect(m_page.button_ask3, &QPushButton::clicked, this, &VerificationTool::askEmulator);
     connect(m_page.button_convert2, &QPushButton::clicked, this, &VerificationTool::converter2Action);
@@ -107,13 +107,13 @@ void VerificationTool::askEmulator()
 {
     if (m_workbench.isBusy())
         return m_workbench.desktop().beep();
-    const QString emulator = m_hooks.emulator();
+    const QString emulator = m_host.emulator();
     if (emulator.isEmpty())
         return m_workbench.refuse(Failure{"failure_no_emulator", {}}.text());
     m_workbench.inform(qtTrId("verification_asking"));
     m_workbench.indicator_start();
     QStringList arguments{QStringLiteral("-verifyroms")};
-    if (const QString roms = m_hooks.romFolder(); !roms.isEmpty())
+    if (const QString roms = m_host.romFolder(); !roms.isEmpty())
         arguments << QStringLiteral("-rompath") << roms;
     const auto verify
         = [this, emulator, arguments](const Job& job) -> std::expected<std::vector<VerifiedSet>, Failure> {

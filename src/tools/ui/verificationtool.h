@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/failure.h"
-#include "tools/ui/utilityhooks.h"
+#include "tools/ui/utilityhost.h"
 #include "tools/verifiedsets.h"
 
 #include <QObject>
@@ -20,7 +20,7 @@ class VerificationTool : public QObject
     Q_OBJECT
 
 public:
-    VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHooks hooks,
+    VerificationTool(VerificationPage& page, Workbench& workbench, UtilityHost& host,
                      QObject* parent = nullptr);
 
 public Q_SLOTS:
@@ -44,7 +44,7 @@ private:
 
     VerificationPage& m_page;
     Workbench& m_workbench;
-    UtilityHooks m_hooks;
+    UtilityHost& m_host;
 };
 
 } // namespace tessera

@@ -3,6 +3,7 @@
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/snapfolder.h"
 #include "staging.h"
+#include "support/chosengame.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 
@@ -28,9 +29,8 @@ private Q_SLOTS:
         m_folder = std::make_unique<SnapFolder>(m_staging->desktop, m_staging->defaults);
         m_view = std::make_unique<AspectView>(m_staging->defaults);
         m_controller = std::make_unique<SnapshotController>(
-            SnapshotParts{m_staging->desktop, m_staging->defaults, *m_folder, *m_view,
-                          [this] { return m_name; }, [this] { return m_parent; }});
-        m_name = m_parent = QString();
+            SnapshotParts{m_staging->desktop, m_staging->defaults, *m_folder, *m_view, m_selection});
+        m_selection.game = {};
         m_folder->Setsnapfolder();
     }
 
@@ -65,7 +65,7 @@ private Q_SLOTS:
         for (const QString& file : files)
             m_staging->paint(file);
         m_staging->defaults.setFlag(keys::Suppress_PS, suppress);
-        m_parent = QStringLiteral("puckman");
+        m_selection.game.parent = QStringLiteral("puckman");
         m_controller->Setsnapshot(QStringLiteral("pacman"));
         QCOMPARE(m_controller->snapimag(), chosen.isEmpty() ? noImage : m_staging->path(chosen));
     }
@@ -109,7 +109,7 @@ private Q_SLOTS:
         m_staging->paint("snap/a/secret.png");
         m_controller->Setsnapshot(name);
         QCOMPARE(m_controller->snapimag(), noImage);
-        m_parent = name;
+        m_selection.game.parent = name;
         m_controller->Setsnapshot(QStringLiteral("pong"));
         QCOMPARE(m_controller->snapimag(), noImage);
     }
@@ -143,7 +143,7 @@ private Q_SLOTS:
     {
         const test::InstalledTexts texts("en");
         m_staging->paint("snap/puckman.png");
-        m_parent = QStringLiteral("puckman");
+        m_selection.game.parent = QStringLiteral("puckman");
         m_controller->Setsnapshot(QStringLiteral("pacman"));
         QCOMPARE(m_view->toolTip(), QStringLiteral("The picture of its parent, puckman"));
         m_controller->Setsnapshot(QStringLiteral("puckman"));
@@ -189,8 +189,9 @@ private Q_SLOTS:
         AspectView other(m_staging->defaults);
         QImage before(8, 8, QImage::Format_RGB32);
         other.setImage(before);
-        SnapshotController beside(SnapshotParts{m_staging->desktop, m_staging->defaults, *m_folder, other,
-                                                [] { return QString(); }, [] { return QString(); }});
+        const test::ChosenGame nothing;
+        SnapshotController beside(
+            SnapshotParts{m_staging->desktop, m_staging->defaults, *m_folder, other, nothing});
         beside.setHeld(true);
         m_controller->Setsnapshot(QStringLiteral("pong"));
         beside.Setsnapshot(QStringLiteral("pong"));
@@ -211,7 +212,7 @@ private Q_SLOTS:
     void theSelectionIsShown()
     {
         const QString path = m_staging->paint("snap/pong.png");
-        m_name = QStringLiteral("pong");
+        m_selection.game.name = QStringLiteral("pong");
         QCOMPARE(m_controller->name(), QStringLiteral("pong"));
         m_controller->showSelection();
         QCOMPARE(m_controller->snapimag(), path);
@@ -219,7 +220,7 @@ private Q_SLOTS:
 
     void withoutAFolderNothingIsRevealed()
     {
-        m_name = QStringLiteral("pong");
+        m_selection.game.name = QStringLiteral("pong");
         m_controller->display_rom_Finder();
         QCOMPARE(m_staging->desktop.takeTranscript(), QStringList{"beep"});
     }
@@ -253,7 +254,7 @@ private Q_SLOTS:
         QFETCH(QStringList, tried);
         if (!there.isEmpty())
             m_staging->paint(there);
-        m_name = QStringLiteral("pong");
+        m_selection.game.name = QStringLiteral("pong");
         m_controller->display_image_Finder();
         QCOMPARE(relative(m_staging->desktop.takeTranscript()), tried);
     }
@@ -261,7 +262,7 @@ private Q_SLOTS:
     void theRomArchiveIsRevealed()
     {
         m_staging->defaults.setText(keys::RomsPath, m_staging->path("roms"));
-        m_name = QStringLiteral("pong");
+        m_selection.game.name = QStringLiteral("pong");
         m_controller->display_rom_Finder();
         QCOMPARE(relative(m_staging->desktop.takeTranscript()),
                  (QStringList{"reveal roms/pong.zip", "reveal roms/pong", "folder roms", "beep"}));
@@ -277,7 +278,7 @@ private Q_SLOTS:
     void aNameThatLeadsElsewhereRevealsTheFolderAlone()
     {
         m_staging->paint("secret.png");
-        m_name = QStringLiteral("../secret");
+        m_selection.game.name = QStringLiteral("../secret");
         m_controller->display_image_Finder();
         QCOMPARE(relative(m_staging->desktop.takeTranscript()), QStringList{"folder snap"});
     }
@@ -292,8 +293,7 @@ private:
     std::unique_ptr<SnapFolder> m_folder;
     std::unique_ptr<AspectView> m_view;
     std::unique_ptr<SnapshotController> m_controller;
-    QString m_name;
-    QString m_parent;
+    test::ChosenGame m_selection;
 };
 
 TESSERA_TEST(SnapshotControllerTest);
