@@ -123,19 +123,15 @@ void CatalogueRebuild::finish(int machines)
 {
     const std::optional<Failure> titlesFailure = m_build->titlesFailure();
     const QString kept = m_build->keptAs();
+    StoredCatalogue built = m_build->takeStored();
     letGo();
-    const auto changes = reopen();
-    if (!changes) {
-        // Where the old one lies is wanted now more than ever.
-        m_parts.desktop.presentError(changes.error().text(), keptSentence(kept), {});
-        return;
-    }
+    const QString changes = replaceBy(std::move(built));
     QStringList sentences{qtTrId("rebuild_done").arg(QLocale().toString(machines))};
     if (titlesFailure)
         sentences << Failure{"rebuild_without_titles", {titlesFailure->text()}}.text();
     m_parts.defaults.setText(keys::BuiltFrom, m_identity);
-    if (!changes->isEmpty())
-        sentences << *changes;
+    if (!changes.isEmpty())
+        sentences << changes;
     Q_EMIT statusMessage(concluded(sentences, kept));
 }
 
@@ -150,22 +146,14 @@ QString CatalogueRebuild::concluded(QStringList sentences, const QString& kept)
 }
 
 // What differs from the catalogue before; empty where that one was empty.
-std::expected<QString, Failure> CatalogueRebuild::reopen()
+QString CatalogueRebuild::replaceBy(StoredCatalogue content)
 {
-    // The old texts live until everybody has heard of the new ones.
-    const std::vector<GameRecord> before(m_parts.catalogue.records().begin(),
-                                         m_parts.catalogue.records().end());
+    const StoredCatalogue before = m_parts.catalogue.replace(std::move(content));
     CatalogueComparison comparison;
-    const auto compare = connect(&m_parts.catalogue, &Catalogue::replaced, this, [&] {
-        if (!before.empty())
-            comparison = compareCatalogues(before, m_parts.catalogue.records(), m_parts.favourites.names());
-    });
-    const auto opened = m_parts.catalogue.open();
-    disconnect(compare);
-    if (!opened)
-        return std::unexpected(opened.error());
+    if (!before.records.empty())
+        comparison = compareCatalogues(before.records, m_parts.catalogue.records(), m_parts.favourites.names());
     Q_EMIT compared(comparison);
-    return before.empty() ? QString() : comparisonSummary(comparison);
+    return before.records.empty() ? QString() : comparisonSummary(comparison);
 }
 
 std::optional<QString> CatalogueRebuild::useFile(const QString& path)
@@ -176,20 +164,20 @@ std::optional<QString> CatalogueRebuild::useFile(const QString& path)
     }
     if (!mayDropEdits())
         return std::nullopt;
-    const auto placed = put(path);
-    const auto changes = placed ? reopen() : std::unexpected(placed.error());
-    if (!changes) {
-        m_parts.desktop.presentError(changes.error().text(), keptSentence(placed.value_or(QString())), {});
+    auto placed = put(path);
+    if (!placed) {
+        m_parts.desktop.presentError(placed.error().text(), QString(), {});
         return std::nullopt;
     }
+    const QString changes = replaceBy(std::move(placed->content));
     // No emulator is known to have made it.
     m_parts.defaults.setText(keys::BuiltFrom, QString());
     QStringList sentences{
         qtTrId("catalogue_used")
             .arg(QLocale().toString(static_cast<qulonglong>(m_parts.catalogue.records().size())))};
-    if (!changes->isEmpty())
-        sentences << *changes;
-    QString message = concluded(sentences, *placed);
+    if (!changes.isEmpty())
+        sentences << changes;
+    QString message = concluded(sentences, placed->kept);
     Q_EMIT statusMessage(message);
     return message;
 }
@@ -206,30 +194,33 @@ bool CatalogueRebuild::mayDropEdits()
     return m_parts.desktop.runAlert(alert) == 0;
 }
 
-// Only a file that can be read takes the place; it may have been saved there already. Gives the name under
-// which the one before is kept.
-std::expected<QString, Failure> CatalogueRebuild::put(const QString& path)
+// Only a file that can be read takes the place; it may have been saved there already.
+std::expected<CatalogueRebuild::Placed, Failure> CatalogueRebuild::put(const QString& path)
 {
-    if (const auto stored = readStore(path); !stored)
-        return std::unexpected(stored.error());
-    if (QFileInfo(path).canonicalFilePath() == QFileInfo(m_parts.catalogue.path()).canonicalFilePath())
-        return {};
+    // A pipe would be waited for without end.
+    if (const QFileInfo info(path); !info.isFile())
+        return std::unexpected(
+            Failure{info.exists() ? "failure_store_nofile" : "failure_store_missing", {path}});
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::unexpected(Failure{"convert_not_read", {path, file.errorString()}});
     const QByteArray bytes = file.readAll();
-    const auto kept
-        = keepAs(m_parts.catalogue.path(), datedName(m_parts.catalogue.path(), m_parts.desktop.now()));
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    auto stored = readStoreText(text, path);
+    if (!stored)
+        return std::unexpected(stored.error());
+    const QString place = m_parts.catalogue.path();
+    if (QFileInfo(path).canonicalFilePath() == QFileInfo(place).canonicalFilePath())
+        return Placed{std::move(*stored), QString()};
+    const auto kept = keepAs(place, datedName(place, m_parts.desktop.now()));
     if (!kept)
         return std::unexpected(kept.error());
-    const auto written = writeAtomically(
-        m_parts.catalogue.path(),
-        std::array{std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size()))});
-    if (written)
-        return kept;
-    if (!kept->isEmpty())
-        QFile::remove(*kept);
-    return std::unexpected(written.error());
+    if (const auto written = writeAtomically(place, std::array{text}); !written) {
+        if (!kept->isEmpty())
+            QFile::remove(*kept);
+        return std::unexpected(written.error());
+    }
+    return Placed{std::move(*stored), *kept};
 }
 
 void CatalogueRebuild::fail(const Failure& failure)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/storedcatalogue.h"
 #include "core/failure.h"
 
 #include <QObject>
@@ -69,8 +70,12 @@ private:
     void letGo();
     bool mayDropEdits();
     QString concluded(QStringList sentences, const QString& kept);
-    std::expected<QString, Failure> put(const QString& path);
-    std::expected<QString, Failure> reopen();
+    struct Placed {
+        StoredCatalogue content;
+        QString kept; ///< under which name the one before is kept; empty where there was none
+    };
+    std::expected<Placed, Failure> put(const QString& path);
+    QString replaceBy(StoredCatalogue content);
 
     Parts m_parts;
     std::unique_ptr<CatalogueBuild> m_build;

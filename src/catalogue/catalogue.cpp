@@ -37,19 +37,33 @@ std::expected<void, Failure> Catalogue::open()
     auto [store, byName] = m_ahead.get();
     m_read = store.has_value();
     m_isMissing = !m_read && store.error().key == std::string_view("failure_store_missing");
-    // The commands hold views of the old arena.
-    m_undo.clear();
-    m_isOurLayout = m_read && store->isOurLayout;
-    StoredCatalogue content = store ? std::move(*store) : StoredCatalogue();
-    // The old texts live until everybody has let go of the old records.
-    const StoredCatalogue old{std::exchange(m_arena, std::move(content.arena)),
-                              std::exchange(m_records, std::move(content.records))};
-    m_byName = std::move(byName);
-    Q_EMIT replaced();
-    m_byName.reset();
+    exchange(store ? std::move(*store) : StoredCatalogue(), std::move(byName));
     if (!store)
         return std::unexpected(store.error());
     return {};
+}
+
+StoredCatalogue Catalogue::replace(StoredCatalogue content)
+{
+    m_state = FileState::of(m_path);
+    m_read = true;
+    m_isMissing = false;
+    SortedRecords byName(content.records, Field::Name);
+    return exchange(std::move(content), std::move(byName));
+}
+
+// The old texts live until everybody has let go of the old records.
+StoredCatalogue Catalogue::exchange(StoredCatalogue content, SortedRecords byName)
+{
+    // The commands hold views of the old arena.
+    m_undo.clear();
+    m_isOurLayout = m_read && content.isOurLayout;
+    StoredCatalogue old{std::exchange(m_arena, std::move(content.arena)),
+                        std::exchange(m_records, std::move(content.records))};
+    m_byName = std::move(byName);
+    Q_EMIT replaced();
+    m_byName.reset();
+    return old;
 }
 
 void Catalogue::setValue(std::uint32_t record, Field field, const QString& text)

@@ -33,6 +33,8 @@ public:
     /// Reads the store anew; edits and their undo history are dropped. After a failure there are no records,
     /// and save() refuses, so that a store which could not be read is never overwritten.
     std::expected<void, Failure> open();
+    /// The same with what was read of the file already. Gives back what stood here before.
+    StoredCatalogue replace(StoredCatalogue content);
 
     std::span<const GameRecord> records() const { return m_records; }
     /// The order of the records that replaced() has just told of; known then, and given once.
@@ -65,6 +67,8 @@ private:
         std::expected<StoredCatalogue, Failure> store;
         SortedRecords byName;
     };
+
+    StoredCatalogue exchange(StoredCatalogue content, SortedRecords byName);
 
     friend class EditCommand;
     friend class RemoveCommand;

@@ -180,10 +180,12 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
     if (!list->isWhole)
         return std::unexpected(Failure{"build_cut_off", {m_emulator}});
     // What was copied as it stands can break the store's own text.
-    if (const auto readBack = readStoreText(list->text.joined(), m_output); !readBack)
+    auto readBack = readStoreText(list->text.joined(), m_output);
+    if (!readBack)
         return std::unexpected(Failure{"build_unreadable", {m_emulator}});
     if (const auto replaced = replace(*list); !replaced)
         return std::unexpected(replaced.error());
+    m_stored = std::move(*readBack);
     return static_cast<int>(list->games);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/storedcatalogue.h"
 #include "core/failure.h"
 #include "launch/emulatorprocess.h"
 
@@ -37,6 +38,8 @@ public:
     bool isRunning() const { return m_converter != nullptr; }
     /// Why the title list of this run, or the last one, could not be read.
     const std::optional<Failure>& titlesFailure() const { return m_titlesFailure; }
+    /// The catalogue that the last run has written, as it was read back; given once.
+    StoredCatalogue takeStored() { return std::move(m_stored); }
     /// Where the file lies that the last run replaced; empty where there was none.
     const QString& keptAs() const { return m_keptAs; }
 
@@ -66,6 +69,7 @@ private:
     QString m_output;
     QString m_keepOldAs;
     QString m_keptAs;
+    StoredCatalogue m_stored;
     QByteArray m_errors; ///< the last of what was printed on standard error
     std::optional<Failure> m_failure;
     std::optional<Failure> m_titlesFailure;

@@ -22,7 +22,7 @@ const QStringList scriptPageSays{
     ": script_explanation",
     ": named script_format",
     "formatPop: script_tool / script_sh / script_scpt / named script_format",
-    ": named script_tool",
+    "scriptimageView: named script_tool",
     ": script_format / for formatPop",
     ": script_emulator / for emulatorPop",
     ": script_options / for preoptionPop",
