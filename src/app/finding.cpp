@@ -147,10 +147,11 @@ void Finding::focusSearch()
 
 void Finding::showAll()
 {
+    // Once it shows everything, empty fields ask for nothing more.
+    m_finder.showAll();
     m_parts.window.searchField->clear();
     if (m_panel)
         m_panel->clear();
-    m_finder.showAll();
     m_parts.window.chipBar->setChip(m_finder.chip());
     m_parts.window.chipBar->familiesBox->setChecked(m_finder.showsFamilies());
 }

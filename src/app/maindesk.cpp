@@ -26,11 +26,10 @@ MainDesk::MainDesk(const Parts& parts, QObject* parent)
     MainWindow& window = m_parts.window;
     GameListController& list = m_parts.list;
     connect(&list, &GameListController::selectionChanged, this, &MainDesk::showSelection);
-    connect(&list, &GameListController::countChanged, this, &MainDesk::showCount);
     connect(&list, &GameListController::markChanged, window.factsPanel, &FactsPanel::showMark);
     connect(&m_parts.catalogue, &Catalogue::recordChanged, this, &MainDesk::showSelection);
     connect(&m_parts.finding, &Finding::changed, this, &MainDesk::showCount);
-    connect(&m_parts.finding, &Finding::changed, this, &MainDesk::showSelection);
+    connect(&m_parts.finding.finder(), &GameFinder::havesChanged, this, &MainDesk::showSelection);
     connect(&m_parts.launches, &LaunchController::runningChanged, this, &MainDesk::showRunning);
     connect(&m_parts.general, &GeneralPage::emulatorFound, this, &MainDesk::showEmulator);
     connect(&m_parts.defaults, &DefaultsController::changed, this, &MainDesk::settingChanged);

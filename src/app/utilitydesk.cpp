@@ -42,7 +42,6 @@ UtilityObject& UtilityDesk::utility()
             &CommandsDesk::saveLauncher);
     FavouritesTool* favourites = &m_utility->favourites();
     connect(&m_parts.finding, &Finding::changed, favourites, &FavouritesTool::showHidden);
-    connect(&m_parts.list, &GameListController::countChanged, favourites, &FavouritesTool::showHidden);
     connect(m_utility.get(), &UtilityObject::statusMessage, this, &UtilityDesk::statusMessage);
     connect(m_utility.get(), &UtilityObject::statusWithdrawn, this, &UtilityDesk::statusWithdrawn);
     m_parts.windows.places().keep(window, keys::UtilityWindowGeometry);

@@ -163,6 +163,21 @@ private Q_SLOTS:
         QVERIFY(window().showAllButton->isVisible());
     }
 
+    // Every telling arranges what stands around the list once more.
+    void whatChangesIsToldOnce()
+    {
+        const QSignalSpy told(&m_staged->app->finding(), &Finding::changed);
+        QTest::keyClick(field(), Qt::Key_G);
+        QCOMPARE(told.size(), 1);
+        QTest::keyClick(field(), Qt::Key_R);
+        QCOMPARE(told.size(), 2);
+        window().chipBar->familiesBox->click();
+        QCOMPARE(told.size(), 3);
+        window().showAllButton->click();
+        QCOMPARE(told.size(), 4);
+        QCOMPARE(shown(), all);
+    }
+
     void showAllShowsAll()
     {
         search(QStringLiteral("gradius"));

@@ -36,6 +36,10 @@ GameFinder::GameFinder(Catalogue& catalogue, GameListController& list, DefaultsC
 {
     m_pool.setMaxThreadCount(1);
     connect(&list, &GameListController::contentChanged, this, &GameFinder::takeContent);
+    connect(&list, &GameListController::countChanged, this, [this] {
+        if (!m_isRearranging)
+            Q_EMIT changed();
+    });
     connect(&list.list(), &ArrangedList::sortWanted, this, [this] { m_ranks = false; });
     connect(&catalogue, &Catalogue::recordChanged, this, &GameFinder::follow);
     connect(&catalogue, &Catalogue::removed, this, &GameFinder::takeOut);
@@ -182,8 +186,11 @@ std::vector<std::uint32_t> GameFinder::suggestions(const QString& text, std::siz
 // The best is selected while it is typed.
 void GameFinder::setQuery(const QString& text)
 {
-    m_query = Query(text);
     m_ranks = true;
+    const bool wasEmpty = m_query.isEmpty();
+    m_query = Query(text);
+    if (m_query.isEmpty() && wasEmpty)
+        return;
     refresh();
     if (m_list.list().isRanked())
         m_list.selectRow(0);
@@ -196,10 +203,17 @@ void GameFinder::setChip(Chip chip)
     refresh();
 }
 
-// What the user has selected stays so, and where it stands. Others hear of it when it is selected again.
 void GameFinder::refresh()
 {
-    m_list.rearrange([this] { find(); });
+    rearrange([this] { find(); });
+}
+
+// What the user has selected stays so, and where it stands. However many steps it takes, it is told once.
+void GameFinder::rearrange(const std::function<void()>& change)
+{
+    m_isRearranging = true;
+    m_list.rearrange(change);
+    m_isRearranging = false;
     Q_EMIT changed();
 }
 
@@ -270,8 +284,10 @@ void GameFinder::clearPredicate()
 
 void GameFinder::setRules(const FilterRules& rules)
 {
+    const bool wereEmpty = m_rules.isEmpty();
     m_rules = rules;
-    filter();
+    if (!m_rules.isEmpty() || !wereEmpty)
+        filter();
 }
 
 void GameFinder::filter()
@@ -284,8 +300,7 @@ void GameFinder::setFamilies(bool folded)
 {
     m_foldsFamilies = folded;
     m_defaults.keep(keys::GameListFamilies, folded);
-    m_list.rearrange([this] { applyFamilies(); });
-    Q_EMIT changed();
+    rearrange([this] { applyFamilies(); });
 }
 
 const std::vector<std::uint32_t>& GameFinder::heads()
@@ -317,9 +332,8 @@ void GameFinder::toggleFamily(int row)
     const std::string name(m_catalogue.records()[heads()[record]][Field::Name]);
     if (m_open.erase(name) == 0)
         m_open.insert(name);
-    m_list.rearrange([this] { applyFamilies(); });
+    rearrange([this] { applyFamilies(); });
     m_list.selectRecords({record});
-    Q_EMIT changed();
 }
 
 void GameFinder::showAll()
@@ -327,9 +341,15 @@ void GameFinder::showAll()
     m_query = Query();
     m_rules = {};
     m_maker.reset();
-    setFamilies(false);
     m_filtered.reset();
-    setChip(Chip::All);
+    m_foldsFamilies = false;
+    m_chip = Chip::All;
+    m_defaults.keep(keys::GameListFamilies, false);
+    m_defaults.keep(keys::GameListChip, textOf(rowOf(m_chip).name));
+    rearrange([this] {
+        applyFamilies();
+        find();
+    });
 }
 
 void GameFinder::setRomFolders(const std::shared_ptr<const RomFolders>& folders)
@@ -386,7 +406,7 @@ void GameFinder::takeHaves(int question, std::vector<Have> haves)
         refresh();
     else if (m_search)
         tellCounts();
-    Q_EMIT changed();
+    Q_EMIT havesChanged();
 }
 
 std::optional<Have> GameFinder::haveOf(std::uint32_t record) const

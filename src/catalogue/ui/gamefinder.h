@@ -64,6 +64,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// What the list shows, or why.
     void changed();
+    /// Whose ROMs are there is known, or known anew.
+    void havesChanged();
     void countsChanged(const tessera::ChipCounts& counts);
 
 private:
@@ -75,6 +77,7 @@ private:
     void putBack(const std::vector<std::uint32_t>& records);
     void fold(GameSearch& search);
     void refresh();
+    void rearrange(const std::function<void()>& change);
     void find();
     Found found();
     Chip effectiveChip() const;
@@ -102,6 +105,7 @@ private:
     std::vector<std::uint32_t> m_heads; ///< of the families, once they are known
     bool m_foldsFamilies = false;
     bool m_ranks = true; ///< until the user sorts what was found
+    bool m_isRearranging = false;
     bool m_isAdjusted = false; ///< what is kept of the records already follows the coming content
     int m_havesQuestion = 0; ///< only the newest one is answered
     int m_havesAnswered = 0; ///< the question that was answered last
