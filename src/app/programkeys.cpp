@@ -7,7 +7,7 @@
 #include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 
 #include <QLineEdit>

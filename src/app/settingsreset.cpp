@@ -3,7 +3,7 @@
 #include "app/mainwindow.h"
 #include "artwork/ui/aspectchoice.h"
 #include "launch/ui/launchcontroller.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 

@@ -9,7 +9,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "launch/ui/launchcontroller.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"

@@ -7,7 +7,7 @@
 #include "launch/ui/commandbar.h"
 #include "launch/ui/commandlinefoot.h"
 #include "launch/ui/launchcontroller.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "stagedapp.h"
 #include "support/testmain.h"

@@ -24,7 +24,7 @@
 #include "info/ui/infosites.h"
 #include "info/ui/sitechoice.h"
 #include "launch/ui/filespage.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/pathchooser.h"
 #include "support/showwatch.h"
 #include "support/testmain.h"

@@ -6,7 +6,7 @@
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
 

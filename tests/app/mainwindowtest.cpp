@@ -6,7 +6,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "launch/ui/launchcontroller.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
 #include "widgets/myscrollers.h"

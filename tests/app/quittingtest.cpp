@@ -5,7 +5,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "launch/ui/launchcontroller.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/endings.h"
 #include "support/installedtexts.h"

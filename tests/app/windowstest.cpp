@@ -12,7 +12,7 @@
 #include "launch/ui/launchcontroller.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"
 #include "widgets/bringforward.h"

@@ -1,7 +1,7 @@
 #include "info/historystaging.h"
 
 #include "info/ui/historywindow.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "platform/defaultscontroller.h"
 #include "support/installedtexts.h"
 #include "support/scripteddesktop.h"

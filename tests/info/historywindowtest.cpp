@@ -1,6 +1,6 @@
 #include "info/ui/historywindow.h"
 
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "support/words.h"

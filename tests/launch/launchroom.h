@@ -5,7 +5,7 @@
 #include "launch/profilecache.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/launchpages.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"

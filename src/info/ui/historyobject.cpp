@@ -1,7 +1,7 @@
 #include "info/ui/historyobject.h"
 
 #include "info/ui/historywindow.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/boundcontrols.h"

@@ -1,6 +1,6 @@
 #include "info/ui/historywindow.h"
 
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/theme.h"

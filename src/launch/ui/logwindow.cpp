@@ -1,6 +1,6 @@
 #include "launch/ui/logwindow.h"
 
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "widgets/closekeys.h"
 
 #include <QHBoxLayout>

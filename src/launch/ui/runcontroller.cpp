@@ -3,7 +3,7 @@
 #include "core/atomicfile.h"
 #include "launch/emulatortask.h"
 #include "launch/failurereason.h"
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"

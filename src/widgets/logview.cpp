@@ -1,4 +1,4 @@
-#include "launch/ui/logview.h"
+#include "widgets/logview.h"
 
 #include "widgets/myscrollers.h"
 
