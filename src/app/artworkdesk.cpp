@@ -89,7 +89,7 @@ void ArtworkDesk::joinMini(MiniWindow& window)
     window.shotTextField2->setText(m_folder.label());
     show(m_mini, *window.imageView, m_parts.mini);
     // Its title's place is for its own game: of the hidden lists' pictures it says nothing.
-    connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::say);
+    connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::showMessage);
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),
             &SnapshotController::showSelection);
     m_mini->showSelection();

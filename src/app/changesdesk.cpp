@@ -25,7 +25,7 @@ ChangesWindow& ChangesDesk::window()
     return *m_window;
 }
 
-void ChangesDesk::take(const CatalogueComparison& comparison)
+void ChangesDesk::takeComparison(const CatalogueComparison& comparison)
 {
     m_comparison = comparison;
     m_mainWindow.changesButton->setVisible(!comparison.changes.empty());

@@ -24,7 +24,7 @@ public:
     ChangesWindow& window();
 
 public Q_SLOTS:
-    void take(const tessera::CatalogueComparison& comparison);
+    void takeComparison(const tessera::CatalogueComparison& comparison);
     void showChanges();
 
 Q_SIGNALS:

@@ -32,7 +32,7 @@ EmptyState::EmptyState(QWidget* parent)
     connect(m_button, &QPushButton::clicked, this, &EmptyState::acted);
 }
 
-void EmptyState::say(const QString& sentence, const QString& button)
+void EmptyState::showReason(const QString& sentence, const QString& button)
 {
     m_sentence->setText(sentence);
     m_button->setText(button);

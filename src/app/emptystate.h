@@ -16,7 +16,7 @@ public:
     explicit EmptyState(QWidget* parent = nullptr);
 
     /// Without a button where its text is empty.
-    void say(const QString& sentence, const QString& button);
+    void showReason(const QString& sentence, const QString& button);
 
 Q_SIGNALS:
     void acted();

@@ -135,7 +135,7 @@ void FavoritesDesk::joinWindow()
     connect(&m_controller, &UCAppController::markChanged, window.factsPanel, &FactsPanel::showMark);
     connect(&m_controller, &UCAppController::unsavedChanged, &window, &FavoritesWindow::showUnsaved);
     connect(&m_controller, &UCAppController::countChanged, this, &FavoritesDesk::showCount);
-    connect(this, &FavoritesDesk::statusMessage, &window, &FavoritesWindow::say);
+    connect(this, &FavoritesDesk::statusMessage, &window, &FavoritesWindow::showMessage);
     connect(window.playButton, &QPushButton::clicked, &m_controller,
             &UCAppController::tableViewDoubleAction2);
     connect(window.randomButton, &QToolButton::clicked, &m_controller, &UCAppController::gameShuffle2);

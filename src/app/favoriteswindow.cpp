@@ -66,7 +66,7 @@ FavoritesWindow::FavoritesWindow(DefaultsController& defaults)
     setWindowTitle(qtTrId("favorites_window"));
     favoritesTable->setObjectName(QStringLiteral("favoritesTable"));
     favoritesTable->setAccessibleName(qtTrId("favorites_list"));
-    emptyState->say(qtTrId("favorites_empty"), qtTrId("mini_main"));
+    emptyState->showReason(qtTrId("favorites_empty"), qtTrId("mini_main"));
     sidePanel->addSites(siteChoice);
 
     m_pages->addWidget(favoritesTable);
@@ -152,7 +152,7 @@ void FavoritesWindow::showCount(std::size_t shown, std::size_t all)
         shown == all
             ? qtTrId("favorites_count").arg(total)
             : qtTrId("favorites_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total));
-    emptyState->say(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
+    emptyState->showReason(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
                     all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
     m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : favoritesTable);
 }
@@ -163,7 +163,7 @@ void FavoritesWindow::showUnsaved(bool unsaved)
     saveButton->setVisible(unsaved);
 }
 
-void FavoritesWindow::say(const QString& sentence)
+void FavoritesWindow::showMessage(const QString& sentence)
 {
     m_message->setText(sentence);
     m_message->setToolTip(plainToolTip(sentence));

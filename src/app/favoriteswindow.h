@@ -48,7 +48,7 @@ public:
     void takeMenus(const QMenuBar& from);
     void showCount(std::size_t shown, std::size_t all);
     void showUnsaved(bool unsaved);
-    void say(const QString& sentence);
+    void showMessage(const QString& sentence);
     void setRunning(bool running);
 
     /// Columns and divider as they were left, and back into the settings.

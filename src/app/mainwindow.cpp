@@ -184,7 +184,7 @@ void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList
     m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : gameTable);
 }
 
-void MainWindow::say(const QString& sentence)
+void MainWindow::showMessage(const QString& sentence)
 {
     m_message->setText(sentence);
     m_message->setToolTip(plainToolTip(sentence));
@@ -193,7 +193,7 @@ void MainWindow::say(const QString& sentence)
 void MainWindow::takeBack(const QString& sentence)
 {
     if (m_message->text() == sentence)
-        say(QString());
+        showMessage(QString());
 }
 
 void MainWindow::showEmulator(const QString& text)
@@ -221,20 +221,20 @@ void MainWindow::setRebuilding(bool rebuilding)
 void MainWindow::sayWhatToDo(bool rebuilding)
 {
     if (m_isFiltered && m_romsMissing)
-        emptyState->say(qtTrId("empty_noroms"), qtTrId("empty_chooseroms"));
+        emptyState->showReason(qtTrId("empty_noroms"), qtTrId("empty_chooseroms"));
     else if (m_isFiltered)
-        emptyState->say(qtTrId("empty_filtered"), qtTrId("main_showall"));
+        emptyState->showReason(qtTrId("empty_filtered"), qtTrId("main_showall"));
     else if (rebuilding)
-        emptyState->say(qtTrId("empty_rebuilding"), QString());
+        emptyState->showReason(qtTrId("empty_rebuilding"), QString());
     else
-        emptyState->say(qtTrId("empty_catalogue"), qtTrId("rebuild_from_mame"));
+        emptyState->showReason(qtTrId("empty_catalogue"), qtTrId("rebuild_from_mame"));
 }
 
 void MainWindow::offerRebuild(bool offered)
 {
     rebuildButton->setVisible(offered);
     if (offered)
-        say(qtTrId("rebuild_outdated"));
+        showMessage(qtTrId("rebuild_outdated"));
 }
 
 void MainWindow::Setwindowtitle(const QString& kind)

@@ -56,7 +56,7 @@ public:
     /// With what hides the others, each in a few words.
     void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
     /// Says a thing once in the status line; it stays until the next one.
-    void say(const QString& sentence);
+    void showMessage(const QString& sentence);
     /// Says nothing, where that was the last sentence.
     void takeBack(const QString& sentence);
     void showEmulator(const QString& text);

@@ -40,7 +40,7 @@ public:
     /// What the catalogue knows of the set in the field.
     void showTitle(const QString& title);
     /// In the title's place, until another one is shown.
-    void say(const QString& text) { showTitle(text); }
+    void showMessage(const QString& text) { showTitle(text); }
     /// Names the kind of emulator.
     void setEmulator(const QString& title);
 

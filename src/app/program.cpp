@@ -78,7 +78,7 @@ void Program::joinMenus()
 
 void Program::joinStatusLines()
 {
-    const auto say = &MainWindow::say;
+    const auto say = &MainWindow::showMessage;
     connect(&saving, &CatalogueSaving::statusMessage, &mainWindow, say);
     connect(&launches, &LaunchController::statusMessage, &mainWindow, say);
     connect(&paths, &PathChooser::statusMessage, &mainWindow, say);
@@ -114,7 +114,7 @@ void Program::joinLaunches()
 
 void Program::joinCatalogue()
 {
-    connect(&rebuild, &CatalogueRebuild::compared, &changes, &ChangesDesk::take);
+    connect(&rebuild, &CatalogueRebuild::compared, &changes, &ChangesDesk::takeComparison);
     connect(&changes, &ChangesDesk::opened, &opening, &GameOpening::openOrBeep);
     connect(&rebuild, &CatalogueRebuild::runningChanged, &editing, &RecordEditing::setLocked);
     connect(&mainDesk, &MainDesk::catalogueWanted, &rebuild, &CatalogueRebuild::rebuild);
@@ -155,7 +155,7 @@ void Program::joinSidePanel(SidePanel& panel)
 
 void Program::joinFavorites(FavoritesWindow& window)
 {
-    const auto say = &FavoritesWindow::say;
+    const auto say = &FavoritesWindow::showMessage;
     connect(&launches, &LaunchController::statusMessage, &window, say);
     connect(&info, &InfoDesk::statusMessage, &window, say);
     connect(&artwork, &ArtworkDesk::statusMessage, &window, say);
@@ -163,7 +163,7 @@ void Program::joinFavorites(FavoritesWindow& window)
     connect(&launches, &LaunchController::runningChanged, &window, [this, &window](bool running) {
         window.setRunning(running);
         if (running)
-            window.say(launches.runningText());
+            window.showMessage(launches.runningText());
     });
     window.setRunning(launches.isRunning());
     info.addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
@@ -180,7 +180,7 @@ void Program::joinFavorites(FavoritesWindow& window)
 
 void Program::joinMini(MiniWindow& window)
 {
-    const auto say = &MiniWindow::say;
+    const auto say = &MiniWindow::showMessage;
     connect(&info, &InfoDesk::statusMessage, &window, say);
     connect(&artwork, &ArtworkDesk::commandMessage, &window, say);
     artwork.joinMini(window);

@@ -29,16 +29,16 @@ void RunEnding::goOn()
 {
     switch (m_stage) {
     case Stage::Asked:
-        return tell(Stage::Terminated, SIGTERM);
+        return signalRun(Stage::Terminated, SIGTERM);
     case Stage::Terminated:
-        return tell(Stage::Killed, SIGKILL);
+        return signalRun(Stage::Killed, SIGKILL);
     case Stage::Killed:
         // Nobody takes the dead away.
         return forget();
     }
 }
 
-void RunEnding::tell(Stage stage, int number)
+void RunEnding::signalRun(Stage stage, int number)
 {
     m_stage = stage;
     signalGroup(m_leader, number);

@@ -35,7 +35,7 @@ public:
 private:
     enum class Stage { Asked, Terminated, Killed };
     void goOn();
-    void tell(Stage stage, int number);
+    void signalRun(Stage stage, int number);
 
     Desktop& m_desktop;
     Patience m_patience;

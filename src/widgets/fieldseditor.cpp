@@ -56,7 +56,7 @@ QLineEdit* FieldsEditor::addField(const char* name, const char* labelKey, QLineE
     m_form->addRow(qtTrId(labelKey), edit);
     const auto field = static_cast<int>(m_rows.size());
     m_rows.push_back({edit, QString()});
-    connect(edit, &QLineEdit::editingFinished, this, [this, field] { take(field); });
+    connect(edit, &QLineEdit::editingFinished, this, [this, field] { takeField(field); });
     return edit;
 }
 
@@ -75,7 +75,7 @@ void FieldsEditor::addButtons(int width)
     resize(width, sizeHint().height());
 }
 
-void FieldsEditor::take(int field)
+void FieldsEditor::takeField(int field)
 {
     Row& row = m_rows[static_cast<std::size_t>(field)];
     if (!m_item || !row.edit->isModified())
@@ -88,7 +88,7 @@ void FieldsEditor::take(int field)
 void FieldsEditor::commit()
 {
     for (int field = 0; field < static_cast<int>(m_rows.size()); ++field)
-        take(field);
+        takeField(field);
 }
 
 // False where the index stands for another item now: some were removed, or all replaced.

@@ -61,7 +61,7 @@ private:
         QString shown; ///< the item's own value
     };
 
-    void take(int field);
+    void takeField(int field);
     bool isStillShown(const Items& items) const;
 
     std::vector<Row> m_rows;

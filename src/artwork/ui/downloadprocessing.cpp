@@ -69,7 +69,7 @@ void DownloadProcessing::begin(const QUrl& url)
     panel.setRunning(true);
     panel.folderLabel->setText(m_folder.snappath());
     m_downloadstate = true;
-    say(downloadtexts::requested(url));
+    showStatus(downloadtexts::requested(url));
     Q_EMIT began();
 }
 
@@ -77,7 +77,7 @@ void DownloadProcessing::takeAnswer(double expectedLength)
 {
     m_downloadPanel().setIndeterminate(false);
     m_lExLength = expectedLength;
-    say(downloadtexts::answered(expectedLength));
+    showStatus(downloadtexts::answered(expectedLength));
     m_lDlLength = 0;
 }
 
@@ -89,13 +89,13 @@ void DownloadProcessing::takeData(double length)
         return;
     m_dlPercent = downloadPercent(m_lDlLength, m_lExLength).value_or(0);
     m_downloadPanel().setPercent(m_dlPercent);
-    say(*text);
+    showStatus(*text);
 }
 
 void DownloadProcessing::finish()
 {
     Q_EMIT SnapChange(QStringLiteral("downloadDidFinish"));
-    say(downloadtexts::finished(m_lExLength));
+    showStatus(downloadtexts::finished(m_lExLength));
     m_desktop.playSound(QStringLiteral("Pop"));
     rest();
 }
@@ -105,19 +105,19 @@ void DownloadProcessing::refuse()
     m_desktop.beep();
     m_lDlLength = 0;
     rest();
-    say(downloadtexts::notAnImage);
+    showStatus(downloadtexts::notAnImage);
 }
 
 void DownloadProcessing::showCancelled()
 {
-    say(downloadtexts::cancelled);
+    showStatus(downloadtexts::cancelled);
     rest();
 }
 
 // While the alert stands, nothing else is fetched.
 void DownloadProcessing::fail(const QString& reason)
 {
-    say(downloadtexts::failed);
+    showStatus(downloadtexts::failed);
     m_downloadPanel().setRunning(false);
     m_desktop.beep();
     m_desktop.runAlert({qtTrId("download_Miss"), reason, {QStringLiteral("OK")}});
@@ -133,7 +133,7 @@ bool DownloadProcessing::mayReplace()
     return m_desktop.runAlert(alert) == 0;
 }
 
-void DownloadProcessing::say(const QString& text)
+void DownloadProcessing::showStatus(const QString& text)
 {
     m_downloadPanel().infomationTextView->setPlainText(text);
 }

@@ -47,7 +47,7 @@ private:
     void showCancelled();
     void fail(const QString& reason);
     bool mayReplace();
-    void say(const QString& text);
+    void showStatus(const QString& text);
     void rest();
 
     Desktop& m_desktop;

@@ -70,13 +70,13 @@ void PictureLoader::read(const QString& path)
             this,
             [this, path, changed, length, image = picture ? withinSize(*picture, most) : QImage(),
              reason = picture ? QString() : picture.error().text()] {
-                take(path, changed, length, image, reason);
+                takePicture(path, changed, length, image, reason);
             },
             Qt::QueuedConnection);
     });
 }
 
-void PictureLoader::take(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
+void PictureLoader::takePicture(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
                          const QString& reason)
 {
     m_isReading = false;

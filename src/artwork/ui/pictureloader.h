@@ -39,7 +39,7 @@ private:
 
     void loadWanted();
     void read(const QString& path);
-    void take(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
+    void takePicture(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
               const QString& reason);
 
     QSize m_most;

@@ -233,7 +233,7 @@ void Bioslist::ask(const QString& set)
         return;
     }
     m_question = std::make_unique<BiosQuestion>(emulator, set);
-    connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::take);
+    connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::takeAnswer);
     connect(m_question.get(), &BiosQuestion::failed, this, &Bioslist::fail);
     m_parts.panel.setAsking(true);
     outlineViewSelectionDidChange();
@@ -242,7 +242,7 @@ void Bioslist::ask(const QString& set)
 }
 
 // Nobody's own entries get lost, and what was known stays where it was.
-void Bioslist::take()
+void Bioslist::takeAnswer()
 {
     const BiosEntries found = m_question->entries();
     m_question.release()->deleteLater();

@@ -70,7 +70,7 @@ private:
     QModelIndex selected() const;
     bool keepUnread();
     void ask(const QString& set);
-    void take();
+    void takeAnswer();
     void fail(const Failure& failure);
     void takeEdit();
     void learn();

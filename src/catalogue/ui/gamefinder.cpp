@@ -63,13 +63,13 @@ GameSearch& GameFinder::search()
         m_search->setHaves(m_haves);
         if (!m_favorites.empty())
             m_search->setFavorites(m_favorites, m_catalogue.records());
-        fold(*m_search);
+        foldTexts(*m_search);
     }
     return *m_search;
 }
 
 // What is not ASCII is folded beside the windows; until then it is found by its ASCII only.
-void GameFinder::fold(GameSearch& search)
+void GameFinder::foldTexts(GameSearch& search)
 {
     m_folding.request_stop();
     m_folding = std::stop_source();

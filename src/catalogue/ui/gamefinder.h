@@ -75,7 +75,7 @@ private:
     void follow(std::uint32_t record, Field field);
     void takeOut(const std::vector<std::uint32_t>& records);
     void putBack(const std::vector<std::uint32_t>& records);
-    void fold(GameSearch& search);
+    void foldTexts(GameSearch& search);
     void refresh();
     void rearrange(const std::function<void()>& change);
     void find();

@@ -46,7 +46,7 @@ void RomWatcher::read()
     m_pool.start([this, question, rom = m_romFolder, emulator = m_emulatorFolders] {
         auto folders = std::make_shared<const RomFolders>(rom, emulator);
         QMetaObject::invokeMethod(
-            this, [this, question, folders] { take(question, folders); }, Qt::QueuedConnection);
+            this, [this, question, folders] { takeFolders(question, folders); }, Qt::QueuedConnection);
     });
 }
 
@@ -65,7 +65,7 @@ void RomWatcher::watch()
         m_watcher.addPaths(watched);
 }
 
-void RomWatcher::take(int question, std::shared_ptr<const RomFolders> folders)
+void RomWatcher::takeFolders(int question, std::shared_ptr<const RomFolders> folders)
 {
     if (question != m_question)
         return;

@@ -30,7 +30,7 @@ Q_SIGNALS:
 private:
     void read();
     void watch();
-    void take(int question, std::shared_ptr<const RomFolders> folders);
+    void takeFolders(int question, std::shared_ptr<const RomFolders> folders);
 
     std::optional<QString> m_romFolder;
     QStringList m_emulatorFolders;

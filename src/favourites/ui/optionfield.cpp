@@ -28,7 +28,7 @@ OptionField::OptionField(QWidget* parent)
     // Not as the field's own: that would complete the whole text.
     m_completer->setWidget(this);
     connect(this, &QLineEdit::textEdited, this, &OptionField::propose);
-    connect(m_completer, qOverload<const QString&>(&QCompleter::activated), this, &OptionField::take);
+    connect(m_completer, qOverload<const QString&>(&QCompleter::activated), this, &OptionField::takeOption);
 }
 
 void OptionField::setKnownOptions(const QList<KnownOption>& options)
@@ -64,7 +64,7 @@ void OptionField::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
 }
 
-void OptionField::take(const QString& option)
+void OptionField::takeOption(const QString& option)
 {
     const WordAt word = wordBefore(text(), cursorPosition());
     setSelection(static_cast<int>(word.begin), static_cast<int>(word.word.size()));

@@ -36,7 +36,7 @@ protected:
 
 private:
     void propose();
-    void take(const QString& option);
+    void takeOption(const QString& option);
 
     QCompleter* m_completer;
     QStandardItemModel* m_options;

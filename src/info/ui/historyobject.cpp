@@ -83,11 +83,11 @@ void HistoryObject::load(Loaded& which)
     m_pool.start([this, &which, path, load = ++which.load] {
         const auto read = std::make_shared<std::expected<InfoFile, Failure>>(InfoFile::read(path));
         QMetaObject::invokeMethod(
-            this, [this, &which, load, read] { take(which, load, read); }, Qt::QueuedConnection);
+            this, [this, &which, load, read] { takeFile(which, load, read); }, Qt::QueuedConnection);
     });
 }
 
-void HistoryObject::take(Loaded& which, int load,
+void HistoryObject::takeFile(Loaded& which, int load,
                          const std::shared_ptr<std::expected<InfoFile, Failure>>& read)
 {
     if (load != which.load)

@@ -74,7 +74,7 @@ private:
     };
 
     void load(Loaded& which);
-    void take(Loaded& which, int load, const std::shared_ptr<std::expected<InfoFile, Failure>>& read);
+    void takeFile(Loaded& which, int load, const std::shared_ptr<std::expected<InfoFile, Failure>>& read);
     void search(const Wanted& wanted);
     void showFound(const Wanted& wanted);
     /// What a message about a missing file is appended to.

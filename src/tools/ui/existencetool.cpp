@@ -102,7 +102,7 @@ void ExistenceTool::takePrinted(const std::expected<std::string, Failure>& print
     if (isCancelled || !printed)
         return show(printed ? std::expected<ExistenceList, Failure>() : std::unexpected(printed.error()),
                     isCancelled);
-    m_workbench.take(*m_page.listfullTextField2, keys::listfullPath, printedPath(listfullName));
+    m_workbench.takePath(*m_page.listfullTextField2, keys::listfullPath, printedPath(listfullName));
     m_workbench.run([text = *printed, roms = m_page.rompathTextField2->text()](
                         const Job&) { return checkExistenceOf(text, roms); },
                     [this](std::expected<ExistenceList, Failure> list, bool wasCancelled) {

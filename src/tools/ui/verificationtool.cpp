@@ -150,7 +150,7 @@ void VerificationTool::takeVerified(std::expected<std::vector<VerifiedSet>, Fail
         return m_workbench.inform(verificationtexts::cancelled);
     if (!sets)
         return m_workbench.refuse(sets.error().text());
-    m_workbench.take(*m_page.verifyromsTextField, keys::verifyromsText, printedPath(verifyromsName));
+    m_workbench.takePath(*m_page.verifyromsTextField, keys::verifyromsText, printedPath(verifyromsName));
     const QLocale locale;
     const auto count = [&](VerifiedSet::Verdict verdict) {
         return locale.toString(

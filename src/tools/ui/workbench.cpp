@@ -157,10 +157,10 @@ void Workbench::choose(QLineEdit& field, const ChosenKey& key, const WantedItem&
     const QString path = openPanelpath(item.choice == Choice::File, item.choice == Choice::Folder,
                                        qtTrId(item.titleKey), item.kind);
     if (!path.isEmpty())
-        take(field, key, path);
+        takePath(field, key, path);
 }
 
-void Workbench::take(QLineEdit& field, const ChosenKey& key, const QString& path)
+void Workbench::takePath(QLineEdit& field, const ChosenKey& key, const QString& path)
 {
     field.setText(path);
     m_defaults.setText(key, path);

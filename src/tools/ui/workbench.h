@@ -86,7 +86,7 @@ public:
     /// Fills the field, stores the path and flushes; nothing after Cancel.
     void choose(QLineEdit& field, const ChosenKey& key, const WantedItem& item);
     /// The same with a path that is known.
-    void take(QLineEdit& field, const ChosenKey& key, const QString& path);
+    void takePath(QLineEdit& field, const ChosenKey& key, const QString& path);
 
     bool isBusy() const { return m_isBusy; }
     /// Runs `work` (of a Job) on another thread and hands what it gave, and whether it was cancelled, to
