@@ -14,7 +14,6 @@
     <message id="failure_store_empty"><source></source><translation>“%1” is empty.</translation></message>
     <message id="failure_store_encoding"><source></source><translation>“%1” holds bytes that are not valid %2 text.</translation></message>
     <message id="failure_store_foreign"><source></source><translation>“%1” is not a catalogue: its outermost element is “%2”.</translation></message>
-    <message id="failure_store_library"><source></source><translation>“%1” could not be read as XML: %2.</translation></message>
     <message id="failure_store_malformed"><source></source><translation>“%1” is not well-formed XML (line %2).</translation></message>
     <message id="failure_store_missing"><source></source><translation>“%1” does not exist.</translation></message>
     <message id="failure_store_model"><source></source><translation>“%1” is not a catalogue: it holds objects of another program, but no game record.</translation></message>

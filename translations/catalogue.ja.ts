@@ -14,7 +14,6 @@
     <message id="failure_store_empty"><source></source><translation>“%1”は空のファイルです。</translation></message>
     <message id="failure_store_encoding"><source></source><translation>“%1”に%2として正しくない文字が含まれています。</translation></message>
     <message id="failure_store_foreign"><source></source><translation>“%1”はカタログではありません。最も外側の要素が“%2”です。</translation></message>
-    <message id="failure_store_library"><source></source><translation>“%1”をXMLとして読み込めませんでした: %2</translation></message>
     <message id="failure_store_malformed"><source></source><translation>“%1”は正しいXMLではありません（%2行目）。</translation></message>
     <message id="failure_store_missing"><source></source><translation>“%1”が見つかりません。</translation></message>
     <message id="failure_store_model"><source></source><translation>“%1”はカタログではありません。ほかのプログラムのオブジェクトだけで、ゲームのレコードがありません。</translation></message>

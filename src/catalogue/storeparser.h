@@ -8,7 +8,7 @@
 
 namespace tessera {
 
-/// Reads any well-formed store through the XML library: other orders, indents, encodings, comments, CDATA,
+/// Reads any well-formed store through the XML reader: other orders, indents, encodings, comments, CDATA,
 /// objects of other types and relationships (both passed over), attributes left out (absent in the record).
 /// - Objects, but none of a game record, are another program's store: a failure. No object at all is an empty
 ///   catalogue.

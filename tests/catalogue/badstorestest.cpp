@@ -38,6 +38,9 @@ private Q_SLOTS:
         row("lone surrogate in UTF-16", QByteArray("\xFF\xFE<\0a\0>\0\0\xD8<\0/\0a\0>\0", 18),
             "failure_store_encoding");
         row("control character", changed("Pac-Man", "Pac\x07Man"), malformed);
+        row("control character in a name", changed("id=\"z102\"", "i\007d=\"z102\""), malformed);
+        row("control character at the end", usual.chopped(1) + '\x07', malformed);
+        row("control character behind the end", usual + '\x07', malformed);
         row("U+FFFF", changed("Pac-Man", "\xEF\xBF\xBF"), malformed);
         row("number of a control character", changed("Pac-Man", "&#7;"), malformed);
         row("number of no character", changed("Pac-Man", "&#xD800;"), malformed);
@@ -56,6 +59,9 @@ private Q_SLOTS:
         row("a property list", "<plist version=\"1.0\"><dict/></plist>", "failure_store_foreign");
         row("another root of a store", QByteArray(usual).replace("database>", "Database>"),
             "failure_store_foreign");
+        row("another document type", changed("<database>", "<!DOCTYPE database><database>"), malformed);
+        row("document type inside", changed("Pac-Man", "<!DOCTYPE a [<!ENTITY b 'c'>]>&b;"), malformed);
+        row("document type behind the end", usual + "<!DOCTYPE database>", malformed);
         row("a page", "<!DOCTYPE html><html><body><p>Not found<br></body></html>", malformed);
     }
     void badStoresAreRefused()

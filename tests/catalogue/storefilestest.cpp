@@ -120,12 +120,25 @@ private Q_SLOTS:
         QCOMPARE(store.error().arguments.value(0), m_folder.filePath(name));
     }
 
+    void malformedStoreNamesItsLine_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("end tag") << QByteArray("<database>\n<object>\n</database>") << QStringLiteral("3");
+        QTest::newRow("control character in a name")
+            << QByteArray("<database>\n<object i\007d='1'/>\n</database>") << QStringLiteral("2");
+        QTest::newRow("behind what is declared")
+            << QByteArray("<?xml version='1.0'\n?>\r\n<!DOCTYPE database\n[]\n>\n<database>&</database>")
+            << QStringLiteral("6");
+    }
     void malformedStoreNamesItsLine()
     {
-        QVERIFY(writeFile(path("bad.xml"), "<database>\n<object>\n</database>"));
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, line);
+        QVERIFY(writeFile(path("bad.xml"), bytes));
         const auto store = readStore(path("bad.xml"));
         QVERIFY(!store.has_value());
-        QCOMPARE(store.error().arguments, QStringList({path("bad.xml"), QStringLiteral("3")}));
+        QCOMPARE(store.error().arguments, QStringList({path("bad.xml"), line}));
     }
 
     void fullDiskKeepsTheOldStore()

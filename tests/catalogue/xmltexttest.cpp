@@ -1,4 +1,3 @@
-#include "catalogue/wellformedness.h"
 #include "core/xmldeclaration.h"
 #include "catalogue/xmltext.h"
 
@@ -154,91 +153,6 @@ private Q_SLOTS:
                  encoding);
         if (declaration)
             QCOMPARE(declaration->length, kept.size());
-    }
-
-    void wellFormedTextsPass_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        const auto row = [](const char* text) { QTest::newRow(text) << QByteArray(text); };
-        row("<a/>");
-        row("<a></a>");
-        row("<a ></a >");
-        row("<?xml version=\"1.0\"?>\n<!DOCTYPE a>\n<a b=\"1\" c='2'>text</a>\n<!-- end -->\n<?pi?>");
-        row("<a><b/><b>x</b><![CDATA[<&]]></a>");
-        row("<a>&amp;&#65;&#x41;&own;</a>");
-        row("<a b=\"&lt;&own; >'\"/>");
-        row("<a>]] > ]&gt;</a>");
-        row("<!--a-b--><a/>");
-        row("<?xml-stylesheet href='x'?><a/>");
-        row("<!DOCTYPE a SYSTEM \"a>.dtd\" [ <!ENTITY x \"]>'\"> <!-- ' --> <?p ?> %pe; <!ELEMENT a ANY> ] "
-            "><a/>");
-        row("<!DOCTYPE a PUBLIC '-//x' \"y\"><a/>");
-        row("<名前 属性=\"値\"/>");
-        row("<a:b xmlns:a='u'/>");
-    }
-    void wellFormedTextsPass()
-    {
-        QFETCH(QByteArray, text);
-        const auto offset = illFormedAt(text.toStdString());
-        QVERIFY2(!offset, offset ? text.mid(static_cast<qsizetype>(*offset)).constData() : "");
-    }
-
-    void illFormedTextsAreRefused_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("offset");
-        const auto row
-            = [](const char* text, int offset) { QTest::newRow(text) << QByteArray(text) << offset; };
-        row("", 0);
-        row("  ", 2);
-        row("text", 0);
-        row("<!-- only -->", 13);
-        row("<a>", 3);
-        row("<a", 2);
-        row("<a/><b/>", 4);
-        row("<a/>text", 4);
-        row("<a/>&amp;", 4);
-        row("<a/><![CDATA[x]]>", 4);
-        row("<a></b>", 5);
-        row("<a><b></a></b>", 8);
-        row("</a>", 2);
-        row("<a b/>", 4);
-        row("<a b=1/>", 5);
-        row("<a b=\"1/>", 9);
-        row("<a b=\"<\"/>", 6);
-        row("<a b=\"1\"c=\"2\"/>", 8);
-        row("<a b=\"1\" b=\"2\"/>", 14);
-        row("<a b=\"&\"/>", 7);
-        row("<a>&</a>", 4);
-        row("<a>& b</a>", 4);
-        row("<a>&b</a>", 5);
-        row("<a>&#0;</a>", 4);
-        row("<a>&#xD800;</a>", 4);
-        row("<a>]]></a>", 5);
-        row("<a><!-- -- --></a>", 10);
-        row("<a><!-- ---></a>", 10);
-        row("<a><!-- ", 8);
-        row("<a><![CDATA[ ]]", 15);
-        row("<a><?x", 6);
-        row("<a><?xml version=\"1.0\"?></a>", 8);
-        row(" <?xml version=\"1.0\"?><a/>", 6);
-        row("<a/><!DOCTYPE a>", 4);
-        row("<!DOCTYPE a><!DOCTYPE a><a/>", 12);
-        row("<!DOCTYPE a [ <a/> ]><a/>", 14);
-        row("<!DOCTYPE a [ <!ENTITY x \"1\" ]><b/>", 31);
-        row("<!DOCTYPE a", 11);
-        row("<!DOCTYPE a SYSEM \"x\"><a/>", 17);
-        row("<1/>", 1);
-        row("< a/>", 1);
-        row("<a / >", 3);
-    }
-    void illFormedTextsAreRefused()
-    {
-        QFETCH(QByteArray, text);
-        QFETCH(int, offset);
-        const auto found = illFormedAt(text.toStdString());
-        QVERIFY(found.has_value());
-        QCOMPARE(static_cast<int>(*found), offset);
     }
 };
 
