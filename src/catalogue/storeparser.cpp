@@ -5,6 +5,8 @@
 #include "core/xmlaswritten.h"
 #include "core/xmlencoding.h"
 
+#include <algorithm>
+
 namespace tessera {
 
 namespace {
@@ -35,6 +37,21 @@ bool readObjects(XmlAsWritten& xml, StoredCatalogue& store)
     return hasObjects;
 }
 
+// The reader compares each attribute of a tag with all others: so many only a hostile file has, and they
+// would take it minutes. The text up to such a tag.
+std::size_t lengthWithoutEndlessTag(std::string_view text)
+{
+    constexpr std::ptrdiff_t most = 1000;
+    for (std::size_t start = text.find('<'); start < text.size(); start = text.find('<', start + 1)) {
+        if (text.substr(start + 1, 1).find_first_of("!?") == 0)
+            continue;
+        const std::string_view tag = text.substr(start, text.find('>', start) - start);
+        if (std::ranges::count(tag, '=') > most)
+            return start;
+    }
+    return text.size();
+}
+
 } // namespace
 
 std::expected<StoredCatalogue, Failure> parseStore(std::string bytes, const QString& path)
@@ -49,7 +66,7 @@ std::expected<StoredCatalogue, Failure> parseStore(std::string bytes, const QStr
         return std::unexpected(Failure{"failure_store_binary", {path}});
 
     // The reader would take control characters in names.
-    const std::size_t allowed = xmlTextLength(*text);
+    const std::size_t allowed = std::min(xmlTextLength(*text), lengthWithoutEndlessTag(*text));
     const bool isAllowed = allowed == text->size();
     text->resize(allowed);
 

@@ -52,6 +52,10 @@ private Q_SLOTS:
         row("wrong end tag", changed("</object>", "</Object>"), malformed);
         row("missing end tag", changed("</attribute>\n</object>", "\n</object>"), malformed);
         row("attribute twice in a tag", changed("id=\"z102\"", "id=\"z102\" id=\"z1\""), malformed);
+        QByteArray many = "id=\"z102\"";
+        for (int i = 0; i < 2000; ++i)
+            many += " a" + QByteArray::number(i) + "=\"1\"";
+        row("attributes without end", changed("id=\"z102\"", many), malformed);
         row("no quotes", changed("id=\"z102\"", "id=z102"), malformed);
         row("declaration of no XML", changed("version=\"1.0\"", "version=\"9\""), malformed);
         row("another document", "<?xml version=\"1.0\"?>\n<mame build=\"0.251\"><machine name=\"a\"/></mame>",
