@@ -4,7 +4,6 @@
 #include "rounds.h"
 
 #include "tools/existence.h"
-#include "tools/foldersets.h"
 #include "tools/printedtext.h"
 #include "tools/separation.h"
 #include "tools/verification.h"

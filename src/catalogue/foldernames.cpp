@@ -2,24 +2,19 @@
 
 #include "catalogue/recorddictionary.h"
 #include "core/encodings.h"
+#include "core/openfolder.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cerrno>
-#include <memory>
+#include <utility>
 
-#include <dirent.h>
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace tessera {
 
 namespace {
-
-using Directory = std::unique_ptr<DIR, decltype([](DIR* directory) { ::closedir(directory); })>;
 
 // Links are followed; nothing where they lead nowhere.
 std::optional<FolderNames::Kind> kindOf(int folder, const dirent& entry)
@@ -33,99 +28,102 @@ std::optional<FolderNames::Kind> kindOf(int folder, const dirent& entry)
     return S_ISDIR(facts.st_mode) ? Kind::Folder : Kind::File;
 }
 
-bool isAsciiLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-std::string inOtherCase(std::string name)
-{
-    for (char& c : name)
-        c = isAsciiLetter(c) ? static_cast<char>(c ^ 0x20) : c;
-    return name;
-}
-
+// Of letters in ASCII; file systems compare others each in its own way.
 std::string inLowerCase(std::string_view name)
 {
-    std::string lower(name);
-    for (char& c : lower)
-        c = isAsciiLetter(c) ? static_cast<char>(c | 0x20) : c;
-    return lower;
+    return QByteArray(name.data(), static_cast<qsizetype>(name.size())).toLower().toStdString();
+}
+
+std::string inOtherCase(const std::string& name)
+{
+    const std::string lower = inLowerCase(name);
+    return lower != name ? lower : QByteArray::fromStdString(name).toUpper().toStdString();
 }
 
 // Tried with a name that is there: in the other case it must be the same file.
-FolderNames::Case caseOf(int folder, const FolderNames::Entries& entries)
+bool ignoresCase(int folder, const NameSet& names)
 {
-    for (const auto& [name, kind] : entries) {
+    for (std::size_t i = 0; i < names.names().size(); ++i) {
+        const std::string name(names.names()[i]);
         const std::string other = inOtherCase(name);
-        if (other == name || entries.contains(other))
+        if (names.contains(other))
             continue;
         struct stat one{};
         struct stat two{};
-        const bool same = ::fstatat(folder, name.c_str(), &one, 0) == 0
-            && ::fstatat(folder, other.c_str(), &two, 0) == 0 && one.st_ino == two.st_ino
-            && one.st_dev == two.st_dev;
-        return same ? FolderNames::Case::Ignored : FolderNames::Case::Matters;
+        return ::fstatat(folder, name.c_str(), &one, 0) == 0 && ::fstatat(folder, other.c_str(), &two, 0) == 0
+            && FileIdentity::of(one) == FileIdentity::of(two);
     }
-    return FolderNames::Case::Matters;
+    return false;
 }
 
 } // namespace
 
 FolderNames FolderNames::read(const QString& folder)
 {
-    Entries entries;
-    const Directory directory(::opendir(QFile::encodeName(folder + u'/').constData()));
+    FolderNames names(folder);
+    const FolderEntries directory(::opendir(QFile::encodeName(folder + u'/').constData()));
     if (!directory) {
-        FolderNames none(folder, {}, Case::Matters);
-        none.m_listed = errno == ENOENT || errno == ENOTDIR;
-        return none;
+        names.m_listed = errno == ENOENT || errno == ENOTDIR;
+        return names;
     }
     const int handle = ::dirfd(directory.get());
     // Who may look around but not enter sees names that do not exist for him.
     if (handle < 0 || ::faccessat(handle, ".", X_OK, AT_EACCESS) != 0)
-        return FolderNames(folder, {}, Case::Matters);
+        return names;
     while (const dirent* entry = ::readdir(directory.get())) {
-        const std::string_view name = entry->d_name;
-        if (name == "." || name == "..")
-            continue;
         if (const auto kind = kindOf(handle, *entry))
-            entries.emplace(name, *kind);
+            names.add(entry->d_name, *kind);
     }
-    const Case letters = caseOf(handle, entries);
-    return FolderNames(folder, entries, letters);
+    if (ignoresCase(handle, names.m_names))
+        names.ignoreCase();
+    return names;
 }
 
-FolderNames::FolderNames(QString folder, const Entries& entries, Case letters)
+FolderNames::FolderNames(QString folder)
     : m_folder(std::move(folder))
-    , m_case(letters)
 {
-    m_entries.reserve(entries.size());
-    for (const auto& [name, kind] : entries) {
-        m_foreignLetters = m_foreignLetters || !isAscii(name);
-        m_entries.emplace(letters == Case::Ignored ? inLowerCase(name) : name, kind);
+}
+
+FolderNames::FolderNames(QString folder, std::initializer_list<Entry> entries, Case letters)
+    : FolderNames(std::move(folder))
+{
+    for (const Entry& each : entries)
+        add(each.name, each.kind);
+    if (letters == Case::Ignored)
+        ignoreCase();
+}
+
+void FolderNames::add(std::string_view name, Kind kind)
+{
+    if (m_names.insert(name).second)
+        m_kinds.push_back(kind);
+}
+
+void FolderNames::ignoreCase()
+{
+    m_case = Case::Ignored;
+    const NameSet exact = std::exchange(m_names, {});
+    const std::vector<Kind> kinds = std::exchange(m_kinds, {});
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        m_foreignLetters = m_foreignLetters || !isAscii(exact.names()[i]);
+        add(inLowerCase(exact.names()[i]), kinds[i]);
     }
 }
 
 std::optional<FolderNames::Kind> FolderNames::find(std::string_view name) const
 {
-    if (name.contains('\0'))
-        return std::nullopt;
-    if (!canTell(name))
-        return ask(name);
-    const auto found = m_entries.find(m_case == Case::Ignored ? inLowerCase(name) : std::string(name));
-    if (found != m_entries.end())
-        return found->second;
-    // A file system that ignores case may take a foreign letter for one of ours.
-    return m_case == Case::Ignored && m_foreignLetters ? ask(name) : std::nullopt;
+    if (const auto found = m_case == Case::Ignored ? m_names.find(inLowerCase(name)) : m_names.find(name))
+        return m_kinds[*found];
+    return canTell(name) ? std::nullopt : ask(name);
 }
 
 // A path leads elsewhere, file systems compare letters outside ASCII each in its own way, and "~" may be a
 // short name's.
 bool FolderNames::canTell(std::string_view name) const
 {
-    const bool plain = isAscii(name) && !name.contains('/');
-    return m_listed && plain && !(m_case == Case::Ignored && name.contains('~'));
+    const bool isPlain = isAscii(name) && !name.contains('/');
+    return name.contains('\0')
+        || (m_listed && isPlain && !(m_case == Case::Ignored && (m_foreignLetters || name.contains('~'))));
 }
 
 std::optional<FolderNames::Kind> FolderNames::ask(std::string_view name) const

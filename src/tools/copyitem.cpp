@@ -1,6 +1,6 @@
 #include "tools/copyitem.h"
 
-#include "tools/openfolder.h"
+#include "core/openfolder.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 #include "tools/existence.h"
 
-#include "tools/foldersets.h"
+#include "catalogue/foldernames.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -11,8 +11,6 @@ namespace tessera {
 namespace {
 
 constexpr std::string_view header = "Name:";
-// So many sets are looked for while memory is fetched.
-constexpr std::size_t ahead = 12;
 
 // In quotes where it must be; a quote in it is written twice.
 void appendQuoted(std::string& csv, std::string_view value)
@@ -30,36 +28,38 @@ void appendQuoted(std::string& csv, std::string_view value)
     csv += '"';
 }
 
-// What can be made of the list alone.
-struct Asked {
-    ListedSets sets;
-    std::vector<PackedName> keys;
-
-    explicit Asked(ListedSets listed)
-        : sets(std::move(listed))
-    {
-        keys.reserve(sets.size());
-        for (std::size_t i = 0; i < sets.size(); ++i)
-            keys.push_back(FolderSets::keyOf(sets[i]));
-    }
-};
-
-std::vector<std::uint8_t> findEach(const Asked& asked, const FolderSets& roms)
+// "name.zip", or anything of that very name.
+void findEach(const ListedSets& sets, const FolderNames& roms, std::size_t first,
+              std::span<std::uint8_t> isFound)
 {
-    std::vector<std::uint8_t> isFound(asked.keys.size());
+    std::string archive;
     for (std::size_t i = 0; i < isFound.size(); ++i) {
-        roms.expect(asked.keys[std::min(i + ahead, isFound.size() - 1)]);
-        isFound[i] = roms.holds(asked.sets[i], asked.keys[i]) ? 1 : 0;
+        const std::string_view set = sets[first + i];
+        archive.assign(set).append(".zip");
+        isFound[i] = roms.find(archive) || roms.find(set) ? 1 : 0;
     }
+}
+
+// In two halves beside each other.
+std::vector<std::uint8_t> findAll(const ListedSets& sets, const FolderNames& roms)
+{
+    std::vector<std::uint8_t> isFound(sets.size());
+    const std::size_t half = sets.size() / 2;
+    const auto later = std::async(std::launch::async,
+                                  [&] { findEach(sets, roms, half, std::span(isFound).subspan(half)); });
+    findEach(sets, roms, 0, std::span(isFound).first(half));
+    later.wait();
     return isFound;
 }
 
+} // namespace
+
 // Deliberate: the header stays among the sets and is counted; a list that has none is not shown at all, nor
 // is one whose header is the name of something in the folder.
-std::expected<ExistenceList, Failure> look(Asked asked, const FolderSets& roms)
+std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderNames& roms)
 {
-    const std::vector<std::uint8_t> isFound = findEach(asked, roms);
-    ExistenceList list{std::move(asked.sets), std::vector<ExistenceRow>(isFound.size())};
+    const std::vector<std::uint8_t> isFound = findAll(sets, roms);
+    ExistenceList list{std::move(sets), std::vector<ExistenceRow>(isFound.size())};
     list.found = static_cast<int>(std::ranges::count(isFound, 1));
     list.notFound = static_cast<int>(isFound.size()) - list.found;
     bool hasHeader = false;
@@ -75,32 +75,20 @@ std::expected<ExistenceList, Failure> look(Asked asked, const FolderSets& roms)
     return list;
 }
 
-} // namespace
-
-std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderSets& roms)
-{
-    return look(Asked(std::move(sets)), roms);
-}
-
 // The list is read beside the folder, which takes longer.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms)
 {
-    auto reading = std::async(std::launch::async, [&]() -> std::expected<Asked, Failure> {
-        auto sets = ListedSets::read(listfull);
-        if (!sets)
-            return std::unexpected(sets.error());
-        return Asked(std::move(*sets));
-    });
-    const FolderSets folder = FolderSets::read(roms);
-    auto asked = reading.get();
-    if (!asked)
-        return std::unexpected(asked.error());
-    return look(std::move(*asked), folder);
+    auto reading = std::async(std::launch::async, &ListedSets::read, listfull);
+    const FolderNames folder = FolderNames::read(roms);
+    auto sets = reading.get();
+    if (!sets)
+        return std::unexpected(sets.error());
+    return existenceOf(std::move(*sets), folder);
 }
 
 std::expected<ExistenceList, Failure> checkExistenceOf(std::string_view printed, const QString& roms)
 {
-    return existenceOf(ListedSets(printed), FolderSets::read(roms));
+    return existenceOf(ListedSets(printed), FolderNames::read(roms));
 }
 
 QString existenceSummary(std::size_t count, int found, int notFound)

@@ -13,7 +13,7 @@
 
 namespace tessera {
 
-class FolderSets;
+class FolderNames;
 
 /// What the tool says and writes; the same in every language.
 namespace existencetexts {
@@ -45,7 +45,7 @@ struct ExistenceList {
 };
 
 /// Without the list's header, "existence_no_header".
-std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderSets& roms);
+std::expected<ExistenceList, Failure> existenceOf(ListedSets sets, const FolderNames& roms);
 
 /// The same of a file and a folder.
 std::expected<ExistenceList, Failure> checkExistence(const QString& listfull, const QString& roms);

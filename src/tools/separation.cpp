@@ -1,8 +1,7 @@
 #include "tools/separation.h"
 
 #include "core/encodings.h"
-#include "tools/openfolder.h"
-#include "tools/printedtext.h"
+#include "core/openfolder.h"
 
 #include <QFile>
 
@@ -22,18 +21,6 @@ bool isListed(std::string_view name)
 QString decoded(const std::string& path)
 {
     return QFile::decodeName(QByteArray::fromStdString(path));
-}
-
-// Letters outside ASCII have lower case too.
-std::string inLowerCase(std::string_view name)
-{
-    if (isAscii(name)) {
-        std::string lower(name);
-        for (char& c : lower)
-            c = c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-        return lower;
-    }
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())).toLower().toStdString();
 }
 
 std::optional<std::int64_t> freeSpace(const std::string& folder)
@@ -57,37 +44,28 @@ std::vector<std::string> romNames(const QString& folder)
     return names;
 }
 
-SupportedNames::SupportedNames(std::string_view listfull)
+SupportedNames::SupportedNames(const ListedSets& listed)
 {
-    for (const std::string_view word : firstWords(listfull))
-        add(word);
-    m_names.arrange();
+    for (std::size_t i = 0; i < listed.size(); ++i)
+        m_names.insert(listed[i]);
+}
+
+SupportedNames::SupportedNames(std::string_view listfull)
+    : SupportedNames(ListedSets(listfull))
+{
 }
 
 SupportedNames SupportedNames::read(const QString& listfull)
 {
-    SupportedNames names;
-    const auto read = readFirstWords(listfull, [&](std::span<const std::string_view> words) {
-        for (const std::string_view word : words)
-            names.add(word);
-    });
-    if (!read)
-        return {};
-    names.m_names.arrange();
-    return names;
+    const auto listed = ListedSets::read(listfull);
+    return listed ? SupportedNames(*listed) : SupportedNames();
 }
 
-void SupportedNames::add(std::string_view word)
-{
-    if (isAscii(word))
-        m_names.add(word);
-    else
-        m_names.add(printedText(std::string(word)));
-}
-
+// Letters outside ASCII have lower case too.
 bool SupportedNames::supports(std::string_view fileName) const
 {
-    return isUtf8(fileName) && m_names.contains(inLowerCase(fileName.substr(0, fileName.rfind('.'))));
+    const std::string_view name = fileName.substr(0, fileName.rfind('.'));
+    return isUtf8(fileName) && m_names.contains(QString::fromUtf8(name).toLower().toStdString());
 }
 
 std::optional<QString> SeparatedRow::logLine() const

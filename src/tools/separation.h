@@ -1,7 +1,8 @@
 #pragma once
 
+#include "catalogue/nameset.h"
 #include "tools/copyitem.h"
-#include "tools/nameset.h"
+#include "tools/listedsets.h"
 
 #include <QLatin1StringView>
 #include <QString>
@@ -40,6 +41,7 @@ class SupportedNames
 {
 public:
     SupportedNames() = default;
+    explicit SupportedNames(const ListedSets& listed);
     explicit SupportedNames(std::string_view listfull);
     /// None where the file cannot be read.
     static SupportedNames read(const QString& listfull);
@@ -48,8 +50,6 @@ public:
     bool supports(std::string_view fileName) const;
 
 private:
-    void add(std::string_view word);
-
     NameSet m_names;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
-#include "catalogue/search/nameset.h"
+#include "catalogue/nameset.h"
 #include "catalogue/search/yearrange.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "tools/nameset.h"
+#include "catalogue/nameset.h"
 
 #include "support/testmain.h"
 
@@ -17,8 +17,7 @@ private Q_SLOTS:
         // Each differs from the one before by its last byte alone, and from the next by that it is shorter.
         NameSet names;
         for (std::size_t length = 1; length <= 40; ++length)
-            names.add(std::string(length, 'a'));
-        names.arrange();
+            names.insert(std::string(length, 'a'));
         for (std::size_t length = 1; length <= 40; ++length) {
             QVERIFY(names.contains(std::string(length, 'a')));
             for (std::size_t place = 0; place < length; ++place) {
@@ -45,9 +44,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, name);
         QVERIFY(!NameSet().contains(name.toStdString()));
         NameSet names;
-        names.add("a");
-        names.add(name.toStdString());
-        names.arrange();
+        names.insert("a");
+        names.insert(name.toStdString());
         QVERIFY(names.contains(name.toStdString()) && names.contains("a"));
         QVERIFY(!names.contains(name.toStdString() + "x") && !names.contains("x"));
     }
@@ -65,11 +63,10 @@ private Q_SLOTS:
         std::set<std::string> plain;
         for (int i = 0; i < 3000; ++i) {
             plain.insert(name());
-            names.add(*std::next(plain.begin(), static_cast<int>(random() % plain.size())));
+            names.insert(*std::next(plain.begin(), static_cast<int>(random() % plain.size())));
         }
         for (const std::string& each : plain)
-            names.add(each);
-        names.arrange();
+            names.insert(each);
         for (int i = 0; i < 20'000; ++i) {
             const std::string asked = name();
             QCOMPARE(names.contains(asked), plain.contains(asked));
