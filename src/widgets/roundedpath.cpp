@@ -8,8 +8,6 @@ namespace {
 
 constexpr double buttonSize = 14;
 constexpr double buttonFromTop = 26;
-// How far a curve's handles reach, so that it looks like a quarter of a circle.
-constexpr double handle = 0.5522847498;
 
 // The smallest rectangle of whole numbers around it; nothing where there is nothing left.
 Frame integral(const Frame& frame)
@@ -29,14 +27,6 @@ Place truncated(double x, double y)
 QPointF point(Place place)
 {
     return {place.x, place.y};
-}
-
-// As far from the corner as the curve begins or ends.
-QPointF tangent(QPointF corner, QPointF from)
-{
-    const QPointF way = from - corner;
-    const double length = std::hypot(way.x(), way.y());
-    return length > 0 ? corner + way * (RoundedPath::radius / length) : corner;
 }
 
 } // namespace
@@ -61,17 +51,10 @@ RoundedPath roundedPath(const Frame& bounds, float borderWidth)
 
 QPainterPath painterPath(const RoundedPath& path)
 {
-    QPainterPath outline(point(path.start));
-    Place from = path.start;
-    for (const RoundedCorner& each : path.corners) {
-        const QPointF corner = point(each.corner);
-        const QPointF begin = tangent(corner, point(from));
-        const QPointF end = tangent(corner, point(each.towards));
-        outline.lineTo(begin);
-        outline.cubicTo(begin + (corner - begin) * handle, end + (corner - end) * handle, end);
-        from = each.towards;
-    }
-    outline.closeSubpath();
+    const auto& [lowerRight, upperRight, upperLeft, lowerLeft] = path.corners;
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(point(lowerLeft.corner), point(upperRight.corner)), RoundedPath::radius,
+                           RoundedPath::radius);
     return outline;
 }
 
