@@ -7,9 +7,6 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
-#include <new>
-
-#include <sys/mman.h>
 
 namespace tessera {
 
@@ -17,8 +14,8 @@ namespace {
 
 using namespace storelayout;
 
-// A large page of memory: one fault instead of 512.
-constexpr std::size_t largePage = std::size_t{2} << 20;
+// What is held in one piece of memory.
+constexpr std::size_t blockSize = std::size_t{2} << 20;
 
 // What is handed over at once; as much as stays in the processor's cache.
 constexpr std::size_t pieceSize = std::size_t{128} << 10;
@@ -101,12 +98,8 @@ void putNumber(PieceWriter& writer, std::size_t number)
 char* StoreText::reserve(std::size_t bytes)
 {
     if (m_blocks.empty() || m_blocks.back().capacity - m_blocks.back().used < bytes) {
-        const std::size_t capacity = (bytes + largePage - 1) / largePage * largePage;
-        m_blocks.push_back({{}, 0, capacity});
-        m_blocks.back().bytes.reset(static_cast<char*>(std::aligned_alloc(largePage, capacity)));
-        if (!m_blocks.back().bytes)
-            throw std::bad_alloc();
-        madvise(m_blocks.back().bytes.get(), capacity, MADV_HUGEPAGE); // only a hint
+        const std::size_t capacity = std::max(bytes, blockSize);
+        m_blocks.push_back({std::make_unique_for_overwrite<char[]>(capacity), 0, capacity});
     }
     Block& block = m_blocks.back();
     block.used += bytes;

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <span>
 #include <string>
@@ -42,11 +41,8 @@ private:
     struct Lengths {
         std::array<std::uint32_t, fieldCount> bytes;
     };
-    struct Free {
-        void operator()(char* bytes) const { std::free(bytes); }
-    };
     struct Block {
-        std::unique_ptr<char, Free> bytes;
+        std::unique_ptr<char[]> bytes;
         std::size_t used = 0;
         std::size_t capacity = 0;
     };
