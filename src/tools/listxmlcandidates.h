@@ -5,6 +5,12 @@
 
 namespace tessera {
 
+// Vectors, because nothing plainer is as fast. On MAME's own list of 269 MB, while a conversion in two parts
+// took 1.6 times as long as one reading (1.0 where nobody else uses the machine), std::string_view::find
+// took 1.9 times for every
+// "<" alone, and 3.6 times for every "=" too, which what is looked for inside tags would need; ten needles by
+// memmem took 10 times. Each of these in two parts as well, and nothing converted.
+
 /// How many bytes are looked at together.
 inline constexpr std::size_t candidateBlock = 128;
 

@@ -14,7 +14,9 @@ class QSlider;
 
 namespace tessera {
 
-/// A modal panel for a colour and how opaque it is, by sliders or by its code.
+/// A modal panel for a colour and how opaque it is, by sliders or by its code. The toolkit's own one takes no
+/// code with an opacity: of "#8000ff00" it keeps "#8000ff", another colour; half a code changes the colour
+/// while it is typed, and what it shows is never seen through.
 class ColorDialog : public QDialog
 {
     Q_OBJECT
