@@ -151,7 +151,8 @@ QString CatalogueRebuild::replaceBy(StoredCatalogue content)
     const StoredCatalogue before = m_parts.catalogue.replace(std::move(content));
     CatalogueComparison comparison;
     if (!before.records.empty())
-        comparison = compareCatalogues(before.records, m_parts.catalogue.records(), m_parts.favourites.names());
+        comparison
+            = compareCatalogues(before.records, m_parts.catalogue.records(), m_parts.favourites.names());
     Q_EMIT compared(comparison);
     return before.records.empty() ? QString() : comparisonSummary(comparison);
 }

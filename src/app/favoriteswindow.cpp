@@ -153,7 +153,7 @@ void FavoritesWindow::showCount(std::size_t shown, std::size_t all)
             ? qtTrId("favorites_count").arg(total)
             : qtTrId("favorites_count_some").arg(locale.toString(static_cast<qulonglong>(shown)), total));
     emptyState->showReason(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
-                    all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
+                           all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
     m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : favoritesTable);
 }
 

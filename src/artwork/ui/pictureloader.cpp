@@ -76,8 +76,8 @@ void PictureLoader::read(const QString& path)
     });
 }
 
-void PictureLoader::takePicture(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
-                         const QString& reason)
+void PictureLoader::takePicture(const QString& path, const QDateTime& changed, qint64 length,
+                                const QImage& image, const QString& reason)
 {
     m_isReading = false;
     if (!image.isNull())

@@ -40,7 +40,7 @@ private:
     void loadWanted();
     void read(const QString& path);
     void takePicture(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
-              const QString& reason);
+                     const QString& reason);
 
     QSize m_most;
     QString m_wanted; ///< the last that was asked for; empty once it has been told of

@@ -88,7 +88,7 @@ void HistoryObject::load(Loaded& which)
 }
 
 void HistoryObject::takeFile(Loaded& which, int load,
-                         const std::shared_ptr<std::expected<InfoFile, Failure>>& read)
+                             const std::shared_ptr<std::expected<InfoFile, Failure>>& read)
 {
     if (load != which.load)
         return;
