@@ -1,5 +1,6 @@
 #include "platform/defaultscontroller.h"
 
+#include "core/failure.h"
 #include "support/testmain.h"
 
 #include <QDir>
@@ -34,11 +35,13 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkdir(path()));
         m_controller->setText(keys::RomsPath, QStringLiteral("/roms"));
-        QVERIFY(!m_defaults->synchronize());
-        QVERIFY(!m_defaults->synchronize());
+        const QString failure = Failure{"failure_settings", {path()}}.text();
+        QVERIFY(!failure.isEmpty());
+        QCOMPARE(m_controller->flush(), failure);
+        QCOMPARE(m_controller->flush(), failure);
         QCOMPARE(m_controller->text(keys::RomsPath), QStringLiteral("/roms"));
         QVERIFY(QDir().rmdir(path()));
-        QVERIFY(m_defaults->synchronize());
+        QCOMPARE(m_controller->flush(), QString());
         QCOMPARE(UserDefaults(path()).string(keys::RomsPath.name), QStringLiteral("/roms"));
     }
 
@@ -168,6 +171,20 @@ private Q_SLOTS:
         }
         QCOMPARE(onDisk.string(keys::ExecutionPath.name), QStringLiteral("/usr/games/mame"));
         QCOMPARE(onDisk.flag(keys::GamelistColoring.name), true);
+    }
+
+    // What no control is bound to is told like the others.
+    void whatIsKeptAndForgottenIsTold()
+    {
+        const QSignalSpy changed(m_controller.get(), &DefaultsController::changed);
+        m_controller->keep(keys::MiniWindowAbove, true);
+        m_controller->keep(keys::MiniWindowAbove, true);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.constLast().constFirst().toString(), QString(keys::MiniWindowAbove.name));
+        QVERIFY(m_controller->stored().flag(keys::MiniWindowAbove.name));
+        m_controller->forget(keys::MiniWindowAbove);
+        QCOMPARE(changed.size(), 2);
+        QVERIFY(!m_controller->stored().value(keys::MiniWindowAbove.name));
     }
 
     void changesAreToldOnce()
