@@ -20,9 +20,9 @@ constexpr QLatin1StringView noImage(":/pictures/No_image.jpg");
 
 } // namespace
 
-SnapshotController::SnapshotController(SnapshotParts parts, QObject* parent)
+SnapshotController::SnapshotController(const SnapshotParts& parts, QObject* parent)
     : QObject(parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
     , m_loader(mostShown)
 {
     m_patience.setSingleShot(true);

@@ -34,7 +34,7 @@ class SnapshotController : public QObject
     Q_OBJECT
 
 public:
-    explicit SnapshotController(SnapshotParts parts, QObject* parent = nullptr);
+    explicit SnapshotController(const SnapshotParts& parts, QObject* parent = nullptr);
 
     /// The selected set; empty for none.
     QString name() const { return m_parts.selection.selected().name; }

@@ -20,9 +20,9 @@
 
 namespace tessera {
 
-CommandController::CommandController(CommandParts parts, QObject* parent)
+CommandController::CommandController(const CommandParts& parts, QObject* parent)
     : QObject(parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
 {
     const CommandBar& bar = m_parts.bar;
     connect(bar.returnButton, &QPushButton::clicked, this, &CommandController::commandAction);

@@ -34,7 +34,7 @@ class CommandController : public QObject
     Q_OBJECT
 
 public:
-    explicit CommandController(CommandParts parts, QObject* parent = nullptr);
+    explicit CommandController(const CommandParts& parts, QObject* parent = nullptr);
 
     /// A button or a menu's action that stops the emulator; while a command is waited for it works as the
     /// bar's own.
