@@ -88,7 +88,7 @@ void FavoritesDesk::tellNames()
     NameSet names;
     for (const QString& name : m_favourites.names())
         names.insert(name.toStdString());
-    m_parts.finding.finder().setFavorites(std::move(names));
+    m_parts.finding.finder().setFavorites(names);
 }
 
 FavoritesDesk::~FavoritesDesk() = default;
