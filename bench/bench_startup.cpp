@@ -6,8 +6,8 @@
 // The parent starts each in turns, as a process of its own; a child says at its first painted rows what it
 // holds, and ends.
 
+#include "app/program.h"
 #include "app/tessera_appdelegate.h"
-#include "app/mainwindow.h"
 #include "catalogue/storereader.h"
 #include "catalogue/ui/gametableview.h"
 #include "platform/defaultscontroller.h"
@@ -88,7 +88,7 @@ int showTessera(QApplication& application, const QString& catalogue, const QStri
     theme::apply(application);
     Tessera_AppDelegate delegate(desktop, defaults, recent, catalogue);
     delegate.run(QString());
-    const FirstPaint paint(delegate.mainWindow().gameTable);
+    const FirstPaint paint(delegate.program().mainWindow.gameTable);
     return application.exec();
 }
 

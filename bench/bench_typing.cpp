@@ -1,7 +1,7 @@
 // bench_typing TESSERA.XML: from a key in the search field to the painted window, against a plain repaint of
 // the same window.
 
-#include "app/mainwindow.h"
+#include "app/program.h"
 #include "app/tessera_appdelegate.h"
 #include "catalogue/ui/searchfield.h"
 #include "core/texts.h"
@@ -94,7 +94,7 @@ int main(int argc, char* argv[])
     installTexts(texts, QString());
     Tessera_AppDelegate delegate(desktop, defaults, recent, store);
     delegate.run(QString());
-    MainWindow& window = delegate.mainWindow();
+    MainWindow& window = delegate.program().mainWindow;
     QElapsedTimer settling;
     for (settling.start(); settling.elapsed() < settleTime;)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 50);

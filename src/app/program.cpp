@@ -18,14 +18,17 @@
 
 namespace tessera {
 
+Program::Look::Look()
+{
+    theme::applyStyleSheet(*qApp);
+}
+
 Program::Program(const Ground& ground)
     : desktop(ground.desktop)
     , settings(ground.settings)
     , recent(ground.recent)
     , catalogue(ground.catalogue)
 {
-    // Here it costs least: the main window's widgets take it together, the others when they are first shown.
-    theme::applyStyleSheet(*qApp);
     fillPreferences();
     joinMenus();
     joinStatusLines();

@@ -55,6 +55,10 @@ class Program : public QObject
     Q_OBJECT
 
 public:
+    /// Our style sheet, from its construction on.
+    struct Look {
+        Look();
+    };
     /// What it stands on.
     struct Ground {
         Desktop& desktop;
@@ -73,6 +77,8 @@ public:
     // Windows that are there from the beginning, and the preferences' pages that launches read.
     CalmWheel calmWheel;
     MainWindow mainWindow{settings};
+    Look look; ///< here it costs least: the main window takes it as a whole, the others when they are first
+               ///< shown
     Windows windows{*mainWindow.menuBar(), settings};
     LogWindow logWindow;
     PreferencesWindow preferences;
