@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 #include <sys/statvfs.h>
 
 namespace tessera {
@@ -61,10 +63,12 @@ SupportedNames SupportedNames::read(const QString& listfull)
     return listed ? SupportedNames(*listed) : SupportedNames();
 }
 
-// Letters outside ASCII have lower case too.
+// Nearly all names are in lower case already; letters outside ASCII have one, too.
 bool SupportedNames::supports(std::string_view fileName) const
 {
     const std::string_view name = fileName.substr(0, fileName.rfind('.'));
+    if (std::ranges::all_of(fileName, [](unsigned char c) { return c < 0x80 && (c < 'A' || c > 'Z'); }))
+        return m_names.contains(name);
     return isUtf8(fileName) && m_names.contains(QString::fromUtf8(name).toLower().toStdString());
 }
 
