@@ -38,16 +38,23 @@ bool readObjects(XmlAsWritten& xml, StoredCatalogue& store)
 }
 
 // The reader compares each attribute of a tag with all others: so many only a hostile file has, and they
-// would take it minutes. The text up to such a tag.
+// would take it minutes. The text up to such a tag. No value holds a "<", and each begins with a quote.
 std::size_t lengthWithoutEndlessTag(std::string_view text)
 {
-    constexpr std::ptrdiff_t most = 1000;
-    for (std::size_t start = text.find('<'); start < text.size(); start = text.find('<', start + 1)) {
-        if (text.substr(start + 1, 1).find_first_of("!?") == 0)
-            continue;
-        const std::string_view tag = text.substr(start, text.find('>', start) - start);
-        if (std::ranges::count(tag, '=') > most)
-            return start;
+    constexpr int most = 1000;
+    std::size_t tag = 0;
+    int values = 0;
+    char before = ' '; // the last that was no blank
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char c = text[at];
+        if (c == '<') {
+            tag = at;
+            values = 0;
+        } else if ((c == '"' || c == '\'') && before == '=' && ++values > most) {
+            return tag;
+        }
+        if (c != ' ' && c != '\t' && c != '\r' && c != '\n')
+            before = c;
     }
     return text.size();
 }

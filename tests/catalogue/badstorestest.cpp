@@ -56,6 +56,9 @@ private Q_SLOTS:
         for (int i = 0; i < 2000; ++i)
             many += " a" + QByteArray::number(i) + "=\"1\"";
         row("attributes without end", changed("id=\"z102\"", many), malformed);
+        row("attributes without end behind a bracket",
+            changed("id=\"z102\"", QByteArray(many).replace("=\"1\"", " =\n '>'")), malformed);
+        row("tags without end", changed("Pac-Man", QByteArray(1'000'000, '<')), malformed);
         row("no quotes", changed("id=\"z102\"", "id=z102"), malformed);
         row("declaration of no XML", changed("version=\"1.0\"", "version=\"9\""), malformed);
         row("another document", "<?xml version=\"1.0\"?>\n<mame build=\"0.251\"><machine name=\"a\"/></mame>",

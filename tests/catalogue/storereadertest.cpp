@@ -93,6 +93,9 @@ private Q_SLOTS:
         row("DEL and C1", "\x7F\xC2\x85", "\x7F\xC2\x85", true);
         row("brackets", "]] ]&gt; ]>", "]] ]> ]>", true);
         row("CDATA", "<![CDATA[a & <b> &amp;]]>", "a & <b> &amp;", false);
+        const QByteArray rule(2000, '=');
+        const QByteArray commented = rule + "<!-- -->";
+        row("no attributes but a rule", commented.constData(), rule.constData(), false);
         row("CDATA in pieces", "a<![CDATA[ b ]]> <![CDATA[c]]>", "a b  c", false);
         row("comment", "a<!-- <x> & -->b", "ab", false);
         row("blank beside a comment", " <!-- --> ", "  ", false);
