@@ -4,7 +4,7 @@
 #include "bios/ui/bioslist.h"
 #include "bios/ui/biospanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 
 namespace tessera {
 
@@ -24,8 +24,8 @@ BiosPanel& BiosDesk::panel()
         m_parts.windows.watch(*m_panel, KeyWindow::Kind::Bios);
         m_parts.windows.carryMenuKeys(*m_panel);
         m_list = std::make_unique<Bioslist>(
-            BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_parts.popup, m_undo, m_parts.ownFile,
-                      [this] { return m_parts.general.emulatorNow(); }, m_parts.list});
+            BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_undo, m_parts.ownFile,
+                      [this] { return m_parts.emulator.emulatorNow(); }, m_parts.list});
         m_list->awakeFromNib();
     }
     return *m_panel;

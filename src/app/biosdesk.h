@@ -5,8 +5,6 @@
 
 #include <memory>
 
-class QComboBox;
-
 namespace tessera {
 
 class BiosPanel;
@@ -14,7 +12,7 @@ class Bioslist;
 class DefaultsController;
 class Desktop;
 class GameListController;
-class GeneralPage;
+class EmulatorChoice;
 class Windows;
 
 /// The BIOS panel, made when it is first asked for.
@@ -27,8 +25,7 @@ public:
         Windows& windows;
         Desktop& desktop;
         DefaultsController& defaults;
-        GeneralPage& general; ///< knows the emulator to ask
-        QComboBox& popup; ///< of the launch options
+        EmulatorChoice& emulator; ///< knows the emulator to ask
         GameListController& list;
         QString ownFile; ///< the user's copy of the list
     };

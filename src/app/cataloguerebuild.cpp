@@ -5,7 +5,7 @@
 #include "catalogue/ui/cataloguesaving.h"
 #include "favourites/favourites.h"
 #include "launch/emulatoridentity.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 #include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "catalogue/storereader.h"
@@ -49,7 +49,7 @@ CatalogueRebuild::~CatalogueRebuild() = default;
 bool CatalogueRebuild::isOutdated() const
 {
     const QString builtFrom = m_parts.defaults.text(keys::BuiltFrom);
-    const QString now = identityText(m_parts.general.emulatorNow());
+    const QString now = identityText(m_parts.emulator.emulatorNow());
     return !builtFrom.isEmpty() && !now.isEmpty() && builtFrom != now;
 }
 
@@ -65,7 +65,7 @@ bool CatalogueRebuild::mayReplace()
 {
     const QString builtFrom = m_parts.defaults.text(keys::BuiltFrom);
     const bool isSame = !m_parts.catalogue.records().empty() && !builtFrom.isEmpty()
-        && builtFrom == identityText(m_parts.general.emulatorNow());
+        && builtFrom == identityText(m_parts.emulator.emulatorNow());
     Alert alert;
     alert.style = Alert::Style::Warning;
     alert.buttons = {qtTrId("rebuild_button"), qtTrId("cancel")};
@@ -87,9 +87,9 @@ void CatalogueRebuild::build()
 {
     if (isRunning())
         return;
-    if (m_parts.general.emulatorNow().isEmpty())
+    if (m_parts.emulator.emulatorNow().isEmpty())
         m_parts.paths.exeSelect();
-    const QString emulator = m_parts.general.emulatorNow();
+    const QString emulator = m_parts.emulator.emulatorNow();
     if (emulator.isEmpty()) {
         Q_EMIT statusMessage(qtTrId("rebuild_no_emulator"));
         return;

@@ -17,7 +17,7 @@ class CatalogueSaving;
 class DefaultsController;
 class Desktop;
 class Favourites;
-class GeneralPage;
+class EmulatorChoice;
 class PathChooser;
 class RebuildStrip;
 struct CatalogueComparison;
@@ -34,7 +34,7 @@ public:
         Desktop& desktop;
         DefaultsController& defaults;
         RebuildStrip& strip;
-        GeneralPage& general; ///< knows the emulator to ask
+        EmulatorChoice& emulator; ///< knows the emulator to ask
         PathChooser& paths;
         const Favourites& favourites; ///< of which it is said where they differ
     };

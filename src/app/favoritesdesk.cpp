@@ -12,7 +12,7 @@
 #include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
 #include "launch/profilecache.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 
 #include <QFileInfo>
@@ -72,7 +72,7 @@ void FavoritesDesk::joinEditor()
 // What the emulator in use lists; before it has answered everything is taken as it is typed.
 void FavoritesDesk::offerKnownOptions()
 {
-    const auto answer = m_parts.profiles.remembered(m_parts.general.emulator());
+    const auto answer = m_parts.profiles.remembered(m_parts.emulator.emulator());
     KnownOptions known;
     if (answer && answer->profile) {
         for (const EmulatorProfile::Option& option : answer->profile->options())

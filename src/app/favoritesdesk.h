@@ -19,7 +19,7 @@ class Desktop;
 class FavoritesWindow;
 class Finding;
 class GameListController;
-class GeneralPage;
+class EmulatorChoice;
 class ProfileCache;
 class Windows;
 
@@ -37,7 +37,7 @@ public:
         GameListController& list;
         Finding& finding;
         ProfileCache& profiles;
-        const GeneralPage& general;
+        const EmulatorChoice& emulator;
         /// A set's whole command line with its options. (Launches ask the favourites for those in turn.)
         std::function<QString(const QString& name)> commandLine;
     };

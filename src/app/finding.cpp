@@ -9,7 +9,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "launch/profilecache.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/bringforward.h"
 
@@ -115,7 +115,7 @@ void Finding::prepare()
 
 void Finding::takeProfile(const QString& executable, const ProfileAnswer& answer)
 {
-    if (executable != m_parts.general.emulator())
+    if (executable != m_parts.emulator.emulator())
         return;
     m_emulatorFolders = answer.profile ? answer.profile->romFolderList(QFileInfo(executable).absolutePath())
                                        : QStringList();

@@ -10,7 +10,7 @@
 namespace tessera {
 
 class FilterPanel;
-class GeneralPage;
+class EmulatorChoice;
 class MainWindow;
 class ProfileCache;
 class Windows;
@@ -30,7 +30,7 @@ public:
         GameListController& list;
         DefaultsController& defaults;
         ProfileCache& profiles;
-        const GeneralPage& general;
+        const EmulatorChoice& emulator;
     };
     explicit Finding(const Parts& parts, QObject* parent = nullptr);
     ~Finding() override;

@@ -10,7 +10,7 @@
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 #include "launch/ui/launchcontroller.h"
 #include "platform/defaultscontroller.h"
 
@@ -31,7 +31,7 @@ MainDesk::MainDesk(const Parts& parts, QObject* parent)
     connect(&m_parts.finding, &Finding::changed, this, &MainDesk::showCount);
     connect(&m_parts.finding.finder(), &GameFinder::havesChanged, this, &MainDesk::showSelection);
     connect(&m_parts.launches, &LaunchController::runningChanged, this, &MainDesk::showRunning);
-    connect(&m_parts.general, &GeneralPage::emulatorFound, this, &MainDesk::showEmulator);
+    connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, &MainDesk::showEmulator);
     connect(&m_parts.defaults, &DefaultsController::changed, this, &MainDesk::settingChanged);
     connect(&m_parts.rebuild, &CatalogueRebuild::runningChanged, &window, &MainWindow::setRebuilding);
     connect(&m_parts.rebuild, &CatalogueRebuild::runningChanged, this, &MainDesk::offerRebuild);
@@ -93,7 +93,7 @@ void MainDesk::settingChanged(const QString& name)
 
 void MainDesk::showEmulator()
 {
-    const QString emulator = m_parts.general.emulator();
+    const QString emulator = m_parts.emulator.emulator();
     m_parts.window.showEmulator(emulator.isEmpty() ? qtTrId("main_no_emulator") : emulator);
 }
 

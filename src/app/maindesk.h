@@ -9,7 +9,7 @@ class DefaultsController;
 class Finding;
 class GameListController;
 class Catalogue;
-class GeneralPage;
+class EmulatorChoice;
 class LaunchController;
 class MainWindow;
 
@@ -27,7 +27,7 @@ public:
         GameListController& list;
         Finding& finding;
         LaunchController& launches;
-        GeneralPage& general;
+        EmulatorChoice& emulator;
         const CatalogueRebuild& rebuild;
     };
     explicit MainDesk(const Parts& parts, QObject* parent = nullptr);

@@ -16,7 +16,7 @@ ModeMenu::ModeMenu(QMenuBar& bar, LaunchController& launches, QObject* parent)
     auto* menu = bar.findChild<QMenu*>(QStringLiteral("menu_emulator"));
     menu->addSeparator();
     for (const PopupItem& item : launchModes) {
-        const QString title = item.title != nullptr ? QString::fromLatin1(item.title) : qtTrId(item.labelKey);
+        const QString title = item.shown();
         QAction* action = menu->addAction(title);
         action->setCheckable(true);
         connect(action, &QAction::triggered, &launches, [&launches, this, title] {

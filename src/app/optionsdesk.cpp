@@ -4,19 +4,13 @@
 #include "app/supportpage.h"
 #include "launch/emulatorprofile.h"
 #include "launch/profilecache.h"
-#include "launch/ui/effectspage.h"
-#include "launch/ui/filespage.h"
+#include "launch/emulatorchoice.h"
+#include "app/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "launch/ui/generalpage.h"
-#include "launch/ui/growingpopup.h"
-#include "launch/ui/launchcontroller.h"
 #include "launch/ui/launchpages.h"
 #include "launch/ui/pathchooser.h"
-#include "launch/ui/soundpage.h"
-#include "launch/ui/unknownoptions.h"
-#include "launch/ui/videopage.h"
 
-#include <QComboBox>
 #include <QFileInfo>
 #include <QLineEdit>
 
@@ -48,6 +42,8 @@ void OptionsDesk::addPages()
 {
     if (m_files != nullptr)
         return;
+    for (OptionPage* page : m_parts.pages.all())
+        m_parts.preferences.addPage(page->identifier(), page);
     m_files = new FilesPage(m_parts.defaults, m_parts.paths);
     m_parts.preferences.supportPage().addPage(qtTrId("support_files"), m_files);
     const auto follow = [this] {
@@ -55,9 +51,9 @@ void OptionsDesk::addPages()
             show();
     };
     connect(&m_parts.profiles, &ProfileCache::answered, this, follow);
-    connect(&m_parts.launches, &LaunchController::launchModeChanged, this, follow);
+    connect(&m_parts.emulator, &EmulatorChoice::modeChosen, this, follow);
     connect(&m_parts.paths, &PathChooser::chosen, this, follow);
-    connect(&m_parts.pages.general(), &GeneralPage::emulatorFound, this, follow);
+    connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, follow);
     // Not at every key: half a path may be another program's.
     connect(m_parts.pages.general().exeTextField, &QLineEdit::editingFinished, this, follow);
 }
@@ -66,30 +62,18 @@ void OptionsDesk::addPages()
 void OptionsDesk::show()
 {
     addPages();
-    const QString emulator = m_parts.launches.executable();
+    const QString emulator = m_parts.emulator.emulator();
     const auto answer = m_parts.profiles.remembered(emulator);
     if (!answer)
         m_parts.profiles.request(emulator);
-    const bool isUsed = m_parts.pages.general().launchusingPop->currentIndex() == 0;
+    const bool isUsed = m_parts.emulator.mode() == EmulatorChoice::CommandLineMame;
     const EmulatorProfile* profile = isUsed && answer && answer->profile ? &*answer->profile : nullptr;
-    offer(profile);
+    for (OptionPage* page : m_parts.pages.all())
+        page->fitTo(profile);
     if (profile == nullptr)
         return proposeFolders({}, {});
     const QString home = QFileInfo(emulator).path();
     proposeFolders(profile->romFolderList(home), profile->snapshotFolderList(home));
-}
-
-void OptionsDesk::offer(const EmulatorProfile* profile)
-{
-    const LaunchPages& pages = m_parts.pages;
-    for (OptionPage* page : pages.all())
-        markUnknownOptions(*page, profile);
-    const auto values = [profile](const char* option) {
-        return profile != nullptr ? profile->valuesOf(QLatin1String(option)) : QStringList();
-    };
-    pages.video().moreVideoDrivers->offer(values("-video"));
-    pages.effects().moreScaleModes->offer(values("-scalemode"));
-    pages.sound().moreSoundOutputs->offer(values("-sound"));
 }
 
 // Folders may lie on disks that answer late.
@@ -104,7 +88,7 @@ void OptionsDesk::proposeFolders(const QStringList& roms, const QStringList& sna
             [this, all, foundRoms = foldersThatThereAre(roms), foundSnaps = foldersThatThereAre(snapshots)] {
                 if (all != m_lookedFor)
                     return;
-                m_parts.pages.general().proposeRomFolders(foundRoms);
+                m_parts.pages.general().romProposal->setFolders(foundRoms);
                 if (m_files != nullptr)
                     m_files->snapProposal->setFolders(foundSnaps);
             },

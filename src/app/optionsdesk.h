@@ -7,9 +7,9 @@
 namespace tessera {
 
 class DefaultsController;
+class EmulatorChoice;
 class EmulatorProfile;
 class FilesPage;
-class LaunchController;
 class LaunchPages;
 class PathChooser;
 class PreferencesWindow;
@@ -24,8 +24,8 @@ class OptionsDesk : public QObject
 public:
     struct Parts {
         DefaultsController& defaults;
+        EmulatorChoice& emulator;
         LaunchPages& pages;
-        LaunchController& launches;
         ProfileCache& profiles;
         PathChooser& paths;
         PreferencesWindow& preferences;
@@ -35,7 +35,6 @@ public:
 private:
     void addPages();
     void show();
-    void offer(const EmulatorProfile* profile);
     void proposeFolders(const QStringList& roms, const QStringList& snapshots);
 
     Parts m_parts;

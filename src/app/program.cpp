@@ -57,9 +57,6 @@ HelpWindow& Program::help()
 
 void Program::fillPreferences()
 {
-    pages.setChooser(paths);
-    for (OptionPage* page : pages.all())
-        preferences.addPage(page->identifier(), page);
     preferences.addPage(QStringLiteral("appearance"), &appearance);
     connect(preferences.resetButton, &QPushButton::clicked, &reset, &SettingsReset::resetSettings);
 }
@@ -109,7 +106,7 @@ void Program::joinLaunches()
     connect(&launches, &LaunchController::launchModeChanged, &mini, &MiniDesk::setEmulator);
     connect(&launches, &LaunchController::launchModeChanged, &modeMenu, &ModeMenu::mark);
     connect(&paths, &PathChooser::chosen, &launches, &LaunchController::prepareProfile);
-    connect(&pages.general(), &GeneralPage::emulatorFound, &launches, &LaunchController::prepareProfile);
+    connect(&emulatorChoice, &EmulatorChoice::emulatorFound, &launches, &LaunchController::prepareProfile);
     for (QObject* stop : std::initializer_list<QObject*>{&menu.action("menu_stop"), mainWindow.stopButton,
                                                          mainWindow.runningStopButton})
         commands.leaveOpen(*stop);

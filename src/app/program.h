@@ -29,14 +29,12 @@
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
-#include "launch/emulatorfinder.h"
+#include "launch/emulatorchoice.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
-#include "launch/ui/generalpage.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/launchpages.h"
 #include "launch/ui/logwindow.h"
-#include "launch/ui/miscpage.h"
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"
 #include "widgets/calmwheel.h"
@@ -74,7 +72,7 @@ public:
     RecentDocuments& recent;
     Catalogue& catalogue;
 
-    // Windows that are there from the beginning, and the preferences' pages that launches read.
+    // Windows that are there from the beginning, and what is chosen in the preferences.
     CalmWheel calmWheel;
     MainWindow mainWindow{settings};
     Look look; ///< here it costs least: the main window takes it as a whole, the others when they are first
@@ -82,8 +80,9 @@ public:
     Windows windows{*mainWindow.menuBar(), settings};
     LogWindow logWindow;
     PreferencesWindow preferences;
-    LaunchPages pages{settings, [] { return findEmulator(); }};
-    PathChooser paths{desktop, settings, pages};
+    EmulatorChoice emulatorChoice{settings};
+    PathChooser paths{desktop, settings, emulatorChoice};
+    LaunchPages pages{settings, emulatorChoice, paths};
     AppearancePage& appearance = *new AppearancePage(settings); ///< the preferences' own
     TableFont tableFont{desktop, settings, appearance};
     RowColors rowColors{desktop, settings, appearance};
@@ -91,18 +90,18 @@ public:
     // The game list, and what finds and changes its records.
     GameListController gameList{catalogue, desktop, settings, mainWindow.gameTable};
     ProfileCache profiles;
-    Finding finding{{mainWindow, windows, catalogue, gameList, settings, profiles, pages.general()}};
+    Finding finding{{mainWindow, windows, catalogue, gameList, settings, profiles, emulatorChoice}};
     RecordEditing editing{catalogue, desktop, gameList};
     CatalogueSaving saving{catalogue, desktop, gameList, editing};
 
     // Favourites, and the launches that heed their options.
     FavoritesDesk favorites{{windows, desktop, settings, catalogue, gameList, finding, profiles,
-                             pages.general(),
+                             emulatorChoice,
                              [this](const QString& name) { return launches.shownCommandLine(name); }}};
     EmulatorTask task{desktop};
     RunController runs{desktop, settings, logWindow, task};
     LaunchController launches{
-        {desktop, settings, pages, paths, task, runs, profiles, gameList,
+        {desktop, settings, emulatorChoice, pages, paths, task, runs, profiles, gameList,
          [this](const QString& name) { return favorites.controller().search_priorityOption(name); }}};
 
     // Three windows, one of which is shown.
@@ -111,22 +110,22 @@ public:
     GameOpening opening{desktop, catalogue, gameList, finding, switching};
 
     // Another catalogue.
-    CatalogueRebuild rebuild{{catalogue, saving, desktop, settings, *mainWindow.rebuildStrip, pages.general(),
+    CatalogueRebuild rebuild{{catalogue, saving, desktop, settings, *mainWindow.rebuildStrip, emulatorChoice,
                               paths, favorites.favourites()}};
     ChangesDesk changes{mainWindow};
     MainDesk mainDesk{
-        {mainWindow, catalogue, settings, gameList, finding, launches, pages.general(), rebuild}};
+        {mainWindow, catalogue, settings, gameList, finding, launches, emulatorChoice, rebuild}};
 
     // What is told of a game, and of the emulator.
-    OptionsDesk options{{settings, pages, launches, profiles, paths, preferences}};
+    OptionsDesk options{{settings, emulatorChoice, pages, profiles, paths, preferences}};
     ArtworkDesk artwork{
         {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
     InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
-    BiosDesk bios{{windows, desktop, settings, pages.general(), *pages.misc().biosPop, gameList, biosFile()}};
+    BiosDesk bios{{windows, desktop, settings, emulatorChoice, gameList, biosFile()}};
     CommandsDesk commands{{desktop, settings, logWindow, task, runs, launches, profiles, paths, gameList,
                            artwork, preferences}};
     UtilityDesk utility{{desktop, settings, windows, catalogue, saving, rebuild, changes, commands, gameList,
-                         finding, opening, pages.general(), launches, favorites.controller()}};
+                         finding, opening, emulatorChoice, launches, favorites.controller()}};
 
     // Commands.
     SettingsReset reset{

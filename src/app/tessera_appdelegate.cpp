@@ -1,6 +1,7 @@
 #include "app/tessera_appdelegate.h"
 
 #include "app/program.h"
+#include "launch/storedoptions.h"
 #include "platform/desktop.h"
 #include "platform/recentdocuments.h"
 #include "widgets/deletionfocusring.h"
@@ -78,7 +79,7 @@ void Tessera_AppDelegate::awakeFromNib()
 {
     Program& program = *m_program;
     program.preferences.centre();
-    program.pages.misc().switchRecordingOff();
+    switchRecordingOff(m_defaults);
     program.launches.LaunchemuPopAction();
     program.mainWindow.restore();
     program.artwork.folder().Setsnapfolder();
@@ -155,7 +156,8 @@ bool Tessera_AppDelegate::applicationShouldTerminate()
     const bool quits = m_program->launches.confirmQuit() && m_program->utility.mayBeAbandoned()
         && m_program->saving.saveBeforeQuitting();
     // Whatever the answer.
-    forgetRecording();
+    switchRecordingOff(m_defaults);
+    m_defaults.flush();
     return quits;
 }
 
@@ -173,19 +175,12 @@ void Tessera_AppDelegate::endWithSession()
     if (std::exchange(m_isEnding, true))
         return;
     saveForSessionEnd();
-    forgetRecording();
+    switchRecordingOff(m_defaults);
+    m_defaults.flush();
     // What was not restored yet stays stored as it was.
     if (m_isRestored)
         applicationWillTerminate();
     QCoreApplication::exit(0);
-}
-
-// Recording and replay never stay switched on into the next run.
-void Tessera_AppDelegate::forgetRecording()
-{
-    m_defaults.setFlag(keys::Movierecord, false);
-    m_defaults.setFlag(keys::Replaymove, false);
-    m_defaults.flush();
 }
 
 void Tessera_AppDelegate::applicationWillTerminate()

@@ -10,7 +10,7 @@
 #include "catalogue/ui/cataloguesaving.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "favourites/ui/ucappcontroller.h"
-#include "launch/ui/generalpage.h"
+#include "launch/emulatorchoice.h"
 #include "launch/ui/launchcontroller.h"
 #include "platform/defaultscontroller.h"
 #include "tools/ui/favouritestool.h"
@@ -86,13 +86,13 @@ bool UtilityDesk::openGame(const QString& name)
 
 QString UtilityDesk::emulator()
 {
-    return m_parts.general.emulatorNow();
+    return m_parts.emulator.emulatorNow();
 }
 
 QString UtilityDesk::emulatorPath(ScriptEmulator emulator) const
 {
     if (emulator == ScriptEmulator::CommandLine)
-        return m_parts.launches.executable();
+        return m_parts.emulator.emulator();
     return m_parts.defaults.text(emulator == ScriptEmulator::MameOsx ? keys::MameosxPath
                                                                      : keys::ApplicationPath);
 }

@@ -18,7 +18,7 @@ class Desktop;
 class Finding;
 class GameListController;
 class GameOpening;
-class GeneralPage;
+class EmulatorChoice;
 class LaunchController;
 class UCAppController;
 class UtilityObject;
@@ -43,7 +43,7 @@ public:
         GameListController& list;
         Finding& finding;
         GameOpening& opening;
-        GeneralPage& general;
+        EmulatorChoice& emulator;
         LaunchController& launches;
         UCAppController& favorites;
     };

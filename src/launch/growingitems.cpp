@@ -47,6 +47,17 @@ void keepTitles(DefaultsController& defaults, const GrowingItems& items, const Q
         defaults.setText(items.kept, (keptTitles(defaults, items) + added).join(u' '));
 }
 
+int positionOf(const DefaultsController& defaults, const GrowingItems& items, const QString& title)
+{
+    const auto shipped = std::ranges::find_if(
+        items.shipped, [&](const PopupItem& item) { return item.title && title == QLatin1String(item.title); });
+    const auto position = static_cast<int>(shipped - items.shipped.begin());
+    if (shipped != items.shipped.end())
+        return position;
+    const auto kept = static_cast<int>(keptTitles(defaults, items).indexOf(title));
+    return kept < 0 ? kept : position + kept;
+}
+
 PopupState storedState(const DefaultsController& defaults, const Key<float>& key, const GrowingItems& items)
 {
     const int index = defaults.index(key);

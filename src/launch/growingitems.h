@@ -37,6 +37,9 @@ QStringList newTitles(const DefaultsController& defaults, const GrowingItems& it
 /// Keeps the new ones of them.
 void keepTitles(DefaultsController& defaults, const GrowingItems& items, const QStringList& titles);
 
+/// Where the pop-up has that title; -1 for nowhere.
+int positionOf(const DefaultsController& defaults, const GrowingItems& items, const QString& title);
+
 /// The stored position with its title; none where the pop-up has no such position.
 PopupState storedState(const DefaultsController& defaults, const Key<float>& key, const GrowingItems& items);
 

@@ -2,6 +2,8 @@
 
 #include "core/failure.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 /// The items of every pop-up of the launch options. Settings hold positions, so an item keeps its place for
@@ -13,6 +15,8 @@ namespace tessera {
 struct PopupItem {
     const char* title = nullptr;
     const char* labelKey = nullptr;
+
+    QString shown() const { return title ? QString::fromLatin1(title) : labelKey ? qtTrId(labelKey) : QString(); }
 };
 
 inline constexpr PopupItem popupSeparator{};

@@ -18,7 +18,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestable.h"
-#include "launch/ui/filespage.h"
+#include "app/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"

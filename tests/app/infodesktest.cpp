@@ -23,7 +23,7 @@
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
 #include "info/ui/sitechoice.h"
-#include "launch/ui/filespage.h"
+#include "app/filespage.h"
 #include "widgets/logview.h"
 #include "launch/ui/pathchooser.h"
 #include "support/showwatch.h"

@@ -4,7 +4,7 @@
 #include "app/preferenceswindow.h"
 #include "app/supportpage.h"
 #include "catalogue/ui/gamelistcontroller.h"
-#include "launch/ui/filespage.h"
+#include "app/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "support/endings.h"
 #include "support/testmain.h"

@@ -129,20 +129,20 @@ private Q_SLOTS:
         const QPoint at = m_room->panel->biosView->visualRect(us).center();
         QTest::mouseClick(m_room->panel->biosView->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(m_room->panel->biosView->viewport(), Qt::LeftButton, {}, at);
-        QCOMPARE(m_room->popup.currentText(), QStringLiteral("us"));
+        QCOMPARE(m_room->popup.text(), QStringLiteral("us"));
         QCOMPARE(m_room->stored.value(keys::Biostype.name)->toDouble(),
-                 static_cast<double>(m_room->popup.currentIndex()));
+                 static_cast<double>(m_room->popup.selected().index));
         QCOMPARE(m_room->info(), QStringLiteral("Changed the BIOS setting to \"us\""));
         QCOMPARE(m_room->desktop.takeTranscript(), QStringList{"sound Pop"});
     }
 
     void theBlankEntryIsTheFirstItem()
     {
-        m_room->popup.setCurrentIndex(3);
+        m_room->defaults.setIndex(keys::Biostype, 3);
         for (const int row : {0, 1}) {
             m_room->select(m_room->model().index(row, 0));
             m_room->list->tableViewDoubleAction();
-            QCOMPARE(m_room->popup.currentIndex(), 0);
+            QCOMPARE(m_room->popup.selected().index, 0);
             QCOMPARE(m_room->stored.value(keys::Biostype.name)->toDouble(), 0.0);
             QCOMPARE(m_room->info(), QStringLiteral("Changed the BIOS setting to \" \""));
         }
@@ -151,10 +151,10 @@ private Q_SLOTS:
     // What is no single word could not stand on a command line.
     void aBiosThatThePopUpLacksLeavesItsSelection()
     {
-        m_room->popup.setCurrentIndex(3);
+        m_room->defaults.setIndex(keys::Biostype, 3);
         m_room->select(m_room->model().add({"two words", "of", "it", {}}));
         m_room->list->tableViewDoubleAction();
-        QCOMPARE(m_room->popup.currentIndex(), 3);
+        QCOMPARE(m_room->popup.selected().index, 3);
         QCOMPARE(m_room->stored.value(keys::Biostype.name)->toDouble(), 3.0);
         QCOMPARE(m_room->info(), QStringLiteral("Changed the BIOS setting to \"two words\""));
     }

@@ -5,13 +5,10 @@
 #include "bios/ui/biospanel.h"
 #include "launch/growingitems.h"
 #include "launch/popupitems.h"
-#include "launch/ui/growingpopup.h"
 #include "platform/defaultscontroller.h"
 #include "support/chosengame.h"
 #include "support/scripteddesktop.h"
-#include "widgets/boundcontrols.h"
 
-#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QSignalSpy>
@@ -30,10 +27,6 @@ struct BiosRoom {
     {
         defaults.setInitialValues(QString(), QString());
         defaults.setText(keys::RomsPath, folder.path());
-        for (const PopupItem& item : biosSets)
-            popup.addItem(item.title != nullptr ? QString::fromLatin1(item.title) : QStringLiteral("none"));
-        new GrowingPopup(popup, defaults, growingBiosSets);
-        bind(popup, defaults, keys::Biostype);
         make();
     }
 
@@ -42,7 +35,7 @@ struct BiosRoom {
     {
         list.reset();
         panel = std::make_unique<BiosPanel>();
-        list = std::make_unique<Bioslist>(BiosParts{desktop, defaults, *panel, popup, undo, ownFile(),
+        list = std::make_unique<Bioslist>(BiosParts{desktop, defaults, *panel, undo, ownFile(),
                                                     [this] { return emulator; }, selection});
         list->awakeFromNib();
     }
@@ -70,7 +63,7 @@ struct BiosRoom {
     UserDefaults stored;
     DefaultsController defaults;
     QUndoStack undo;
-    QComboBox popup;
+    BiosPopup popup{defaults};
     QString emulator = QStringLiteral(TESSERA_FAKEEMULATOR);
     test::ChosenGame selection{SelectedGame{QStringLiteral("pong"), {}, {}}};
     std::unique_ptr<BiosPanel> panel;

@@ -22,11 +22,11 @@ private Q_SLOTS:
         room.emulator = mame;
         room.panel->show();
         QVERIFY(QTest::qWaitForWindowActive(room.panel.get()));
-        const int shipped = room.popup.count();
+        const int shipped = keptTitles(room.defaults, growingBiosSets).size();
         QSignalSpy asked(room.list.get(), &Bioslist::asked);
         QTest::mouseClick(room.panel->rebuildButton, Qt::LeftButton);
         QVERIFY(asked.wait(120'000));
-        QVERIFY(room.popup.count() > shipped + 100);
+        QVERIFY(keptTitles(room.defaults, growingBiosSets).size() > shipped + 100);
         m_rows = 0;
         setEachBeneath(room, {});
         QVERIFY(m_rows > 250);
@@ -42,7 +42,7 @@ private:
             QTest::keyClick(&room.view(), Qt::Key_Return);
             if (bios != defaultBios) {
                 QCOMPARE(storedState(room.defaults, keys::Biostype, growingBiosSets).title, bios);
-                QCOMPARE(room.popup.currentText(), bios);
+                QCOMPARE(room.popup.text(), bios);
                 ++m_rows;
             }
             setEachBeneath(room, index);

@@ -2,9 +2,8 @@
 
 #include "launch/storedoptions.h"
 #include "launch/ui/growingpopup.h"
-#include "launch/ui/launchpages.h"
-#include "launch/ui/videopage.h"
 #include "platform/defaultscontroller.h"
+#include "support/launchpage.h"
 #include "support/testmain.h"
 #include "widgets/boundcontrols.h"
 
@@ -37,19 +36,22 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<UserDefaults> m_settings;
     std::unique_ptr<DefaultsController> m_defaults;
-    std::unique_ptr<LaunchPages> m_pages;
+    std::unique_ptr<test::StagedPages> m_staged;
 
     // The next run of the program, with nothing but its settings file from this one.
-    VideoPage& restart()
+    QComboBox* restart()
     {
-        m_pages.reset();
+        m_staged.reset();
         m_defaults.reset();
         m_settings = std::make_unique<UserDefaults>(m_folder->filePath("Tessera.ini"));
         m_defaults = std::make_unique<DefaultsController>(*m_settings);
         m_defaults->setInitialValues("Sans", "/home/me");
-        m_pages = std::make_unique<LaunchPages>(*m_defaults, [] { return QString(); });
-        return m_pages->video();
+        m_staged = std::make_unique<test::StagedPages>(*m_defaults);
+        return driver();
     }
+    QComboBox* driver() const { return test::control<QComboBox>(m_staged->pages, "devicevideoPop"); }
+    // What an emulator takes besides.
+    void offer(const QStringList& titles) { driver()->findChild<GrowingPopup*>()->offer(titles); }
 
     void choose(QComboBox& popup, const QString& title)
     {
@@ -69,72 +71,70 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        m_pages.reset();
+        m_staged.reset();
         m_defaults.reset();
         m_settings.reset();
     }
 
     void offeredValuesStandBehindTheShippedOnes()
     {
-        VideoPage& page = m_pages->video();
-        page.moreVideoDrivers->offer({"none", "vulkan", "soft", "metal", "vulkan"});
-        QCOMPARE(itemsOf(*page.devicevideoPop), shipped + QStringList({"vulkan", "metal"}));
-        QCOMPARE(page.devicevideoPop->currentText(), QStringLiteral("opengl"));
-        page.moreVideoDrivers->offer({"soft", "d3d"});
-        QCOMPARE(itemsOf(*page.devicevideoPop), shipped + QStringList({"d3d"}));
-        page.moreVideoDrivers->offer({});
-        QCOMPARE(itemsOf(*page.devicevideoPop), shipped);
+        offer({"none", "vulkan", "soft", "metal", "vulkan"});
+        QCOMPARE(itemsOf(*driver()), shipped + QStringList({"vulkan", "metal"}));
+        QCOMPARE(driver()->currentText(), QStringLiteral("opengl"));
+        offer({"soft", "d3d"});
+        QCOMPARE(itemsOf(*driver()), shipped + QStringList({"d3d"}));
+        offer({});
+        QCOMPARE(itemsOf(*driver()), shipped);
     }
 
     void whatIsOfferedIsNotStored()
     {
-        m_pages->video().moreVideoDrivers->offer({"vulkan"});
+        offer({"vulkan"});
         QVERIFY(!m_settings->value(keys::KeptVideoDrivers.name));
-        choose(*m_pages->video().devicevideoPop, "accel");
+        choose(*driver(), "accel");
         QVERIFY(!m_settings->value(keys::KeptVideoDrivers.name));
     }
 
     void wordsThatNoCommandLineCouldHoldAreNotOffered()
     {
-        VideoPage& page = m_pages->video();
-        page.moreVideoDrivers->offer({"", "-window", "two words", "\"quoted\"", "fine"});
-        QCOMPARE(itemsOf(*page.devicevideoPop), shipped + QStringList({"fine"}));
+        offer({"", "-window", "two words", "\"quoted\"", "fine"});
+        QCOMPARE(itemsOf(*driver()), shipped + QStringList({"fine"}));
     }
 
     void aChosenValueKeepsItsPositionWithEveryEmulator()
     {
-        m_pages->video().moreVideoDrivers->offer({"vulkan", "metal"});
-        choose(*m_pages->video().devicevideoPop, "metal");
+        offer({"vulkan", "metal"});
+        choose(*driver(), "metal");
         QCOMPARE(m_defaults->index(keys::Videodriver), 6);
         QCOMPARE(stored(), QStringLiteral("metal"));
 
         // Another emulator has others, or none at all.
-        m_pages->video().moreVideoDrivers->offer({"d3d", "metal"});
-        QCOMPARE(itemsOf(*m_pages->video().devicevideoPop),
+        offer({"d3d", "metal"});
+        QCOMPARE(itemsOf(*driver()),
                  shipped + QStringList({"vulkan", "metal", "d3d"}));
-        QCOMPARE(m_pages->video().devicevideoPop->currentText(), QStringLiteral("metal"));
+        QCOMPARE(driver()->currentText(), QStringLiteral("metal"));
 
-        VideoPage& next = restart();
-        QCOMPARE(next.devicevideoPop->currentText(), QStringLiteral("metal"));
+        restart();
+        QCOMPARE(driver()->currentText(), QStringLiteral("metal"));
         QCOMPARE(stored(), QStringLiteral("metal"));
-        next.moreVideoDrivers->offer({"d3d"});
-        choose(*next.devicevideoPop, "d3d");
+        offer({"d3d"});
+        choose(*driver(), "d3d");
         QCOMPARE(m_defaults->index(keys::Videodriver), 7);
-        choose(*next.devicevideoPop, "vulkan");
-        QCOMPARE(restart().devicevideoPop->currentText(), QStringLiteral("vulkan"));
+        choose(*driver(), "vulkan");
+        QCOMPARE(restart()->currentText(), QStringLiteral("vulkan"));
         QCOMPARE(m_defaults->index(keys::Videodriver), 5);
-        QCOMPARE(itemsOf(*m_pages->video().devicevideoPop),
+        QCOMPARE(itemsOf(*driver()),
                  shipped + QStringList({"vulkan", "metal", "d3d"}));
     }
 
     void keptValuesOutlastTheReset()
     {
-        m_pages->video().moreVideoDrivers->offer({"vulkan"});
-        choose(*m_pages->video().devicevideoPop, "vulkan");
+        offer({"vulkan"});
+        choose(*driver(), "vulkan");
         m_defaults->revertToInitialValues();
-        QCOMPARE(m_pages->video().devicevideoPop->currentText(), QStringLiteral("opengl"));
+        QCOMPARE(driver()->currentText(), QStringLiteral("opengl"));
         m_defaults->setIndex(keys::Videodriver, 5);
-        QCOMPARE(m_pages->video().devicevideoPop->currentText(), QStringLiteral("vulkan"));
+        QCOMPARE(driver()->currentText(), QStringLiteral("vulkan"));
     }
 
     void aPositionBehindEverythingIsNone()

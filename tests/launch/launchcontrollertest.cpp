@@ -114,8 +114,9 @@ private Q_SLOTS:
         if (exists)
             QVERIFY(QDir(room.folder.path()).mkdir("my roms"));
         room.defaults.setText(keys::RomsPath, room.folder.filePath("my roms"));
-        room.pages.general().checkboxRompath->setTristate();
-        room.pages.general().checkboxRompath->setCheckState(use);
+        QCheckBox& box = room.pages.general().control<QCheckBox>("checkboxRompath");
+        box.setTristate();
+        box.setCheckState(use);
         QCOMPARE(room.controller.romsfolder_FoundCheck(), exists);
         QVERIFY(room.launch("exit0"));
         QCOMPARE(room.desktop.transcript(), QStringList({recent.arg(room.folder.path())}));
@@ -499,7 +500,7 @@ private Q_SLOTS:
     void anUnknownModeLaunchesNothing()
     {
         Room room;
-        room.pages.general().launchusingPop->setCurrentIndex(-1);
+        room.defaults.setIndex(keys::Launchgamesusing, 3);
         room.controller.Launchusing("pong");
         QCOMPARE(room.text(), QStringLiteral(" :  pong  Launch...\n\n"));
         QVERIFY(!room.controller.isRunning());

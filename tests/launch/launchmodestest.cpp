@@ -47,7 +47,7 @@ struct Home : Room {
     QStringList osx() const
     {
         return argumentsArray2(
-            liveOptions(pages, {QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
+            pages.options({QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
     }
 };
 

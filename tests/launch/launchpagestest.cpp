@@ -1,14 +1,8 @@
-#include "launch/ui/launchpages.h"
 
 #include "launch/argumentsarray.h"
 #include "launch/storedoptions.h"
-#include "launch/ui/effectspage.h"
-#include "launch/ui/generalpage.h"
-#include "launch/ui/inputpage.h"
-#include "launch/ui/miscpage.h"
-#include "launch/ui/soundpage.h"
-#include "launch/ui/videopage.h"
 #include "platform/defaultscontroller.h"
+#include "support/launchpage.h"
 #include "support/testmain.h"
 
 #include <QButtonGroup>
@@ -71,9 +65,15 @@ private:
     std::unique_ptr<UserDefaults> m_settings;
     std::unique_ptr<DefaultsController> m_defaults;
 
-    std::unique_ptr<LaunchPages> pages(const QString& found = QString())
+    std::unique_ptr<test::StagedPages> stage(const QString& found = QString())
     {
-        return std::make_unique<LaunchPages>(*m_defaults, [found] { return found; });
+        return std::make_unique<test::StagedPages>(*m_defaults, [found] { return found; });
+    }
+    // As the controls have them.
+    static LaunchOptions live(test::StagedPages& staged)
+    {
+        staged.pages.all();
+        return staged.pages.options(selected);
     }
 
 private Q_SLOTS:
@@ -120,17 +120,17 @@ private Q_SLOTS:
         QFETCH(QVariant, value);
         if (!key.isEmpty())
             m_settings->setValue(QLatin1StringView(key.toLatin1()), value);
-        const auto shown = pages();
-        const LaunchOptions live = liveOptions(*shown, selected);
+        const auto shown = stage();
+        const LaunchOptions now = live(*shown);
         const LaunchOptions stored = storedOptions(*m_defaults, selected);
-        QCOMPARE(argumentsArray(live), argumentsArray(stored));
-        QCOMPARE(argumentsArray2(live), argumentsArray2(stored));
-        QVERIFY(live == stored);
+        QCOMPARE(argumentsArray(now), argumentsArray(stored));
+        QCOMPARE(argumentsArray2(now), argumentsArray2(stored));
+        QVERIFY(now == stored);
     }
 
     void everyChangeOfASettingReachesTheOptions()
     {
-        const auto shown = pages();
+        const auto shown = stage();
         for (const auto& key : flags)
             m_defaults->setFlag(key, !key.initial);
         for (const auto& key : indexes)
@@ -140,19 +140,19 @@ private Q_SLOTS:
         for (const auto& key : texts)
             m_defaults->setText(key, "changed");
         m_defaults->setText(keys::RomsPath, "/");
-        const LaunchOptions live = liveOptions(*shown, selected);
-        QVERIFY(live == storedOptions(*m_defaults, selected));
-        QCOMPARE(live.displayframePop, 1);
-        QCOMPARE(live.beemTextField, QStringLiteral("7"));
-        QVERIFY(live.romsFolderFound);
+        const LaunchOptions now = live(*shown);
+        QVERIFY(now == storedOptions(*m_defaults, selected));
+        QCOMPARE(now.displayframePop, 1);
+        QCOMPARE(now.beemTextField, QStringLiteral("7"));
+        QVERIFY(now.romsFolderFound);
     }
 
     void everySettingHasAControlThatStoresIt()
     {
-        const auto shown = pages();
+        const auto shown = stage();
         QWidget window;
         QVBoxLayout layout(&window);
-        for (OptionPage* page : shown->all())
+        for (OptionPage* page : shown->pages.all())
             layout.addWidget(page);
         window.show();
         for (auto* box : window.findChildren<QCheckBox*>())
@@ -169,7 +169,7 @@ private Q_SLOTS:
         }
         for (const QLatin1StringView name : launchKeys())
             QVERIFY2(m_settings->value(name), name.data());
-        QVERIFY(liveOptions(*shown, selected) == storedOptions(*m_defaults, selected));
+        QVERIFY(live(*shown) == storedOptions(*m_defaults, selected));
     }
 
     void numbersAreSentAsTheyAreTyped_data()
@@ -183,18 +183,18 @@ private Q_SLOTS:
     void numbersAreSentAsTheyAreTyped()
     {
         QFETCH(QString, typed);
-        const auto shown = pages();
-        const std::array fields{shown->effects().beemTextField, shown->effects().flickerTextField,
-                                shown->sound().soundvolumetextField, shown->sound().soundlatencytextField};
+        const auto shown = stage();
+        const std::array fields{test::control<QLineEdit>(shown->pages, "beemTextField"), test::control<QLineEdit>(shown->pages, "flickerTextField"),
+                                test::control<QLineEdit>(shown->pages, "soundvolumetextField"), test::control<QLineEdit>(shown->pages, "soundlatencytextField")};
         for (QLineEdit* field : fields) {
             field->selectAll();
             QTest::keyClicks(field, typed);
             QCOMPARE(field->text(), typed);
         }
-        const QStringList live = argumentsArray(liveOptions(*shown, selected));
+        const QStringList sent = argumentsArray(live(*shown));
         for (const char* option : {"-beam", "-flicker", "-volume", "-audio_latency"})
-            QCOMPARE(live.value(live.indexOf(option) + 1), typed);
-        QCOMPARE(argumentsArray(storedOptions(*m_defaults, selected)), live);
+            QCOMPARE(sent.value(sent.indexOf(option) + 1), typed);
+        QCOMPARE(argumentsArray(storedOptions(*m_defaults, selected)), sent);
 
         QVERIFY(m_settings->synchronize());
         const QString copy = m_folder->filePath("copy.ini");
@@ -202,43 +202,56 @@ private Q_SLOTS:
         UserDefaults again(copy);
         DefaultsController later(again);
         later.setInitialValues("Sans", "/home/me");
-        const LaunchPages pagesLater(later, [] { return QString(); });
-        QCOMPARE(argumentsArray(liveOptions(pagesLater, selected)), live);
-        QCOMPARE(argumentsArray(storedOptions(later, selected)), live);
+        test::StagedPages pagesLater(later);
+        QCOMPARE(argumentsArray(live(pagesLater)), sent);
+        QCOMPARE(argumentsArray(storedOptions(later, selected)), sent);
     }
 
     void showingWritesNothing()
     {
-        const auto shown = pages("/usr/games/mame");
-        shown->misc().switchRecordingOff();
+        const auto shown = stage("/usr/games/mame");
+        shown->pages.all();
+        switchRecordingOff(*m_defaults);
         for (const QLatin1StringView name : launchKeys())
             QVERIFY2(!m_settings->value(name), name.data());
         QVERIFY(!m_settings->value(keys::ExecutionPath.name));
     }
 
+    // A launch needs no page: what is on none comes from the settings.
+    void theOptionsMakeNoPages()
+    {
+        const auto shown = stage();
+        m_defaults->setFlag(keys::Waitvsync, true);
+        QCOMPARE(shown->pages.options(selected).checkboxWaitvsync, 1);
+        QVERIFY(qApp->allWidgets().isEmpty());
+        test::control<QCheckBox>(shown->pages, "checkboxWaitvsync")->setTristate();
+        test::control<QCheckBox>(shown->pages, "checkboxWaitvsync")->setCheckState(Qt::PartiallyChecked);
+        QCOMPARE(shown->pages.options(selected).checkboxWaitvsync, -1);
+    }
+
     void mixedStatesReachTheOptions()
     {
-        const auto shown = pages();
-        shown->video().checkboxMaximize->setTristate();
-        shown->video().checkboxMaximize->setCheckState(Qt::PartiallyChecked);
-        const LaunchOptions live = liveOptions(*shown, selected);
-        QCOMPARE(live.checkboxMaximize, -1);
-        const QStringList arguments = argumentsArray(live);
+        const auto shown = stage();
+        test::control<QCheckBox>(shown->pages, "checkboxMaximize")->setTristate();
+        test::control<QCheckBox>(shown->pages, "checkboxMaximize")->setCheckState(Qt::PartiallyChecked);
+        const LaunchOptions now = live(*shown);
+        QCOMPARE(now.checkboxMaximize, -1);
+        const QStringList arguments = argumentsArray(now);
         QVERIFY(!arguments.contains("-maximize") && !arguments.contains("-nomaximize"));
     }
 
     void numbersInFieldsReadWithoutAPoint()
     {
-        const auto shown = pages();
-        QCOMPARE(shown->effects().beemTextField->text(), QStringLiteral("1"));
-        QCOMPARE(shown->effects().flickerTextField->text(), QStringLiteral("0"));
-        QCOMPARE(shown->sound().soundvolumetextField->text(), QStringLiteral("0"));
+        const auto shown = stage();
+        QCOMPARE(test::control<QLineEdit>(shown->pages, "beemTextField")->text(), QStringLiteral("1"));
+        QCOMPARE(test::control<QLineEdit>(shown->pages, "flickerTextField")->text(), QStringLiteral("0"));
+        QCOMPARE(test::control<QLineEdit>(shown->pages, "soundvolumetextField")->text(), QStringLiteral("0"));
     }
 
     void theLogPopupHasASeparator()
     {
-        const auto shown = pages();
-        const QComboBox* log = shown->misc().errorlogPop;
+        const auto shown = stage();
+        const QComboBox* log = test::control<QComboBox>(shown->pages, "errorlogPop");
         QCOMPARE(log->count(), 7);
         QCOMPARE(log->itemData(1, Qt::AccessibleDescriptionRole).toString(), QStringLiteral("separator"));
     }
@@ -247,17 +260,17 @@ private Q_SLOTS:
     {
         m_defaults->setFlag(keys::Movierecord, true);
         m_defaults->setFlag(keys::Replaymove, true);
-        const auto shown = pages();
-        QVERIFY(shown->misc().checkMovierecord->isChecked());
-        shown->misc().switchRecordingOff();
+        const auto shown = stage();
+        QVERIFY(test::control<QCheckBox>(shown->pages, "checkMovierecord")->isChecked());
+        switchRecordingOff(*m_defaults);
         QVERIFY(!m_defaults->flag(keys::Movierecord));
         QVERIFY(!m_defaults->flag(keys::Replaymove));
     }
 
     void aFoundEmulatorIsShownUntilOneIsChosen()
     {
-        const auto shown = pages("/usr/games/mame");
-        QLineEdit* field = shown->general().exeTextField;
+        const auto shown = stage("/usr/games/mame");
+        QLineEdit* field = shown->pages.general().exeTextField;
         QCOMPARE(field->text(), QStringLiteral("/usr/games/mame"));
         m_defaults->setText(keys::ExecutionPath, "/x/mame");
         QCOMPARE(field->text(), QStringLiteral("/x/mame"));
@@ -271,14 +284,15 @@ private Q_SLOTS:
     {
         QString installed;
         int searches = 0;
-        LaunchPages shown(*m_defaults, [&] {
+        test::StagedPages shown(*m_defaults, [&] {
             ++searches;
             return installed;
         });
-        GeneralPage& page = shown.general();
-        QSignalSpy found(&page, &GeneralPage::emulatorFound);
-        page.lookForEmulator();
-        QCOMPARE(page.emulator(), QString());
+        GeneralPage& page = shown.pages.general();
+        EmulatorChoice& choice = shown.emulator;
+        QSignalSpy found(&choice, &EmulatorChoice::emulatorFound);
+        choice.lookForEmulator();
+        QCOMPARE(choice.emulator(), QString());
         QVERIFY(found.isEmpty());
 
         QFile program(m_folder->filePath("mame"));
@@ -286,17 +300,17 @@ private Q_SLOTS:
         installed = program.fileName();
         page.show();
         QCOMPARE(page.exeTextField->text(), installed);
-        QCOMPARE(page.emulator(), installed);
+        QCOMPARE(choice.emulator(), installed);
         QCOMPARE(found.size(), 1);
 
         // As long as it is there, another one does not take its place, and nothing is searched.
         searches = 0;
         installed = "/other/mame";
-        page.lookForEmulator();
+        choice.lookForEmulator();
         QCOMPARE(searches, 0);
-        QCOMPARE(page.emulator(), program.fileName());
+        QCOMPARE(choice.emulator(), program.fileName());
         QVERIFY(program.remove());
-        page.lookForEmulator();
+        choice.lookForEmulator();
         QCOMPARE(page.exeTextField->text(), installed);
         QCOMPARE(found.size(), 2);
     }
@@ -304,21 +318,21 @@ private Q_SLOTS:
     void aChosenEmulatorThatHasGoneIsNotReplaced()
     {
         m_defaults->setText(keys::ExecutionPath, "/gone/mame");
-        const auto shown = pages("/usr/games/mame");
-        shown->general().show();
-        QCOMPARE(shown->general().emulator(), QStringLiteral("/gone/mame"));
-        QCOMPARE(shown->general().exeTextField->text(), QStringLiteral("/gone/mame"));
+        const auto shown = stage("/usr/games/mame");
+        shown->pages.general().show();
+        QCOMPARE(shown->emulator.emulator(), QStringLiteral("/gone/mame"));
+        QCOMPARE(shown->pages.general().exeTextField->text(), QStringLiteral("/gone/mame"));
     }
 
     void anEmulatorCanBeTypedInPlaceOfTheFoundOne()
     {
-        const auto shown = pages("/usr/games/mame");
+        const auto shown = stage("/usr/games/mame");
         QWidget window;
         QVBoxLayout layout(&window);
-        layout.addWidget(&shown->general());
+        layout.addWidget(&shown->pages.general());
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        QLineEdit* field = shown->general().exeTextField;
+        QLineEdit* field = shown->pages.general().exeTextField;
         field->setFocus();
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
@@ -335,8 +349,8 @@ private Q_SLOTS:
 
     void saysWhenTheChosenRomFolderIsNotUsed()
     {
-        const auto shown = pages();
-        const QWidget* note = shown->general().findChild<QWidget*>("rompathNote");
+        const auto shown = stage();
+        const QWidget* note = shown->pages.general().findChild<QWidget*>("rompathNote");
         QVERIFY(note);
         QVERIFY(note->isHidden());
         m_defaults->setText(keys::RomsPath, "/roms");
@@ -347,9 +361,9 @@ private Q_SLOTS:
 
     void everyControlHasItsNameAndAnAccessibleOne()
     {
-        const auto shown = pages();
+        const auto shown = stage();
         QSet<QString> names;
-        for (OptionPage* page : shown->all()) {
+        for (OptionPage* page : shown->pages.all()) {
             QVERIFY(!page->identifier().isEmpty());
             for (auto* matrix : page->findChildren<QButtonGroup*>())
                 names << matrix->objectName();
@@ -413,7 +427,9 @@ private Q_SLOTS:
                                      "checkboxOffscreen",
                                      "checkboxSteadykey",
                                      "checkboxRompath",
-                                     "romsTextField"};
+                                     "romsTextField",
+                                     "osxTextField",
+                                     "appTextField"};
         QCOMPARE(names, expected);
     }
 };

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "launch/argumentsarray.h"
+#include "launch/emulatorchoice.h"
 #include "launch/emulatortask.h"
 #include "launch/profilecache.h"
 #include "launch/ui/launchcontroller.h"
+#include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
 #include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
@@ -30,15 +32,16 @@ struct Room {
     ScriptedDesktop desktop;
     QString installed; ///< what is found where no emulator was chosen
     std::function<QString()> find = [this] { return installed; }; ///< how that is looked for
-    LaunchPages pages{begun(), [this] { return find(); }};
-    PathChooser chooser{desktop, defaults, pages};
+    EmulatorChoice choice{begun(), [this] { return find(); }};
+    PathChooser chooser{desktop, defaults, choice};
+    LaunchPages pages{defaults, choice, chooser};
     LogWindow log;
     EmulatorTask task;
     ProfileCache profiles{folder.filePath(QStringLiteral("profiles"))};
     QHash<QString, QString> favourites;
     ChosenGame selected{SelectedGame{QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}};
     RunController runs{desktop, defaults, log, task};
-    LaunchController controller{LaunchParts{desktop, defaults, pages, chooser, task, runs, profiles, selected,
+    LaunchController controller{LaunchParts{desktop, defaults, choice, pages, chooser, task, runs, profiles, selected,
                                             [this](const QString& name) { return favourites.value(name); }}};
     QSignalSpy running{&controller, &LaunchController::runningChanged};
 
@@ -87,7 +90,7 @@ struct Room {
     QStringList built() const
     {
         return argumentsArray(
-            liveOptions(pages, {QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
+            pages.options({QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}));
     }
 
 private:

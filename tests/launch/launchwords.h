@@ -5,32 +5,32 @@ namespace tessera::test {
 
 inline constexpr const char* generalWords
     = R"(launchusingPop: SDL MAME / MAME OS X / mode_application / named option_launchusing
+: option_launchusing / for launchusingPop
+: option_emulator
 : named option_emulator
 exeTextField: named option_emulator
 buttonexe: path_choose / named path_choose: option_emulator
 : named path_reveal: option_emulator / tip path_reveal
+: option_romfolder
 : named option_romfolder
 romsTextField: named option_romfolder
 buttonroms: path_choose / named path_choose: option_romfolder
 : named path_reveal: option_romfolder / tip path_reveal
 checkboxRompath: option_useromfolder
-: option_launchusing / for launchusingPop
-: option_emulator
-: option_romfolder
 : for checkboxRompath
 rompathNote: option_romfolderunused
 : for romProposal
 : roms_proposed
+: option_osx
 : named option_osx
 osxTextField: named option_osx
 buttonosx: path_choose / named path_choose: option_osx
 : named path_reveal: option_osx / tip path_reveal
-: option_osx
+: option_application
 : named option_application
 appTextField: named option_application
 buttonapp: path_choose / named path_choose: option_application
-: named path_reveal: option_application / tip path_reveal
-: option_application)";
+: named path_reveal: option_application / tip path_reveal)";
 
 inline constexpr const char* generalRows = R"(option_launchusing: launchusingPop
 option_emulator: exeTextField buttonexe
@@ -205,46 +205,6 @@ option_recording: checkMovierecord
 option_inputs: checkBoxReplay
 : replayMatrix_0 recordfilePop
 : replayMatrix_1 textfildPlayback textfildPlayback_choose)";
-
-inline constexpr const char* filesWords = R"(: files_heading
-: files_explanation
-: files_snapshots
-: named files_snapshots
-snapTextField: named files_snapshots
-buttonsnap: path_choose / named path_choose: files_snapshots
-: named path_reveal: files_snapshots / tip path_reveal
-: files_titles
-: named files_titles
-titlesnapTextField: named files_titles
-buttontitle: path_choose / named path_choose: files_titles
-: named path_reveal: files_titles / tip path_reveal
-: files_flyers
-: named files_flyers
-flyerTextField: named files_flyers
-buttonflayer: path_choose / named path_choose: files_flyers
-: named path_reveal: files_flyers / tip path_reveal
-: for snapProposal
-: snaps_proposed
-: files_history
-: named files_history
-historyTextField: named files_history
-buttonhistory: path_choose / named path_choose: files_history
-: named path_reveal: files_history / tip path_reveal
-: files_mameinfo
-: named files_mameinfo
-mameinfoTextField: named files_mameinfo
-buttonmameinfo: path_choose / named path_choose: files_mameinfo
-: named path_reveal: files_mameinfo / tip path_reveal)";
-
-inline constexpr const char* filesRows = R"(files_heading:
-files_explanation:
-files_snapshots: snapTextField buttonsnap
-files_titles: titlesnapTextField buttontitle
-files_flyers: flyerTextField buttonflayer
-: snapProposal
----
-files_history: historyTextField buttonhistory
-files_mameinfo: mameinfoTextField buttonmameinfo)";
 
 inline constexpr const char* logWords = R"(logWindow: window log_title
 infomationTextView: named log_title

@@ -3,14 +3,8 @@
 #include "launch/launchroom.h"
 #include "launch/ui/commandbar.h"
 #include "launch/ui/commandlinefoot.h"
-#include "launch/ui/effectspage.h"
-#include "launch/ui/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "launch/ui/generalpage.h"
-#include "launch/ui/inputpage.h"
-#include "launch/ui/miscpage.h"
-#include "launch/ui/soundpage.h"
-#include "launch/ui/videopage.h"
 #include "support/rows.h"
 #include "support/testmain.h"
 #include "support/words.h"
@@ -23,21 +17,10 @@ namespace {
 
 // The pages as the preferences show them.
 struct Pages : test::Room {
-    FilesPage files{defaults, chooser};
-
     Pages()
     {
-        pages.setChooser(chooser);
         for (OptionPage* page : pages.all())
             page->show();
-        files.show();
-    }
-    QList<QWidget*> all()
-    {
-        QList<QWidget*> list{&files};
-        for (OptionPage* page : pages.all())
-            list << page;
-        return list;
     }
 };
 
@@ -73,20 +56,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("page");
         QTest::addColumn<QStringList>("words");
         QTest::addColumn<QStringList>("rows");
-        QTest::newRow("files") << 0 << lines(test::filesWords) << lines(test::filesRows);
-        QTest::newRow("general") << 1 << lines(test::generalWords) << lines(test::generalRows);
-        QTest::newRow("video") << 2 << lines(test::videoWords) << lines(test::videoRows);
-        QTest::newRow("effects") << 3 << lines(test::effectWords) << lines(test::effectRows);
-        QTest::newRow("sound") << 4 << lines(test::soundWords) << lines(test::soundRows);
-        QTest::newRow("input") << 5 << lines(test::inputWords) << lines(test::inputRows);
-        QTest::newRow("misc") << 6 << lines(test::miscWords) << lines(test::miscRows);
+        QTest::newRow("general") << 0 << lines(test::generalWords) << lines(test::generalRows);
+        QTest::newRow("video") << 1 << lines(test::videoWords) << lines(test::videoRows);
+        QTest::newRow("effects") << 2 << lines(test::effectWords) << lines(test::effectRows);
+        QTest::newRow("sound") << 3 << lines(test::soundWords) << lines(test::soundRows);
+        QTest::newRow("input") << 4 << lines(test::inputWords) << lines(test::inputRows);
+        QTest::newRow("misc") << 5 << lines(test::miscWords) << lines(test::miscRows);
     }
 
     void everyPageSaysWhatItIsAbout()
     {
         QFETCH(int, page);
         Pages pages;
-        QWidget& shown = *pages.all()[page];
+        QWidget& shown = *pages.pages.all()[page];
         QTEST(test::wordsOf(shown), "words");
         QTEST(test::rowsOf(shown), "rows");
         // Nothing comes twice when it is shown again.

@@ -1,11 +1,8 @@
 #include "launch/ui/pathchooser.h"
 
-#include "launch/ui/effectspage.h"
-#include "launch/ui/generalpage.h"
-#include "launch/ui/launchpages.h"
-#include "launch/ui/miscpage.h"
 #include "platform/defaultscontroller.h"
 #include "support/scripteddesktop.h"
+#include "support/launchpage.h"
 #include "support/testmain.h"
 #include "widgets/pathfield.h"
 
@@ -29,15 +26,16 @@ struct Room {
     UserDefaults settings{folder.filePath(QStringLiteral("Tessera.ini"))};
     DefaultsController defaults{settings};
     test::ScriptedDesktop desktop;
-    std::unique_ptr<LaunchPages> pages;
+    std::unique_ptr<EmulatorChoice> emulator;
     std::unique_ptr<PathChooser> chooser;
+    std::unique_ptr<LaunchPages> pages;
 
     Room()
     {
         defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
-        pages = std::make_unique<LaunchPages>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
-        chooser = std::make_unique<PathChooser>(desktop, defaults, *pages);
-        pages->setChooser(*chooser);
+        emulator = std::make_unique<EmulatorChoice>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
+        chooser = std::make_unique<PathChooser>(desktop, defaults, *emulator);
+        pages = std::make_unique<LaunchPages>(defaults, *emulator, *chooser);
     }
 
     // What another program would read from the settings file now. At the same path it would share our memory.
@@ -177,10 +175,10 @@ private Q_SLOTS:
         Room room;
         room.desktop.answerOpen("/Apps/mame/inp/game1.inp");
         room.chooser->playbackfileSelect();
-        QCOMPARE(room.pages->misc().textfildPlayback->text(), QStringLiteral("game1.inp"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "textfildPlayback")->text(), QStringLiteral("game1.inp"));
         room.desktop.answerOpen("/Apps/mame/artwork/scan.png");
         room.chooser->effectfileSelect();
-        QCOMPARE(room.pages->effects().effectTextField->text(), QStringLiteral("scan.png"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "effectTextField")->text(), QStringLiteral("scan.png"));
     }
 
     void anEmulatorInAPathWithABlankGivesNoStartingPlace()
@@ -247,24 +245,24 @@ private Q_SLOTS:
             page->show();
             pages.emplace_back(page);
         }
-        const GeneralPage& general = room.pages->general();
         int count = 0;
-        for (QPushButton* button : {general.exePath->chooseButton(), general.romsPath->chooseButton(),
-                                    general.osxPath->chooseButton(), general.appPath->chooseButton(),
-                                    room.pages->effects().effectButton, room.pages->misc().playbackButton}) {
+        for (const char* name : {"buttonexe", "buttonroms", "buttonosx", "buttonapp",
+                                 "effectTextField_choose", "textfildPlayback_choose"}) {
+            auto* button = test::control<QPushButton>(*room.pages, name);
             room.desktop.answerOpen(QStringLiteral("/chosen/%1").arg(++count));
             button->click();
             QVERIFY(!button->accessibleName().isEmpty());
         }
         QCOMPARE(room.settings.string(keys::ExecutionPath.name), QStringLiteral("/chosen/1"));
         QCOMPARE(room.settings.string(keys::RomsPath.name), QStringLiteral("/chosen/2"));
-        QCOMPARE(general.osxTextField->text(), QStringLiteral("/chosen/3"));
-        QCOMPARE(general.appTextField->text(), QStringLiteral("/chosen/4"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "osxTextField")->text(), QStringLiteral("/chosen/3"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "appTextField")->text(), QStringLiteral("/chosen/4"));
         QCOMPARE(room.settings.string(keys::Effectname.name), QStringLiteral("5"));
         QCOMPARE(room.settings.string(keys::Playbackfilename.name), QStringLiteral("6"));
         for (const char* field : {"wavnameTextField", "mngnameTextField", "avinameTextField"}) {
             room.desktop.answerSave("ord.", std::nullopt);
-            room.pages->misc().findChild<QPushButton*>(QLatin1String(field) + "_choose")->click();
+            const QByteArray button = QByteArray(field) + "_choose";
+            test::control<QPushButton>(*room.pages, button.constData())->click();
         }
         QCOMPARE(room.desktop.saveRequests.at(2).name, QStringLiteral("Movie_record.avi"));
     }

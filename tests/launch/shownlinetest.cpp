@@ -137,7 +137,9 @@ private Q_SLOTS:
         home.installed = "/found/mame";
         QCOMPARE(home.controller.executable(), home.emulator());
         QVERIFY(home.controller.findsExecutable());
-        home.pages.general().exeTextField->setText("/typed/mame");
+        QLineEdit* field = home.pages.general().exeTextField;
+        field->selectAll();
+        QTest::keyClicks(field, "/typed/mame");
         QCOMPARE(home.controller.executable(), QStringLiteral("/typed/mame"));
         QVERIFY(!home.controller.findsExecutable());
         QCOMPARE(home.controller.archiveFolders().executable, QStringLiteral("/typed/mame"));

@@ -1,12 +1,10 @@
 #include "launch/ui/unknownoptions.h"
 
 #include "launch/emulatorprofile.h"
-#include "launch/ui/effectspage.h"
-#include "launch/ui/launchpages.h"
 #include "launch/ui/optionpage.h"
-#include "launch/ui/videopage.h"
 #include "platform/defaultscontroller.h"
 #include "support/argumenttexts.h"
+#include "support/launchpage.h"
 #include "support/testmain.h"
 #include "usagetexts.h"
 
@@ -25,7 +23,8 @@ struct Room {
     QTemporaryDir folder;
     UserDefaults settings{folder.filePath(QStringLiteral("Tessera.ini"))};
     DefaultsController defaults{settings};
-    LaunchPages pages{begun(), [] { return QString(); }};
+    test::StagedPages staged{begun()};
+    LaunchPages& pages = staged.pages;
 
     // The names of the marked controls.
     QStringList marked(const QByteArray& usage)
@@ -33,7 +32,7 @@ struct Room {
         const auto profile = EmulatorProfile::fromUsage(usage);
         QStringList names;
         for (OptionPage* page : pages.all()) {
-            markUnknownOptions(*page, profile ? &*profile : nullptr);
+            page->fitTo(profile ? &*profile : nullptr);
             for (const QWidget* control : page->findChildren<QWidget*>()) {
                 if (!control->objectName().isEmpty() && control->property("unknown").toBool())
                     names << control->objectName();
@@ -101,7 +100,8 @@ private Q_SLOTS:
     {
         Room room;
         const QStringList marked = room.marked("-rompath             path to ROM sets\n");
-        const QStringList always{"launchusingPop", "exeTextField", "romsTextField", "checkboxRompath"};
+        const QStringList always{"launchusingPop", "exeTextField", "romsTextField", "checkboxRompath",
+                                 "osxTextField", "appTextField"};
         for (const OptionPage* page : room.pages.all()) {
             for (const QWidget* control : page->findChildren<QWidget*>()) {
                 if (isOptionControl(control) && !always.contains(control->objectName()))
@@ -118,33 +118,33 @@ private Q_SLOTS:
         QByteArray usage = test::newUsage();
         usage.replace("-prescale            scale by this amount\n", "");
         room.marked(usage);
-        const VideoPage& page = room.pages.video();
+        const OptionPage& page = test::pageOf(room.pages, Page::Video);
         for (const QWidget* control :
-             {static_cast<QWidget*>(page.checkboxMultithread), static_cast<QWidget*>(page.scalingPop)}) {
+             {static_cast<QWidget*>(&page.control<QCheckBox>("checkboxMultithread")), static_cast<QWidget*>(&page.control<QComboBox>("scalingPop"))}) {
             QCOMPARE(control->toolTip(), QStringLiteral("option_unknown"));
             QCOMPARE(control->accessibleDescription(), QStringLiteral("option_unknown"));
             QVERIFY(control->isEnabled());
         }
-        QVERIFY(labelOf(page, page.scalingPop)->property("unknown").toBool());
-        QVERIFY(!labelOf(page, page.devicevideoPop)->property("unknown").toBool());
+        QVERIFY(labelOf(page, &page.control<QComboBox>("scalingPop"))->property("unknown").toBool());
+        QVERIFY(!labelOf(page, &page.control<QComboBox>("devicevideoPop"))->property("unknown").toBool());
         room.marked(test::oldUsage());
-        QCOMPARE(page.scalingPop->toolTip(), QString());
-        QCOMPARE(page.scalingPop->accessibleDescription(), QString());
-        QVERIFY(!labelOf(page, page.scalingPop)->property("unknown").toBool());
+        QCOMPARE(page.control<QComboBox>("scalingPop").toolTip(), QString());
+        QCOMPARE(page.control<QComboBox>("scalingPop").accessibleDescription(), QString());
+        QVERIFY(!labelOf(page, &page.control<QComboBox>("scalingPop"))->property("unknown").toBool());
     }
 
     // The style sheet sees the mark at once, and that it is gone.
     void aMarkIsDrawnAtOnce()
     {
         Room room;
-        VideoPage& page = room.pages.video();
+        OptionPage& page = test::pageOf(room.pages, Page::Video);
         page.setStyleSheet("QCheckBox[unknown=\"true\"] { min-width: 321px }");
         page.show();
         room.marked(test::newUsage());
-        QCOMPARE(page.checkboxMultithread->minimumWidth(), 321);
-        QVERIFY(page.checkboxAspect->minimumWidth() != 321);
+        QCOMPARE(page.control<QCheckBox>("checkboxMultithread").minimumWidth(), 321);
+        QVERIFY(page.control<QCheckBox>("checkboxAspect").minimumWidth() != 321);
         room.marked(test::oldUsage());
-        QVERIFY(page.checkboxMultithread->minimumWidth() != 321);
+        QVERIFY(page.control<QCheckBox>("checkboxMultithread").minimumWidth() != 321);
     }
 
     // Both names of what is missing, where a control sends several; and nothing where one is known.
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(!room.marked(usage).contains("displayflipPop"));
         usage.replace("-flipy               flip upside-down\n", "");
         QVERIFY(room.marked(usage).contains("displayflipPop"));
-        QCOMPARE(room.pages.video().displayflipPop->toolTip(),
+        QCOMPARE(test::control<QComboBox>(room.pages, "displayflipPop")->toolTip(),
                  QStringLiteral("option_unknown (-flipx, -flipy, %2)"));
     }
 
@@ -167,8 +167,8 @@ private Q_SLOTS:
         QByteArray usage = test::newUsage();
         usage.replace("-keepaspect          keep the aspect ratio\n", "");
         QVERIFY(room.marked(usage).contains("checkboxAspect"));
-        const VideoPage& page = room.pages.video();
-        QVERIFY(!labelOf(page, page.checkboxAspect)->property("unknown").toBool());
+        const OptionPage& page = test::pageOf(room.pages, Page::Video);
+        QVERIFY(!labelOf(page, &page.control<QCheckBox>("checkboxAspect"))->property("unknown").toBool());
     }
 };
 

@@ -7,13 +7,11 @@
 #include "bios/ui/biospanel.h"
 #include "core/atomicfile.h"
 #include "core/keptcopy.h"
-#include "launch/growingitems.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"
 #include "widgets/theme.h"
 
-#include <QComboBox>
 #include <QDir>
 #include <QFileIconProvider>
 #include <QFileInfo>
@@ -42,6 +40,7 @@ constexpr QLatin1StringView changed("Changed the BIOS setting to \"%1\"");
 Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     : QObject(parent)
     , m_parts(parts)
+    , m_popup_bios(parts.defaults)
     , m_editing(std::make_unique<BiosEditing>(parts.panel, parts.undo))
 {
     BiosPanel& panel = m_parts.panel;
@@ -62,7 +61,10 @@ Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     connect(panel.removeButton, &QToolButton::clicked, this, &Bioslist::removeEntry);
     connect(panel.gameButton, &QPushButton::clicked, this, &Bioslist::addOfGame);
     connect(panel.rebuildButton, &QPushButton::clicked, this, &Bioslist::rebuild);
-    connect(&m_parts.popup_bios, &QComboBox::currentTextChanged, this, &Bioslist::showSetting);
+    connect(&m_parts.defaults, &DefaultsController::changed, this, [this](const QString& setting) {
+        if (BiosPopup::isChangedBy(setting))
+            showSetting();
+    });
     showSetting();
 }
 
@@ -92,7 +94,7 @@ void Bioslist::awakeFromNib()
 // when it is removed here.
 void Bioslist::learn()
 {
-    keepTitles(m_parts.defaults, growingBiosSets, biosNames(m_parts.panel.treeController_list->entries()));
+    m_popup_bios.learn(biosNames(m_parts.panel.treeController_list->entries()));
 }
 
 void Bioslist::takeEdit()
@@ -103,10 +105,9 @@ void Bioslist::takeEdit()
 
 void Bioslist::showSetting()
 {
-    const QComboBox& popup = m_parts.popup_bios;
-    m_parts.panel.treeController_list->setChosen(popup.currentIndex() == 0 ? QString(defaultBios)
-                                                                           : popup.currentText());
-    m_parts.panel.showSetting(popup.currentText());
+    const PopupState set = m_popup_bios.selected();
+    m_parts.panel.treeController_list->setChosen(set.index == 0 ? QString(defaultBios) : set.title);
+    m_parts.panel.showSetting(m_popup_bios.text());
 }
 
 // Before the first edit writes over it.
@@ -171,13 +172,7 @@ void Bioslist::tableViewDoubleAction()
     const auto entry = m_parts.panel.treeController_list->entry(selected());
     if (!entry)
         return;
-    QComboBox& popup = m_parts.popup_bios;
-    const int titled = entry->bios == defaultBios
-        ? 0
-        : popup.findText(entry->bios, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (titled >= 0)
-        popup.setCurrentIndex(titled);
-    m_parts.defaults.setIndex(keys::Biostype, popup.currentIndex());
+    m_popup_bios.select(entry->bios);
     m_parts.desktop.playSound(QStringLiteral("Pop"));
     m_parts.panel.text_infomation->setText(QString(changed).arg(entry->bios));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bios/biosentry.h"
+#include "bios/biospopup.h"
 
 #include <QModelIndex>
 #include <QObject>
@@ -8,7 +9,6 @@
 #include <functional>
 #include <memory>
 
-class QComboBox;
 class QIcon;
 class QUndoStack;
 
@@ -26,7 +26,6 @@ struct BiosParts {
     Desktop& desktop;
     DefaultsController& defaults;
     BiosPanel& panel;
-    QComboBox& popup_bios; ///< of the launch options
     QUndoStack& undo; ///< of the list
     QString ownFile; ///< the user's copy of the list
     std::function<QString()> emulator; ///< its path, empty where there is none
@@ -79,6 +78,7 @@ private:
     QIcon iconOf(const BiosEntry& entry) const;
 
     BiosParts m_parts;
+    BiosPopup m_popup_bios;
     std::unique_ptr<BiosEditing> m_editing;
     std::unique_ptr<BiosQuestion> m_question;
     bool m_isUnread = false; ///< the user's copy is there, and could not be read

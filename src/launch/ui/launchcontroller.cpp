@@ -1,13 +1,13 @@
 #include "launch/ui/launchcontroller.h"
 
+#include "core/failure.h"
 #include "launch/aliasfile.h"
 #include "launch/argumentsarray.h"
 #include "launch/commandline.h"
+#include "launch/emulatorchoice.h"
 #include "launch/emulatortask.h"
 #include "launch/osxapplication.h"
 #include "launch/profilecache.h"
-#include "launch/storedoptions.h"
-#include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
 #include "launch/ui/pathchooser.h"
 #include "launch/ui/runcontroller.h"
@@ -15,19 +15,13 @@
 #include "platform/desktop.h"
 #include "widgets/inputblock.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLineEdit>
 
 namespace tessera {
 
 namespace {
-
-// The launch modes by their positions.
-enum Mode { CommandLineMame, MameOsx, OtherApplication };
 
 } // namespace
 
@@ -40,16 +34,12 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     // After the runs have told the end.
     connect(&m_parts.task, &EmulatorTask::stopped, this, &LaunchController::launchNext);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
-    // The position has to be stored before the title is asked for, so this comes after the pop-up's own
-    // binding.
-    connect(m_parts.pages.general().launchusingPop, &QComboBox::activated, this,
-            &LaunchController::LaunchemuPopAction);
+    connect(&m_parts.emulator, &EmulatorChoice::modeChosen, this, &LaunchController::LaunchemuPopAction);
 }
 
 QString LaunchController::executable() const
 {
-    const QString typed = m_parts.pages.general().exeTextField->text();
-    return typed.isEmpty() ? m_parts.pages.general().emulator() : typed;
+    return m_parts.emulator.emulator();
 }
 
 QString LaunchController::aboutGame(const char* key) const
@@ -70,7 +60,7 @@ QString LaunchController::runningText() const
 
 bool LaunchController::romsfolder_FoundCheck() const
 {
-    return romsFolderExists(m_parts.pages.general().romsTextField->text());
+    return options().romsFolderFound;
 }
 
 // Empty where the emulator is left to its own.
@@ -82,15 +72,14 @@ QString LaunchController::usedRomFolder() const
 
 bool LaunchController::findsExecutable()
 {
-    m_parts.pages.general().lookForEmulator();
+    m_parts.emulator.lookForEmulator();
     return QFileInfo::exists(executable());
 }
 
 ArchiveFolders LaunchController::archiveFolders() const
 {
-    const GeneralPage& general = m_parts.pages.general();
-    return {general.checkboxRompath->checkState() != Qt::Unchecked, general.romsTextField->text(),
-            executable()};
+    const LaunchOptions now = options();
+    return {now.checkboxRompath != 0, now.romsTextField, executable()};
 }
 
 void LaunchController::prepareProfile()
@@ -124,15 +113,14 @@ void LaunchController::launch(const QString& game)
     if (isRunning())
         return Launchusing(game);
     m_name = gameName(game);
-    const QComboBox* mode = m_parts.pages.general().launchusingPop;
-    m_parts.runs.beginLog(mode->currentText() + QStringLiteral(" :  ") + m_name
+    m_parts.runs.beginLog(m_parts.emulator.modeTitle() + QStringLiteral(" :  ") + m_name
                           + QStringLiteral("  Launch...\n\n"));
-    switch (mode->currentIndex()) {
-    case CommandLineMame:
+    switch (m_parts.emulator.mode()) {
+    case EmulatorChoice::CommandLineMame:
         return LaunchTask_SDLMAME(game);
-    case MameOsx:
+    case EmulatorChoice::MameOsx:
         return LaunchTask_MAMEOSX(game);
-    case OtherApplication:
+    case EmulatorChoice::OtherApplication:
         return LaunchTask_APPMAME(game);
     default:
         return;
@@ -141,7 +129,7 @@ void LaunchController::launch(const QString& game)
 
 LaunchOptions LaunchController::options() const
 {
-    return liveOptions(m_parts.pages, m_parts.selection.selected());
+    return m_parts.pages.options(m_parts.selection.selected());
 }
 
 LaunchController::Launch LaunchController::launchOf(const QString& game) const
@@ -152,12 +140,12 @@ LaunchController::Launch LaunchController::launchOf(const QString& game) const
 ShownLine LaunchController::shownLine(const QString& game)
 {
     ShownLine shown;
-    const int mode = m_parts.pages.general().launchusingPop->currentIndex();
-    if (mode == OtherApplication) {
+    const auto mode = m_parts.emulator.mode();
+    if (mode == EmulatorChoice::OtherApplication) {
         const auto archive = userDataArchive(QDir::homePath(), game);
         shown.executable = m_parts.defaults.text(keys::ApplicationPath);
         shown.line.arguments << archive.value_or(game);
-    } else if (mode == MameOsx) {
+    } else if (mode == EmulatorChoice::MameOsx) {
         shown.executable = bundleExecutable(m_parts.defaults.text(keys::MameosxPath));
         shown.line.arguments = osxGameArguments(game, usedRomFolder()) + osxOptions();
     } else {
@@ -267,26 +255,23 @@ void LaunchController::LaunchemuCheck()
 {
     const auto isMissing
         = [this](const ChosenKey& key) { return !QFileInfo::exists(m_parts.defaults.text(key)); };
-    const int mode = m_parts.pages.general().launchusingPop->currentIndex();
-    if (mode == CommandLineMame && !findsExecutable())
+    const auto mode = m_parts.emulator.mode();
+    if (mode == EmulatorChoice::CommandLineMame && !findsExecutable())
         m_parts.paths.displayAlert1();
-    else if (mode == MameOsx && isMissing(keys::MameosxPath))
+    else if (mode == EmulatorChoice::MameOsx && isMissing(keys::MameosxPath))
         m_parts.paths.displayAlert2();
-    else if (mode == OtherApplication && isMissing(keys::ApplicationPath))
+    else if (mode == EmulatorChoice::OtherApplication && isMissing(keys::ApplicationPath))
         m_parts.paths.displayAlert3();
 }
 
 void LaunchController::LaunchemuPopAction()
 {
-    Q_EMIT launchModeChanged(m_parts.pages.general().launchusingPop->currentText());
+    Q_EMIT launchModeChanged(m_parts.emulator.modeTitle());
 }
 
 void LaunchController::MenuLaunchusing(const QString& title)
 {
-    QComboBox* mode = m_parts.pages.general().launchusingPop;
-    mode->setCurrentIndex(mode->findText(title));
-    m_parts.defaults.setIndex(keys::Launchgamesusing, mode->currentIndex());
-    Q_EMIT launchModeChanged(m_parts.pages.general().launchusingPop->currentText());
+    m_parts.emulator.setMode(title);
 }
 
 void LaunchController::stopProcess()

@@ -15,6 +15,7 @@ namespace tessera {
 class DefaultsController;
 class Desktop;
 class EmulatorTask;
+class EmulatorChoice;
 class LaunchPages;
 class PathChooser;
 class ProfileCache;
@@ -25,7 +26,8 @@ struct ProfileAnswer;
 struct LaunchParts {
     Desktop& desktop;
     DefaultsController& defaults;
-    LaunchPages& pages;
+    EmulatorChoice& emulator;
+    const LaunchPages& pages;
     PathChooser& paths;
     EmulatorTask& task;
     RunController& runs;

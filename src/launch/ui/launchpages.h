@@ -5,51 +5,38 @@
 #include <QList>
 #include <QPointer>
 
-#include <functional>
-
 namespace tessera {
 
 class DefaultsController;
-class EffectsPage;
+class EmulatorChoice;
 class GeneralPage;
-class InputPage;
-class MiscPage;
 class OptionPage;
 class PathChooser;
-class SoundPage;
-class VideoPage;
 
-/// The pages of the launch options. A window takes them over; what no window took is deleted here.
+/// The pages of the launch options, made when they are first asked for. A window takes them over; what no
+/// window took is deleted here.
 class LaunchPages
 {
 public:
-    /// `findEmulator` finds the emulator that launches use as long as none was chosen.
-    LaunchPages(DefaultsController& defaults, std::function<QString()> findEmulator);
+    LaunchPages(DefaultsController& defaults, EmulatorChoice& emulator, PathChooser& chooser);
     ~LaunchPages();
     LaunchPages(const LaunchPages&) = delete;
     LaunchPages& operator=(const LaunchPages&) = delete;
 
-    void setChooser(PathChooser& chooser);
     /// In the order of the preferences window.
-    QList<OptionPage*> all() const;
-
-    GeneralPage& general() const;
-    VideoPage& video() const;
-    EffectsPage& effects() const;
-    SoundPage& sound() const;
-    InputPage& input() const;
-    MiscPage& misc() const;
+    QList<OptionPage*> all();
+    GeneralPage& general();
+    /// The launch options as the controls stand now; as they are stored, as long as there are none.
+    LaunchOptions options(const SelectedGame& selected) const;
 
 private:
-    QPointer<GeneralPage> m_general;
-    QPointer<VideoPage> m_video;
-    QPointer<EffectsPage> m_effects;
-    QPointer<SoundPage> m_sound;
-    QPointer<InputPage> m_input;
-    QPointer<MiscPage> m_misc;
-};
+    void make();
 
-/// The launch options as the controls stand now.
-LaunchOptions liveOptions(const LaunchPages& pages, const SelectedGame& selected);
+    DefaultsController& m_defaults;
+    EmulatorChoice& m_emulator;
+    PathChooser& m_chooser;
+    QPointer<GeneralPage> m_general;
+    QList<QPointer<OptionPage>> m_pages;
+};
 
 } // namespace tessera

@@ -1,51 +1,51 @@
 #pragma once
 
-#include "launch/popupitems.h"
+#include "launch/optiontable.h"
 #include "widgets/formpage.h"
 
-#include <span>
-
-class QButtonGroup;
-class QCheckBox;
 class QComboBox;
-class QLineEdit;
-class QPushButton;
 
 namespace tessera {
 
 class DefaultsController;
+class EmulatorProfile;
 class PathChooser;
 
-/// A page of the preferences with launch options. Its controls stand as members under their own names.
+/// A page of the preferences with launch options: the controls that the table of options places on it, each
+/// under its own name and tied to its setting.
 class OptionPage : public FormPage
 {
     Q_OBJECT
 
 public:
-    /// `identifier` is the page's item in the preferences' toolbar.
-    explicit OptionPage(const QString& identifier, QWidget* parent = nullptr);
+    OptionPage(Page page, DefaultsController& defaults, PathChooser& chooser, QWidget* parent = nullptr);
 
-    QString identifier() const { return m_identifier; }
-
-    /// Whose commands the buttons beside paths run; before the page is shown.
-    void setChooser(PathChooser& chooser) { m_chooser = &chooser; }
+    /// The page's item in the preferences' toolbar.
+    QString identifier() const;
+    /// Puts what the controls hold in place of what is stored.
+    void read(LaunchOptions& options) const;
+    /// Marks what the emulator does not know, and offers what it takes besides; without a profile neither.
+    void fitTo(const EmulatorProfile* profile);
+    /// A control that the page has.
+    template <class Control>
+    Control& control(const char* name) const
+    {
+        return *findChild<Control*>(QLatin1StringView(name));
+    }
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    /// Called once, before the page is first shown: makes what a start of the program does not need.
-    virtual void complete(PathChooser& chooser);
-    /// A button behind a field that stands in a row of controls.
-    QPushButton* addChooseButton(QLineEdit* field);
+    /// The control of a row of the table, with what belongs beside it, or the buttons of a group.
+    QWidgetList make(const OptionRow& row);
     QComboBox* makePopup(const char* name, std::span<const PopupItem> items);
-    QCheckBox* makeBox(const char* name, const char* labelKey);
-    QLineEdit* makeField(const char* name, const char* accessibleKey = nullptr);
-    /// Radio buttons whose ids are their rows, which end their names, too.
-    QButtonGroup* makeMatrix(const char* name, std::span<const char* const> labelKeys);
 
 private:
-    QString m_identifier;
-    PathChooser* m_chooser = nullptr;
-    bool m_isComplete = false;
+    void layOut();
+    QWidgetList makeButtons(const OptionRow& row);
+    QWidgetList makeField(const OptionRow& row);
+
+    Page m_page;
+    DefaultsController& m_defaults;
+    PathChooser& m_chooser;
 };
 
 } // namespace tessera

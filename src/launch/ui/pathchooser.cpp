@@ -1,14 +1,10 @@
 #include "launch/ui/pathchooser.h"
 
 #include "core/failure.h"
-#include "launch/ui/effectspage.h"
-#include "launch/ui/generalpage.h"
-#include "launch/ui/launchpages.h"
-#include "launch/ui/miscpage.h"
+#include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -90,12 +86,12 @@ QUrl startingPlace(const QString& text)
 
 } // namespace
 
-PathChooser::PathChooser(Desktop& desktop, DefaultsController& defaults, const LaunchPages& pages,
+PathChooser::PathChooser(Desktop& desktop, DefaultsController& defaults, const EmulatorChoice& emulator,
                          QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_defaults(defaults)
-    , m_pages(pages)
+    , m_emulator(emulator)
 {
 }
 
@@ -111,10 +107,10 @@ QString PathChooser::openPanelpath(const PathRequest& request)
     return m_desktop.openPanel(panel).value_or(QString());
 }
 
-// What the emulator's field shows counts, which may be one that was found and never chosen.
+// The emulator may be one that was found and never chosen.
 QString PathChooser::pathAt(QLatin1StringView key) const
 {
-    return key == keys::ExecutionPath.name ? m_pages.general().exeTextField->text()
+    return key == keys::ExecutionPath.name ? m_emulator.emulator()
                                            : m_defaults.text(ChosenKey{key});
 }
 
@@ -123,21 +119,13 @@ QString PathChooser::besideEmulator(const char* folder) const
     return QFileInfo(pathAt(keys::ExecutionPath.name)).path() + QLatin1Char('/') + QLatin1String(folder);
 }
 
-// Other rooms' fields follow the setting.
-QLineEdit* PathChooser::fieldOf(QLatin1StringView key) const
+void PathChooser::putInto(QLineEdit& field, QLatin1StringView key)
 {
-    const std::initializer_list<std::pair<QLatin1StringView, QLineEdit*>> fields{
-        {keys::ExecutionPath.name, m_pages.general().exeTextField},
-        {keys::MameosxPath.name, m_pages.general().osxTextField},
-        {keys::ApplicationPath.name, m_pages.general().appTextField},
-        {keys::RomsPath.name, m_pages.general().romsTextField},
-        {keys::Playbackfilename.name, m_pages.misc().textfildPlayback},
-        {keys::Effectname.name, m_pages.effects().effectTextField}};
-    for (const auto& [name, field] : fields) {
-        if (name == key)
-            return field;
-    }
-    return nullptr;
+    connect(this, &PathChooser::chosen, &field,
+            [&field, key](const QString& chosenKey, const QString& path) {
+                if (chosenKey == key)
+                    field.setText(path);
+            });
 }
 
 void PathChooser::select(QLatin1StringView key)
@@ -158,9 +146,6 @@ void PathChooser::select(QLatin1StringView key)
 
 void PathChooser::store(QLatin1StringView key, const QString& path)
 {
-    // One that is being typed in does not follow the setting.
-    if (QLineEdit* field = fieldOf(key))
-        field->setText(path);
     m_defaults.setText(ChosenKey{key}, path);
     flush();
     Q_EMIT chosen(key, path);
@@ -187,8 +172,8 @@ void PathChooser::saveRecordfile(int tag)
 
 void PathChooser::openCurrentdir()
 {
-    const int mode = m_pages.general().launchusingPop->currentIndex();
-    if (mode < 0)
+    const auto mode = m_emulator.mode();
+    if (mode == EmulatorChoice::None)
         return m_desktop.beep();
     const QString path = pathAt(shownPaths[static_cast<std::size_t>(mode)]);
     if (path.isEmpty() || !m_desktop.openFolder(QFileInfo(path).path()))
@@ -202,7 +187,7 @@ void PathChooser::takeROMfolder(const QString& folder)
 
 void PathChooser::openROMfolder()
 {
-    openFolder(m_pages.general().romsTextField->text());
+    openFolder(m_defaults.text(keys::RomsPath));
 }
 
 void PathChooser::openFolder(const QString& path)

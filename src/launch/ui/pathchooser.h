@@ -10,7 +10,7 @@ namespace tessera {
 
 class DefaultsController;
 class Desktop;
-class LaunchPages;
+class EmulatorChoice;
 
 /// What a chooser asks the open panel for.
 struct PathRequest {
@@ -30,11 +30,18 @@ class PathChooser : public QObject
 
 public:
     // Of the files that show_file_in_finder() shows.
+    static constexpr int emulatorTag = 0;
+    static constexpr int osxTag = 1;
+    static constexpr int applicationTag = 2;
     static constexpr int historyTag = 3;
     static constexpr int mameinfoTag = 4;
 
-    PathChooser(Desktop& desktop, DefaultsController& defaults, const LaunchPages& pages,
+    PathChooser(Desktop& desktop, DefaultsController& defaults, const EmulatorChoice& emulator,
                 QObject* parent = nullptr);
+
+    /// What is chosen for the setting takes the place of what is being typed into the field; without this
+    /// it would not, as it does not follow its setting then.
+    void putInto(QLineEdit& field, QLatin1StringView key);
 
     /// The chosen path; empty after Cancel.
     QString openPanelpath(const PathRequest& request);
@@ -89,7 +96,6 @@ Q_SIGNALS:
 private:
     QString pathAt(QLatin1StringView key) const;
     QString besideEmulator(const char* folder) const;
-    QLineEdit* fieldOf(QLatin1StringView key) const;
     void select(QLatin1StringView key);
     void store(QLatin1StringView key, const QString& path);
     void displayAlert(int number);
@@ -97,7 +103,7 @@ private:
 
     Desktop& m_desktop;
     DefaultsController& m_defaults;
-    const LaunchPages& m_pages;
+    const EmulatorChoice& m_emulator;
 };
 
 } // namespace tessera

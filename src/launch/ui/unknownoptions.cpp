@@ -2,103 +2,26 @@
 
 #include "core/failure.h"
 #include "launch/emulatorprofile.h"
+#include "launch/optiontable.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QStyle>
 #include <QWidget>
 
-#include <array>
+#include <algorithm>
 
 namespace tessera {
 
 namespace {
 
-// A control and an option that it sends. It is unknown where the emulator takes none of its options.
-struct Row {
-    const char* control;
-    const char* option;
-};
-
-// clang-format off
-constexpr std::array rows{
-    Row{"devicevideoPop",        "-video"},
-    Row{"displaymodePop",        "-window"},
-    Row{"scalingPop",            "-prescale"},
-    Row{"checkboxMaximize",      "-maximize"},
-    Row{"checkboxAspect",        "-keepaspect"},
-    Row{"checkboxStretch",       "-unevenstretch"},
-    Row{"checkboxResolution",    "-switchres"},
-    Row{"checkboxWaitvsync",     "-waitvsync"},
-    Row{"checkboxMultithread",   "-multithreading"},
-    Row{"displayframePop",       "-autoframeskip"},
-    Row{"displayframePop",       "-frameskip"},
-    Row{"displayrotation",       "-rotate"},
-    Row{"displayrotation",       "-ror"},
-    Row{"displayrotation",       "-rol"},
-    Row{"displayflipPop",        "-flipx"},
-    Row{"displayflipPop",        "-flipy"},
-    Row{"checkboxBilinear",      "-filter"},
-    Row{"checkboxEffect",        "-effect"},
-    Row{"effectTextField",       "-effect"},
-    Row{"scalemodePop",          "-scalemode"},
-    Row{"checkboxArtwork",       "-artwork_crop"},
-    Row{"checkboxBackdrops",     "-use_backdrops"},
-    Row{"checkboxOverlays",      "-use_overlays"},
-    Row{"checkboxBezels",        "-use_bezels"},
-    Row{"checkboxAntialias",     "-antialias"},
-    Row{"beemTextField",         "-beam"},
-    Row{"flickerTextField",      "-flicker"},
-    Row{"popup_Sound",           "-sound"},
-    Row{"soundvolumetextField",  "-volume"},
-    Row{"soundsampleratePop",    "-samplerate"},
-    Row{"soundlatencytextField", "-audio_latency"},
-    Row{"checkboxSoundsamples",  "-samples"},
-    Row{"checkMovierecord",      "-wavwrite"},
-    Row{"checkMovierecord",      "-mngwrite"},
-    Row{"checkMovierecord",      "-aviwrite"},
-    Row{"recordMatrix_0",        "-wavwrite"},
-    Row{"wavnameTextField",      "-wavwrite"},
-    Row{"recordMatrix_1",        "-mngwrite"},
-    Row{"mngnameTextField",      "-mngwrite"},
-    Row{"recordMatrix_2",        "-aviwrite"},
-    Row{"avinameTextField",      "-aviwrite"},
-    Row{"biosPop",               "-bios"},
-    Row{"checkBoxReplay",        "-record"},
-    Row{"checkBoxReplay",        "-playback"},
-    Row{"replayMatrix_0",        "-record"},
-    Row{"recordfilePop",         "-record"},
-    Row{"replayMatrix_1",        "-playback"},
-    Row{"textfildPlayback",      "-playback"},
-    Row{"checkboxCheat",         "-cheat"},
-    Row{"checkboxGameinfo",      "-skip_gameinfo"},
-    Row{"checkboxAutosave",      "-autosave"},
-    Row{"errorlogPop",           "-log"},
-    Row{"errorlogPop",           "-verbose"},
-    Row{"errorlogPop",           "-debug"},
-    Row{"errorlogPop",           "-oslog"},
-    Row{"checkboxMouse",         "-mouse"},
-    Row{"checkboxJoystick",      "-joystick"},
-    Row{"checkboxLightgun",      "-lightgun"},
-    Row{"checkboxOffscreen",     "-offscreen_reload"},
-    Row{"checkboxSteadykey",     "-steadykey"},
-    Row{"checkboxRompath",       "-rompath"},
-};
-// clang-format on
-
-// What the emulator does not take of a control's options; empty where it takes one of them.
-QStringList unknownOptions(const QString& control, const EmulatorProfile* profile)
+// Which of them the emulator does not take; none where it takes one.
+QStringList unknownOf(const QStringList& options, const EmulatorProfile* profile)
 {
-    QStringList unknown;
-    for (const Row& row : rows) {
-        const QString option = QLatin1String(row.option);
-        if (control != QLatin1String(row.control))
-            continue;
-        if (profile == nullptr || profile->takes(option))
-            return {};
-        unknown << option;
-    }
-    return unknown;
+    if (profile == nullptr
+        || std::ranges::any_of(options, [&](const QString& option) { return profile->takes(option); }))
+        return {};
+    return options;
 }
 
 void setMark(QWidget& widget, bool unknown)
@@ -128,21 +51,23 @@ void mark(QWidget& page, QWidget& control, const QString& why)
 
 } // namespace
 
-void markUnknownOptions(QWidget& page, const EmulatorProfile* profile)
+void markUnknownOptions(QWidget& page, const OptionRow& row, const EmulatorProfile* profile)
 {
-    QString marked;
-    for (const Row& row : rows) {
-        const QString name = QLatin1String(row.control);
+    const auto markNamed = [&](const QString& name, const QStringList& options) {
         auto* control = page.findChild<QWidget*>(name);
-        if (control == nullptr || name == std::exchange(marked, name))
-            continue;
-        const QStringList unknown = unknownOptions(name, profile);
-        mark(
-            page, *control,
-            unknown.isEmpty()
-                ? QString()
-                : qtTrId("option_unknown").replace(QStringLiteral("%1"), unknown.join(QStringLiteral(", "))));
-    }
+        const QStringList unknown = unknownOf(options, profile);
+        const QString names = unknown.join(QStringLiteral(", "));
+        if (control != nullptr)
+            mark(page, *control,
+                 names.isEmpty() ? names : qtTrId("option_unknown").replace(QStringLiteral("%1"), names));
+    };
+    const QString name = QLatin1StringView(row.name);
+    const QStringList options
+        = QString::fromLatin1(row.sdl.options).remove(QLatin1Char('=')).split(QLatin1Char(' '));
+    if (row.control.buttons.empty())
+        return markNamed(name, options);
+    for (int i = 0; i < std::ssize(row.control.buttons); ++i)
+        markNamed(QStringLiteral("%1_%2").arg(name).arg(i), {options[i]});
 }
 
 } // namespace tessera

@@ -1,11 +1,11 @@
-#include "launch/ui/filespage.h"
+#include "app/filespage.h"
 
 #include "launch/launchroom.h"
-#include "launch/ui/effectspage.h"
 #include "launch/ui/folderproposal.h"
-#include "launch/ui/generalpage.h"
-#include "launch/ui/miscpage.h"
+#include "support/launchpage.h"
+#include "support/rows.h"
 #include "support/testmain.h"
+#include "support/words.h"
 #include "widgets/pathfield.h"
 
 #include <QAbstractButton>
@@ -21,14 +21,59 @@ using namespace tessera;
 
 namespace {
 
+constexpr const char* filesWords = R"(: files_heading
+: files_explanation
+: files_snapshots
+: named files_snapshots
+snapTextField: named files_snapshots
+buttonsnap: path_choose / named path_choose: files_snapshots
+: named path_reveal: files_snapshots / tip path_reveal
+: files_titles
+: named files_titles
+titlesnapTextField: named files_titles
+buttontitle: path_choose / named path_choose: files_titles
+: named path_reveal: files_titles / tip path_reveal
+: files_flyers
+: named files_flyers
+flyerTextField: named files_flyers
+buttonflayer: path_choose / named path_choose: files_flyers
+: named path_reveal: files_flyers / tip path_reveal
+: for snapProposal
+: snaps_proposed
+: files_history
+: named files_history
+historyTextField: named files_history
+buttonhistory: path_choose / named path_choose: files_history
+: named path_reveal: files_history / tip path_reveal
+: files_mameinfo
+: named files_mameinfo
+mameinfoTextField: named files_mameinfo
+buttonmameinfo: path_choose / named path_choose: files_mameinfo
+: named path_reveal: files_mameinfo / tip path_reveal)";
+
+constexpr const char* filesRows = R"(files_heading:
+files_explanation:
+files_snapshots: snapTextField buttonsnap
+files_titles: titlesnapTextField buttontitle
+files_flyers: flyerTextField buttonflayer
+: snapProposal
+---
+files_history: historyTextField buttonhistory
+files_mameinfo: mameinfoTextField buttonmameinfo)";
+
 // The pages of paths, shown before a scripted desktop.
 struct Room : test::Room {
     FilesPage files{defaults, chooser};
 
     Room()
     {
-        pages.setChooser(chooser);
         pages.general().show();
+    }
+    // The path on the general page whose field has that name.
+    PathField* path(const char* field)
+    {
+        QWidget* parent = test::control<QLineEdit>(pages, field)->parentWidget();
+        return qobject_cast<PathField*>(parent);
     }
     QString place(const QString& name)
     {
@@ -45,6 +90,14 @@ class FilesPageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void thePageSaysWhatItIsAbout()
+    {
+        Room room;
+        room.files.show();
+        QCOMPARE(test::wordsOf(room.files), QString::fromLatin1(filesWords).split(u'\n'));
+        QCOMPARE(test::rowsOf(room.files), QString::fromLatin1(filesRows).split(u'\n'));
+    }
+
     void everyPathIsChosenByItsButton()
     {
         Room room;
@@ -65,15 +118,15 @@ private Q_SLOTS:
     {
         Room room;
         for (const PathField* path : {room.files.snapPath, room.files.titlesnapPath, room.files.flyerPath,
-                                      room.pages.general().romsPath}) {
+                                      room.path("romsTextField")}) {
             path->revealButton()->click();
             QCOMPARE(room.desktop.takeTranscript(), QStringList("beep"));
             path->field()->setText(room.folder.path());
             path->revealButton()->click();
             QCOMPARE(room.desktop.takeTranscript(), QStringList("folder " + room.folder.path()));
         }
-        const std::array files{room.pages.general().exePath, room.pages.general().osxPath,
-                               room.pages.general().appPath, room.files.historyPath, room.files.mameinfoPath};
+        const std::array files{room.path("exeTextField"), room.path("osxTextField"),
+                               room.path("appTextField"), room.files.historyPath, room.files.mameinfoPath};
         const std::array keys{keys::ExecutionPath, keys::MameosxPath, keys::ApplicationPath,
                               keys::HistoryPath, keys::MameinfoPath};
         for (std::size_t i = 0; i < files.size(); ++i) {
@@ -112,44 +165,32 @@ private Q_SLOTS:
         Room room;
         const GeneralPage& general = room.pages.general();
         QVERIFY(general.romProposal->isHidden());
-        room.pages.general().proposeRomFolders({"/mame/roms", "/more"});
+        general.romProposal->setFolders({"/mame/roms", "/more"});
         QVERIFY(!general.romProposal->isHidden());
         general.romProposal->findChildren<QPushButton*>().at(1)->click();
         QCOMPARE(room.settings.string(keys::RomsPath.name), QStringLiteral("/more"));
         QVERIFY(general.romProposal->isHidden());
-        QVERIFY(!general.rompathNote->isHidden());
+        const auto* note = general.findChild<QLabel*>("rompathNote");
+        QVERIFY(!note->isHidden());
         general.romsTextField->clear();
         QVERIFY(!general.romProposal->isHidden());
-        QVERIFY(general.rompathNote->isHidden());
-    }
-
-    // The emulator may have answered before the page is first shown.
-    void romFoldersThatAreKnownEarlyAreProposedToo()
-    {
-        test::Room room;
-        room.pages.setChooser(room.chooser);
-        GeneralPage& general = room.pages.general();
-        general.proposeRomFolders({"/mame/roms"});
-        QVERIFY(general.romProposal == nullptr);
-        general.show();
-        QVERIFY(!general.romProposal->isHidden());
-        QCOMPARE(general.romProposal->findChildren<QPushButton*>().size(), 1);
+        QVERIFY(note->isHidden());
     }
 
     // A field that is being typed in does not follow its setting, but what is chosen for it.
     void whatIsChosenTakesThePlaceOfWhatIsTyped()
     {
         Room room;
-        room.pages.misc().show();
-        room.pages.effects().show();
+        test::pageOf(room.pages, Page::Misc).show();
+        test::pageOf(room.pages, Page::Effects).show();
         const GeneralPage& general = room.pages.general();
         const std::vector<std::pair<QLineEdit*, void (PathChooser::*)()>> choosers{
             {general.exeTextField, &PathChooser::exeSelect},
-            {general.osxTextField, &PathChooser::osxSelect},
-            {general.appTextField, &PathChooser::appSelect},
+            {test::control<QLineEdit>(room.pages, "osxTextField"), &PathChooser::osxSelect},
+            {test::control<QLineEdit>(room.pages, "appTextField"), &PathChooser::appSelect},
             {general.romsTextField, &PathChooser::romfolSelect},
-            {room.pages.misc().textfildPlayback, &PathChooser::playbackfileSelect},
-            {room.pages.effects().effectTextField, &PathChooser::effectfileSelect}};
+            {test::control<QLineEdit>(room.pages, "textfildPlayback"), &PathChooser::playbackfileSelect},
+            {test::control<QLineEdit>(room.pages, "effectTextField"), &PathChooser::effectfileSelect}};
         for (const auto& [field, select] : choosers) {
             field->window()->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(field->window()));
@@ -168,14 +209,12 @@ private Q_SLOTS:
         QVERIFY(blocked.open(QIODevice::WriteOnly));
         UserDefaults settings(folder.filePath("file/Tessera.ini"));
         DefaultsController defaults(settings);
-        LaunchPages pages(defaults, [] { return QString(); });
-        test::ScriptedDesktop desktop;
-        PathChooser chooser(desktop, defaults, pages);
-        QSignalSpy spy(&chooser, &PathChooser::statusMessage);
-        desktop.answerOpen("/a/mame");
-        chooser.exeSelect();
+        test::StagedPages staged(defaults);
+        QSignalSpy spy(&staged.chooser, &PathChooser::statusMessage);
+        staged.desktop.answerOpen("/a/mame");
+        staged.chooser.exeSelect();
         QCOMPARE(spy.size(), 1);
-        QCOMPARE(pages.general().exeTextField->text(), QStringLiteral("/a/mame"));
+        QCOMPARE(staged.pages.general().exeTextField->text(), QStringLiteral("/a/mame"));
     }
 
     void aModeWithoutAFolderBeeps()
@@ -183,7 +222,7 @@ private Q_SLOTS:
         Room room;
         room.defaults.setText(keys::MameosxPath, "");
         for (const int mode : {-1, 1}) {
-            room.pages.general().launchusingPop->setCurrentIndex(mode);
+            room.defaults.setIndex(keys::Launchgamesusing, mode);
             room.chooser.openCurrentdir();
             QCOMPARE(room.desktop.takeTranscript(), QStringList("beep"));
         }
@@ -193,9 +232,10 @@ private Q_SLOTS:
     void theRecordingRowsAreAligned()
     {
         Room room;
-        MiscPage& misc = room.pages.misc();
+        OptionPage& misc = test::pageOf(room.pages, Page::Misc);
         misc.show();
-        for (const QButtonGroup* matrix : {misc.recordMatrix, misc.replayMatrix}) {
+        for (const char* name : {"recordMatrix", "replayMatrix"}) {
+            const auto* matrix = misc.findChild<QButtonGroup*>(QLatin1String(name));
             QSet<int> widths;
             int widest = 0;
             for (const QAbstractButton* button : matrix->buttons()) {
