@@ -7,6 +7,7 @@
 #include "app/miniwindow.h"
 #include "app/preferenceswindow.h"
 #include "app/sidepanel.h"
+#include "app/statusline.h"
 #include "app/supportpage.h"
 #include "app/windows.h"
 #include "artwork/ui/aspectview.h"
@@ -42,15 +43,15 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
     m_aspect.setPopup(*pane.aspectPop);
     show(m_main, pane, list);
     m_main->setHeld(true);
-    connect(m_main.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
+    connect(m_main.get(), &SnapshotController::statusMessage, &m_parts.mainWindow, &MainWindow::showMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
-    connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::snap_change);
+    connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::showPictures);
     connect(&m_parts.paths, &PathChooser::chosen, this, &ArtworkDesk::pathChosen);
     connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &ArtworkDesk::addPage);
     connect(&m_preview, &PictureLoader::loaded, this,
             [this](const QString&, const QImage& image) { imageWindow().show(image, m_previewName); });
-    connect(&m_preview, &PictureLoader::failed, this,
-            [this](const QString&, const QString& reason) { Q_EMIT commandMessage(reason); });
+    connect(&m_preview, &PictureLoader::failed, &m_parts.status,
+            [this](const QString&, const QString& reason) { m_parts.status.answer(reason); });
 }
 
 ArtworkDesk::~ArtworkDesk() = default;
@@ -77,7 +78,7 @@ void ArtworkDesk::joinFavorites(FavoritesWindow& window)
     PicturePane& pane = *window.sidePanel->picturePane;
     m_aspect.addPopup(*pane.aspectPop);
     show(m_favorites, pane, favorites);
-    connect(m_favorites.get(), &SnapshotController::statusMessage, this, &ArtworkDesk::statusMessage);
+    connect(m_favorites.get(), &SnapshotController::statusMessage, &window, &FavoritesWindow::showMessage);
     connect(&favorites, &UCAppController::selectionChanged, m_favorites.get(),
             &SnapshotController::showSelection);
     m_favorites->showSelection();
@@ -88,7 +89,6 @@ void ArtworkDesk::joinMini(MiniWindow& window)
     connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
     window.shotTextField2->setText(m_folder.label());
     show(m_mini, *window.imageView, m_parts.mini);
-    // Its title's place is for its own game: of the hidden lists' pictures it says nothing.
     connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::showMessage);
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),
             &SnapshotController::showSelection);
@@ -117,6 +117,14 @@ void ArtworkDesk::snap_change()
     m_parts.favorites.controller().tableViewSelectionDidChange();
     if (m_mini)
         m_mini->showSelection();
+}
+
+void ArtworkDesk::showPictures()
+{
+    for (const Shown* shown : {&m_main, &m_favorites, &m_mini}) {
+        if (*shown)
+            (*shown)->showSelection();
+    }
 }
 
 void ArtworkDesk::snappreview()
@@ -196,7 +204,7 @@ DownloadProcessing& ArtworkDesk::download()
         m_download = std::make_unique<DownloadProcessing>(
             m_parts.desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
-        connect(m_download.get(), &DownloadProcessing::statusMessage, this, &ArtworkDesk::commandMessage);
+        connect(m_download.get(), &DownloadProcessing::statusMessage, &m_parts.status, &StatusLine::answer);
         connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
     }
     return *m_download;

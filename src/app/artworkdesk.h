@@ -29,6 +29,7 @@ class PicturePane;
 class PicturesPage;
 class PreferencesWindow;
 class SnapSites;
+class StatusLine;
 class Windows;
 
 /// Joins the pictures to the lists whose selection they follow, and to menus and preferences. Windows, page
@@ -48,6 +49,7 @@ public:
         MiniDesk& mini;
         PathChooser& paths;
         PreferencesWindow& preferences;
+        StatusLine& status;
     };
     explicit ArtworkDesk(const Parts& parts, QObject* parent = nullptr);
     ~ArtworkDesk() override;
@@ -73,7 +75,7 @@ public:
     void joinMini(MiniWindow& window);
 
 public Q_SLOTS:
-    /// The lists' selection handlers again.
+    /// The lists' selection handlers again: a download has ended.
     void snap_change();
     void snappreview();
     void imagepreview(const tessera::ImagePreview& preview);
@@ -85,12 +87,6 @@ public Q_SLOTS:
     void snapdownload2();
     void display_rom_Finder2();
     void display_image_Finder2();
-
-Q_SIGNALS:
-    /// About the pictures beside the lists.
-    void statusMessage(const QString& text);
-    /// About what was asked for, from whatever window.
-    void commandMessage(const QString& text);
 
 private:
     using Shown = std::unique_ptr<SnapshotController>;
@@ -104,6 +100,7 @@ private:
     void fillFolders(QMenu& menu);
     DownloadPanel& downloadPanel();
     void showDownload();
+    void showPictures();
 
     Parts m_parts;
     SnapFolder m_folder;

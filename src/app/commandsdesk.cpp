@@ -2,6 +2,7 @@
 
 #include "app/artworkdesk.h"
 #include "app/preferenceswindow.h"
+#include "app/statusline.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "core/atomicfile.h"
 #include "launch/profilecache.h"
@@ -58,7 +59,7 @@ void CommandsDesk::make()
     m_parts.logWindow.setCommands(m_bar);
     m_controller = std::make_unique<CommandController>(CommandParts{
         m_parts.desktop, *m_bar, m_parts.task, m_parts.runs, m_parts.launches, m_parts.paths, m_parts.list});
-    connect(m_controller.get(), &CommandController::statusMessage, this, &CommandsDesk::statusMessage);
+    connect(m_controller.get(), &CommandController::statusMessage, &m_parts.status, &StatusLine::say);
     for (QObject* stop : m_stops)
         m_controller->leaveOpen(*stop);
 }
@@ -119,14 +120,12 @@ void CommandsDesk::saveLauncher()
         = desktopEntry(title.isEmpty() ? game : title, QStringList{shown.executable} + shown.line.arguments,
                        QFileInfo(shown.executable).path(), m_parts.artwork.pictureFile());
     const std::string_view bytes(entry.constData(), static_cast<std::size_t>(entry.size()));
-    if (const auto written = writeAtomically(*path, std::array{bytes}); !written) {
-        Q_EMIT statusMessage(written.error().text());
-        return;
-    }
+    if (const auto written = writeAtomically(*path, std::array{bytes}); !written)
+        return m_parts.status.say(written.error().text());
     // Desktops start what may be executed.
     QFile file(*path);
     file.setPermissions(file.permissions() | QFileDevice::ExeOwner);
-    Q_EMIT statusMessage(qtTrId("launcher_saved").replace(QStringLiteral("%1"), *path));
+    m_parts.status.say(qtTrId("launcher_saved").replace(QStringLiteral("%1"), *path));
 }
 
 void CommandsDesk::addAudits(QMenu& menu)

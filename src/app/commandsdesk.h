@@ -23,6 +23,7 @@ class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
 class RunController;
+class StatusLine;
 
 /// Puts the emulator's commands into the log window and the menus. The controls are made when they are first
 /// asked for: a start of the program needs none of them.
@@ -43,6 +44,7 @@ public:
         GameListController& list;
         const ArtworkDesk& artwork;
         PreferencesWindow& preferences;
+        StatusLine& status;
     };
     /// The command line of the selected game stands at the preferences' foot.
     explicit CommandsDesk(const Parts& parts, QObject* parent = nullptr);
@@ -61,9 +63,6 @@ public Q_SLOTS:
     void showLine();
     /// Saves a desktop entry that starts the selected game as it would be started now.
     void saveLauncher();
-
-Q_SIGNALS:
-    void statusMessage(const QString& text);
 
 private:
     void make();

@@ -42,7 +42,6 @@ FavoritesDesk::FavoritesDesk(Parts parts, QObject* parent)
     , m_playing(m_played, m_parts.desktop, m_parts.defaults)
 {
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);
-    connect(&m_controller, &UCAppController::statusMessage, this, &FavoritesDesk::statusMessage);
     for (const auto& changed : {&Favourites::replaced, &Favourites::appended})
         connect(&m_favourites, changed, this, &FavoritesDesk::tellNames);
     connect(&m_favourites, &Favourites::removed, this, &FavoritesDesk::tellNames);
@@ -135,7 +134,6 @@ void FavoritesDesk::joinWindow()
     connect(&m_controller, &UCAppController::markChanged, window.factsPanel, &FactsPanel::showMark);
     connect(&m_controller, &UCAppController::unsavedChanged, &window, &FavoritesWindow::showUnsaved);
     connect(&m_controller, &UCAppController::countChanged, this, &FavoritesDesk::showCount);
-    connect(this, &FavoritesDesk::statusMessage, &window, &FavoritesWindow::showMessage);
     connect(window.playButton, &QPushButton::clicked, &m_controller,
             &UCAppController::tableViewDoubleAction2);
     connect(window.randomButton, &QToolButton::clicked, &m_controller, &UCAppController::gameShuffle2);

@@ -62,7 +62,6 @@ Q_SIGNALS:
     /// The empty window's button, or its own one: back to the game list.
     void mainWanted();
     void miniWanted();
-    void statusMessage(const QString& text);
     void windowMade(tessera::FavoritesWindow& window);
 
 private:

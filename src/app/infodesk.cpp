@@ -5,6 +5,7 @@
 #include "app/mainwindow.h"
 #include "app/minidesk.h"
 #include "app/preferenceswindow.h"
+#include "app/statusline.h"
 #include "app/supportpage.h"
 #include "app/windows.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -121,7 +122,7 @@ InfoSites& InfoDesk::sites()
 {
     if (!m_sites) {
         m_sites = std::make_unique<InfoSites>(m_parts.desktop, m_parts.defaults);
-        connect(m_sites.get(), &InfoSites::statusMessage, this, &InfoDesk::statusMessage);
+        connect(m_sites.get(), &InfoSites::statusMessage, &m_parts.status, &StatusLine::answer);
     }
     return *m_sites;
 }
@@ -186,8 +187,8 @@ void InfoDesk::show(const QString& name, const QString& key)
         showBesides(shown);
 }
 
-// Lists tell of their selection again where only its picture is another, and the hidden one of the two does
-// so too: neither is a step of the user's.
+// Lists tell of their selection again when their window is shown or a picture has come, and the hidden one
+// of the two does so too: neither is a step of the user's.
 void InfoDesk::follow(KeyWindow::Kind list)
 {
     const auto asked = std::ranges::find(m_subjects, list, &Subject::window);
@@ -218,7 +219,7 @@ void InfoDesk::openROMinfo2()
     const QString name = favorites.controller().tableViewSelectionROM2();
     const SiteChoice& choice = *favorites.window().siteChoice;
     if (const QString why = choice.hindrance(); !name.isEmpty() && !why.isEmpty())
-        Q_EMIT statusMessage(why);
+        m_parts.status.answer(why);
     const auto page = name.isEmpty() ? std::nullopt : choice.page(name);
     if (!page || !m_parts.desktop.openUrl(*page))
         m_parts.desktop.beep();

@@ -21,6 +21,7 @@ class MainWindow;
 class MiniDesk;
 class PathChooser;
 class PreferencesWindow;
+class StatusLine;
 class Windows;
 
 /// Which set is meant when its history or its page is asked for: one table of key windows. The window, its
@@ -40,6 +41,7 @@ public:
         MiniDesk& mini;
         PathChooser& paths;
         PreferencesWindow& preferences;
+        StatusLine& status;
     };
     explicit InfoDesk(const Parts& parts, QObject* parent = nullptr);
     ~InfoDesk() override;
@@ -58,9 +60,6 @@ public Q_SLOTS:
     void openROMinfo();
     /// The page of the selected favourite, by the favourites window's own choice of a site.
     void openROMinfo2();
-
-Q_SIGNALS:
-    void statusMessage(const QString& text);
 
 private:
     struct Subject {

@@ -31,7 +31,7 @@ Program::Program(const Ground& ground)
 {
     fillPreferences();
     joinMenus();
-    joinStatusLines();
+    joinStatusLine();
     joinLaunches();
     joinCatalogue();
     joinMainWindow();
@@ -76,22 +76,18 @@ void Program::joinMenus()
     artwork.addContextMenu(*mainWindow.gameTable);
 }
 
-void Program::joinStatusLines()
+void Program::joinStatusLine()
 {
-    const auto say = &MainWindow::showMessage;
-    connect(&saving, &CatalogueSaving::statusMessage, &mainWindow, say);
-    connect(&launches, &LaunchController::statusMessage, &mainWindow, say);
-    connect(&paths, &PathChooser::statusMessage, &mainWindow, say);
-    connect(&tableFont, &TableFont::statusMessage, &mainWindow, say);
-    connect(&rebuild, &CatalogueRebuild::statusMessage, &mainWindow, say);
-    // The favourites can be saved from any window.
-    connect(&favorites, &FavoritesDesk::statusMessage, &mainWindow, say);
-    connect(&commands, &CommandsDesk::statusMessage, &mainWindow, say);
-    connect(&info, &InfoDesk::statusMessage, &mainWindow, say);
-    connect(&artwork, &ArtworkDesk::statusMessage, &mainWindow, say);
-    connect(&artwork, &ArtworkDesk::commandMessage, &mainWindow, say);
-    connect(&utility, &UtilityDesk::statusMessage, &mainWindow, say);
-    connect(&utility, &UtilityDesk::statusWithdrawn, &mainWindow, &MainWindow::takeBack);
+    const auto say = &StatusLine::say;
+    connect(&saving, &CatalogueSaving::statusMessage, &status, say);
+    connect(&runs, &RunController::statusMessage, &status, say);
+    connect(&launches, &LaunchController::statusMessage, &status, say);
+    connect(&paths, &PathChooser::statusMessage, &status, say);
+    connect(&tableFont, &TableFont::statusMessage, &status, say);
+    connect(&rebuild, &CatalogueRebuild::statusMessage, &status, say);
+    connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
+    connect(&status, &StatusLine::said, &mainWindow, &MainWindow::showMessage);
+    connect(&status, &StatusLine::takenBack, &mainWindow, &MainWindow::takeBack);
 }
 
 void Program::joinLaunches()
@@ -155,11 +151,7 @@ void Program::joinSidePanel(SidePanel& panel)
 
 void Program::joinFavorites(FavoritesWindow& window)
 {
-    const auto say = &FavoritesWindow::showMessage;
-    connect(&launches, &LaunchController::statusMessage, &window, say);
-    connect(&info, &InfoDesk::statusMessage, &window, say);
-    connect(&artwork, &ArtworkDesk::statusMessage, &window, say);
-    connect(&artwork, &ArtworkDesk::commandMessage, &window, say);
+    connect(&status, &StatusLine::said, &window, &FavoritesWindow::showMessage);
     connect(&launches, &LaunchController::runningChanged, &window, [this, &window](bool running) {
         window.setRunning(running);
         if (running)
@@ -180,9 +172,7 @@ void Program::joinFavorites(FavoritesWindow& window)
 
 void Program::joinMini(MiniWindow& window)
 {
-    const auto say = &MiniWindow::showMessage;
-    connect(&info, &InfoDesk::statusMessage, &window, say);
-    connect(&artwork, &ArtworkDesk::commandMessage, &window, say);
+    connect(&status, &StatusLine::answered, &window, &MiniWindow::showMessage);
     artwork.joinMini(window);
     connect(&mini, &MiniDesk::mainWanted, &switching, &WindowSwitching::windowMain);
 }

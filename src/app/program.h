@@ -19,6 +19,7 @@
 #include "app/optionsdesk.h"
 #include "app/preferenceswindow.h"
 #include "app/settingsreset.h"
+#include "app/statusline.h"
 #include "app/utilitydesk.h"
 #include "app/windows.h"
 #include "app/windowswitching.h"
@@ -74,6 +75,7 @@ public:
 
     // Windows that are there from the beginning, and what is chosen in the preferences.
     CalmWheel calmWheel;
+    StatusLine status;
     MainWindow mainWindow{settings};
     Look look; ///< here it costs least: the main window takes it as a whole, the others when they are first
                ///< shown
@@ -118,14 +120,13 @@ public:
 
     // What is told of a game, and of the emulator.
     OptionsDesk options{{settings, emulatorChoice, pages, profiles, paths, preferences}};
-    ArtworkDesk artwork{
-        {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
-    InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences}};
+    ArtworkDesk artwork{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
+    InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
     BiosDesk bios{{windows, desktop, settings, emulatorChoice, gameList, biosFile()}};
     CommandsDesk commands{{desktop, settings, logWindow, task, runs, launches, profiles, paths, gameList,
-                           artwork, preferences}};
+                           artwork, preferences, status}};
     UtilityDesk utility{{desktop, settings, windows, catalogue, saving, rebuild, changes, commands, gameList,
-                         finding, opening, emulatorChoice, launches, favorites.controller()}};
+                         finding, opening, emulatorChoice, launches, favorites.controller(), status}};
 
     // Commands.
     SettingsReset reset{
@@ -149,7 +150,7 @@ private:
     std::vector<MenuRow> menuRows();
     void fillPreferences();
     void joinMenus();
-    void joinStatusLines();
+    void joinStatusLine();
     void joinLaunches();
     void joinCatalogue();
     void joinMainWindow();

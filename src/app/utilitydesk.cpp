@@ -5,6 +5,7 @@
 #include "app/commandsdesk.h"
 #include "app/finding.h"
 #include "app/opengame.h"
+#include "app/statusline.h"
 #include "app/windows.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/ui/cataloguesaving.h"
@@ -42,8 +43,8 @@ UtilityObject& UtilityDesk::utility()
             &CommandsDesk::saveLauncher);
     FavouritesTool* favourites = &m_utility->favourites();
     connect(&m_parts.finding, &Finding::changed, favourites, &FavouritesTool::showHidden);
-    connect(m_utility.get(), &UtilityObject::statusMessage, this, &UtilityDesk::statusMessage);
-    connect(m_utility.get(), &UtilityObject::statusWithdrawn, this, &UtilityDesk::statusWithdrawn);
+    connect(m_utility.get(), &UtilityObject::statusMessage, &m_parts.status, &StatusLine::say);
+    connect(m_utility.get(), &UtilityObject::statusWithdrawn, &m_parts.status, &StatusLine::takeBack);
     m_parts.windows.places().keep(window, keys::UtilityWindowGeometry);
     return *m_utility;
 }

@@ -20,6 +20,7 @@ class GameListController;
 class GameOpening;
 class EmulatorChoice;
 class LaunchController;
+class StatusLine;
 class UCAppController;
 class UtilityObject;
 class Windows;
@@ -46,6 +47,7 @@ public:
         EmulatorChoice& emulator;
         LaunchController& launches;
         UCAppController& favorites;
+        StatusLine& status;
     };
     explicit UtilityDesk(const Parts& parts, QObject* parent = nullptr);
     ~UtilityDesk() override;
@@ -58,8 +60,6 @@ public Q_SLOTS:
     void utilityOrderFront();
 
 Q_SIGNALS:
-    void statusMessage(const QString& text);
-    void statusWithdrawn(const QString& text);
 
 private:
     SelectedGame selectedGame() const override;

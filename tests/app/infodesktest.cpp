@@ -192,7 +192,7 @@ private Q_SLOTS:
         window.favoritesTable->selectRow(0);
         m_staged->desktop.takeTranscript();
         QStringList said;
-        connect(&m_staged->app->info(), &InfoDesk::statusMessage, this,
+        connect(&m_staged->app->program().status, &StatusLine::said, this,
                 [&said](const QString& text) { said << text; });
         // Only the third site has a host here; the fifth item has no address whatever its host.
         for (const int item : {0, 2, 5}) {

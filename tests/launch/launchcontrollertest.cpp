@@ -300,7 +300,7 @@ private Q_SLOTS:
     {
         Room room;
         room.desktop.windows = test::clickCloseButton;
-        QSignalSpy status(&room.controller, &LaunchController::statusMessage);
+        QSignalSpy status(&room.runs, &RunController::statusMessage);
         room.controller.Launchusing("windowed");
         QVERIFY(room.waitForText("ready"));
         room.running.clear();
@@ -443,7 +443,7 @@ private Q_SLOTS:
         QVERIFY(QDir(room.folder.path()).mkdir("folder"));
         QVERIFY(room.settings.synchronize());
         room.defaults.setText(keys::ExecutionPath, room.folder.filePath(name));
-        QSignalSpy status(&room.controller, &LaunchController::statusMessage);
+        QSignalSpy status(&room.runs, &RunController::statusMessage);
         QVERIFY(room.launch("pong"));
         QVERIFY(room.text().startsWith(header.arg("pong") + "launch_notstarted"));
         QVERIFY(status.last().first().toString().contains("launch_notstarted"));

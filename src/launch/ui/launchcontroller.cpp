@@ -30,7 +30,6 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     , m_parts(std::move(parts))
 {
     connect(&m_parts.runs, &RunController::runningChanged, this, &LaunchController::runningChanged);
-    connect(&m_parts.runs, &RunController::statusMessage, this, &LaunchController::statusMessage);
     // After the runs have told the end.
     connect(&m_parts.task, &EmulatorTask::stopped, this, &LaunchController::launchNext);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
