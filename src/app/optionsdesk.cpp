@@ -1,7 +1,11 @@
 #include "app/optionsdesk.h"
 
+#include "app/languagechoice.h"
 #include "app/preferenceswindow.h"
 #include "app/supportpage.h"
+#include "catalogue/ui/appearancepage.h"
+#include "catalogue/ui/rowcolors.h"
+#include "catalogue/ui/tablefont.h"
 #include "launch/emulatorprofile.h"
 #include "launch/profilecache.h"
 #include "launch/emulatorchoice.h"
@@ -44,6 +48,7 @@ void OptionsDesk::addPages()
         return;
     for (OptionPage* page : m_parts.pages.all())
         m_parts.preferences.addPage(page->identifier(), page);
+    addAppearance();
     m_files = new FilesPage(m_parts.defaults, m_parts.paths);
     m_parts.preferences.supportPage().addPage(qtTrId("support_files"), m_files);
     const auto follow = [this] {
@@ -56,6 +61,18 @@ void OptionsDesk::addPages()
     connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, follow);
     // Not at every key: half a path may be another program's.
     connect(m_parts.pages.general().exeTextField, &QLineEdit::editingFinished, this, follow);
+}
+
+void OptionsDesk::addAppearance()
+{
+    auto* page = new AppearancePage(m_parts.defaults);
+    m_parts.font.setPage(*page);
+    new RowColors(m_parts.desktop, m_parts.defaults, *page, page);
+    page->addLine();
+    page->addRow(qtTrId("appearance_language"), new LanguageChoice(m_parts.defaults, page));
+    page->addNote(qtTrId("appearance_language_note"));
+    page->addStretch();
+    m_parts.preferences.addPage(QStringLiteral("appearance"), page);
 }
 
 // The profile is the command-line emulator's; the other modes start something else.

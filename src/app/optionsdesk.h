@@ -7,6 +7,7 @@
 namespace tessera {
 
 class DefaultsController;
+class Desktop;
 class EmulatorChoice;
 class EmulatorProfile;
 class FilesPage;
@@ -14,18 +15,21 @@ class LaunchPages;
 class PathChooser;
 class PreferencesWindow;
 class ProfileCache;
+class TableFont;
 
-/// What the preferences show of the emulator in use: options that it does not know, values that it takes
-/// besides, and where it looks for ROMs. Nothing of it is asked or made before they are shown.
+/// Fills the preferences when they are first shown, and shows in them what the emulator in use says of itself:
+/// options that it does not know, values that it takes besides, and where it looks for ROMs.
 class OptionsDesk : public QObject
 {
     Q_OBJECT
 
 public:
     struct Parts {
+        Desktop& desktop;
         DefaultsController& defaults;
         EmulatorChoice& emulator;
         LaunchPages& pages;
+        TableFont& font;
         ProfileCache& profiles;
         PathChooser& paths;
         PreferencesWindow& preferences;
@@ -34,6 +38,7 @@ public:
 
 private:
     void addPages();
+    void addAppearance();
     void show();
     void proposeFolders(const QStringList& roms, const QStringList& snapshots);
 

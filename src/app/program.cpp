@@ -29,7 +29,6 @@ Program::Program(const Ground& ground)
     , recent(ground.recent)
     , catalogue(ground.catalogue)
 {
-    fillPreferences();
     joinMenus();
     joinStatusLine();
     joinLaunches();
@@ -53,12 +52,6 @@ HelpWindow& Program::help()
         windows.places().keep(*m_help, keys::HelpWindowGeometry);
     }
     return *m_help;
-}
-
-void Program::fillPreferences()
-{
-    preferences.addPage(QStringLiteral("appearance"), &appearance);
-    connect(preferences.resetButton, &QPushButton::clicked, &reset, &SettingsReset::resetSettings);
 }
 
 void Program::joinMenus()
@@ -124,6 +117,7 @@ void Program::joinCatalogue()
 void Program::joinMainWindow()
 {
     const auto pressed = &QAbstractButton::clicked;
+    connect(preferences.resetButton, pressed, &reset, &SettingsReset::resetSettings);
     windows.watch(mainWindow, KeyWindow::Kind::Main);
     windows.openDropped(mainWindow);
     connect(&mainWindow, &MainWindow::closeRequested, this, &Program::quitRequested);

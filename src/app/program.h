@@ -24,11 +24,9 @@
 #include "app/windows.h"
 #include "app/windowswitching.h"
 #include "catalogue/catalogue.h"
-#include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/cataloguesaving.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/recordediting.h"
-#include "catalogue/ui/rowcolors.h"
 #include "catalogue/ui/tablefont.h"
 #include "launch/emulatorchoice.h"
 #include "launch/emulatortask.h"
@@ -85,9 +83,7 @@ public:
     EmulatorChoice emulatorChoice{settings};
     PathChooser paths{desktop, settings, emulatorChoice};
     LaunchPages pages{settings, emulatorChoice, paths};
-    AppearancePage& appearance = *new AppearancePage(settings); ///< the preferences' own
-    TableFont tableFont{desktop, settings, appearance};
-    RowColors rowColors{desktop, settings, appearance};
+    TableFont tableFont{desktop, settings};
 
     // The game list, and what finds and changes its records.
     GameListController gameList{catalogue, desktop, settings, mainWindow.gameTable};
@@ -119,7 +115,7 @@ public:
         {mainWindow, catalogue, settings, gameList, finding, launches, emulatorChoice, rebuild}};
 
     // What is told of a game, and of the emulator.
-    OptionsDesk options{{settings, emulatorChoice, pages, profiles, paths, preferences}};
+    OptionsDesk options{{desktop, settings, emulatorChoice, pages, tableFont, profiles, paths, preferences}};
     ArtworkDesk artwork{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
     InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
     BiosDesk bios{{windows, desktop, settings, emulatorChoice, gameList, biosFile()}};
@@ -148,7 +144,6 @@ private:
     QString biosFile() const;
     std::vector<KeyCommands::Row> keyTable();
     std::vector<MenuRow> menuRows();
-    void fillPreferences();
     void joinMenus();
     void joinStatusLine();
     void joinLaunches();

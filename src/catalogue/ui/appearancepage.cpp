@@ -7,7 +7,6 @@
 #include "widgets/theme.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,16 +22,6 @@ namespace {
 constexpr int sizeFieldWidth = 56;
 constexpr QSize buttonSize(32, 30);
 
-struct Language {
-    const char* code;
-    const char* name; ///< in itself; nullptr is the language of the system
-};
-
-constexpr std::array languages{
-    Language{"", nullptr},
-    Language{"en", "English"},
-    Language{"ja", "日本語"},
-};
 
 QWidget* beside(const QList<QWidget*>& controls, bool firstGrows, QWidget* parent)
 {
@@ -101,13 +90,10 @@ AppearancePage::AppearancePage(DefaultsController& defaults, QWidget* parent)
     , initialColorButton(makeButton("revert", qtTrId("appearance_initialcolor"), "initialColorButton"))
     , textColorWell2(makeWell(qtTrId("appearance_color2"), "textColorWell2"))
     , initialColorButton2(makeButton("revert", qtTrId("appearance_initialcolor2"), "initialColorButton2"))
-    , languagePop(new QComboBox(this))
     , m_defaults(defaults)
     , m_colors(defaults.stored())
 {
     coloringBox->setObjectName(QStringLiteral("coloringBox"));
-    languagePop->setObjectName(QStringLiteral("languagePop"));
-    languagePop->setAccessibleName(qtTrId("appearance_language"));
     layOut();
     bindControls(defaults);
 }
@@ -144,13 +130,6 @@ void AppearancePage::layOut()
     addRow(qtTrId("appearance_color"), beside({textColorWell, initialColorButton}, false, this));
     addRow(qtTrId("appearance_color2"), beside({textColorWell2, initialColorButton2}, false, this));
     addNote(qtTrId("appearance_note"));
-    addLine();
-    for (const Language& language : languages)
-        languagePop->addItem(language.name != nullptr ? QString::fromUtf8(language.name)
-                                                      : qtTrId("appearance_language_system"));
-    addRow(qtTrId("appearance_language"), languagePop);
-    addNote(qtTrId("appearance_language_note"));
-    addStretch();
 }
 
 void AppearancePage::bindControls(DefaultsController& defaults)
@@ -160,29 +139,8 @@ void AppearancePage::bindControls(DefaultsController& defaults)
     bind(*coloringBox, defaults, keys::GamelistColoring);
     connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showFonts);
     connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showColors);
-    connect(&defaults, &DefaultsController::changed, this, &AppearancePage::showLanguage);
-    connect(languagePop, &QComboBox::activated, this, &AppearancePage::storeLanguage);
     showFonts();
     showColors();
-    showLanguage();
-}
-
-void AppearancePage::showLanguage()
-{
-    const QString stored = m_defaults.stored().string(keys::Language.name);
-    const auto chosen = std::ranges::find(
-        languages, stored, [](const Language& each) { return QString::fromLatin1(each.code); });
-    languagePop->setCurrentIndex(chosen == languages.end() ? 0
-                                                           : static_cast<int>(chosen - languages.begin()));
-}
-
-void AppearancePage::storeLanguage(int position)
-{
-    if (position == 0)
-        m_defaults.forget(keys::Language);
-    else
-        m_defaults.keep(keys::Language,
-                        QString::fromLatin1(languages[static_cast<std::size_t>(position)].code));
 }
 
 void AppearancePage::showFonts()

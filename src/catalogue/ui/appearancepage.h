@@ -4,7 +4,6 @@
 #include "widgets/formpage.h"
 
 class QCheckBox;
-class QComboBox;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -14,7 +13,7 @@ namespace tessera {
 class ColorWell;
 class DefaultsController;
 
-/// How the lists look: the fonts of their rows and their colours; and the language of the windows.
+/// How the lists look: the fonts of their rows and their colours.
 class AppearancePage : public FormPage
 {
     Q_OBJECT
@@ -34,7 +33,6 @@ public:
     QToolButton* initialColorButton;
     ColorWell* textColorWell2;
     QToolButton* initialColorButton2;
-    QComboBox* languagePop;
 
 private:
     void layOut();
@@ -43,8 +41,6 @@ private:
     ColorWell* makeWell(const QString& name, const char* objectName);
     void showFonts();
     void showColors();
-    void showLanguage();
-    void storeLanguage(int position);
 
     DefaultsController& m_defaults;
     ColorTransformer m_colors;

@@ -21,20 +21,23 @@ namespace {
 constexpr double rowHeightOfSize = 1.5;
 }
 
-TableFont::TableFont(Desktop& desktop, DefaultsController& defaults, AppearancePage& page, QObject* parent)
+TableFont::TableFont(Desktop& desktop, DefaultsController& defaults, QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_defaults(defaults)
-    , m_page(page)
+{
+    connect(&defaults, &DefaultsController::changed, this, &TableFont::settingChanged);
+}
+
+TableFont::~TableFont() = default;
+
+void TableFont::setPage(const AppearancePage& page)
 {
     connect(page.biggerButton, &QToolButton::clicked, this, &TableFont::makeTextBigger);
     connect(page.smallerButton, &QToolButton::clicked, this, &TableFont::makeTextSmaller);
     connect(page.fontButton, &QPushButton::clicked, this, &TableFont::showFontPanel1);
     connect(page.favoriteFontButton, &QPushButton::clicked, this, &TableFont::showFontPanel2);
-    connect(&defaults, &DefaultsController::changed, this, &TableFont::settingChanged);
 }
-
-TableFont::~TableFont() = default;
 
 // The limits differ: each way is open from where the other one can lead.
 void TableFont::makeTextBigger()
@@ -49,7 +52,7 @@ void TableFont::makeTextSmaller()
 
 void TableFont::step(int by, int smallest, int largest)
 {
-    const double shown = std::trunc(m_page.fontSizeField->text().toDouble());
+    const double shown = std::trunc(m_defaults.text(keys::fontSize).toDouble());
     if (!(shown >= smallest && shown <= largest)) {
         m_desktop.beep();
         return;

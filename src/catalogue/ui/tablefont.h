@@ -20,9 +20,11 @@ class TableFont : public QObject
     Q_OBJECT
 
 public:
-    TableFont(Desktop& desktop, DefaultsController& defaults, AppearancePage& page,
-              QObject* parent = nullptr);
+    TableFont(Desktop& desktop, DefaultsController& defaults, QObject* parent = nullptr);
     ~TableFont() override;
+
+    /// Whose buttons run the commands.
+    void setPage(const AppearancePage& page);
 
     /// The font panel's controls that a table's font takes: all but the size.
     FontPanel::Modes validModesForFontPanel() const;
@@ -49,7 +51,6 @@ private:
 
     Desktop& m_desktop;
     DefaultsController& m_defaults;
-    AppearancePage& m_page;
     std::unique_ptr<FontPanel> m_panel;
     const keys::Text* m_chosen = &keys::TablefontName; ///< what is chosen in the panel
 };

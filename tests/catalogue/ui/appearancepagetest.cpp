@@ -86,17 +86,6 @@ private Q_SLOTS:
         QCOMPARE(at.page.textColorWell2->color(), QColor(0, 0, 2));
     }
 
-    void theStoredLanguageIsShown()
-    {
-        StagedPage at;
-        at.defaults.setValue(keys::Language.name, QStringLiteral("en"));
-        Q_EMIT at.controller.changed(QString());
-        QCOMPARE(at.page.languagePop->currentIndex(), 1);
-        at.page.languagePop->setCurrentIndex(1);
-        Q_EMIT at.page.languagePop->activated(1);
-        QCOMPARE(at.defaults.string(keys::Language.name), QStringLiteral("en"));
-    }
-
     void theButtonsAreAllAlike()
     {
         StagedPage at;
@@ -129,7 +118,6 @@ private Q_SLOTS:
             at.page.favoriteFontButton, at.page.fontSizeField,  at.page.smallerButton,
             at.page.biggerButton,       at.page.coloringBox,    at.page.textColorWell,
             at.page.initialColorButton, at.page.textColorWell2, at.page.initialColorButton2,
-            at.page.languagePop,
         };
         for (QWidget* control : controls) {
             const QString name = QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
@@ -138,27 +126,6 @@ private Q_SLOTS:
             QVERIFY(!control->objectName().isEmpty());
             QVERIFY2(control->focusPolicy() & Qt::TabFocus, qPrintable(control->objectName()));
         }
-    }
-
-    void theLanguageIsStoredByItsCode()
-    {
-        StagedPage at;
-        QComboBox& pop = *at.page.languagePop;
-        QCOMPARE(pop.currentIndex(), 0);
-        pop.setCurrentIndex(2);
-        Q_EMIT pop.activated(2);
-        QCOMPARE(at.defaults.string(keys::Language.name), QStringLiteral("ja"));
-        pop.setCurrentIndex(0);
-        Q_EMIT pop.activated(0);
-        QVERIFY(!at.defaults.value(keys::Language.name));
-    }
-
-    void aLanguageThatIsNotThereIsTheSystems()
-    {
-        StagedPage at;
-        at.defaults.setValue(keys::Language.name, QStringLiteral("xx"));
-        Q_EMIT at.controller.changed(QString());
-        QCOMPARE(at.page.languagePop->currentIndex(), 0);
     }
 
     void tabGoesThroughThePageInItsOrder()

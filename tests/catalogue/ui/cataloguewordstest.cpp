@@ -53,7 +53,6 @@ private Q_SLOTS:
             test::wordsOf(at.page),
             QStringList(
                 {"coloringBox: appearance_coloring",
-                 "languagePop: appearance_language_system / English / 日本語 / named appearance_language",
                  ": named appearance_font",
                  "fontSampleField: named appearance_font",
                  "fontButton: appearance_choosefont / named appearance_font – appearance_choosefont",
@@ -77,9 +76,7 @@ private Q_SLOTS:
                  "textColorWell2: named appearance_color2 / tip #80e6e6e6",
                  "initialColorButton2: named appearance_initialcolor2 / tip appearance_initialcolor2",
                  ": appearance_color2",
-                 ": appearance_note",
-                 ": appearance_language / for languagePop",
-                 ": appearance_language_note"}));
+                 ": appearance_note"}));
     }
 
     void theFilterPanelSaysWhatItIsAbout()

@@ -61,8 +61,7 @@ private Q_SLOTS:
                          "appearance_favoritefont: favoriteFontField favoriteFontButton",
                          "appearance_size: fontSizeField smallerButton biggerButton", "---",
                          "appearance_rows: coloringBox", "appearance_color: textColorWell initialColorButton",
-                         "appearance_color2: textColorWell2 initialColorButton2", "appearance_note:", "---",
-                         "appearance_language: languagePop", "appearance_language_note:"}));
+                         "appearance_color2: textColorWell2 initialColorButton2", "appearance_note:"}));
     }
 
     // What is long has the width of the page; what is short leaves it.

@@ -18,6 +18,7 @@ public:
     explicit StagedPage(const QVariant& fontSize = QVariant())
         : page(prepared(fontSize))
     {
+        font.setPage(page);
     }
 
     QTemporaryDir folder;
@@ -25,7 +26,7 @@ public:
     UserDefaults defaults{folder.filePath(QStringLiteral("settings.ini"))};
     DefaultsController controller{defaults};
     AppearancePage page;
-    TableFont font{desktop, controller, page};
+    TableFont font{desktop, controller};
     RowColors colors{desktop, controller, page};
 
 private:

@@ -206,7 +206,7 @@ private Q_SLOTS:
         controller.setInitialValues(QStringLiteral("DejaVu Sans"), QString());
         AppearancePage page(controller);
         test::ScriptedDesktop desktop;
-        TableFont font(desktop, controller, page);
+        TableFont font(desktop, controller);
         QSignalSpy said(&font, &TableFont::statusMessage);
         chooseFamily(font.fontPanel(), QStringLiteral("DejaVu Serif"));
         QCOMPARE(said.count(), 1);
