@@ -38,7 +38,7 @@ FavoritesDesk::FavoritesDesk(Parts parts, QObject* parent)
     , m_played(playedPath(m_favourites.path()))
     , m_controller({m_parts.desktop, m_parts.defaults, m_favourites, m_played, m_parts.catalogue,
                     [this] { return m_parts.list.selectedRecord(); }})
-    , m_editing(m_favourites, m_controller, m_parts.commandLine)
+    , m_editing(m_favourites, m_controller)
     , m_playing(m_played, m_parts.desktop, m_parts.defaults)
 {
     connect(&m_controller, &UCAppController::launchRequested, this, &FavoritesDesk::launchRequested);

@@ -8,7 +8,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
 
 namespace tessera {
@@ -38,8 +37,6 @@ public:
         Finding& finding;
         ProfileCache& profiles;
         const EmulatorChoice& emulator;
-        /// A set's whole command line with its options. (Launches ask the favourites for those in turn.)
-        std::function<QString(const QString& name)> commandLine;
     };
     explicit FavoritesDesk(Parts parts, QObject* parent = nullptr);
     ~FavoritesDesk() override;

@@ -17,12 +17,12 @@ namespace {
 
 constexpr PathRow snapRow{textKey("files_snapshots"), "snapTextField", "buttonsnap", keys::SnapPath,
                           &PathChooser::selectSnapfolder};
-constexpr PathRow titleRow{textKey("files_titles"), "titlesnapTextField", "buttontitle",
-                           keys::TitlesnapPath, &PathChooser::selectTitlefolder};
+constexpr PathRow titleRow{textKey("files_titles"), "titlesnapTextField", "buttontitle", keys::TitlesnapPath,
+                           &PathChooser::selectTitlefolder};
 constexpr PathRow flyerRow{textKey("files_flyers"), "flyerTextField", "buttonflayer", keys::GameflyersPath,
                            &PathChooser::selectFryerfolder};
-constexpr PathRow historyRow{textKey("files_history"), "historyTextField", "buttonhistory",
-                             keys::HistoryPath, &PathChooser::selectHistorybat};
+constexpr PathRow historyRow{textKey("files_history"), "historyTextField", "buttonhistory", keys::HistoryPath,
+                             &PathChooser::selectHistorybat};
 constexpr PathRow mameinfoRow{textKey("files_mameinfo"), "mameinfoTextField", "buttonmameinfo",
                               keys::MameinfoPath, &PathChooser::selectMameinfobat};
 

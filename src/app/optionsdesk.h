@@ -17,8 +17,8 @@ class PreferencesWindow;
 class ProfileCache;
 class TableFont;
 
-/// Fills the preferences when they are first shown, and shows in them what the emulator in use says of itself:
-/// options that it does not know, values that it takes besides, and where it looks for ROMs.
+/// Fills the preferences when they are first shown, and shows in them what the emulator in use says of
+/// itself: options that it does not know, values that it takes besides, and where it looks for ROMs.
 class OptionsDesk : public QObject
 {
     Q_OBJECT

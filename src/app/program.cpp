@@ -8,6 +8,7 @@
 #include "app/miniwindow.h"
 #include "app/sidepanel.h"
 #include "catalogue/ui/factspanel.h"
+#include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
 #include "widgets/theme.h"
 
@@ -89,6 +90,10 @@ void Program::joinLaunches()
     connect(&favorites, &FavoritesDesk::launchRequested, &launches, &LaunchController::Launchusing);
     connect(&mini, &MiniDesk::launchRequested, &launches, &LaunchController::runGame);
     connect(&keys, &KeyCommands::runRequested, &launches, &LaunchController::runGame);
+    connect(&favorites.editing(), &FavouriteEditing::commandWanted, &launches,
+            [this](FavouriteEditor& editor, const QString& name) {
+                editor.showCommand(launches.shownCommandLine(name));
+            });
     connect(&runs, &RunController::started, &favorites.played(), &PlayedController::notePlayed);
     connect(&launches, &LaunchController::handedOver, &favorites.played(), &PlayedController::notePlayed);
     connect(&launches, &LaunchController::launchModeChanged, &mainWindow, &MainWindow::Setwindowtitle);

@@ -93,9 +93,8 @@ public:
     CatalogueSaving saving{catalogue, desktop, gameList, editing};
 
     // Favourites, and the launches that heed their options.
-    FavoritesDesk favorites{{windows, desktop, settings, catalogue, gameList, finding, profiles,
-                             emulatorChoice,
-                             [this](const QString& name) { return launches.shownCommandLine(name); }}};
+    FavoritesDesk favorites{
+        {windows, desktop, settings, catalogue, gameList, finding, profiles, emulatorChoice}};
     EmulatorTask task{desktop};
     RunController runs{desktop, settings, logWindow, task};
     LaunchController launches{
@@ -116,8 +115,10 @@ public:
 
     // What is told of a game, and of the emulator.
     OptionsDesk options{{desktop, settings, emulatorChoice, pages, tableFont, profiles, paths, preferences}};
-    ArtworkDesk artwork{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
-    InfoDesk info{{windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
+    ArtworkDesk artwork{
+        {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
+    InfoDesk info{
+        {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
     BiosDesk bios{{windows, desktop, settings, emulatorChoice, gameList, biosFile()}};
     CommandsDesk commands{{desktop, settings, logWindow, task, runs, launches, profiles, paths, gameList,
                            artwork, preferences, status}};

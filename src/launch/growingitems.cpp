@@ -49,8 +49,9 @@ void keepTitles(DefaultsController& defaults, const GrowingItems& items, const Q
 
 int positionOf(const DefaultsController& defaults, const GrowingItems& items, const QString& title)
 {
-    const auto shipped = std::ranges::find_if(
-        items.shipped, [&](const PopupItem& item) { return item.title && title == QLatin1String(item.title); });
+    const auto shipped = std::ranges::find_if(items.shipped, [&](const PopupItem& item) {
+        return item.title && title == QLatin1String(item.title);
+    });
     const auto position = static_cast<int>(shipped - items.shipped.begin());
     if (shipped != items.shipped.end())
         return position;

@@ -16,7 +16,10 @@ struct PopupItem {
     const char* title = nullptr;
     const char* labelKey = nullptr;
 
-    QString shown() const { return title ? QString::fromLatin1(title) : labelKey ? qtTrId(labelKey) : QString(); }
+    QString shown() const
+    {
+        return title ? QString::fromLatin1(title) : labelKey ? qtTrId(labelKey) : QString();
+    }
 };
 
 inline constexpr PopupItem popupSeparator{};

@@ -65,10 +65,7 @@ files_mameinfo: mameinfoTextField buttonmameinfo)";
 struct Room : test::Room {
     FilesPage files{defaults, chooser};
 
-    Room()
-    {
-        pages.general().show();
-    }
+    Room() { pages.general().show(); }
     // The path on the general page whose field has that name.
     PathField* path(const char* field)
     {

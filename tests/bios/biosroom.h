@@ -35,8 +35,8 @@ struct BiosRoom {
     {
         list.reset();
         panel = std::make_unique<BiosPanel>();
-        list = std::make_unique<Bioslist>(BiosParts{desktop, defaults, *panel, undo, ownFile(),
-                                                    [this] { return emulator; }, selection});
+        list = std::make_unique<Bioslist>(
+            BiosParts{desktop, defaults, *panel, undo, ownFile(), [this] { return emulator; }, selection});
         list->awakeFromNib();
     }
 

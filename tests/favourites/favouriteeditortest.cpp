@@ -24,11 +24,12 @@ private Q_SLOTS:
         m_staged = std::make_unique<StagedFavourites>();
         m_staged->writeFile(entryText("a", "A", "-cheat") + entryText("b", "B"));
         m_staged->start();
-        m_editing = std::make_unique<FavouriteEditing>(
-            m_staged->favourites, *m_staged->controller, [this](const QString& name) -> QString {
-                return QStringLiteral("mame ") + name + QStringLiteral(" ")
-                    + m_staged->controller->search_priorityOption(name);
-            });
+        m_editing = std::make_unique<FavouriteEditing>(m_staged->favourites, *m_staged->controller);
+        connect(m_editing.get(), &FavouriteEditing::commandWanted, this,
+                [this](FavouriteEditor& editor, const QString& name) {
+                    editor.showCommand("mame " + name + ' '
+                                       + m_staged->controller->search_priorityOption(name));
+                });
         m_editor = &m_editing->editor();
         m_editing->editRecord();
         QVERIFY(QTest::qWaitForWindowActive(m_editor));

@@ -27,9 +27,9 @@ private Q_SLOTS:
         m_staged->writeFile(entryText("a", "A &amp; &lt;b&gt;", "-cheat") + entryText("b", "B")
                             + entryText("c", "C"));
         m_staged->start();
-        m_editing = std::make_unique<FavouriteEditing>(
-            m_staged->favourites, *m_staged->controller,
-            [](const QString& name) -> QString { return QStringLiteral("mame <b>") + name; });
+        m_editing = std::make_unique<FavouriteEditing>(m_staged->favourites, *m_staged->controller);
+        connect(m_editing.get(), &FavouriteEditing::commandWanted, this,
+                [](FavouriteEditor& editor, const QString& name) { editor.showCommand("mame <b>" + name); });
     }
 
     void cleanup()

@@ -110,8 +110,7 @@ private Q_SLOTS:
 
         // Another emulator has others, or none at all.
         offer({"d3d", "metal"});
-        QCOMPARE(itemsOf(*driver()),
-                 shipped + QStringList({"vulkan", "metal", "d3d"}));
+        QCOMPARE(itemsOf(*driver()), shipped + QStringList({"vulkan", "metal", "d3d"}));
         QCOMPARE(driver()->currentText(), QStringLiteral("metal"));
 
         restart();
@@ -123,8 +122,7 @@ private Q_SLOTS:
         choose(*driver(), "vulkan");
         QCOMPARE(restart()->currentText(), QStringLiteral("vulkan"));
         QCOMPARE(m_defaults->index(keys::Videodriver), 5);
-        QCOMPARE(itemsOf(*driver()),
-                 shipped + QStringList({"vulkan", "metal", "d3d"}));
+        QCOMPARE(itemsOf(*driver()), shipped + QStringList({"vulkan", "metal", "d3d"}));
     }
 
     void keptValuesOutlastTheReset()

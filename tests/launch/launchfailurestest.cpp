@@ -42,8 +42,7 @@ private Q_SLOTS:
         test::Grandchild grandchild;
         Room room;
         QStringList said;
-        connect(&room.runs, &RunController::statusMessage, this,
-                [&](const QString& text) { said << text; });
+        connect(&room.runs, &RunController::statusMessage, this, [&](const QString& text) { said << text; });
         if (status != 0)
             room.desktop.answerAlert(QStringLiteral("errerAlert %1").arg(status), 0);
         QVERIFY(room.launch(game));

@@ -184,8 +184,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         const auto shown = stage();
-        const std::array fields{test::control<QLineEdit>(shown->pages, "beemTextField"), test::control<QLineEdit>(shown->pages, "flickerTextField"),
-                                test::control<QLineEdit>(shown->pages, "soundvolumetextField"), test::control<QLineEdit>(shown->pages, "soundlatencytextField")};
+        const std::array fields{test::control<QLineEdit>(shown->pages, "beemTextField"),
+                                test::control<QLineEdit>(shown->pages, "flickerTextField"),
+                                test::control<QLineEdit>(shown->pages, "soundvolumetextField"),
+                                test::control<QLineEdit>(shown->pages, "soundlatencytextField")};
         for (QLineEdit* field : fields) {
             field->selectAll();
             QTest::keyClicks(field, typed);

@@ -41,7 +41,8 @@ struct Room {
     QHash<QString, QString> favourites;
     ChosenGame selected{SelectedGame{QStringLiteral("sel"), QStringLiteral("Title"), QStringLiteral("題")}};
     RunController runs{desktop, defaults, log, task};
-    LaunchController controller{LaunchParts{desktop, defaults, choice, pages, chooser, task, runs, profiles, selected,
+    LaunchController controller{LaunchParts{desktop, defaults, choice, pages, chooser, task, runs, profiles,
+                                            selected,
                                             [this](const QString& name) { return favourites.value(name); }}};
     QSignalSpy running{&controller, &LaunchController::runningChanged};
 

@@ -33,7 +33,8 @@ struct Room {
     Room()
     {
         defaults.setInitialValues(QStringLiteral("Sans"), QStringLiteral("/home/me"));
-        emulator = std::make_unique<EmulatorChoice>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
+        emulator
+            = std::make_unique<EmulatorChoice>(defaults, [] { return QStringLiteral("/usr/games/mame"); });
         chooser = std::make_unique<PathChooser>(desktop, defaults, *emulator);
         pages = std::make_unique<LaunchPages>(defaults, *emulator, *chooser);
     }
@@ -175,10 +176,12 @@ private Q_SLOTS:
         Room room;
         room.desktop.answerOpen("/Apps/mame/inp/game1.inp");
         room.chooser->playbackfileSelect();
-        QCOMPARE(test::control<QLineEdit>(*room.pages, "textfildPlayback")->text(), QStringLiteral("game1.inp"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "textfildPlayback")->text(),
+                 QStringLiteral("game1.inp"));
         room.desktop.answerOpen("/Apps/mame/artwork/scan.png");
         room.chooser->effectfileSelect();
-        QCOMPARE(test::control<QLineEdit>(*room.pages, "effectTextField")->text(), QStringLiteral("scan.png"));
+        QCOMPARE(test::control<QLineEdit>(*room.pages, "effectTextField")->text(),
+                 QStringLiteral("scan.png"));
     }
 
     void anEmulatorInAPathWithABlankGivesNoStartingPlace()

@@ -45,7 +45,9 @@ private Q_SLOTS:
             {"log_off", "---", "log_emulators", "log_file", "log_verbose", "log_debugger", "log_system"});
         row("record names", recordNames, {"recordname_short", "recordname_title", "recordname_titlejp"});
         row("BIOS", biosSets,
-            {"bios_none", "euro", "us", "japan", "japan-s2", "unibios40", "unibios33", "unibios23", "v2", "v1", "jp", "a", "b", "bios0", "bios1", "dual", "single", "ver1", "europe", "asia", "usa", "export", "korea", "std", "v201", "onep300"});
+            {"bios_none", "euro", "us",  "japan",  "japan-s2", "unibios40", "unibios33", "unibios23", "v2",
+             "v1",        "jp",   "a",   "b",      "bios0",    "bios1",     "dual",      "single",    "ver1",
+             "europe",    "asia", "usa", "export", "korea",    "std",       "v201",      "onep300"});
     }
 
     // Settings hold positions: items may be appended, never moved.

@@ -100,8 +100,8 @@ private Q_SLOTS:
     {
         Room room;
         const QStringList marked = room.marked("-rompath             path to ROM sets\n");
-        const QStringList always{"launchusingPop", "exeTextField", "romsTextField", "checkboxRompath",
-                                 "osxTextField", "appTextField"};
+        const QStringList always{"launchusingPop",  "exeTextField", "romsTextField",
+                                 "checkboxRompath", "osxTextField", "appTextField"};
         for (const OptionPage* page : room.pages.all()) {
             for (const QWidget* control : page->findChildren<QWidget*>()) {
                 if (isOptionControl(control) && !always.contains(control->objectName()))
@@ -119,8 +119,8 @@ private Q_SLOTS:
         usage.replace("-prescale            scale by this amount\n", "");
         room.marked(usage);
         const OptionPage& page = test::pageOf(room.pages, Page::Video);
-        for (const QWidget* control :
-             {static_cast<QWidget*>(&page.control<QCheckBox>("checkboxMultithread")), static_cast<QWidget*>(&page.control<QComboBox>("scalingPop"))}) {
+        for (const QWidget* control : {static_cast<QWidget*>(&page.control<QCheckBox>("checkboxMultithread")),
+                                       static_cast<QWidget*>(&page.control<QComboBox>("scalingPop"))}) {
             QCOMPARE(control->toolTip(), QStringLiteral("option_unknown"));
             QCOMPARE(control->accessibleDescription(), QStringLiteral("option_unknown"));
             QVERIFY(control->isEnabled());

@@ -73,14 +73,16 @@ inline QByteArray oldUsage()
 inline QByteArray newUsage()
 {
     QByteArray text = oldUsage();
-    for (const char* gone : {"-use_backdrops       show backdrops\n", "-use_overlays        show overlays\n",
-                             "-use_bezels          show bezels\n", "-antialias           smooth vector lines\n",
-                             "-multithreading      draw on a thread of its own\n"})
+    for (const char* gone :
+         {"-use_backdrops       show backdrops\n", "-use_overlays        show overlays\n",
+          "-use_bezels          show bezels\n", "-antialias           smooth vector lines\n",
+          "-multithreading      draw on a thread of its own\n"})
         text.replace(gone, "");
     text.replace("-beam                width of the vector beam\n",
                  "-beam_width_min      smallest width of the beam\n"
                  "-beam_intensity_weightset weight of the intensity \n");
-    text.replace("-sound               enable sound output\n", "-sound               sound output method: sdl, portaudio or none\n");
+    text.replace("-sound               enable sound output\n",
+                 "-sound               sound output method: sdl, portaudio or none\n");
     return text;
 }
 

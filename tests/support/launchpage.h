@@ -31,7 +31,8 @@ struct StagedPages {
     PathChooser chooser;
     LaunchPages pages;
 
-    explicit StagedPages(DefaultsController& defaults, std::function<QString()> find = [] { return QString(); })
+    explicit StagedPages(
+        DefaultsController& defaults, std::function<QString()> find = [] { return QString(); })
         : emulator(defaults, std::move(find))
         , chooser(desktop, defaults, emulator)
         , pages(defaults, emulator, chooser)

@@ -22,7 +22,6 @@ namespace {
 constexpr int sizeFieldWidth = 56;
 constexpr QSize buttonSize(32, 30);
 
-
 QWidget* beside(const QList<QWidget*>& controls, bool firstGrows, QWidget* parent)
 {
     auto* row = new QWidget(parent);

@@ -8,12 +8,10 @@
 
 namespace tessera {
 
-FavouriteEditing::FavouriteEditing(Favourites& favourites, UCAppController& controller,
-                                   std::function<QString(const QString& name)> commandLine, QObject* parent)
+FavouriteEditing::FavouriteEditing(Favourites& favourites, UCAppController& controller, QObject* parent)
     : QObject(parent)
     , m_favourites(favourites)
     , m_controller(controller)
-    , m_commandLine(std::move(commandLine))
 {
     connect(&controller, &UCAppController::selectionChanged, this, &FavouriteEditing::showSelection);
     connect(&controller, &UCAppController::commitRequested, this, &FavouriteEditing::commitEditing);
@@ -53,9 +51,10 @@ void FavouriteEditing::showSelection()
         return;
     const auto favourite = m_controller.selection().first();
     m_editor->show(favourite, m_favourites);
-    const bool isShown = favourite && m_editor->isVisible();
-    m_editor->showCommand(isShown ? m_commandLine(m_favourites.value(*favourite, FavouriteKey::Name))
-                                  : QString());
+    if (favourite && m_editor->isVisible())
+        Q_EMIT commandWanted(*m_editor, m_favourites.value(*favourite, FavouriteKey::Name));
+    else
+        m_editor->showCommand(QString());
 }
 
 void FavouriteEditing::selectNeighbour(int step)

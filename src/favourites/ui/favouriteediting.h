@@ -2,7 +2,6 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
 
 class QWidget;
@@ -19,9 +18,7 @@ class FavouriteEditing : public QObject
     Q_OBJECT
 
 public:
-    /// `commandLine` gives the whole command line of a set with its options; empty where it is not known.
-    FavouriteEditing(Favourites& favourites, UCAppController& controller,
-                     std::function<QString(const QString& name)> commandLine, QObject* parent = nullptr);
+    FavouriteEditing(Favourites& favourites, UCAppController& controller, QObject* parent = nullptr);
     ~FavouriteEditing() override;
 
     /// Made when it is first asked for.
@@ -36,6 +33,8 @@ public Q_SLOTS:
     void showSelection();
 
 Q_SIGNALS:
+    /// The editor shows this set: its whole command line is to be shown, too.
+    void commandWanted(tessera::FavouriteEditor& editor, const QString& name);
     void windowMade(QWidget& window);
 
 private:
@@ -43,7 +42,6 @@ private:
 
     Favourites& m_favourites;
     UCAppController& m_controller;
-    std::function<QString(const QString& name)> m_commandLine;
     std::unique_ptr<FavouriteEditor> m_editor;
 };
 

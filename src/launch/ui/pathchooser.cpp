@@ -110,8 +110,7 @@ QString PathChooser::openPanelpath(const PathRequest& request)
 // The emulator may be one that was found and never chosen.
 QString PathChooser::pathAt(QLatin1StringView key) const
 {
-    return key == keys::ExecutionPath.name ? m_emulator.emulator()
-                                           : m_defaults.text(ChosenKey{key});
+    return key == keys::ExecutionPath.name ? m_emulator.emulator() : m_defaults.text(ChosenKey{key});
 }
 
 QString PathChooser::besideEmulator(const char* folder) const
@@ -121,11 +120,10 @@ QString PathChooser::besideEmulator(const char* folder) const
 
 void PathChooser::putInto(QLineEdit& field, QLatin1StringView key)
 {
-    connect(this, &PathChooser::chosen, &field,
-            [&field, key](const QString& chosenKey, const QString& path) {
-                if (chosenKey == key)
-                    field.setText(path);
-            });
+    connect(this, &PathChooser::chosen, &field, [&field, key](const QString& chosenKey, const QString& path) {
+        if (chosenKey == key)
+            field.setText(path);
+    });
 }
 
 void PathChooser::select(QLatin1StringView key)

@@ -51,32 +51,31 @@ private Q_SLOTS:
         test::StagedPage at;
         QCOMPARE(
             test::wordsOf(at.page),
-            QStringList(
-                {"coloringBox: appearance_coloring",
-                 ": named appearance_font",
-                 "fontSampleField: named appearance_font",
-                 "fontButton: appearance_choosefont / named appearance_font – appearance_choosefont",
-                 ": appearance_font",
-                 ": named appearance_favoritefont",
-                 "favoriteFontField: named appearance_favoritefont",
-                 ("favoriteFontButton: appearance_choosefont / named appearance_favoritefont – "
-                  "appearance_choosefont"),
-                 ": appearance_favoritefont",
-                 ": named appearance_size",
-                 "fontSizeField: named appearance_size",
-                 "smallerButton: named appearance_smaller / tip appearance_smaller",
-                 "biggerButton: named appearance_bigger / tip appearance_bigger",
-                 ": appearance_size",
-                 ": appearance_rows / for coloringBox",
-                 ": named appearance_color",
-                 "textColorWell: named appearance_color / tip #ffe6e6e6",
-                 "initialColorButton: named appearance_initialcolor / tip appearance_initialcolor",
-                 ": appearance_color",
-                 ": named appearance_color2",
-                 "textColorWell2: named appearance_color2 / tip #80e6e6e6",
-                 "initialColorButton2: named appearance_initialcolor2 / tip appearance_initialcolor2",
-                 ": appearance_color2",
-                 ": appearance_note"}));
+            QStringList({"coloringBox: appearance_coloring",
+                         ": named appearance_font",
+                         "fontSampleField: named appearance_font",
+                         "fontButton: appearance_choosefont / named appearance_font – appearance_choosefont",
+                         ": appearance_font",
+                         ": named appearance_favoritefont",
+                         "favoriteFontField: named appearance_favoritefont",
+                         ("favoriteFontButton: appearance_choosefont / named appearance_favoritefont – "
+                          "appearance_choosefont"),
+                         ": appearance_favoritefont",
+                         ": named appearance_size",
+                         "fontSizeField: named appearance_size",
+                         "smallerButton: named appearance_smaller / tip appearance_smaller",
+                         "biggerButton: named appearance_bigger / tip appearance_bigger",
+                         ": appearance_size",
+                         ": appearance_rows / for coloringBox",
+                         ": named appearance_color",
+                         "textColorWell: named appearance_color / tip #ffe6e6e6",
+                         "initialColorButton: named appearance_initialcolor / tip appearance_initialcolor",
+                         ": appearance_color",
+                         ": named appearance_color2",
+                         "textColorWell2: named appearance_color2 / tip #80e6e6e6",
+                         "initialColorButton2: named appearance_initialcolor2 / tip appearance_initialcolor2",
+                         ": appearance_color2",
+                         ": appearance_note"}));
     }
 
     void theFilterPanelSaysWhatItIsAbout()
