@@ -23,9 +23,8 @@ BiosPanel& BiosDesk::panel()
         m_parts.windows.places().keep(*m_panel, keys::BiosPanelGeometry);
         m_parts.windows.watch(*m_panel, KeyWindow::Kind::Bios);
         m_parts.windows.carryMenuKeys(*m_panel);
-        m_list = std::make_unique<Bioslist>(
-            BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_undo, m_parts.ownFile,
-                      [this] { return m_parts.emulator.emulatorNow(); }, m_parts.list});
+        m_list = std::make_unique<Bioslist>(BiosParts{m_parts.desktop, m_parts.defaults, *m_panel, m_undo,
+                                                      m_parts.ownFile, m_parts.emulator, m_parts.list});
         m_list->awakeFromNib();
     }
     return *m_panel;

@@ -63,7 +63,6 @@ private:
     void awakeFromNib();
     void applicationDidFinishLaunching();
     void beginAfterFirstPaint();
-    void forgetRecording();
 
     Desktop& m_desktop;
     DefaultsController m_defaults;

@@ -283,7 +283,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, emulator);
         QFETCH(QString, text);
-        m_room->emulator = emulator;
+        m_room->setEmulator(emulator);
         qunsetenv("FAKE_LISTXML");
         qputenv("FAKE_THEN", "exit3");
         QSignalSpy asked(m_room->list.get(), &Bioslist::asked);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         m_room->list->addOfGame();
         m_room->selection.game = {};
         m_room->list->addOfGame();
-        m_room->emulator.clear();
+        m_room->setEmulator(QString());
         m_room->list->rebuild();
         QVERIFY(!m_room->list->isAsking());
         QCOMPARE(m_room->desktop.takeTranscript(), (QStringList{"beep", "beep", "beep"}));

@@ -3,6 +3,7 @@
 #include "bios/ui/bioslist.h"
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
+#include "launch/emulatorchoice.h"
 #include "launch/growingitems.h"
 #include "launch/popupitems.h"
 #include "platform/defaultscontroller.h"
@@ -27,16 +28,18 @@ struct BiosRoom {
     {
         defaults.setInitialValues(QString(), QString());
         defaults.setText(keys::RomsPath, folder.path());
+        setEmulator(QStringLiteral(TESSERA_FAKEEMULATOR));
         make();
     }
 
+    void setEmulator(const QString& path) { defaults.setText(keys::ExecutionPath, path); }
     /// As at the next start.
     void make()
     {
         list.reset();
         panel = std::make_unique<BiosPanel>();
         list = std::make_unique<Bioslist>(
-            BiosParts{desktop, defaults, *panel, undo, ownFile(), [this] { return emulator; }, selection});
+            BiosParts{desktop, defaults, *panel, undo, ownFile(), emulator, selection});
         list->awakeFromNib();
     }
 
@@ -64,7 +67,7 @@ struct BiosRoom {
     DefaultsController defaults;
     QUndoStack undo;
     BiosPopup popup{defaults};
-    QString emulator = QStringLiteral(TESSERA_FAKEEMULATOR);
+    EmulatorChoice emulator{defaults, [] { return QString(); }};
     test::ChosenGame selection{SelectedGame{QStringLiteral("pong"), {}, {}}};
     std::unique_ptr<BiosPanel> panel;
     std::unique_ptr<Bioslist> list;

@@ -19,7 +19,7 @@ private Q_SLOTS:
         const QString mame = QStringLiteral("/usr/games/mame");
         TESSERA_NEEDS(QFileInfo::exists(mame), "MAME");
         test::BiosRoom room;
-        room.emulator = mame;
+        room.setEmulator(mame);
         room.panel->show();
         QVERIFY(QTest::qWaitForWindowActive(room.panel.get()));
         const int shipped = keptTitles(room.defaults, growingBiosSets).size();

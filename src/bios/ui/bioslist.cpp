@@ -7,6 +7,7 @@
 #include "bios/ui/biospanel.h"
 #include "core/atomicfile.h"
 #include "core/keptcopy.h"
+#include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"
@@ -222,7 +223,7 @@ void Bioslist::addOfGame()
 
 void Bioslist::ask(const QString& set)
 {
-    const QString emulator = m_parts.emulator();
+    const QString emulator = m_parts.emulator.emulatorNow();
     if (isAsking() || emulator.isEmpty()) {
         m_parts.desktop.beep();
         return;

@@ -6,7 +6,6 @@
 #include <QModelIndex>
 #include <QObject>
 
-#include <functional>
 #include <memory>
 
 class QIcon;
@@ -20,6 +19,7 @@ class BiosQuestion;
 class DefaultsController;
 class GameSelection;
 class Desktop;
+class EmulatorChoice;
 
 /// What the BIOS list needs; all of it outlives the controller.
 struct BiosParts {
@@ -28,7 +28,7 @@ struct BiosParts {
     BiosPanel& panel;
     QUndoStack& undo; ///< of the list
     QString ownFile; ///< the user's copy of the list
-    std::function<QString()> emulator; ///< its path, empty where there is none
+    EmulatorChoice& emulator;
     const GameSelection& selection; ///< of the game list
 };
 
