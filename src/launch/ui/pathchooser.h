@@ -46,22 +46,22 @@ public:
     /// The chosen path; empty after Cancel.
     QString openPanelpath(const PathRequest& request);
 
-    void exeSelect();
-    void osxSelect();
-    void appSelect();
-    void romfolSelect();
-    void snapfolSelect();
-    void titlefolSelect();
-    void fryerfolSelect();
-    void historybatSelect();
-    void mameinfobatSelect();
-    void playbackfileSelect();
-    void effectfileSelect();
-    void displayAlert1();
-    void displayAlert2();
-    void displayAlert3();
-    void displayAlert4();
-    void displayAlert5();
+    void exeSelect() { select(keys::ExecutionPath.name); }
+    void osxSelect() { select(keys::MameosxPath.name); }
+    void appSelect() { select(keys::ApplicationPath.name); }
+    void romfolSelect() { select(keys::RomsPath.name); }
+    void snapfolSelect() { select(keys::SnapPath.name); }
+    void titlefolSelect() { select(keys::TitlesnapPath.name); }
+    void fryerfolSelect() { select(keys::GameflyersPath.name); }
+    void historybatSelect() { select(keys::HistoryPath.name); }
+    void mameinfobatSelect() { select(keys::MameinfoPath.name); }
+    void playbackfileSelect() { select(keys::Playbackfilename.name); }
+    void effectfileSelect() { select(keys::Effectname.name); }
+    void displayAlert1() { displayAlert(1); }
+    void displayAlert2() { displayAlert(2); }
+    void displayAlert3() { displayAlert(3); }
+    void displayAlert4() { displayAlert(4); }
+    void displayAlert5() { displayAlert(5); }
     /// Notes a path among the recent documents, whether it exists or not.
     void saveOpenRecent(const QString& path);
 
