@@ -10,6 +10,7 @@
 #include "app/statusline.h"
 #include "app/supportpage.h"
 #include "app/windows.h"
+#include "artwork/artworkkinds.h"
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/downloadpanel.h"
 #include "artwork/ui/downloadprocessing.h"

@@ -1,20 +1,9 @@
 #include "artwork/picturesites.h"
 
+#include "support/settings.h"
 #include "support/testmain.h"
 
 using namespace tessera;
-
-namespace {
-
-// As if each site's host were named after its setting, and each template likewise.
-QString settingOf(const ChosenKey& key)
-{
-    const QString name = QString(key.name).toLower();
-    return name.contains(QStringLiteral("host")) ? name + QStringLiteral(".test")
-                                                 : QStringLiteral("http://own.test/") + name;
-}
-
-} // namespace
 
 class PictureSitesTest : public QObject
 {
@@ -46,23 +35,31 @@ private Q_SLOTS:
     void everySiteHasATemplateForEachKind()
     {
         QFETCH(int, index);
-        const auto templates = pictureTemplates(index, &settingOf);
+        test::Settings settings;
+        // Each site's host is named after its setting, and each template likewise.
+        for (const ChosenKey* key : {&keys::InfositeHost1, &keys::SnapsiteHost2, &keys::InfositeHost5})
+            settings.defaults.setText(*key, QString(key->name).toLower() + QStringLiteral(".test"));
+        for (const ArtworkKind& kind : artworkKinds)
+            settings.defaults.setText(*kind.downloadTemplate,
+                                      QStringLiteral("http://own.test/")
+                                          + QString(kind.downloadTemplate->name).toLower());
+        const auto templates = templatesAt(pictureSiteTable, index, settings.defaults);
         QVERIFY(templates);
-        QTEST(QStringList(templates->begin(), templates->end()), "templates");
+        QTEST(*templates, "templates");
     }
 
     void atOtherPositionsTheTemplatesStay()
     {
+        const test::Settings settings;
         for (const int index : {-1, 4, 100})
-            QVERIFY(!pictureTemplates(index, &settingOf));
+            QVERIFY(!templatesAt(pictureSiteTable, index, settings.defaults));
     }
 
     void aSiteWithoutAHostHasNoTemplates()
     {
-        for (const int index : {0, 1, 2}) {
-            const auto templates = pictureTemplates(index, [](const ChosenKey&) { return QString(); });
-            QCOMPARE(templates, PictureTemplates());
-        }
+        const test::Settings settings;
+        for (const int index : {0, 1, 2})
+            QCOMPARE(templatesAt(pictureSiteTable, index, settings.defaults), (QStringList{"", "", ""}));
     }
 
     void anAddressIsTheTemplateWithTheName_data()

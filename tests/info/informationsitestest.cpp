@@ -1,24 +1,17 @@
 #include "info/informationsites.h"
 
+#include "support/settings.h"
 #include "support/testmain.h"
 
 using namespace tessera;
-
-namespace {
-
-// As if each site's host were named after its setting.
-QString hostNamed(const ChosenKey& key)
-{
-    return QString(key.name).toLower() + QStringLiteral(".test");
-}
-
-} // namespace
 
 class InformationSitesTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_settings = std::make_unique<test::Settings>(); }
+
     void everyPositionHasItsTemplate_data()
     {
         QTest::addColumn<int>("index");
@@ -43,10 +36,16 @@ private Q_SLOTS:
     {
         QFETCH(int, index);
         QFETCH(QString, text);
-        QCOMPARE(siteTemplate(index, &hostNamed), std::optional(text));
+        // Each site's host is named after its setting.
+        for (const WebSite& site : informationSites)
+            m_settings->defaults.setText(*site.host.key, QString(site.host.key->name).toLower() + ".test");
+        QCOMPARE(templatesAt(informationSiteTable, index, m_settings->defaults), QStringList{text});
     }
 
-    void theEighthPositionKeepsTheTemplate() { QVERIFY(!siteTemplate(8, &hostNamed)); }
+    void theEighthPositionKeepsTheTemplate()
+    {
+        QVERIFY(!templatesAt(informationSiteTable, 8, m_settings->defaults));
+    }
 
     void aHostMayNameItsScheme_data()
     {
@@ -64,7 +63,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, host);
         QFETCH(QString, text);
-        QCOMPARE(siteTemplate(2, [host](const ChosenKey&) { return host; }), std::optional(text));
+        m_settings->defaults.setText(keys::InfositeHost3, host);
+        QCOMPARE(templatesAt(informationSiteTable, 2, m_settings->defaults), QStringList{text});
     }
 
     void aPageIsTheTemplateWithTheName_data()
@@ -100,6 +100,9 @@ private Q_SLOTS:
         const auto page = gamePage(text, name);
         QCOMPARE(page ? page->toString(QUrl::FullyEncoded) : QString(), address);
     }
+
+private:
+    std::unique_ptr<test::Settings> m_settings;
 };
 
 TESSERA_TEST(InformationSitesTest);

@@ -55,7 +55,7 @@ void PicturesPage::addView(DefaultsController& defaults)
 void PicturesPage::addSites(DefaultsController& defaults)
 {
     snapdownsitePop->setObjectName(QStringLiteral("snapdownsitePop"));
-    for (const PictureSite& site : pictureSites)
+    for (const WebSite& site : pictureSites)
         snapdownsitePop->addItem(qtTrId("pictures_sitenumber").arg(site.number));
     snapdownsitePop->addItem(ownSite);
     bind(*snapdownsitePop, defaults, keys::Snapdownsite);

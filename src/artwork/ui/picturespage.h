@@ -1,6 +1,5 @@
 #pragma once
 
-#include "artwork/artworkkinds.h"
 #include "widgets/formpage.h"
 
 class QCheckBox;
@@ -29,7 +28,7 @@ public:
     QLineEdit* flyersdownTextField;
 
     /// By kind.
-    std::array<QLineEdit*, artworkKinds.size()> templateFields() const
+    QList<QLineEdit*> templateFields() const
     {
         return {snapdownTextField, titlesdownTextField, flyersdownTextField};
     }

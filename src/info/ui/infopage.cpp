@@ -19,10 +19,10 @@ InfoPage::InfoPage(DefaultsController& defaults, QWidget* parent)
     , openButton(new QPushButton(qtTrId("infosite_open")))
 {
     infositePop->setObjectName(QStringLiteral("infositePop"));
-    for (const InformationSite& site : informationSites)
+    for (const WebSite& site : informationSites)
         infositePop->addItem(qtTrId("infosite_number").arg(site.number));
     // Its position is the one that keeps the template; nobody can choose it.
-    infositePop->insertSeparator(keptSite);
+    infositePop->insertSeparator(infositePop->count());
     infositePop->addItem(ownSite);
     openButton->setObjectName(QStringLiteral("openURLButton"));
     openButton->setAutoDefault(false);

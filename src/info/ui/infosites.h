@@ -1,19 +1,14 @@
 #pragma once
 
-#include "core/sitehost.h"
-
-#include <QObject>
-#include <QPointer>
+#include "widgets/chosensite.h"
 
 namespace tessera {
 
-class DefaultsController;
 class Desktop;
 class InfoPage;
 
-/// The commands on information sites. The page with their controls is made when it is first shown; until then
-/// the settings stand for them.
-class InfoSites : public QObject
+/// The commands on information sites.
+class InfoSites : public ChosenSite
 {
     Q_OBJECT
 
@@ -28,7 +23,7 @@ public:
 
 public Q_SLOTS:
     /// Takes the template of the chosen site.
-    void infositeAction();
+    void infositeAction() { takeTemplates(); }
     /// Opens the address in the URL field, where it is one of the web as well.
     void openURL();
 
@@ -36,17 +31,9 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
 
 private:
-    SettingReader settingReader() const;
-    bool isOwnSite() const;
-    void showTemplate();
-    void storeHost(const QString& host);
-    void storeTemplate(const QString& text);
-    void settingChanged(const QString& name);
-
     Desktop& m_desktop;
     DefaultsController& m_defaults;
     QPointer<InfoPage> m_page;
-    QString m_template;
 };
 
 } // namespace tessera

@@ -21,8 +21,8 @@ QString titleOf(int item, const DefaultsController& defaults)
     QString name = qtTrId("infosite_number").arg(informationSites[static_cast<std::size_t>(item)].number);
     if (item >= templates)
         return name;
-    const auto text = tessera::siteTemplate(item, [&](const ChosenKey& key) { return defaults.text(key); });
-    return text && !text->isEmpty() ? *text : name;
+    const QString text = templatesAt(informationSiteTable, item, defaults)->constFirst();
+    return text.isEmpty() ? name : text;
 }
 
 } // namespace
@@ -52,9 +52,9 @@ SiteChoice::SiteChoice(DefaultsController& defaults, QWidget* parent)
     layout->addWidget(addressField2);
 
     const int chosen = defaults.index(keys::Rominfosite);
-    infositePop2->setCurrentIndex(chosen >= 0 && chosen < templates ? chosen
-                                      : chosen == keptSite + 1      ? ownItem
-                                                                    : 0);
+    infositePop2->setCurrentIndex(chosen >= 0 && chosen < templates        ? chosen
+                                      : chosen == informationSiteTable.own ? ownItem
+                                                                           : 0);
     connect(infositePop2, &QComboBox::currentIndexChanged, this, &SiteChoice::showField);
     connect(&defaults, &DefaultsController::changed, this, &SiteChoice::showTitles);
     showTitles();
@@ -92,11 +92,10 @@ QString SiteChoice::siteTemplate() const
 QString SiteChoice::hindrance() const
 {
     const int item = infositePop2->currentIndex();
-    if (item < 0 || item >= templates)
+    if (item >= templates)
         return QString();
-    const InformationSite& site = informationSites[static_cast<std::size_t>(item)];
-    const QString host = hostText(site.host, [this](const ChosenKey& key) { return m_defaults.text(key); });
-    return host.isEmpty() ? qtTrId("infosite_no_host").arg(site.number) : QString();
+    const auto site = siteWithoutHost(informationSiteTable, item, m_defaults);
+    return site ? qtTrId("infosite_no_host").arg(*site) : QString();
 }
 
 std::optional<QUrl> SiteChoice::page(const QString& name) const
