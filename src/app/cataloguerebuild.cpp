@@ -9,8 +9,7 @@
 #include "launch/ui/pathchooser.h"
 #include "platform/defaultscontroller.h"
 #include "catalogue/storereader.h"
-#include "core/atomicfile.h"
-#include "core/keptcopy.h"
+#include "core/keptfile.h"
 #include "platform/desktop.h"
 #include "tools/cataloguebuild.h"
 #include "tools/cataloguecomparison.h"
@@ -104,7 +103,7 @@ void CatalogueRebuild::build()
     m_parts.strip.begin(QFileInfo(emulator).fileName());
     // Japanese titles are asked for nowhere here; a list that was chosen before is used.
     m_build->start(emulator, m_parts.catalogue.path(), m_parts.defaults.text(keys::localizePath),
-                   datedName(m_parts.catalogue.path(), m_parts.desktop.now()));
+                   m_parts.desktop.now());
 }
 
 void CatalogueRebuild::cancel()
@@ -213,14 +212,9 @@ std::expected<CatalogueRebuild::Placed, Failure> CatalogueRebuild::put(const QSt
     const QString place = m_parts.catalogue.path();
     if (QFileInfo(path).canonicalFilePath() == QFileInfo(place).canonicalFilePath())
         return Placed{std::move(*stored), QString()};
-    const auto kept = keepAs(place, datedName(place, m_parts.desktop.now()));
+    const auto kept = KeptFile(place).write(text, m_parts.desktop.now());
     if (!kept)
         return std::unexpected(kept.error());
-    if (const auto written = writeAtomically(place, std::array{text}); !written) {
-        if (!kept->isEmpty())
-            QFile::remove(*kept);
-        return std::unexpected(written.error());
-    }
     return Placed{std::move(*stored), *kept};
 }
 

@@ -3,10 +3,6 @@
 #include "catalogue/recordcommands.h"
 #include "catalogue/storereader.h"
 #include "catalogue/storewriter.h"
-#include "core/keptcopy.h"
-
-#include <QDateTime>
-#include <QFile>
 
 #include <algorithm>
 
@@ -14,14 +10,14 @@ namespace tessera {
 
 Catalogue::Catalogue(QString path, QObject* parent)
     : QObject(parent)
-    , m_path(std::move(path))
+    , m_file(std::move(path))
 {
 }
 
 void Catalogue::readAhead()
 {
-    m_state = FileState::of(m_path);
-    m_ahead = std::async(std::launch::async, [path = m_path] {
+    m_file.setRead();
+    m_ahead = std::async(std::launch::async, [path = m_file.path()] {
         auto store = readStore(path);
         // The first order that is asked for; beside the windows it costs nobody's time.
         SortedRecords byName(
@@ -45,7 +41,7 @@ std::expected<void, Failure> Catalogue::open()
 
 StoredCatalogue Catalogue::replace(StoredCatalogue content)
 {
-    m_state = FileState::of(m_path);
+    m_file.setRead();
     m_read = true;
     m_isMissing = false;
     SortedRecords byName(content.records, Field::Name);
@@ -57,7 +53,8 @@ StoredCatalogue Catalogue::exchange(StoredCatalogue content, SortedRecords byNam
 {
     // The commands hold views of the old arena.
     m_undo.clear();
-    m_isOurLayout = m_read && content.isOurLayout;
+    if (!content.isOurLayout)
+        m_file.setForeign();
     StoredCatalogue old{std::exchange(m_arena, std::move(content.arena)),
                         std::exchange(m_records, std::move(content.records))};
     m_byName = std::move(byName);
@@ -93,22 +90,12 @@ bool Catalogue::hasChanges() const
 std::expected<QString, Failure> Catalogue::save()
 {
     if (m_isMissing)
-        return std::unexpected(Failure{"failure_store_none", {m_path}});
+        return std::unexpected(Failure{"failure_store_none", {path()}});
     if (!m_read)
-        return std::unexpected(Failure{"failure_store_unread", {m_path}});
-    std::expected<QString, Failure> kept;
-    if (!m_isOurLayout || FileState::of(m_path) != m_state)
-        kept = keepAs(m_path, datedName(m_path, QDateTime::currentDateTime()));
-    if (!kept)
-        return kept;
-    if (auto written = writeStore(m_path, m_records); !written) {
-        if (!kept->isEmpty())
-            QFile::remove(*kept);
-        return std::unexpected(written.error());
-    }
-    m_state = FileState::of(m_path);
-    m_isOurLayout = true;
-    m_undo.setClean();
+        return std::unexpected(Failure{"failure_store_unread", {path()}});
+    auto kept = m_file.write(storeText(m_records));
+    if (kept)
+        m_undo.setClean();
     return kept;
 }
 

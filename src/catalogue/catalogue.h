@@ -4,7 +4,7 @@
 #include "catalogue/recordsort.h"
 #include "catalogue/storedcatalogue.h"
 #include "core/failure.h"
-#include "core/filestate.h"
+#include "core/keptfile.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -26,7 +26,7 @@ class Catalogue : public QObject
 public:
     explicit Catalogue(QString path, QObject* parent = nullptr);
 
-    QString path() const { return m_path; }
+    const QString& path() const { return m_file.path(); }
 
     /// Begins to read the store beside what the caller does next; the next open() takes the result.
     void readAhead();
@@ -76,13 +76,11 @@ private:
     void takeOut(std::span<const std::uint32_t> places);
     void putBack(std::span<const std::uint32_t> places, std::span<const GameRecord> records);
 
-    QString m_path;
+    KeptFile m_file;
     TextArena m_arena;
     std::vector<GameRecord> m_records;
     QUndoStack m_undo;
-    FileState m_state; ///< of the file as it was read or written last
     bool m_read = false;
-    bool m_isOurLayout = false; ///< the file, as it was read or written last
     bool m_isMissing = false; ///< there was no file to read
     std::future<Ahead> m_ahead;
     std::optional<SortedRecords> m_byName;

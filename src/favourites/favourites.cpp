@@ -2,6 +2,7 @@
 
 #include "catalogue/recorddictionary.h"
 #include "favourites/favouritecommands.h"
+#include "favourites/listitems.h"
 
 #include <algorithm>
 
@@ -34,11 +35,10 @@ std::expected<Favourites::Opened, Failure> Favourites::open()
 {
     if (!m_file.exists())
         return Opened::NoFile;
-    auto list = m_file.read(PropertyList::Kind::Array);
-    if (!list)
-        return std::unexpected(list.error());
-    std::vector<PropertyList> items = list->items();
-    if (items.empty())
+    auto items = m_file.read(&readListItems);
+    if (!items)
+        return std::unexpected(items.error());
+    if (items->empty())
         return Opened::EmptyList;
 
     m_undo.clear();
@@ -47,11 +47,12 @@ std::expected<Favourites::Opened, Failure> Favourites::open()
     const std::vector<GameRecord> oldRecords = std::exchange(m_records, {});
     m_entries.clear();
     m_others.clear();
-    for (std::size_t place = 0; place < items.size(); ++place) {
-        if (items[place].kind() == PropertyList::Kind::Dictionary)
-            m_entries.push_back(std::move(items[place]));
+    for (std::size_t place = 0; place < items->size(); ++place) {
+        PropertyList& item = (*items)[place];
+        if (item.kind() == PropertyList::Kind::Dictionary)
+            m_entries.push_back(std::move(item));
         else
-            m_others.push_back({place, std::move(items[place])});
+            m_others.push_back({place, std::move(item)});
     }
     for (const PropertyList& entry : m_entries)
         m_records.push_back(recordOf(entry));
@@ -132,10 +133,10 @@ std::expected<QByteArray, Failure> Favourites::text() const
 
 std::expected<void, Failure> Favourites::write(const QByteArray& text)
 {
-    auto written = m_file.write(text);
-    if (written)
-        m_undo.setClean();
-    return written;
+    if (const auto written = m_file.write(text); !written)
+        return std::unexpected(written.error());
+    m_undo.setClean();
+    return {};
 }
 
 void Favourites::put(std::uint32_t favourite, const PropertyList& entry, FavouriteKey key)

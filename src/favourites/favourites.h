@@ -1,8 +1,9 @@
 #pragma once
 
 #include "catalogue/textarena.h"
+#include "core/keptfile.h"
+#include "core/propertylist.h"
 #include "favourites/favouritekey.h"
-#include "favourites/keptfile.h"
 
 #include <QObject>
 #include <QUndoStack>

@@ -1,5 +1,7 @@
 #include "favourites/playedgames.h"
 
+#include "favourites/listitems.h"
+
 #include <algorithm>
 
 namespace tessera {
@@ -29,10 +31,11 @@ PlayedGames::PlayedGames(QString path, QObject* parent)
 std::expected<void, Failure> PlayedGames::open()
 {
     m_games.clear();
-    const bool exists = m_file.exists();
-    const auto list = exists ? m_file.read(PropertyList::Kind::Array) : PropertyList::array();
-    if (list) {
-        for (const PropertyList& entry : list->items()) {
+    std::expected<std::vector<PropertyList>, Failure> items;
+    if (m_file.exists())
+        items = m_file.read(&readListItems);
+    if (items) {
+        for (const PropertyList& entry : *items) {
             if (entry.kind() != PropertyList::Kind::Dictionary)
                 continue;
             const auto name = entry.text(nameKey);
@@ -42,8 +45,8 @@ std::expected<void, Failure> PlayedGames::open()
         }
     }
     Q_EMIT changed();
-    if (!list)
-        return std::unexpected(list.error());
+    if (!items)
+        return std::unexpected(items.error());
     return {};
 }
 
@@ -62,7 +65,10 @@ std::expected<void, Failure> PlayedGames::save()
         list.append(std::move(entry));
     }
     const auto text = list.xml(m_file.path());
-    return text ? m_file.write(*text) : std::unexpected(text.error());
+    const auto written = text ? m_file.write(*text) : std::unexpected(text.error());
+    if (!written)
+        return std::unexpected(written.error());
+    return {};
 }
 
 void PlayedGames::note(const QString& name, const QDateTime& when)

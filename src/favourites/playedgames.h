@@ -1,6 +1,6 @@
 #pragma once
 
-#include "favourites/keptfile.h"
+#include "core/keptfile.h"
 
 #include <QDateTime>
 #include <QHash>

@@ -1,8 +1,8 @@
 #include "tools/cataloguebuild.h"
 
 #include "catalogue/storereader.h"
+#include "core/keptfile.h"
 #include "tools/conversion.h"
-#include "core/keptcopy.h"
 #include "tools/titletable.h"
 
 #include <QDir>
@@ -47,11 +47,11 @@ CatalogueBuild::CatalogueBuild(QObject* parent)
 CatalogueBuild::~CatalogueBuild() = default;
 
 void CatalogueBuild::start(const QString& emulator, const QString& output, const QString& titles,
-                           const QString& keepOldAs)
+                           const QDateTime& date)
 {
     m_emulator = emulator;
     m_output = output;
-    m_keepOldAs = keepOldAs;
+    m_date = date;
     m_keptAs.clear();
     m_errors.clear();
     m_failure.reset();
@@ -180,27 +180,16 @@ std::expected<int, Failure> CatalogueBuild::result(int status, QProcess::ExitSta
     if (!list->isWhole)
         return std::unexpected(Failure{"build_cut_off", {m_emulator}});
     // What was copied as it stands can break the store's own text.
-    auto readBack = readStoreText(list->text.joined(), m_output);
+    const std::string text = list->text.joined();
+    auto readBack = readStoreText(text, m_output);
     if (!readBack)
         return std::unexpected(Failure{"build_unreadable", {m_emulator}});
-    if (const auto replaced = replace(*list); !replaced)
-        return std::unexpected(replaced.error());
+    const auto kept = KeptFile(m_output).write(text, m_date);
+    if (!kept)
+        return std::unexpected(kept.error());
+    m_keptAs = *kept;
     m_stored = std::move(*readBack);
     return static_cast<int>(list->games);
-}
-
-std::expected<void, Failure> CatalogueBuild::replace(const ConvertedList& list)
-{
-    if (!m_keepOldAs.isEmpty()) {
-        const auto name = keepAs(m_output, m_keepOldAs);
-        if (!name)
-            return std::unexpected(name.error());
-        m_keptAs = *name;
-    }
-    const auto written = list.text.save(m_output);
-    if (!written && !m_keptAs.isEmpty())
-        QFile::remove(std::exchange(m_keptAs, QString()));
-    return written;
 }
 
 QString CatalogueBuild::lastWords() const

@@ -4,6 +4,7 @@
 #include "core/failure.h"
 #include "launch/emulatorprocess.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QTimer>
 
@@ -14,7 +15,6 @@ namespace tessera {
 
 class ListxmlConverter;
 class TitleTable;
-struct ConvertedList;
 
 /// Builds the catalogue from an emulator: runs it with -listxml and converts what it prints while it prints
 /// it. The file is replaced in one step, and only by the whole list of an emulator that ended well; after
@@ -29,10 +29,9 @@ public:
     ~CatalogueBuild() override;
 
     /// `titles` is the title list, or empty; one that cannot be read is done without, see titlesFailure(). A
-    /// file that is replaced is kept under the name `keepOldAs` if there is one. Not while another run goes
-    /// on.
+    /// file that is replaced is kept under a name with the date. Not while another run goes on.
     void start(const QString& emulator, const QString& output, const QString& titles = {},
-               const QString& keepOldAs = {});
+               const QDateTime& date = QDateTime::currentDateTime());
     /// The emulator is asked to end, and killed when it does not; then comes cancelled().
     void cancel();
     bool isRunning() const { return m_converter != nullptr; }
@@ -56,7 +55,6 @@ private:
     void readErrors();
     void conclude(int status, QProcess::ExitStatus how);
     std::expected<int, Failure> result(int status, QProcess::ExitStatus how);
-    std::expected<void, Failure> replace(const ConvertedList& list);
     QString lastWords() const;
     void fail(const Failure& failure);
     void letGo();
@@ -67,7 +65,7 @@ private:
     std::unique_ptr<ListxmlConverter> m_converter;
     QString m_emulator;
     QString m_output;
-    QString m_keepOldAs;
+    QDateTime m_date;
     QString m_keptAs;
     StoredCatalogue m_stored;
     QByteArray m_errors; ///< the last of what was printed on standard error

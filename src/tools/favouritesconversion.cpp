@@ -1,6 +1,6 @@
 #include "tools/favouritesconversion.h"
 
-#include "core/propertylist.h"
+#include "favourites/listitems.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -32,13 +32,11 @@ PropertyList entryOf(const RecordDictionary& record)
 
 std::expected<QStringList, Failure> oldFavourites(const QString& path)
 {
-    const auto list = readPropertyList(path);
-    if (!list)
-        return std::unexpected(list.error());
-    if (list->kind() != PropertyList::Kind::Array)
-        return std::unexpected(Failure{"failure_favourites_foreign", {path}});
+    const auto items = readListItems(path);
+    if (!items)
+        return std::unexpected(items.error());
     QStringList names;
-    for (const PropertyList& entry : list->items()) {
+    for (const PropertyList& entry : *items) {
         if (entry.kind() != PropertyList::Kind::Dictionary)
             continue;
         if (const auto name = entry.string(setKey))

@@ -1,13 +1,11 @@
 #include "core/atomicfile.h"
 
+#include "filelimit.h"
 #include "support/ordinaryuser.h"
 #include "support/testmain.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace tessera;
 
@@ -18,29 +16,6 @@ QByteArray content(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
-
-// While it lives, no file grows beyond `bytes`: what a full disk looks like to a writer.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit small = m_before;
-        small.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &small);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 
@@ -82,7 +57,7 @@ private Q_SLOTS:
         QFETCH(std::size_t, room);
         QVERIFY(writeAtomically(m_path, std::array<std::string_view, 1>{"old"}));
         const std::string large(size, 'x');
-        const SmallDisk disk(room);
+        const test::FileLimit disk(room);
         const auto written = writeAtomically(m_path, std::array<std::string_view, 1>{large});
         QVERIFY(!written);
         QCOMPARE(QByteArray(written.error().key), QByteArray("failure_write"));

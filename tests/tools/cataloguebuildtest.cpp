@@ -98,9 +98,9 @@ private Q_SLOTS:
 
     void keepsTheReplacedStoreUnderItsName()
     {
-        const QString kept = m_folder->filePath("Tessera 2026.xml");
+        const QString kept = m_folder->filePath("Tessera 2026-01-02 03-04-05.xml");
         Heard heard;
-        heard.build.start(fakeEmulator, m_store, {}, kept);
+        heard.build.start(fakeEmulator, m_store, {}, QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5)));
         QVERIFY(heard.waitForOutcome());
         QCOMPARE(heard.finished, {2});
         QCOMPARE(read(kept), "old");
@@ -207,14 +207,14 @@ private Q_SLOTS:
         }
         play(prints, then);
         Heard heard;
-        heard.build.start(emulator, m_store, {}, m_folder->filePath("kept.xml"));
+        heard.build.start(emulator, m_store);
         QCOMPARE(heard.outcomes(), 0); // never from inside start()
         QVERIFY(heard.waitForOutcome());
         QCOMPARE(heard.failure(), key);
         QCOMPARE(heard.outcomes(), 1);
         QVERIFY(!heard.build.isRunning());
         QCOMPARE(read(m_store), "old");
-        QVERIFY(!QFile::exists(m_folder->filePath("kept.xml")));
+        QCOMPARE(QDir(m_folder->path()).entryList({"Tessera*"}), QStringList{"Tessera.xml"});
     }
 
     void saysHowTheEmulatorEnded()
@@ -328,7 +328,7 @@ private Q_SLOTS:
         rlimit before{};
         QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
         Heard heard;
-        heard.build.start(fakeEmulator, m_store, {}, m_folder->filePath("kept.xml"));
+        heard.build.start(fakeEmulator, m_store);
         rlimit small = before;
         small.rlim_cur = 100'000;
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);

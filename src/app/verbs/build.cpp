@@ -6,7 +6,6 @@
 #include "platform/userdefaults.h"
 #include "tools/cataloguebuild.h"
 #include "tools/conversion.h"
-#include "core/keptcopy.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -60,7 +59,7 @@ int build(const QString& emulator, const QString& output, const QString& titles,
         end();
         status = failed(failure);
     });
-    job.start(emulator, output, titles, datedName(output, QDateTime::currentDateTime()));
+    job.start(emulator, output, titles);
     QCoreApplication::exec();
     return status;
 }

@@ -1,8 +1,8 @@
 #include "app/verbs/verbs.h"
 
 #include "catalogue/storereader.h"
-#include "core/propertylist.h"
 #include "favourites/favouritekey.h"
+#include "favourites/listitems.h"
 #include "tools/cataloguecomparison.h"
 
 namespace tessera {
@@ -11,13 +11,11 @@ namespace {
 
 std::expected<QStringList, Failure> favouriteNames(const QString& path)
 {
-    const auto list = readPropertyList(path);
-    if (!list)
-        return std::unexpected(list.error());
-    if (list->kind() != PropertyList::Kind::Array)
-        return std::unexpected(Failure{"failure_favourites_foreign", {path}});
+    const auto items = readListItems(path);
+    if (!items)
+        return std::unexpected(items.error());
     QStringList names;
-    for (const PropertyList& entry : list->items()) {
+    for (const PropertyList& entry : *items) {
         if (entry.kind() == PropertyList::Kind::Dictionary)
             names << entry.text(keyName(FavouriteKey::Name)).value_or(QString());
     }

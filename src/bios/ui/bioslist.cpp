@@ -5,8 +5,6 @@
 #include "bios/ui/biosediting.h"
 #include "bios/ui/biosmodel.h"
 #include "bios/ui/biospanel.h"
-#include "core/atomicfile.h"
-#include "core/keptcopy.h"
 #include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
@@ -43,6 +41,7 @@ Bioslist::Bioslist(const BiosParts& parts, QObject* parent)
     , m_parts(parts)
     , m_popup_bios(parts.defaults)
     , m_editing(std::make_unique<BiosEditing>(parts.panel, parts.undo))
+    , m_file(parts.ownFile)
 {
     BiosPanel& panel = m_parts.panel;
     connect(panel.biosView, &QTreeView::doubleClicked, this, &Bioslist::tableViewDoubleAction);
@@ -73,20 +72,19 @@ Bioslist::~Bioslist() = default;
 
 QString Bioslist::pathOfDataFile() const
 {
-    return QFileInfo::exists(m_parts.ownFile) ? m_parts.ownFile : shippedFile;
+    return m_file.exists() ? m_file.path() : shippedFile;
 }
 
 void Bioslist::awakeFromNib()
 {
-    const QString path = pathOfDataFile();
-    if (!QFileInfo::exists(path)) {
+    if (!QFileInfo::exists(pathOfDataFile())) {
         m_parts.desktop.log(QStringLiteral("bioslist.xml not found"));
-    } else if (const auto entries = readBiosEntries(path)) {
+    } else if (const auto entries
+               = m_file.exists() ? m_file.read(&readBiosEntries) : readBiosEntries(shippedFile)) {
         m_editing->load(*entries);
         learn();
     } else {
         m_parts.desktop.log(entries.error().text());
-        m_isUnread = path == m_parts.ownFile;
     }
     outlineViewSelectionDidChange();
 }
@@ -109,18 +107,6 @@ void Bioslist::showSetting()
     const PopupState set = m_popup_bios.selected();
     m_parts.panel.treeController_list->setChosen(set.index == 0 ? QString(defaultBios) : set.title);
     m_parts.panel.showSetting(m_popup_bios.text());
-}
-
-// Before the first edit writes over it.
-bool Bioslist::keepUnread()
-{
-    if (!m_isUnread)
-        return true;
-    const auto kept = keepAs(m_parts.ownFile, datedName(m_parts.ownFile, m_parts.desktop.now()));
-    if (!kept)
-        m_parts.desktop.log(kept.error().text());
-    m_isUnread = !kept;
-    return kept.has_value();
 }
 
 QModelIndex Bioslist::selected() const
@@ -180,16 +166,13 @@ void Bioslist::tableViewDoubleAction()
 
 void Bioslist::saveAction()
 {
-    if (!keepUnread())
-        return;
-    const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries(), m_parts.ownFile);
+    const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries(), m_file.path());
     if (!xml) {
         m_parts.desktop.log(xml.error().text());
         return;
     }
-    QDir().mkpath(QFileInfo(m_parts.ownFile).absolutePath());
-    const std::array pieces{std::string_view(xml->constData(), static_cast<std::size_t>(xml->size()))};
-    if (const auto written = writeAtomically(m_parts.ownFile, pieces); !written)
+    QDir().mkpath(QFileInfo(m_file.path()).absolutePath());
+    if (const auto written = m_file.write(*xml, m_parts.desktop.now()); !written)
         m_parts.desktop.log(written.error().text());
 }
 

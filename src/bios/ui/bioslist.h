@@ -2,6 +2,7 @@
 
 #include "bios/biosentry.h"
 #include "bios/biospopup.h"
+#include "core/keptfile.h"
 
 #include <QModelIndex>
 #include <QObject>
@@ -67,7 +68,6 @@ Q_SIGNALS:
 private:
     /// The selected row; none where nothing is selected.
     QModelIndex selected() const;
-    bool keepUnread();
     void ask(const QString& set);
     void takeAnswer();
     void fail(const Failure& failure);
@@ -81,7 +81,7 @@ private:
     BiosPopup m_popup_bios;
     std::unique_ptr<BiosEditing> m_editing;
     std::unique_ptr<BiosQuestion> m_question;
-    bool m_isUnread = false; ///< the user's copy is there, and could not be read
+    KeptFile m_file; ///< the user's copy
 };
 
 } // namespace tessera
