@@ -71,7 +71,7 @@ int main(int argc, char* argv[])
     DefaultsController defaults(stored);
     defaults.setInitialValues(QString(), QString());
     defaults.setText(keys::SnapPath, folder.path());
-    RecentDocuments recent(stored);
+    RecentDocuments recent(defaults);
     QtDesktop desktop(recent);
     SnapFolder snaps(desktop, defaults);
     snaps.Setsnapfolder();

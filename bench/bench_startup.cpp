@@ -83,10 +83,11 @@ int showTessera(QApplication& application, const QString& catalogue, const QStri
     QTranslator texts;
     installTexts(texts);
     UserDefaults defaults(settings);
-    RecentDocuments recent(defaults);
+    DefaultsController controller(defaults);
+    RecentDocuments recent(controller);
     QtDesktop desktop(recent);
     theme::apply(application);
-    Tessera_AppDelegate delegate(desktop, defaults, recent, catalogue);
+    Tessera_AppDelegate delegate(desktop, controller, recent, catalogue);
     delegate.run(QString());
     const FirstPaint paint(delegate.program().mainWindow.gameTable);
     return application.exec();

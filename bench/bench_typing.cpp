@@ -87,12 +87,13 @@ int main(int argc, char* argv[])
         return 2;
     }
     UserDefaults defaults(folder.filePath(QStringLiteral("settings.ini")));
-    RecentDocuments recent(defaults);
+    DefaultsController controller(defaults);
+    RecentDocuments recent(controller);
     QtDesktop desktop(recent);
     theme::apply(application);
     QTranslator texts;
     installTexts(texts, QString());
-    Tessera_AppDelegate delegate(desktop, defaults, recent, store);
+    Tessera_AppDelegate delegate(desktop, controller, recent, store);
     delegate.run(QString());
     MainWindow& window = delegate.program().mainWindow;
     QElapsedTimer settling;

@@ -17,8 +17,8 @@
 
 namespace tessera {
 
-Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
-                                         const QString& cataloguePath)
+Tessera_AppDelegate::Tessera_AppDelegate(Desktop& desktop, DefaultsController& defaults,
+                                         RecentDocuments& recent, const QString& cataloguePath)
     : m_desktop(desktop)
     , m_defaults(defaults)
     , m_recent(recent)

@@ -22,7 +22,7 @@ class Tessera_AppDelegate : public QObject
     Q_OBJECT
 
 public:
-    Tessera_AppDelegate(Desktop& desktop, UserDefaults& defaults, RecentDocuments& recent,
+    Tessera_AppDelegate(Desktop& desktop, DefaultsController& defaults, RecentDocuments& recent,
                         const QString& cataloguePath);
     ~Tessera_AppDelegate() override;
 
@@ -65,7 +65,7 @@ private:
     void beginAfterFirstPaint();
 
     Desktop& m_desktop;
-    DefaultsController m_defaults;
+    DefaultsController& m_defaults;
     RecentDocuments& m_recent;
     Catalogue m_catalogue;
     std::unique_ptr<Program> m_program;

@@ -17,13 +17,14 @@ using namespace tessera;
 
 namespace {
 
-int runWindows(QApplication& application, UserDefaults& defaults, const QString& file)
+int runWindows(QApplication& application, UserDefaults& stored, const QString& file)
 {
     SingleInstance instance;
     if (instance.handOver(file))
         return 0;
     instance.listen();
 
+    DefaultsController defaults(stored);
     RecentDocuments recent(defaults);
     QtDesktop desktop(recent);
     theme::apply(application);

@@ -6,7 +6,7 @@ namespace {
 constexpr qsizetype keptDocuments = 10;
 }
 
-RecentDocuments::RecentDocuments(UserDefaults& defaults)
+RecentDocuments::RecentDocuments(DefaultsController& defaults)
     : m_defaults(defaults)
 {
 }
@@ -16,12 +16,12 @@ void RecentDocuments::note(const QString& path)
     QStringList list = paths();
     list.removeAll(path);
     list.prepend(path);
-    m_defaults.setValue(keys::RecentDocuments.name, list.mid(0, keptDocuments));
+    m_defaults.keep(keys::RecentDocuments, list.mid(0, keptDocuments));
 }
 
 QStringList RecentDocuments::paths() const
 {
-    return m_defaults.value(keys::RecentDocuments.name).value_or(QVariant()).toStringList();
+    return m_defaults.stored().value(keys::RecentDocuments.name).value_or(QVariant()).toStringList();
 }
 
 } // namespace tessera

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/userdefaults.h"
+#include "platform/defaultscontroller.h"
 
 namespace tessera {
 
@@ -9,14 +9,14 @@ namespace tessera {
 class RecentDocuments
 {
 public:
-    explicit RecentDocuments(UserDefaults& defaults);
+    explicit RecentDocuments(DefaultsController& defaults);
 
     void note(const QString& path);
     /// Absolute paths, at most ten; they need not exist.
     QStringList paths() const;
 
 private:
-    UserDefaults& m_defaults;
+    DefaultsController& m_defaults;
 };
 
 } // namespace tessera

@@ -29,7 +29,8 @@ const std::array machines{
 
 StagedApp::StagedApp()
     : defaults(settingsPath())
-    , recent(defaults)
+    , controller(defaults)
+    , recent(controller)
 {
     QDir().mkpath(path(QStringLiteral("data")));
     // What an emulator answers is remembered here, not among the user's own files.
@@ -57,7 +58,7 @@ QByteArray StagedApp::store() const
 
 void StagedApp::start(const QString& file)
 {
-    app = std::make_unique<App>(desktop, defaults, recent, storePath());
+    app = std::make_unique<App>(desktop, controller, recent, storePath());
     app->run(file);
     // Most tests have no favourites, which every start says.
     if (!QFile::exists(app->favorites().favourites().path()))

@@ -114,6 +114,7 @@ public:
     QTemporaryDir folder;
     ScriptedDesktop desktop;
     UserDefaults defaults;
+    DefaultsController controller;
     RecentDocuments recent;
     std::unique_ptr<App> app;
 };

@@ -1,8 +1,9 @@
 #include "platform/recentdocuments.h"
 
+#include "support/settings.h"
 #include "support/testmain.h"
 
-#include <QTemporaryDir>
+#include <QSignalSpy>
 
 using namespace tessera;
 
@@ -13,9 +14,8 @@ class RecentDocumentsTest : public QObject
 private Q_SLOTS:
     void theNewestStandsFirstAndOnce()
     {
-        QTemporaryDir folder;
-        UserDefaults defaults(folder.filePath(QStringLiteral("settings.ini")));
-        RecentDocuments recent(defaults);
+        test::Settings settings;
+        RecentDocuments recent(settings.defaults);
         QVERIFY(recent.paths().isEmpty());
         recent.note(QStringLiteral("/roms/pong.zip"));
         recent.note(QStringLiteral("/roms/galaga.zip"));
@@ -24,11 +24,20 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("/roms/pong.zip"), QStringLiteral("/roms/galaga.zip")}));
     }
 
+    // As every setting that is written.
+    void eachIsTold()
+    {
+        test::Settings settings;
+        const QSignalSpy told(&settings.defaults, &DefaultsController::changed);
+        RecentDocuments(settings.defaults).note(QStringLiteral("/roms/pong.zip"));
+        QCOMPARE(told.size(), 1);
+        QCOMPARE(told.first().value(0).toString(), QStringLiteral("RecentDocuments"));
+    }
+
     void tenAreKept()
     {
-        QTemporaryDir folder;
-        UserDefaults defaults(folder.filePath(QStringLiteral("settings.ini")));
-        RecentDocuments recent(defaults);
+        test::Settings settings;
+        RecentDocuments recent(settings.defaults);
         for (int i = 0; i < 14; ++i)
             recent.note(QStringLiteral("/roms/%1.zip").arg(i));
         QCOMPARE(recent.paths().size(), 10);

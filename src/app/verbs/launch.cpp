@@ -59,7 +59,7 @@ int runLaunch(const Verb& verb, const QStringList& arguments)
         = commandLine(ProfileCache().ask(executable).profile, game, argumentsArray(options),
                       ownOptions(favouriteOptions(game)), QFileInfo(executable).absolutePath());
     const ArchiveFolders folders{options.checkboxRompath != 0, options.romsTextField, executable};
-    RecentDocuments(settings).note(QDir::isAbsolutePath(game) ? game : archivePath(folders, game));
+    RecentDocuments(defaults).note(QDir::isAbsolutePath(game) ? game : archivePath(folders, game));
     std::ignore = settings.synchronize();
     if (const QString note = line.leftOutLine(); !note.isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(note));

@@ -52,8 +52,9 @@ private Q_SLOTS:
         tessera({QStringLiteral("launch"), QStringLiteral("exit0")});
         const QString beside = QFileInfo(QStringLiteral(TESSERA_FAKEEMULATOR)).path();
         UserDefaults settings(settingsPath());
+        DefaultsController controller(settings);
         QCOMPARE(
-            RecentDocuments(settings).paths(),
+            RecentDocuments(controller).paths(),
             QStringList({path(QStringLiteral("roms/exit0.zip")), beside + QStringLiteral("/roms/both.zip"),
                          beside + QStringLiteral("/roms/print.zip"), path(QStringLiteral("print.zip"))}));
     }

@@ -94,7 +94,8 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_stored = std::make_unique<UserDefaults>(path("settings.ini"));
-        m_recent = std::make_unique<RecentDocuments>(*m_stored);
+        m_controller = std::make_unique<DefaultsController>(*m_stored);
+        m_recent = std::make_unique<RecentDocuments>(*m_controller);
         m_desktop = std::make_unique<QtDesktop>(*m_recent);
     }
 
@@ -221,6 +222,7 @@ private:
     QProcess m_bus;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<UserDefaults> m_stored;
+    std::unique_ptr<DefaultsController> m_controller;
     std::unique_ptr<RecentDocuments> m_recent;
     std::unique_ptr<QtDesktop> m_desktop;
 };

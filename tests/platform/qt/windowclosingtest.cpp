@@ -235,7 +235,8 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         UserDefaults defaults(folder.filePath("settings.ini"));
-        RecentDocuments recent(defaults);
+        DefaultsController controller(defaults);
+        RecentDocuments recent(controller);
         QtDesktop desktop(recent);
         const Program game("echo $$; read end");
         Windows windows;
