@@ -2,7 +2,6 @@
 
 #include "catalogue/storelayout.h"
 #include "catalogue/xmltext.h"
-#include "core/atomicfile.h"
 
 namespace tessera {
 
@@ -54,13 +53,6 @@ bool isStoreText(std::string_view text, std::span<const GameRecord> records)
     const std::size_t behindUuid = ours.find('<', headerStart.size());
     return text.size() == ours.size() && text.starts_with(headerStart)
         && text.substr(behindUuid) == ourText.substr(behindUuid);
-}
-
-std::expected<void, Failure> writeStore(const QString& path, std::span<const GameRecord> records)
-{
-    const std::string text = storeText(records);
-    const std::string_view piece = text;
-    return writeAtomically(path, std::span(&piece, 1));
 }
 
 } // namespace tessera

@@ -7,7 +7,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
 #include "tools/ui/changeswindow.h"

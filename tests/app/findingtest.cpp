@@ -3,7 +3,7 @@
 #include "app/emptystate.h"
 #include "app/finding.h"
 #include "app/mainwindow.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/filterpanel.h"

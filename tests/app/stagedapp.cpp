@@ -1,7 +1,7 @@
 #include "stagedapp.h"
 
 #include "app/favoritesdesk.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "catalogue/catalogue.h"
 
 #include "catalogue/storereader.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 
 #include "samplerecords.h"
 #include "support/ordinaryuser.h"

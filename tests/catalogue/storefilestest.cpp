@@ -1,5 +1,5 @@
 #include "catalogue/storereader.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 
 #include "samplerecords.h"
 #include "support/ordinaryuser.h"

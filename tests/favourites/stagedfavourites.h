@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "favourites/favourites.h"
 #include "favourites/favouritespath.h"
 #include "favourites/playedgames.h"

@@ -1,4 +1,4 @@
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "verbs/stagedverbs.h"
 
 using namespace tessera;

@@ -1,4 +1,4 @@
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "core/settingskeys.h"
 #include "platform/userdefaults.h"
 #include "verbs/stagedverbs.h"

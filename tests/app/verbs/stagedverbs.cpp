@@ -1,6 +1,6 @@
 #include "verbs/stagedverbs.h"
 
-#include "catalogue/storewriter.h"
+#include "support/writestore.h"
 #include "core/settingskeys.h"
 #include "platform/userdefaults.h"
 

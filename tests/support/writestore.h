@@ -1,0 +1,15 @@
+#pragma once
+
+#include "catalogue/storewriter.h"
+#include "core/atomicfile.h"
+
+namespace tessera {
+
+/// A store file of these records, whatever stood at the path.
+inline std::expected<void, Failure> writeStore(const QString& path, std::span<const GameRecord> records)
+{
+    const std::string text = storeText(records);
+    return writeAtomically(path, std::array{std::string_view(text)});
+}
+
+} // namespace tessera
