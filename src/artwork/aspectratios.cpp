@@ -12,14 +12,6 @@ bool isPortrait(QSizeF picture)
     return picture.height() > picture.width();
 }
 
-// The largest size of this shape that fits.
-QSizeF fitted(QSizeF shape, QSizeF into)
-{
-    if (shape.height() / shape.width() <= into.height() / into.width())
-        return {into.width(), into.width() * shape.height() / shape.width()};
-    return {into.height() * shape.width() / shape.height(), into.height()};
-}
-
 PicturePlace centred(PicturePlace place, QSizeF picture, QPointF centre)
 {
     QRectF drawn = place.rectangle(picture);
@@ -52,7 +44,8 @@ std::optional<PicturePlace> picturePlace(QSizeF picture, const QRectF& view, int
         return std::nullopt;
     const AspectRatio ratio = aspectRatio(position, picture);
     const QSizeF shape(ratio.longSide, ratio.shortSide);
-    const QSizeF target = fitted(isPortrait(picture) ? shape.transposed() : shape, view.size());
+    const QSizeF target
+        = (isPortrait(picture) ? shape.transposed() : shape).scaled(view.size(), Qt::KeepAspectRatio);
     return centred({0, 0, static_cast<float>(target.width() / picture.width()),
                     static_cast<float>(target.height() / picture.height())},
                    picture, view.center());

@@ -11,13 +11,13 @@ namespace {
 // What follows the folder; %1 is the set.
 constexpr std::array places{"/%1/0000.png", "/%1.png"};
 
-std::optional<QString> pictureOf(const QString& name, const QString& folder, const PictureFolders& folders)
+std::optional<QString> pictureOf(const QString& name, const QString& folder)
 {
     if (folder.isEmpty() || !isPlainFileName(name))
         return std::nullopt;
     for (const char* place : places) {
         QString path = folder + QString::fromLatin1(place).arg(name);
-        if (folders.hasFile(path))
+        if (const QFileInfo info(path); info.exists() && !info.isDir())
             return path;
     }
     return std::nullopt;
@@ -25,19 +25,13 @@ std::optional<QString> pictureOf(const QString& name, const QString& folder, con
 
 } // namespace
 
-bool FoldersOnDisk::hasFile(const QString& path) const
+std::optional<FoundPicture> findPicture(const WantedPicture& wanted)
 {
-    const QFileInfo info(path);
-    return info.exists() && !info.isDir();
-}
-
-std::optional<FoundPicture> findPicture(const WantedPicture& wanted, const PictureFolders& folders)
-{
-    if (const auto own = pictureOf(wanted.name, wanted.folder, folders))
+    if (const auto own = pictureOf(wanted.name, wanted.folder))
         return FoundPicture{*own, false};
     if (!wanted.parent || !isPlainFileName(wanted.name))
         return std::nullopt;
-    const auto parents = pictureOf(*wanted.parent, wanted.folder, folders);
+    const auto parents = pictureOf(*wanted.parent, wanted.folder);
     return parents ? std::optional(FoundPicture{*parents, true}) : std::nullopt;
 }
 

@@ -6,22 +6,6 @@
 
 namespace tessera {
 
-/// What the lookup asks of the file system.
-class PictureFolders
-{
-public:
-    virtual ~PictureFolders() = default;
-    /// A file that cannot be read is there too.
-    virtual bool hasFile(const QString& path) const = 0;
-};
-
-/// The real ones.
-class FoldersOnDisk : public PictureFolders
-{
-public:
-    bool hasFile(const QString& path) const override;
-};
-
 /// Which set's picture is wanted, of the kind whose folder it is.
 struct WantedPicture {
     QString folder;
@@ -38,8 +22,9 @@ struct FoundPicture {
 };
 
 /// The first of a set's numbered snapshots, or the picture under its name; then the same of its parent. A
-/// name that is no plain file name has no picture: it would lie elsewhere.
-std::optional<FoundPicture> findPicture(const WantedPicture& wanted, const PictureFolders& folders);
+/// name that is no plain file name has no picture: it would lie elsewhere. A file that cannot be read is
+/// there all the same.
+std::optional<FoundPicture> findPicture(const WantedPicture& wanted);
 
 /// Neither empty nor hidden, and nothing that leads out of a folder.
 bool isPlainFileName(const QString& name);

@@ -40,6 +40,7 @@ bool isHistoryXml(std::string_view text)
 
 std::expected<HistoryXml, Failure> HistoryXml::parse(std::string text, const QString& path)
 {
+    // Qt's reader takes seven times as long (1.7 s for 42 MB), and a search waits for it.
     pugi::xml_document document;
     // The text is UTF-8 by now, whatever it declares.
     const pugi::xml_parse_result parsed

@@ -23,16 +23,10 @@ std::expected<std::string, Failure> wholeFile(const QString& path)
     if (file.size() > sizeLimit)
         return std::unexpected(Failure{"info_too_large", {path}});
     std::string bytes(static_cast<std::size_t>(file.size()), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const qint64 count = file.read(bytes.data() + filled, static_cast<qint64>(bytes.size() - filled));
-        if (count < 0)
-            return std::unexpected(Failure{"info_not_read", {path, file.errorString()}});
-        if (count == 0)
-            break;
-        filled += static_cast<std::size_t>(count);
-    }
-    bytes.resize(filled);
+    const qint64 count = file.read(bytes.data(), file.size());
+    if (count < 0)
+        return std::unexpected(Failure{"info_not_read", {path, file.errorString()}});
+    bytes.resize(static_cast<std::size_t>(count));
     return bytes;
 }
 

@@ -4,12 +4,9 @@
 #include "info/shiftjis.h"
 
 #include <unicode/ucnv.h>
-#include <unicode/ustring.h>
-#include <unicode/utf16.h>
 
 #include <algorithm>
 #include <memory>
-#include <span>
 
 namespace tessera {
 
@@ -17,10 +14,8 @@ namespace {
 
 constexpr EncodingTrial escapedTrial{TextEncoding::Iso2022Jp, "ISO-2022-JP", false};
 constexpr char escape = 27;
-// UTF-16 units that are decoded before they become UTF-8; few enough to stay close to the processor.
-constexpr std::size_t pieceUnits = 8192;
-// No UTF-16 unit becomes more bytes of UTF-8.
-constexpr std::size_t bytesPerUnit = 3;
+// No byte of the encodings that ICU decodes here becomes more bytes of UTF-8.
+constexpr std::size_t bytesPerByte = 3;
 
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
@@ -35,23 +30,14 @@ Converter strictConverter(const char* name)
     return converter;
 }
 
-// False for a lone surrogate.
-bool appendUnits(std::string& text, std::span<const UChar> units)
+// The control characters 80 to 9F are C2 80 to C2 9F.
+bool hasHighControls(std::string_view text)
 {
-    std::array<char, pieceUnits * bytesPerUnit> bytes;
-    UErrorCode status = U_ZERO_ERROR;
-    int32_t size = 0;
-    u_strToUTF8(bytes.data(), static_cast<int32_t>(bytes.size()), &size, units.data(),
-                static_cast<int32_t>(units.size()), &status);
-    if (U_FAILURE(status))
-        return false;
-    text.append(bytes.data(), static_cast<std::size_t>(size));
-    return true;
-}
-
-bool isHighControl(UChar unit)
-{
-    return unit >= 0x80 && unit < 0xA0;
+    for (std::size_t at = text.find('\xC2'); at != std::string_view::npos; at = text.find('\xC2', at + 1)) {
+        if (static_cast<unsigned char>(text[at + 1]) < 0xA0)
+            return true;
+    }
+    return false;
 }
 
 std::optional<std::string> converted(const EncodingTrial& trial, std::string_view bytes)
@@ -59,29 +45,15 @@ std::optional<std::string> converted(const EncodingTrial& trial, std::string_vie
     const Converter converter = strictConverter(trial.converter);
     if (!converter)
         return std::nullopt;
+    UErrorCode status = U_ZERO_ERROR;
     std::string text;
-    std::array<UChar, pieceUnits> units;
-    std::size_t kept = 0; // half of a surrogate pair that the piece before ended with
-    const char* source = bytes.data();
-    const char* const end = source + bytes.size();
-    for (UErrorCode status = U_BUFFER_OVERFLOW_ERROR; status == U_BUFFER_OVERFLOW_ERROR;) {
-        UChar* target = units.data() + kept;
-        status = U_ZERO_ERROR;
-        ucnv_toUnicode(converter.get(), &target, units.data() + units.size(), &source, end, nullptr, true,
-                       &status);
-        if (U_FAILURE(status) && status != U_BUFFER_OVERFLOW_ERROR)
-            return std::nullopt;
-        const auto count = static_cast<std::size_t>(target - units.data());
-        kept = status == U_BUFFER_OVERFLOW_ERROR && count > 0 && U16_IS_LEAD(units[count - 1]) ? 1 : 0;
-        if (!trial.hasHighControls && std::ranges::any_of(std::span(units).first(count), isHighControl))
-            return std::nullopt;
-        if (text.empty())
-            text.reserve(bytes.size() + bytes.size() / 2);
-        if (!appendUnits(text, std::span(units).first(count - kept)))
-            return std::nullopt;
-        if (kept == 1)
-            units[0] = units[count - 1];
-    }
+    text.resize_and_overwrite(bytes.size() * bytesPerByte, [&](char* to, std::size_t room) {
+        const int32_t size = ucnv_toAlgorithmic(UCNV_UTF8, converter.get(), to, static_cast<int32_t>(room),
+                                                bytes.data(), static_cast<int32_t>(bytes.size()), &status);
+        return U_SUCCESS(status) ? static_cast<std::size_t>(size) : 0;
+    });
+    if (U_FAILURE(status) || (!trial.hasHighControls && hasHighControls(text)))
+        return std::nullopt;
     return text;
 }
 

@@ -66,6 +66,45 @@ private Q_SLOTS:
         QCOMPARE(entryOf(*history, "c"), QByteArray("\n"));
     }
 
+    void whatStandsBeforeItIsLeftOut()
+    {
+        const std::string entry = "<history><entry><systems><system name=\"a\"/></systems><text>A</text>"
+                                  "</entry></history>";
+        for (const char* before : {"", " \r\n", "\xEF\xBB\xBF", "\xEF\xBB\xBF\r\n",
+                                   "\r\n<?xml version=\"1.0\" encoding=\"Shift_JIS\"?>"}) {
+            const auto history = HistoryXml::parse(before + entry, QString());
+            QVERIFY(history.has_value());
+            QCOMPARE(entryOf(*history, "a"), QByteArray("A\n"));
+        }
+    }
+
+    void anEntityThatIsNotKnownStaysAsItIsWritten()
+    {
+        const auto history = HistoryXml::parse(
+            "<?xml version=\"1.0\"?><!DOCTYPE history [<!ENTITY b \"bbbb\">]><history><entry><systems>"
+            "<system name=\"a&amp;\"/></systems><text>&a; &b; &lt;</text></entry></history>",
+            QString());
+        QVERIFY(history.has_value());
+        QCOMPARE(entryOf(*history, "a&"), QByteArray("&a; &b; <\n"));
+    }
+
+    void anEntryMayHoldAnything()
+    {
+        std::string nested;
+        for (int level = 0; level < 100'000; ++level)
+            nested += "<b>";
+        for (int level = 0; level < 100'000; ++level)
+            nested += "</b>";
+        const auto history = HistoryXml::parse("<history><other/><entry>" + nested
+                                                   + "<text>A<b>not</b> B</text><systems><system name=\"a\">"
+                                                     "<x/></system><y/><system name=\"b\"/></systems></entry>"
+                                                     "</history>",
+                                               QString());
+        QVERIFY(history.has_value());
+        QCOMPARE(entryOf(*history, "a"), QByteArray("A B\n"));
+        QCOMPARE(entryOf(*history, "b"), QByteArray("A B\n"));
+    }
+
     void brokenFilesAreRefused_data()
     {
         QTest::addColumn<QByteArray>("text");

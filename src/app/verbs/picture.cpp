@@ -18,7 +18,7 @@ int runPicture(const Verb& verb, const QStringList& arguments)
     WantedPicture wanted{parser.value(folder), parser.positionalArguments().constFirst(), std::nullopt};
     if (parser.isSet(parent) && !parser.isSet(noParent))
         wanted.parent = parser.value(parent);
-    const auto picture = findPicture(wanted, FoldersOnDisk());
+    const auto picture = findPicture(wanted);
     if (!picture)
         return failed(Failure{"picture_none", {wanted.folder, wanted.name}});
     print(picture->path);

@@ -43,7 +43,7 @@ void SnapshotController::Setsnapshot(const QString& name)
     WantedPicture wanted{m_parts.folder.snappath(), name, std::nullopt};
     if (m_parts.folder.showsParents())
         wanted.parent = m_parts.selection.selected().parent;
-    const auto found = findPicture(wanted, FoldersOnDisk());
+    const auto found = findPicture(wanted);
     m_snapimag = found ? found->path : QString(noImage);
     m_parts.view.setAccessibleDescription(found ? m_snapimag : qtTrId("picture_nopicture"));
     m_parts.view.setToolTip(
