@@ -54,7 +54,7 @@ std::optional<PicturePlace> picturePlace(QSizeF picture, const QRectF& view, int
 PicturePlace inWholeSteps(const PicturePlace& place, QSizeF picture)
 {
     const float least = std::min(place.scaleX, place.scaleY);
-    // A hair below a whole number is that number.
+    // Rounding may leave a whole number a little too small.
     const float whole = std::floor(least + 0.001F);
     if (whole < 1)
         return place;

@@ -35,7 +35,7 @@ bool isInvisible(QChar c)
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format;
 }
 
-// Without what hides a file or cannot be seen.
+// Without invisible characters, and without the leading dots that would hide the file.
 QString cleaned(QString name)
 {
     name.removeIf(&isInvisible);
@@ -66,7 +66,7 @@ QByteArray unquoted(QByteArray value)
     return text;
 }
 
-// What follows "name=" behind a semicolon. Parameters are told by their names, in any case of letters.
+// The value of "name=" behind a semicolon; the case of the name does not matter.
 std::optional<QByteArray> parameter(const QByteArray& header, const QByteArray& name)
 {
     bool isQuoted = false;

@@ -8,7 +8,7 @@
 
 namespace tessera {
 
-/// What a length is that a server does not tell.
+/// The length where a server does not tell it.
 inline constexpr double unknownLength = -1;
 /// In bytes; no picture of a game comes near.
 inline constexpr qint64 largestPicture = qint64{64} << 20;

@@ -71,7 +71,7 @@ bool PictureDownload::start(const QUrl& url, const QString& folder)
     return true;
 }
 
-// Other schemes would be files of this machine.
+// Other schemes could name files of this machine.
 void PictureDownload::ask(const QUrl& url)
 {
     const QString address = url.toString(QUrl::FullyEncoded);
@@ -85,7 +85,8 @@ void PictureDownload::ask(const QUrl& url)
     hear(&QNetworkReply::finished, &PictureDownload::end);
 }
 
-// Queued: the question lets events through, and the reply may go while it stands, but not while it speaks.
+// Queued: the question runs an event loop in which the reply may be deleted, and that must not happen within
+// a signal of the reply itself.
 void PictureDownload::hear(void (QNetworkReply::*said)(), void (PictureDownload::*step)())
 {
     const std::weak_ptr<Job> job = m_job;
@@ -176,7 +177,7 @@ void PictureDownload::end()
         return refuse();
     if (const auto reason = reasonOfError())
         return fail(*reason);
-    // A status that leads nowhere.
+    // No answer opened one, as with a redirect that names no address.
     if (!m_job->file)
         return refuse();
     const std::weak_ptr<Job> job = m_job;
@@ -242,7 +243,7 @@ void PictureDownload::failFile()
     fail(Failure{"failure_write", {file.fileName(), file.errorString()}}.text());
 }
 
-// A status that tells of an error is none where a picture came with it.
+// The status of an error does not count where a whole picture came with it.
 std::optional<QString> PictureDownload::reasonOfError() const
 {
     const QNetworkReply& reply = *m_job->reply;
@@ -251,13 +252,13 @@ std::optional<QString> PictureDownload::reasonOfError() const
     const bool isWhole = m_job->expected == unknownLength || static_cast<double>(whole) == m_job->expected;
     if (reply.error() == QNetworkReply::NoError || (status >= 400 && m_job->file && isWhole))
         return std::nullopt;
-    // Nobody else ends a reply early without being heard.
+    // Only the time-out ends a reply that is still connected; stop() disconnects it first.
     if (reply.error() == QNetworkReply::OperationCanceledError)
         return Failure{"download_silent", {reply.url().host()}}.text();
     return reply.errorString();
 }
 
-// Nothing is heard of the reply any more; what the file holds so far goes with it.
+// Disconnects the reply before it ends it. A file that was begun is removed with the job.
 void PictureDownload::stop()
 {
     const std::shared_ptr<Job> job = std::exchange(m_job, nullptr);

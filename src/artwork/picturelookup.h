@@ -10,7 +10,7 @@ namespace tessera {
 struct WantedPicture {
     QString folder;
     QString name;
-    /// Not there where the parent's picture is not wanted.
+    /// Nothing where the parent's picture is not wanted.
     std::optional<QString> parent;
 };
 

@@ -45,9 +45,8 @@ std::expected<QString, Failure> keepAs(const QString& path, const QString& name)
     if (!QFileInfo(path).isFile())
         return QString();
     QString free = freeName(name);
-    // Where the file system has no second names, as some that are shared with other systems, a copy does as
-    // well.
-    // A link is followed: what it leads to is what a new text replaces.
+    // A symbolic link is followed, as a new text replaces what it leads to. Where the file system has no hard
+    // links, a copy does as well.
     if (::linkat(AT_FDCWD, QFile::encodeName(path).constData(), AT_FDCWD, QFile::encodeName(free).constData(),
                  AT_SYMLINK_FOLLOW)
         == 0)

@@ -20,8 +20,8 @@ private:
     std::uint32_t m_place;
 };
 
-/// A favourite before and after one of its values became another one: a number that became a text comes back
-/// as a number.
+/// An edit of one value. It holds the whole favourite before and after it: undone, a number that became a
+/// text is a number again.
 class EditFavourite : public QUndoCommand
 {
 public:

@@ -15,7 +15,7 @@ std::uint64_t timesNumber(const std::optional<Played>& played)
     return played ? played->times : 0;
 }
 
-// Before 1970 nothing was played in an emulator.
+// 0 is for what was never played; a time before 1970, which a wrong clock gives, counts as 1.
 std::uint64_t lastNumber(const std::optional<Played>& played)
 {
     if (!played || !played->last.isValid())
@@ -23,7 +23,7 @@ std::uint64_t lastNumber(const std::optional<Played>& played)
     return static_cast<std::uint64_t>(std::max(qint64(1), played->last.toSecsSinceEpoch()));
 }
 
-// For each option its place among all of them.
+// For each favourite the place of its options among the sorted options of all.
 std::vector<std::uint64_t> optionNumbers(const Favourites& favourites)
 {
     std::vector<QString> options;

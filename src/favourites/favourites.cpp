@@ -10,7 +10,7 @@ namespace tessera {
 
 namespace {
 
-// As a new favourite's are written.
+// The order in which the attributes of a new favourite are written.
 constexpr std::array writtenOrder{Field::Name,  Field::Cloneof, Field::Title, Field::Titlejp, Field::Year,
                                   Field::Maker, Field::Status,  Field::Type,  Field::Device};
 static_assert(writtenOrder.size() == fieldCount);
@@ -42,7 +42,7 @@ std::expected<Favourites::Opened, Failure> Favourites::open()
         return Opened::EmptyList;
 
     m_undo.clear();
-    // The old texts live until everybody has let go of the old records.
+    // Listeners of replaced() may still hold old records, which are views of the old texts.
     const TextArena oldTexts = std::exchange(m_arena, {});
     const std::vector<GameRecord> oldRecords = std::exchange(m_records, {});
     m_entries.clear();
@@ -159,7 +159,7 @@ std::vector<GameRecord> Favourites::insert(std::span<const std::uint32_t> places
     return records;
 }
 
-// The old records live until everybody has let go of them.
+// Listeners of removed() may still hold the old records: these live to the end of the function.
 void Favourites::takeOut(std::span<const std::uint32_t> places)
 {
     std::vector<GameRecord> records = m_records;

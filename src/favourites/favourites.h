@@ -52,10 +52,10 @@ public:
     QUndoStack& undoStack() { return m_undo; }
 
 Q_SIGNALS:
-    /// Every favourite is another one now.
+    /// All favourites were replaced.
     void replaced();
     void valueChanged(std::uint32_t favourite, FavouriteKey key);
-    /// One more, behind the others.
+    /// One was added at the end.
     void appended();
     /// Those at these indexes, rising, are gone; the others stand together now.
     void removed(const std::vector<std::uint32_t>& favourites);
@@ -75,7 +75,7 @@ private:
 
     GameRecord recordOf(const PropertyList& entry);
     void put(std::uint32_t favourite, const PropertyList& entry, FavouriteKey key);
-    /// Gives the old records, which live until everybody has let go of them.
+    /// Gives the old records, which are to live until the change has been told.
     [[nodiscard]] std::vector<GameRecord> insert(std::span<const std::uint32_t> places,
                                                  std::span<const PropertyList> entries);
     void takeOut(std::span<const std::uint32_t> places);

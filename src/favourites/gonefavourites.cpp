@@ -9,7 +9,7 @@ RecordSet goneFavourites(std::span<const GameRecord> favourites, std::span<const
     RecordSet gone(favourites.size());
     if (favourites.empty() || catalogue.empty())
         return gone;
-    // The favourites are few: what is looked for is kept, not what there is.
+    // The favourites are few, so the set holds their names rather than the catalogue's.
     std::unordered_set<std::string_view> wanted;
     for (const GameRecord& favourite : favourites)
         wanted.insert(favourite[Field::Name]);

@@ -25,7 +25,7 @@ public:
 
     QString path() const { return m_file.path(); }
 
-    /// Where there is no file nothing was played. After a failure neither.
+    /// Nothing was played where there is no file, nor after a failure.
     std::expected<void, Failure> open();
     std::expected<void, Failure> save();
 

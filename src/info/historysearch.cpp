@@ -28,11 +28,11 @@ std::string joined(std::initializer_list<std::string_view> pieces)
     return text;
 }
 
-// Where the first `words` at or behind `from` end, or npos. The library's own find() stops at every first
-// character, which the price of an old game may be.
+// Where the first `words` at or behind `from` end, or npos. std::string_view::find() is slower: it stops at
+// every "$", and texts hold prices.
 std::size_t behind(std::string_view file, std::string_view words, std::size_t from = 0)
 {
-    // A text that was never read has no address to search at.
+    // An empty view may be null, which memmem() may not be given.
     if (from >= file.size())
         return npos;
     const void* hit = ::memmem(file.data() + from, file.size() - from, words.data(), words.size());
@@ -51,7 +51,7 @@ std::string_view entryFrom(std::string_view file, std::size_t start)
     return file.substr(start, file.substr(start).find(infoTag));
 }
 
-// Takes the first line off the text, with what ends it; gives it without.
+// Takes the first line off the text, with its line end; gives it without.
 std::string_view takeLine(std::string_view& text)
 {
     const std::string_view line = text.substr(0, text.find_first_of(lineEnds));

@@ -23,7 +23,7 @@ void appendEntry(std::string& text, const Section& section, std::string_view ent
 void appendSection(HistoryText& shown, const Section& section, const InfoFile* file, std::string_view name,
                    FiledEntries wanted)
 {
-    // As if every name stood at the start of an absent file, with nothing to tell.
+    // Deliberate: in an absent file every name has an empty entry.
     if (file == nullptr) {
         appendEntry(shown.text, section, {});
         return;

@@ -14,7 +14,7 @@ namespace tessera {
 bool isHistoryXml(std::string_view text);
 
 /// The entries of machines in such a text, each found under every name that it lists. Entries of software are
-/// let go.
+/// left out.
 class HistoryXml
 {
 public:

@@ -9,13 +9,13 @@ namespace tessera {
 
 namespace {
 
-// Bytes; the largest such file has less than a tenth of it.
+// In bytes; the largest such file is less than a tenth of it.
 constexpr qint64 sizeLimit = qint64{1} << 30;
 
 std::expected<std::string, Failure> wholeFile(const QString& path)
 {
     QFile file(path);
-    // Neither a folder nor what might have no end.
+    // No folder, and no pipe or device, whose content may have no end.
     if (!QFileInfo(path).isFile())
         return std::unexpected(Failure{"info_no_file", {path}});
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))

@@ -60,8 +60,7 @@ struct DecodedText {
     std::optional<std::string> text;
 };
 
-/// Tries one encoding after another, each over the whole file. Where all are ruled out, the last one is
-/// named.
+/// Tries one encoding after another, each over the whole file. Where none takes it, the last one is named.
 DecodedText decodedText(std::string bytes);
 
 /// The encoding alone.

@@ -24,7 +24,7 @@ public:
     void setPopup(QComboBox& popup);
     void addPopup(QComboBox& popup);
     void fillMenu(QMenu& menu);
-    /// The checked one; none before the start has come so far.
+    /// The checked one; none until snapviewAction() has run.
     QAction* selectMenuitem() const { return m_selectMenuitem; }
 
 public Q_SLOTS:

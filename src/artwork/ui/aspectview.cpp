@@ -63,7 +63,7 @@ QRect AspectView::drawnRect() const
         return {};
     const QRectF drawn
         = (hasWholeSteps() ? inWholeSteps(*place, m_image.size()) : *place).rectangle(m_image.size());
-    // Whole pixels: between them everything would be blurred.
+    // Whole pixels: at a fraction of one the picture would be blurred.
     return QRect(qRound(drawn.x()), qRound(drawn.y()), qMax(1, qRound(drawn.width())),
                  qMax(1, qRound(drawn.height())));
 }

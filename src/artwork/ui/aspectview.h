@@ -49,7 +49,8 @@ private:
 
     DefaultsController& m_defaults;
     QImage m_image;
-    /// It is drawn at once as fast as that goes, and as well as it goes when nothing else has come since.
+    /// The picture scaled well, made when nothing has changed for a moment. Until then it is scaled fast,
+    /// while it is painted.
     QPixmap m_scaled;
     QTimer* m_refining;
     WindowDrag m_drag;

@@ -23,7 +23,7 @@ public:
     QPushButton* closeButton;
     QLabel* folderLabel; ///< where the picture goes
 
-    /// Moving without a measure, or from 0 to 100.
+    /// Busy without a percentage, or from 0 to 100.
     void setIndeterminate(bool indeterminate);
     void setPercent(double percent);
     void setRunning(bool running);

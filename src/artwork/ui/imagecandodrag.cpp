@@ -26,7 +26,7 @@ void ImageCandoDrag::paintEvent(QPaintEvent*)
     if (!place)
         return;
     QPainter painter(this);
-    // Whole pixels stay as sharp as they are.
+    // At a whole scale the pixels are drawn sharp.
     const auto scale = static_cast<double>(place->scaleX) * devicePixelRatioF();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
     painter.drawImage(place->rectangle(m_image.size()), m_image);

@@ -64,7 +64,7 @@ void ImageWindow::fit(QSize picture)
     const Frame wanted = turnedOver(imageFrame(current, picture), bottom);
     QRect place = QRectF(wanted.x, wanted.y, wanted.width, wanted.height).toRect();
     if (!testAttribute(Qt::WA_Moved) && !isVisible()) {
-        // Nobody has placed it yet: the desktop does.
+        // It has no place yet; the desktop gives it one.
         resize(place.size());
         return;
     }

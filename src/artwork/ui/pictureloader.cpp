@@ -61,7 +61,7 @@ void PictureLoader::read(const QString& path)
 {
     m_isReading = true;
     m_pool.start([this, path, most = m_most] {
-        // Before it is read: what is written meanwhile makes it another file.
+        // Taken before it is read, so that a file that is written meanwhile counts as changed.
         const QFileInfo file(path);
         const QDateTime changed = file.lastModified();
         const qint64 length = file.size();

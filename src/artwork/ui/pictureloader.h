@@ -47,7 +47,7 @@ private:
     bool m_isReading = false;
     bool m_isHeld = false;
     QCache<QString, Kept> m_kept; ///< costs in kilobytes
-    QThreadPool m_pool; ///< ends first, while everything else still stands
+    QThreadPool m_pool; ///< the last member: its threads end before what they use is destroyed
 };
 
 } // namespace tessera

@@ -19,13 +19,13 @@ bool isTooLarge(QSize size)
 
 std::expected<QImage, Failure> readPicture(const QString& path)
 {
-    // A pipe of that name would be waited for.
+    // A pipe would block the reader.
     if (!QFileInfo(path).isFile())
         return std::unexpected(Failure{"picture_unreadable", {path, Failure{"picture_nofile", {}}.text()}});
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    // Not what could take any time, or reads other files, to be drawn.
+    // No vector formats: these could take any time to draw, or read other files.
     if (!formats.contains(reader.format()))
         return std::unexpected(Failure{"picture_unreadable", {path, reader.errorString()}});
     if (isTooLarge(reader.size()))
@@ -36,7 +36,7 @@ std::expected<QImage, Failure> readPicture(const QString& path)
     if (image.isNull())
         return std::unexpected(Failure{"picture_unreadable", {path, reader.errorString()}});
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    // What the file says of its own density is of no use here.
+    // The density that the file declares is ignored.
     image.setDevicePixelRatio(1);
     return image;
 }

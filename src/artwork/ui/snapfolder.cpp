@@ -26,7 +26,7 @@ bool SnapFolder::showsParents() const
     return !m_defaults.flag(keys::Suppress_PS);
 }
 
-// At a position behind the table folder and label stay.
+// At a position that is not in the table, folder and label stay as they are.
 void SnapFolder::Setsnapfolder()
 {
     if (const ArtworkKind* shown = artworkKind(kind())) {
@@ -37,7 +37,7 @@ void SnapFolder::Setsnapfolder()
     Q_EMIT picturesChanged();
 }
 
-// The setting's change sets the folder.
+// Setsnapfolder() follows when the setting has changed.
 void SnapFolder::ChangesnapPop()
 {
     const int next = nextArtworkKind(kind());

@@ -15,9 +15,9 @@ class SnapFolder : public QObject
 public:
     SnapFolder(Desktop& desktop, DefaultsController& defaults, QObject* parent = nullptr);
 
-    /// The folder of the kind that is shown; empty before the start has come so far.
+    /// The folder of the kind that is shown; empty until Setsnapfolder() has run.
     QString snappath() const { return m_snappath; }
-    /// The label of the kind whose folder that is; empty before.
+    /// The label of that kind; empty until then.
     QString label() const { return m_label; }
     /// The kind that is chosen, by its position.
     int kind() const;

@@ -14,7 +14,7 @@ namespace tessera {
 namespace {
 
 constexpr int patience = 250; // milliseconds
-// What a view needs at most: to draw it, a larger one would be made smaller again and again.
+// No view needs more: a larger picture would be scaled down at every paint.
 constexpr QSize mostShown(2048, 2048);
 constexpr QLatin1StringView noImage(":/pictures/No_image.jpg");
 
@@ -60,7 +60,7 @@ void SnapshotController::show(const QString&, const QImage& image)
     m_parts.view.setImage(image);
 }
 
-// The path stays: it is what the set has.
+// snapimag() stays the path of the broken file, which is the set's picture.
 void SnapshotController::showBroken(const QString& path, const QString& reason)
 {
     m_patience.stop();

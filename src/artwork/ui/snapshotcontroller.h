@@ -45,7 +45,7 @@ public:
     void setHeld(bool held) { m_loader.setHeld(held); }
 
 public Q_SLOTS:
-    /// As the list's selection is.
+    /// Shows the picture of the selected set.
     void showSelection();
     void Setsnapshot(const QString& name);
     void snappreview();
@@ -63,7 +63,7 @@ private:
 
     SnapshotParts m_parts;
     QString m_snapimag;
-    QTimer m_patience; ///< until the picture before is too old to stand for the one that is awaited
+    QTimer m_patience; ///< how long the last picture stays while the next one is read
     PictureLoader m_loader;
 };
 

@@ -11,7 +11,7 @@
 namespace tessera {
 
 namespace {
-// More are not marked: nobody counts them, and each costs at every paint.
+// No more are marked, since each costs time at every paint.
 constexpr qsizetype mostPlaces = 1000;
 }
 
@@ -83,7 +83,7 @@ void EntryFinder::findPrevious()
 
 bool EntryFinder::eventFilter(QObject* object, QEvent* event)
 {
-    // Else the window would take Escape, and close.
+    // Otherwise Escape would close the window.
     if (event->type() == QEvent::ShortcutOverride && !m_field.text().isEmpty()
         && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         event->accept();

@@ -21,7 +21,7 @@ public:
 public Q_SLOTS:
     void findNext();
     void findPrevious();
-    /// Marks what is found, and goes nowhere: after the text became another.
+    /// Marks what is found without moving to it; for a text that has changed.
     void mark();
 
 protected:

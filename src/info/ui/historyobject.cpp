@@ -74,7 +74,7 @@ void HistoryObject::load(Loaded& which)
         showText(m_text + which.kind.missing);
         return;
     }
-    // A choice stores the path, which has begun it already.
+    // A chosen path was stored first, and that has begun the load.
     if (which.isLoading && which.path == path)
         return;
     which.path = path;
@@ -135,7 +135,7 @@ void HistoryObject::search(const Wanted& wanted)
     if (wanted.name.isEmpty()) {
         m_waiting.reset();
         m_window.showFiled(QString());
-        // Not kept: a message about a missing file goes behind the search before it.
+        // Not kept in m_text: a message about a missing file is appended to the last real result.
         show(historytexts::noName);
         m_window.showParent(QString());
         return;
@@ -189,7 +189,8 @@ void HistoryObject::loadTyped(Loaded& which)
         load(which);
 }
 
-// The same limits as those of the game list; each way is open from where the other one can lead.
+// The same limits as those of the game list: each direction is allowed from every size that the other one
+// can reach.
 void HistoryObject::makeTextBigger()
 {
     step(1, 9, 27);

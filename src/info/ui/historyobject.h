@@ -54,7 +54,7 @@ public Q_SLOTS:
     void makeTextSmaller();
 
 private:
-    /// What there is to know of one of the two files.
+    /// The setting and the messages of one of the two files.
     struct Kind {
         const ChosenKey& key;
         QLatin1StringView missing;
@@ -63,9 +63,9 @@ private:
     struct Loaded {
         Kind kind;
         std::unique_ptr<const InfoFile> file;
-        QString path{}; ///< that is read, or was read last
+        QString path{}; ///< of the file that is being read, or was read last
         bool isLoading = false;
-        int load = 0; ///< what an earlier one gives comes too late
+        int load = 0; ///< counts the loads: the result of an earlier one is dropped
     };
     struct Wanted {
         QString name;
@@ -77,10 +77,10 @@ private:
     void takeFile(Loaded& which, int load, const std::shared_ptr<std::expected<InfoFile, Failure>>& read);
     void search(const Wanted& wanted);
     void showFound(const Wanted& wanted);
-    /// What a message about a missing file is appended to.
+    /// Shows the text and keeps it, so that a message about a missing file can be appended to it.
     void showText(const QString& text);
     void show(const QString& text);
-    /// What was typed as its path; while it is none yet, what was read before stays.
+    /// Loads the file whose path was typed. While the path leads to no file, what was read before stays.
     void loadTyped(Loaded& which);
     void settingChanged(const QString& name);
     void step(int by, int smallest, int largest);
@@ -92,11 +92,11 @@ private:
     Loaded m_history;
     Loaded m_info;
     QString m_text;
-    std::optional<Wanted> m_waiting; ///< for the files
+    std::optional<Wanted> m_waiting; ///< to be searched for once the files are loaded
     QString m_shownName;
     QTimer* m_following;
-    Wanted m_next; ///< when nothing else is asked for
-    QThreadPool m_pool; ///< ends first, while everything else still stands
+    Wanted m_next; ///< to be searched for when m_following ends
+    QThreadPool m_pool; ///< the last member: its threads end before what they use is destroyed
 };
 
 } // namespace tessera

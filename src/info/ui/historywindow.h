@@ -30,7 +30,7 @@ public:
     QToolButton* biggerButton;
     QPushButton* historyButton; ///< chooses the file
     QPushButton* mameinfoButton;
-    QCheckBox* followBox; ///< the selection of the lists
+    QCheckBox* followBox; ///< follows the selection of the lists
 
     void showParent(const QString& parent);
     /// The name that an entry is filed under, or nothing.

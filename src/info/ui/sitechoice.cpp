@@ -35,7 +35,7 @@ SiteChoice::SiteChoice(DefaultsController& defaults, QWidget* parent)
 {
     infositePop2->setObjectName(QStringLiteral("infositePop2"));
     infositePop2->setAccessibleName(qtTrId("infosite_choice"));
-    // Addresses are long, and the window is not.
+    // An address may be longer than the window is wide.
     infositePop2->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     infositePop2->setMinimumContentsLength(8);
     for (int item = 0; item < ownItem; ++item)
@@ -61,7 +61,7 @@ SiteChoice::SiteChoice(DefaultsController& defaults, QWidget* parent)
     showField();
 }
 
-// The hosts are settings.
+// The titles depend on the hosts, which are settings.
 void SiteChoice::showTitles()
 {
     for (int item = 0; item < ownItem; ++item) {
@@ -80,7 +80,7 @@ void SiteChoice::showField()
     infositePop2->setToolTip(infositePop2->currentText());
 }
 
-// Deliberate: the item between the templates and the own address has none.
+// Deliberate: the item between those with a template and the user's own has none.
 QString SiteChoice::siteTemplate() const
 {
     const int item = infositePop2->currentIndex();
