@@ -39,6 +39,7 @@ void BiosQuestion::ask()
 
 void BiosQuestion::end(int status, QProcess::ExitStatus how)
 {
+    m_sets.end();
     if (how != QProcess::NormalExit || status != 0)
         Q_EMIT failed(Failure{"bios_no_answer", {m_emulator}});
     else

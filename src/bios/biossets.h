@@ -1,9 +1,7 @@
 #pragma once
 
 #include "bios/biosentry.h"
-
-#include <string>
-#include <string_view>
+#include "catalogue/listxmlscanner.h"
 
 namespace tessera {
 
@@ -19,14 +17,17 @@ public:
     }
 
     void take(std::string_view printed);
+    /// There is no more.
+    void end();
     /// One entry for each machine with several BIOS to choose from, each of them beneath it.
     const BiosEntries& entries() const { return m_entries; }
 
 private:
-    void takeMachine(std::string_view machine);
+    void takeMachines();
+    void takeMachine(std::string_view text);
 
     Machines m_which;
-    std::string m_rest; ///< of a machine that is not complete
+    ListxmlScanner m_scanner{ElementName::Undecided};
     BiosEntries m_entries;
 };
 

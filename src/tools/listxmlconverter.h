@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/failure.h"
-#include "tools/listxmlscanner.h"
+#include "catalogue/listxmlscanner.h"
 #include "tools/storetext.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/listxmlscanner.h"
+#include "catalogue/listxmlscanner.h"
 
 #include <optional>
 

@@ -48,6 +48,7 @@ private Q_SLOTS:
         BiosSets sets(BiosSets::Machines::BiosOnly);
         for (std::size_t at = 0; at < list.size(); at += static_cast<std::size_t>(size))
             sets.take(std::string_view(list).substr(at, static_cast<std::size_t>(size)));
+        sets.end();
         QCOMPARE(shown(sets.entries()),
                  QStringLiteral("neogeo/us/Neo & Geo[neogeo/euro/Europe \"2\"[] neogeo/us/US[]]"));
     }
@@ -56,6 +57,7 @@ private Q_SLOTS:
     {
         BiosSets sets(BiosSets::Machines::All);
         sets.take(list);
+        sets.end();
         QCOMPARE(sets.entries().size(), std::size_t{2});
         QCOMPARE(shown({sets.entries()[1]}), QStringLiteral("mslug/japan/Metal[mslug/japan/Japan[]]"));
     }
@@ -64,6 +66,7 @@ private Q_SLOTS:
     {
         BiosSets sets(BiosSets::Machines::BiosOnly);
         sets.take("<game isbios=\"yes\" name=\"pgm\"><biosset name=\"v1\" description=\"1\"/></game>");
+        sets.end();
         QCOMPARE(shown(sets.entries()), QStringLiteral("pgm/v1/[pgm/v1/1[]]"));
     }
 
@@ -71,6 +74,7 @@ private Q_SLOTS:
     {
         BiosSets sets(BiosSets::Machines::All);
         sets.take(std::string_view(list).substr(0, list.find("default=")));
+        sets.end();
         QVERIFY(sets.entries().empty());
     }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tools/listxmlcandidates.h"
-#include "tools/listxmlneedles.h"
-#include "tools/slidingwindow.h"
+#include "catalogue/listxmlcandidates.h"
+#include "catalogue/listxmlneedles.h"
+#include "catalogue/slidingwindow.h"
 
 #include <array>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "tools/slidingwindow.h"
+#include "catalogue/slidingwindow.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "tools/listxmlscanner.h"
+#include "catalogue/listxmlscanner.h"
 
 #include <algorithm>
 #include <bit>

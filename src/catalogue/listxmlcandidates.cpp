@@ -1,6 +1,6 @@
-#include "tools/listxmlcandidates.h"
+#include "catalogue/listxmlcandidates.h"
 
-#include "tools/listxmlneedles.h"
+#include "catalogue/listxmlneedles.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
-#include "tools/listxmlcandidates.h"
+#include "catalogue/listxmlcandidates.h"
 
-#include "randomlist.h"
+#include "tools/randomlist.h"
 #include "support/testmain.h"
-#include "tools/listxmlneedles.h"
+#include "catalogue/listxmlneedles.h"
 
 using namespace tessera;
 
