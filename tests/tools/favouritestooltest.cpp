@@ -237,7 +237,7 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.desktop.answerOpen("/chosen/old.xml");
-        QTest::mouseClick(stage.page.button_favorites, Qt::LeftButton);
+        QTest::mouseClick(stage.window.findChild<QPushButton*>("button_favorites"), Qt::LeftButton);
         QCOMPARE(stage.page.favoritesTextField->text(), "/chosen/old.xml");
         QCOMPARE(stage.defaults.string(keys::listxmlPath.name), "/chosen/old.xml");
         QVERIFY(!stage.defaults.value(keys::old_favoritesfile.name));

@@ -3,6 +3,7 @@
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "tools/ui/separationpage.h"
+#include "tools/ui/workbench.h"
 #include "tools/utilitystage.h"
 
 #include <QCheckBox>
@@ -186,9 +187,9 @@ private Q_SLOTS:
     {
         Stage stage;
         QVERIFY(stage.foot.progressInd->maximum() > 0);
-        stage.utility.indicator_start();
+        stage.utility.workbench().indicator_start();
         QCOMPARE(stage.foot.progressInd->maximum(), 0);
-        stage.utility.indicator_stop();
+        stage.utility.workbench().indicator_stop();
         QVERIFY(stage.foot.progressInd->maximum() > 0);
         // Nothing of it is left after a failure either.
         stage.fillFields();
@@ -317,10 +318,10 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.desktop.answerOpen("/f");
-        QCOMPARE(stage.utility.openPanelpath(false, true), "/f");
+        QCOMPARE(stage.utility.workbench().openPanelpath(false, true), "/f");
         QVERIFY(!stage.desktop.openRequests.back().files && stage.desktop.openRequests.back().folders);
         stage.desktop.answerOpen(std::nullopt);
-        QCOMPARE(stage.utility.openPanelpath(true, false), QString());
+        QCOMPARE(stage.utility.workbench().openPanelpath(true, false), QString());
     }
 
     void revealsWhatAFieldNames_data()
@@ -369,8 +370,8 @@ private Q_SLOTS:
     {
         Stage stage;
         stage.page.listxmlTextField->setText(stage.folder.filePath("gone"));
-        stage.page.reveal_listxml->click();
-        stage.page.reveal_mame32jp->click();
+        stage.window.findChild<QToolButton*>("reveal_listxml")->click();
+        stage.window.findChild<QToolButton*>("reveal_mame32jp")->click();
         QCOMPARE(stage.desktop.transcript(), QStringList({"beep", "beep"}));
     }
 
@@ -407,10 +408,12 @@ private Q_SLOTS:
             QTest::keyClick(stage.window.focusWidget(), Qt::Key_Tab);
         }
         for (QWidget* widget : QList<QWidget*>{
-                 stage.window.pageList, stage.page.listxmlTextField, stage.page.button_listxml,
-                 stage.page.reveal_listxml, stage.page.mame32jpTextField, stage.page.button_mame32jp,
-                 stage.page.reveal_mame32jp, stage.page.button_isbios, stage.page.button_ismechanical,
-                 stage.page.button_isdevice, stage.page.button_convert})
+                 stage.window.pageList, stage.page.listxmlTextField,
+                 stage.window.findChild<QWidget*>("button_listxml"),
+                 stage.window.findChild<QWidget*>("reveal_listxml"), stage.page.mame32jpTextField,
+                 stage.window.findChild<QWidget*>("button_mame32jp"),
+                 stage.window.findChild<QWidget*>("reveal_mame32jp"), stage.page.button_isbios,
+                 stage.page.button_ismechanical, stage.page.button_isdevice, stage.page.button_convert})
             QVERIFY2(reached.contains(widget), qPrintable(widget->objectName()));
         QTest::keyClick(&stage.window, Qt::Key_Escape);
         QVERIFY(!stage.window.isVisible());

@@ -1,31 +1,19 @@
 #include "tools/ui/conversionpage.h"
 
-#include "widgets/boundcontrols.h"
-#include "widgets/pathfield.h"
-
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace tessera {
 
 ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
-    , button_convert(new QPushButton(qtTrId("convert_button"), this))
+    , button_convert(makeFootButton("button_convert", qtTrId("convert_button")))
 {
     addHeading(qtTrId("convert_heading"), qtTrId("convert_explanation"));
-    const PathField* listxml
-        = addPath(qtTrId("convert_listxml"), QStringLiteral("listxmlTextField"), QStringLiteral("listxml"));
-    const PathField* titles
-        = addPath(qtTrId("convert_titles"), QStringLiteral("mame32jpTextField"), QStringLiteral("mame32jp"));
-    listxmlTextField = listxml->field();
-    button_listxml = listxml->chooseButton();
-    reveal_listxml = listxml->revealButton();
-    mame32jpTextField = titles->field();
-    button_mame32jp = titles->chooseButton();
-    reveal_mame32jp = titles->revealButton();
+    listxmlTextField = addPath(selectlistxml, defaults);
+    mame32jpTextField = addPath(selectlocalize, defaults);
 
     button_isbios = makeBox(qtTrId("convert_bios"), QStringLiteral("button_isbios"));
     button_ismechanical = makeBox(qtTrId("convert_mechanical"), QStringLiteral("button_ismechanical"));
@@ -35,15 +23,11 @@ ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     savedText = addNote();
     savedText->setObjectName(QStringLiteral("savedText"));
     savedText->setTextFormat(Qt::PlainText);
-    button_useNow = makeButton(qtTrId("convert_use"), QStringLiteral("button_useNow"));
-    button_changes = makeButton(qtTrId("convert_changes"), QStringLiteral("button_changes"));
+    button_useNow = makeButton("button_useNow", qtTrId("convert_use"));
+    button_changes = makeButton("button_changes", qtTrId("convert_changes"));
     addRow(QString(), {button_useNow, button_changes});
     addStretch();
     showSaved({});
-    button_convert->setObjectName(QStringLiteral("button_convert"));
-
-    bind(*listxmlTextField, defaults, keys::listxmlPath);
-    bind(*mame32jpTextField, defaults, keys::localizePath);
 }
 
 QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)
@@ -51,13 +35,6 @@ QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)
     auto* box = new QCheckBox(label, this);
     box->setObjectName(name);
     return box;
-}
-
-QPushButton* ConversionPage::makeButton(const QString& label, const QString& name)
-{
-    auto* button = new QPushButton(label, this);
-    button->setObjectName(name);
-    return button;
 }
 
 void ConversionPage::showSaved(const QString& path)

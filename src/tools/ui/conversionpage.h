@@ -6,7 +6,6 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QToolButton;
 
 namespace tessera {
 
@@ -27,10 +26,6 @@ public:
 
     QLineEdit* listxmlTextField;
     QLineEdit* mame32jpTextField;
-    QPushButton* button_listxml;
-    QPushButton* button_mame32jp;
-    QToolButton* reveal_listxml;
-    QToolButton* reveal_mame32jp;
     QCheckBox* button_isbios;
     QCheckBox* button_ismechanical;
     QCheckBox* button_isdevice;
@@ -41,7 +36,6 @@ public:
 
 private:
     QCheckBox* makeBox(const QString& label, const QString& name);
-    QPushButton* makeButton(const QString& label, const QString& name);
 };
 
 } // namespace tessera

@@ -29,8 +29,6 @@ ConversionTool::ConversionTool(ConversionPage& page, Workbench& workbench, Utili
     , m_host(host)
 {
     connect(m_page.button_convert, &QPushButton::clicked, this, &ConversionTool::xmloutputAction);
-    connect(m_page.button_listxml, &QPushButton::clicked, this, &ConversionTool::selectlistxml);
-    connect(m_page.button_mame32jp, &QPushButton::clicked, this, &ConversionTool::selectlocalize);
     connect(m_page.button_useNow, &QPushButton::clicked, this, &ConversionTool::useAsCatalogue);
     connect(m_page.button_changes, &QPushButton::clicked, this, [this] { m_host.showChanges(); });
 }
@@ -121,20 +119,6 @@ void ConversionTool::useAsCatalogue()
         return m_workbench.desktop().beep();
     if (const auto changes = m_host.useAsCatalogue(m_saved))
         m_page.showUsed(*changes);
-}
-
-void ConversionTool::selectlistxml()
-{
-    m_workbench.choose(*m_page.listxmlTextField, keys::listxmlPath,
-                       {Workbench::Choice::File, textKey("choose_listxml"), {QStringLiteral("xml")}});
-}
-
-void ConversionTool::selectlocalize()
-{
-    m_workbench.choose(*m_page.mame32jpTextField, keys::localizePath,
-                       {Workbench::Choice::File,
-                        textKey("choose_titlelist"),
-                        {QStringLiteral("lst"), QStringLiteral("txt")}});
 }
 
 } // namespace tessera

@@ -22,8 +22,6 @@ public Q_SLOTS:
     void xmloutputAction();
     /// Without looking whether the files are there.
     void outputAction();
-    void selectlistxml();
-    void selectlocalize();
     /// What was saved last takes the catalogue's place.
     void useAsCatalogue();
 

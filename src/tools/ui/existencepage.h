@@ -4,7 +4,6 @@
 
 class QLineEdit;
 class QPushButton;
-class QToolButton;
 
 namespace tessera {
 
@@ -23,14 +22,10 @@ public:
 
     QLineEdit* listfullTextField2;
     QLineEdit* rompathTextField2;
-    QPushButton* button_listfull2;
-    QPushButton* button_rompath2;
-    QToolButton* reveal_listfull2;
-    QToolButton* reveal_rompath2;
     QPushButton* button_csv;
-    QPushButton* button_ask2; ///< at the window's foot, like the next two
+    QPushButton* button_save; ///< at the window's foot, like the next two
+    QPushButton* button_ask2;
     QPushButton* button_check2;
-    QPushButton* button_save;
     QLineEdit* filterField;
     FoundBar* foundBar;
     RowsModel* rows;

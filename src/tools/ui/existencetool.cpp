@@ -41,8 +41,6 @@ ExistenceTool::ExistenceTool(ExistencePage& page, Workbench& workbench, UtilityH
     });
     connect(m_page.button_check2, &QPushButton::clicked, this, &ExistenceTool::romlistup);
     connect(m_page.button_save, &QPushButton::clicked, this, &ExistenceTool::saveAction);
-    connect(m_page.button_listfull2, &QPushButton::clicked, this, &ExistenceTool::selectListfull2);
-    connect(m_page.button_rompath2, &QPushButton::clicked, this, &ExistenceTool::selectROMsfolder2);
 }
 
 void ExistenceTool::romlistup()
@@ -193,18 +191,6 @@ void ExistenceTool::write(const QString& path)
     if (const auto written = writeAtomically(path, std::array{std::string_view(m_report)}); !written)
         m_workbench.desktop().log(
             QString(existencetexts::notWritten).arg(path, written.error().arguments.last()));
-}
-
-void ExistenceTool::selectListfull2()
-{
-    m_workbench.choose(*m_page.listfullTextField2, keys::listfullPath,
-                       {Workbench::Choice::File, textKey("choose_listfull"), {QStringLiteral("txt")}});
-}
-
-void ExistenceTool::selectROMsfolder2()
-{
-    m_workbench.choose(*m_page.rompathTextField2, keys::RomsPath,
-                       {Workbench::Choice::Folder, textKey("choose_roms")});
 }
 
 void ExistenceTool::clear_reportController()

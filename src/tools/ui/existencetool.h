@@ -31,8 +31,6 @@ public Q_SLOTS:
     void askEmulator();
     void saveAction();
     void exportCsv();
-    void selectListfull2();
-    void selectROMsfolder2();
     void clear_reportController();
 
 private:

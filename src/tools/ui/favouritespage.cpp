@@ -1,32 +1,24 @@
 #include "tools/ui/favouritespage.h"
 
 #include "widgets/boundcontrols.h"
-#include "widgets/pathfield.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace tessera {
 
 FavouritesPage::FavouritesPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
     , hiddenText(new QLabel(this))
-    , button_showAll(new QPushButton(qtTrId("favourites_showall"), this))
-    , button_convert3(new QPushButton(qtTrId("favourites_convert"), this))
+    , button_showAll(makeButton("button_showAll", qtTrId("favourites_showall")))
+    , button_convert3(makeFootButton("button_convert3", qtTrId("favourites_convert")))
     , m_hidden(new QWidget(this))
 {
     addHeading(qtTrId("favourites_page"), qtTrId("favourites_explanation"));
-    const PathField* old = addPath(qtTrId("favourites_file"), QStringLiteral("favoritesTextField"),
-                                   QStringLiteral("favorites"));
-    favoritesTextField = old->field();
-    button_favorites = old->chooseButton();
-    reveal_favorites = old->revealButton();
-    button_convert3->setObjectName(QStringLiteral("button_convert3"));
-    button_showAll->setObjectName(QStringLiteral("button_showAll"));
+    favoritesTextField = addPath(selectFavoritesxml);
     hiddenText->setObjectName(QStringLiteral("hiddenText"));
     hiddenText->setWordWrap(true);
     auto* hidden = new QHBoxLayout(m_hidden);

@@ -5,7 +5,6 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
-class QToolButton;
 
 namespace tessera {
 
@@ -25,8 +24,6 @@ public:
     void showResult(const QString& text);
 
     QLineEdit* favoritesTextField;
-    QPushButton* button_favorites;
-    QToolButton* reveal_favorites;
     QLabel* hiddenText;
     QPushButton* button_showAll;
     QLabel* resultText;

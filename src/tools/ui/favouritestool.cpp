@@ -22,7 +22,6 @@ FavouritesTool::FavouritesTool(FavouritesPage& page, Workbench& workbench, Utili
 {
     m_trashPool.setMaxThreadCount(1);
     connect(m_page.button_convert3, &QPushButton::clicked, this, &FavouritesTool::favoritesConvert);
-    connect(m_page.button_favorites, &QPushButton::clicked, this, &FavouritesTool::selectFavoritesxml);
     connect(m_page.button_showAll, &QPushButton::clicked, this, [this] { m_host.showAllRecords(); });
     showHidden();
 }
@@ -119,13 +118,6 @@ void FavouritesTool::trash(const QString& old)
             },
             Qt::QueuedConnection);
     });
-}
-
-// Deliberate: the path is stored where that of the -listxml text is.
-void FavouritesTool::selectFavoritesxml()
-{
-    m_workbench.choose(*m_page.favoritesTextField, keys::listxmlPath,
-                       {Workbench::Choice::File, textKey("choose_oldfavourites"), {QStringLiteral("xml")}});
 }
 
 } // namespace tessera

@@ -20,7 +20,6 @@ public:
 
 public Q_SLOTS:
     void favoritesConvert();
-    void selectFavoritesxml();
     /// What the game list shows is something else now.
     void showHidden();
 

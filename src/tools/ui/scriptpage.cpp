@@ -43,15 +43,13 @@ ScriptPage::ScriptPage(DefaultsController& defaults, QWidget* parent)
     , filenamePop(makePopup("filenamePop", fileNames, this))
     , preoptionPop(makePopup("preoptionPop", optionChoices, this))
     , scriptimageView(new QLabel(this))
-    , button_launcher(new QPushButton(qtTrId("script_launcher"), this))
-    , button_make(new QPushButton(qtTrId("script_make"), this))
+    , button_launcher(makeFootButton("button_launcher", qtTrId("script_launcher")))
+    , button_make(makeFootButton("button_make", qtTrId("script_make")))
 {
     formatPop->setAccessibleName(qtTrId("script_format"));
     scriptimageView->setObjectName(QStringLiteral("scriptimageView"));
     scriptimageView->setFixedSize(pictureSize, pictureSize);
-    button_launcher->setObjectName(QStringLiteral("button_launcher"));
     button_launcher->setToolTip(qtTrId("script_launcher_tip"));
-    button_make->setObjectName(QStringLiteral("button_make"));
     // The launch modes, under the same titles.
     for (const PopupItem& item : launchModes)
         emulatorPop->addItem(item.title != nullptr ? QString::fromLatin1(item.title) : qtTrId(item.labelKey));

@@ -4,67 +4,39 @@
 #include "tools/ui/oneline.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
-#include "widgets/boundcontrols.h"
-#include "widgets/pathfield.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QToolButton>
 
 namespace tessera {
 
 namespace {
 constexpr int failuresHeight = 96;
-constexpr int textMargin = 8;
 } // namespace
 
 SeparationPage::SeparationPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
-    , button_check1(new QPushButton(qtTrId("separation_check"), this))
-    , button_separete(new QPushButton(qtTrId("separation_separate"), this))
+    , button_check1(makeFootButton("button_check1", qtTrId("separation_check")))
+    , button_separete(makeFootButton("button_separete", qtTrId("separation_separate")))
     , rows(new RowsModel({qtTrId("separation_name"), qtTrId("separation_status")}, this))
     , separationList(new RowsList(*rows, QStringLiteral("separationList"), this))
-    , failedCopies(new QPlainTextEdit(this))
+    , failedCopies(makeText("failedCopies", qtTrId("separation_failures")))
 {
     addHeading(qtTrId("separation_page"), qtTrId("separation_explanation"));
-    const PathField* roms
-        = addPath(qtTrId("tool_roms"), QStringLiteral("rompathTextField1"), QStringLiteral("rompath1"));
-    const PathField* listfull
-        = addPath(qtTrId("tool_listfull"), QStringLiteral("listfullTextField1"), QStringLiteral("listfull1"));
-    const PathField* destination = addPath(qtTrId("separation_destination"),
-                                           QStringLiteral("movepathTextField"), QStringLiteral("movepath"));
-    rompathTextField1 = roms->field();
-    button_rompath1 = roms->chooseButton();
-    reveal_rompath1 = roms->revealButton();
-    listfullTextField1 = listfull->field();
-    button_listfull1 = listfull->chooseButton();
-    reveal_listfull1 = listfull->revealButton();
-    movepathTextField = destination->field();
-    button_movepath = destination->chooseButton();
-    reveal_movepath = destination->revealButton();
-    button_check1->setObjectName(QStringLiteral("button_check1"));
-    button_separete->setObjectName(QStringLiteral("button_separete"));
+    rompathTextField1 = addPath(selectROMsfolder1, defaults);
+    listfullTextField1 = addPath(selectListfull1, defaults);
+    movepathTextField = addPath(selectMovefolder, defaults);
     planText = addNote();
     planText->setObjectName(QStringLiteral("planText"));
     separationList->setAccessibleName(qtTrId("separation_page"));
     separationList->setEmptyText(qtTrId("separation_empty"));
     addWide(separationList, 1);
-    failedCopies->setObjectName(QStringLiteral("failedCopies"));
-    failedCopies->setAccessibleName(qtTrId("separation_failures"));
-    failedCopies->setReadOnly(true);
-    failedCopies->document()->setDocumentMargin(textMargin);
-    failedCopies->setTabChangesFocus(true);
     failedCopies->setFixedHeight(failuresHeight);
     failedCopies->hide();
     addWide(failedCopies, 0);
     hidePlan();
-
-    bind(*rompathTextField1, defaults, keys::romsfolderPath);
-    bind(*listfullTextField1, defaults, keys::listfullPath);
-    bind(*movepathTextField, defaults, keys::movefolderPath);
 }
 
 void SeparationPage::showPlan(const SeparationPlan& plan)

@@ -6,7 +6,6 @@ class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
-class QToolButton;
 
 namespace tessera {
 
@@ -32,12 +31,6 @@ public:
     QLineEdit* rompathTextField1;
     QLineEdit* listfullTextField1;
     QLineEdit* movepathTextField;
-    QPushButton* button_rompath1;
-    QPushButton* button_listfull1;
-    QPushButton* button_movepath;
-    QToolButton* reveal_rompath1;
-    QToolButton* reveal_listfull1;
-    QToolButton* reveal_movepath;
     QPushButton* button_check1; ///< at the window's foot, like the next one
     QPushButton* button_separete;
     RowsModel* rows;

@@ -47,9 +47,6 @@ SeparationTool::SeparationTool(SeparationPage& page, Workbench& workbench, QObje
     m_planPool.setMaxThreadCount(1);
     connect(m_page.button_check1, &QPushButton::clicked, this, &SeparationTool::statuscheck);
     connect(m_page.button_separete, &QPushButton::clicked, this, &SeparationTool::separateAction);
-    connect(m_page.button_rompath1, &QPushButton::clicked, this, &SeparationTool::selectROMsfolder1);
-    connect(m_page.button_listfull1, &QPushButton::clicked, this, &SeparationTool::selectListfull1);
-    connect(m_page.button_movepath, &QPushButton::clicked, this, &SeparationTool::selectMovefolder);
     for (const QLineEdit* field :
          {m_page.rompathTextField1, m_page.listfullTextField1, m_page.movepathTextField})
         connect(field, &QLineEdit::textChanged, this, &SeparationTool::makePlan);
@@ -189,24 +186,6 @@ void SeparationTool::movefile(const QString& fileName)
     const Separation separation(m_page.rompathTextField1->text(), m_page.movepathTextField->text(), {});
     if (const auto line = separation.copy(QFile::encodeName(fileName).toStdString()).logLine())
         m_workbench.desktop().log(*line);
-}
-
-void SeparationTool::selectROMsfolder1()
-{
-    m_workbench.choose(*m_page.rompathTextField1, keys::romsfolderPath,
-                       {Workbench::Choice::Folder, textKey("choose_oldroms")});
-}
-
-void SeparationTool::selectListfull1()
-{
-    m_workbench.choose(*m_page.listfullTextField1, keys::listfullPath,
-                       {Workbench::Choice::File, textKey("choose_listfull"), {QStringLiteral("txt")}});
-}
-
-void SeparationTool::selectMovefolder()
-{
-    m_workbench.choose(*m_page.movepathTextField, keys::movefolderPath,
-                       {Workbench::Choice::Folder, textKey("choose_movefolder")});
 }
 
 void SeparationTool::clear_separatorController()

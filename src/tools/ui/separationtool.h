@@ -28,9 +28,6 @@ public:
 public Q_SLOTS:
     void statuscheck();
     void separateAction();
-    void selectROMsfolder1();
-    void selectListfull1();
-    void selectMovefolder();
     void clear_separatorController();
 
 private:

@@ -1,22 +1,65 @@
 #include "tools/ui/toolpage.h"
 
+#include "widgets/boundcontrols.h"
 #include "widgets/mnemonic.h"
 #include "widgets/pathfield.h"
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolButton>
 
 namespace tessera {
 
-PathField* ToolPage::addPath(const QString& label, const QString& fieldName, const QString& name)
+namespace {
+constexpr int textMargin = 8;
+} // namespace
+
+QLineEdit* ToolPage::addPath(const ToolPath& path)
 {
-    auto* path = new PathField(withoutMnemonic(label), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
-    path->field()->setObjectName(fieldName);
-    path->chooseButton()->setObjectName(QStringLiteral("button_") + name);
-    path->revealButton()->setObjectName(QStringLiteral("reveal_") + name);
-    addRow(label, path);
-    return path;
+    const QString label = qtTrId(path.label);
+    auto* row = new PathField(withoutMnemonic(label), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
+    QLineEdit* field = row->field();
+    field->setObjectName(QLatin1StringView(path.field));
+    row->chooseButton()->setObjectName(QStringLiteral("button_") + QLatin1StringView(path.name));
+    row->revealButton()->setObjectName(QStringLiteral("reveal_") + QLatin1StringView(path.name));
+    addRow(label, row);
+    connect(row->chooseButton(), &QPushButton::clicked, this,
+            [this, field, &path] { Q_EMIT pathWanted(*field, path); });
+    connect(row->revealButton(), &QToolButton::clicked, this,
+            [this, field] { Q_EMIT revealWanted(field->text()); });
+    return field;
+}
+
+QLineEdit* ToolPage::addPath(const ToolPath& path, DefaultsController& defaults)
+{
+    QLineEdit* field = addPath(path);
+    bind(*field, defaults, path.key);
+    return field;
+}
+
+QPushButton* ToolPage::makeButton(const char* name, const QString& text)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1StringView(name));
+    return button;
+}
+
+QPushButton* ToolPage::makeFootButton(const char* name, const QString& text)
+{
+    m_footButtons << makeButton(name, text);
+    return m_footButtons.last();
+}
+
+QPlainTextEdit* ToolPage::makeText(const char* name, const QString& accessibleName)
+{
+    auto* text = new QPlainTextEdit(this);
+    text->setObjectName(QLatin1StringView(name));
+    text->setAccessibleName(accessibleName);
+    text->setReadOnly(true);
+    text->document()->setDocumentMargin(textMargin);
+    text->setTabChangesFocus(true);
+    return text;
 }
 
 } // namespace tessera

@@ -7,6 +7,7 @@
 #include "tools/ui/favouritestool.h"
 #include "tools/ui/scripttool.h"
 #include "tools/ui/separationtool.h"
+#include "tools/ui/toolpage.h"
 #include "tools/ui/utilitywindow.h"
 #include "tools/ui/verificationtool.h"
 #include "tools/ui/workbench.h"
@@ -17,35 +18,9 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QStackedWidget>
-#include <QToolButton>
-
-#include <algorithm>
-#include <array>
+#include <QAbstractButton>
 
 namespace tessera {
-
-namespace {
-
-// A path field of the window, and the button that shows it in the file manager.
-struct TaggedField {
-    int tag;
-    const char* field;
-    const char* reveal;
-};
-
-constexpr std::array fields{
-    TaggedField{1, "listfullTextField2", "reveal_listfull2"},
-    TaggedField{2, "rompathTextField2", "reveal_rompath2"},
-    TaggedField{3, "rompathTextField1", "reveal_rompath1"},
-    TaggedField{4, "listfullTextField1", "reveal_listfull1"},
-    TaggedField{5, "movepathTextField", "reveal_movepath"},
-    TaggedField{6, "listxmlTextField", "reveal_listxml"},
-    TaggedField{7, "mame32jpTextField", "reveal_mame32jp"},
-    TaggedField{8, "verifyromsTextField", "reveal_verifyroms"},
-    TaggedField{9, "favoritesTextField", "reveal_favorites"},
-};
-
-} // namespace
 
 UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, UtilityHost& host,
                              QObject* parent)
@@ -64,7 +39,10 @@ UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, Uti
     m_window->mayClose = [this] { return mayBeAbandoned(); };
     connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
     connect(m_workbench.get(), &Workbench::statusWithdrawn, this, &UtilityObject::statusWithdrawn);
-    connectReveals();
+    for (const ToolPage* page : m_window->findChildren<ToolPage*>()) {
+        connect(page, &ToolPage::pathWanted, m_workbench.get(), &Workbench::choose);
+        connect(page, &ToolPage::revealWanted, this, &UtilityObject::reveal);
+    }
     takeFocusRings();
 }
 
@@ -86,64 +64,21 @@ bool UtilityObject::mayBeAbandoned()
     return m_workbench->mayBeAbandoned();
 }
 
-void UtilityObject::connectReveals()
-{
-    for (const TaggedField& field : fields) {
-        const auto* button = m_window->findChild<QToolButton*>(QLatin1String(field.reveal));
-        connect(button, &QToolButton::clicked, this, [this, tag = field.tag] { show_file_in_finder2(tag); });
-    }
-}
-
-void UtilityObject::xmloutputAction()
-{
-    m_conversion->xmloutputAction();
-}
-
-void UtilityObject::outputAction()
-{
-    m_conversion->outputAction();
-}
-
 QString UtilityObject::issueuuid() const
 {
     return QString::fromStdString(storelayout::newUuid());
 }
 
-void UtilityObject::indicator_start()
-{
-    m_workbench->indicator_start();
-}
-
-void UtilityObject::indicator_stop()
-{
-    m_workbench->indicator_stop();
-}
-
-QString UtilityObject::openPanelpath(bool chooseFile, bool chooseDirect)
-{
-    return m_workbench->openPanelpath(chooseFile, chooseDirect);
-}
-
-void UtilityObject::selectlistxml()
-{
-    m_conversion->selectlistxml();
-}
-
-void UtilityObject::selectlocalize()
-{
-    m_conversion->selectlocalize();
-}
-
-QString UtilityObject::pathOf(int tag) const
-{
-    const auto field = std::ranges::find(fields, tag, &TaggedField::tag);
-    return field == fields.end() ? QString()
-                                 : m_window->findChild<QLineEdit*>(QLatin1String(field->field))->text();
-}
-
 void UtilityObject::show_file_in_finder2(int tag)
 {
-    const QString path = pathOf(tag);
+    const auto index = static_cast<std::size_t>(tag) - 1;
+    reveal(index < taggedPaths.size()
+               ? m_window->findChild<QLineEdit*>(QLatin1String(taggedPaths[index]->field))->text()
+               : QString());
+}
+
+void UtilityObject::reveal(const QString& path)
+{
     if (!QFileInfo::exists(path) || !m_desktop.reveal(path))
         m_desktop.beep();
 }

@@ -40,21 +40,11 @@ public:
 
     /// A new one in its standard form.
     QString issueuuid() const;
-    /// The chosen path; empty after Cancel.
-    QString openPanelpath(bool chooseFile, bool chooseDirect);
 
 public Q_SLOTS:
-    void xmloutputAction();
-    void outputAction();
-
-    void selectlistxml();
-    void selectlocalize();
     void show_file_in_finder2(int tag);
-
     void utilityOrderFront();
     void windowWillClose();
-    void indicator_start();
-    void indicator_stop();
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
@@ -62,9 +52,8 @@ Q_SIGNALS:
     void statusWithdrawn(const QString& text);
 
 private:
-    void connectReveals();
+    void reveal(const QString& path);
     void takeFocusRings();
-    QString pathOf(int tag) const;
 
     Desktop& m_desktop;
     std::unique_ptr<UtilityWindow> m_window;

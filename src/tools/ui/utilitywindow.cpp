@@ -12,7 +12,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -43,15 +42,12 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     pageList->setAccessibleName(qtTrId("tool_pages"));
     pageList->setFixedWidth(listWidth);
     utilityTabView->setObjectName(QStringLiteral("utilityTabView"));
-    addPage(conversionPage, qtTrId("convert_page"), {conversionPage->button_convert});
-    addPage(existencePage, qtTrId("existence_page"),
-            {existencePage->button_save, existencePage->button_ask2, existencePage->button_check2});
-    addPage(separationPage, qtTrId("separation_page"),
-            {separationPage->button_check1, separationPage->button_separete});
-    addPage(verificationPage, qtTrId("verification_page"),
-            {verificationPage->button_ask3, verificationPage->button_convert2});
-    addPage(favouritesPage, qtTrId("favourites_page"), {favouritesPage->button_convert3});
-    addPage(scriptPage, qtTrId("script_page"), {scriptPage->button_launcher, scriptPage->button_make});
+    addPage(conversionPage, qtTrId("convert_page"));
+    addPage(existencePage, qtTrId("existence_page"));
+    addPage(separationPage, qtTrId("separation_page"));
+    addPage(verificationPage, qtTrId("verification_page"));
+    addPage(favouritesPage, qtTrId("favourites_page"));
+    addPage(scriptPage, qtTrId("script_page"));
 
     auto* form = new QVBoxLayout;
     form->setSpacing(0);
@@ -70,11 +66,11 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     resize(usualSize);
 }
 
-void UtilityWindow::addPage(QWidget* page, const QString& title, const QList<QPushButton*>& buttons)
+void UtilityWindow::addPage(ToolPage* page, const QString& title)
 {
     utilityTabView->addWidget(page);
     pageList->addItem(title);
-    foot->addButtons(buttons);
+    foot->addButtons(page->footButtons());
 }
 
 void UtilityWindow::closeEvent(QCloseEvent* event)

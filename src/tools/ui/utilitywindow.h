@@ -5,7 +5,6 @@
 #include <functional>
 
 class QListWidget;
-class QPushButton;
 class QStackedWidget;
 
 namespace tessera {
@@ -16,6 +15,7 @@ class ExistencePage;
 class FavouritesPage;
 class ScriptPage;
 class SeparationPage;
+class ToolPage;
 class UtilityFoot;
 class VerificationPage;
 
@@ -46,7 +46,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void addPage(QWidget* page, const QString& title, const QList<QPushButton*>& buttons);
+    void addPage(ToolPage* page, const QString& title);
 };
 
 } // namespace tessera

@@ -4,7 +4,6 @@
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/boundcontrols.h"
-#include "widgets/pathfield.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -13,7 +12,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QToolButton>
 
 namespace tessera {
 
@@ -22,7 +20,6 @@ namespace {
 constexpr int labelDrop = 4; // to the first box's line
 constexpr int stateWidth = 236;
 constexpr int gap = 12;
-constexpr int textMargin = 8;
 constexpr int listShare = 3;
 constexpr int detailsShare = 2;
 
@@ -39,26 +36,19 @@ VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent
     : ToolPage(parent)
     , rows(new RowsModel({qtTrId("existence_set"), qtTrId("verification_state")}, this))
     , setList(new RowsList(*rows, QStringLiteral("setList"), this))
-    , setDetails(new QPlainTextEdit(this))
-    , button_ask3(new QPushButton(qtTrId("tool_from_mame"), this))
-    , button_convert2(new QPushButton(qtTrId("verification_convert"), this))
+    , setDetails(makeText("setDetails", qtTrId("verification_details")))
+    , button_ask3(makeFootButton("button_ask3", qtTrId("tool_from_mame")))
+    , button_convert2(makeFootButton("button_convert2", qtTrId("verification_convert")))
 {
     addHeading(qtTrId("verification_page"), qtTrId("verification_explanation"));
-    const PathField* verifyroms = addPath(qtTrId("verification_file"), QStringLiteral("verifyromsTextField"),
-                                          QStringLiteral("verifyroms"));
-    verifyromsTextField = verifyroms->field();
-    button_verifyroms = verifyroms->chooseButton();
-    reveal_verifyroms = verifyroms->revealButton();
-    button_convert2->setObjectName(QStringLiteral("button_convert2"));
+    verifyromsTextField = addPath(selectVerifytxt, defaults);
     addLine();
     QLabel* label = addRow(qtTrId("verification_verdicts"), makeBoxes(defaults));
     label->setContentsMargins(label->contentsMargins() + QMargins(0, labelDrop, 0, 0));
     layout()->setAlignment(label, Qt::AlignRight | Qt::AlignTop);
     addLine();
     addWide(makeSets(), 1);
-    button_ask3->setObjectName(QStringLiteral("button_ask3"));
     button_ask3->setToolTip(qtTrId("verification_ask_tip"));
-    bind(*verifyromsTextField, defaults, keys::verifyromsText);
 }
 
 // Two columns, the report's order downwards; the words are the emulator's own in every language.
@@ -99,12 +89,7 @@ QWidget* VerificationPage::makeSets()
     setList->setAccessibleName(qtTrId("verification_sets"));
     setList->setEmptyText(qtTrId("verification_empty"));
     setList->setStateWidth(stateWidth);
-    setDetails->setObjectName(QStringLiteral("setDetails"));
-    setDetails->setAccessibleName(qtTrId("verification_details"));
     setDetails->setPlaceholderText(qtTrId("verification_details"));
-    setDetails->setReadOnly(true);
-    setDetails->document()->setDocumentMargin(textMargin);
-    setDetails->setTabChangesFocus(true);
     auto* sets = new QWidget(this);
     auto* layout = new QHBoxLayout(sets);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -8,7 +8,6 @@ class QCheckBox;
 class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
-class QToolButton;
 
 namespace tessera {
 
@@ -29,8 +28,6 @@ public:
     void showSets(std::vector<VerifiedSet> sets);
 
     QLineEdit* verifyromsTextField;
-    QPushButton* button_verifyroms;
-    QToolButton* reveal_verifyroms;
     std::array<QCheckBox*, verdicts.size()> boxes; ///< in the verdicts' order
     RowsModel* rows;
     RowsList* setList;

@@ -35,7 +35,6 @@ VerificationTool::VerificationTool(VerificationPage& page, Workbench& workbench,
 {
     connect(m_page.button_ask3, &QPushButton::clicked, this, &VerificationTool::askEmulator);
     connect(m_page.button_convert2, &QPushButton::clicked, this, &VerificationTool::converter2Action);
-    connect(m_page.button_verifyroms, &QPushButton::clicked, this, &VerificationTool::selectVerifytxt);
 }
 
 void VerificationTool::converter2Action()
@@ -162,12 +161,6 @@ void VerificationTool::takeVerified(std::expected<std::vector<VerifiedSet>, Fail
                    count(VerifiedSet::Verdict::BestAvailable), count(VerifiedSet::Verdict::Bad));
     m_page.showSets(std::move(*sets));
     m_workbench.conclude(summary);
-}
-
-void VerificationTool::selectVerifytxt()
-{
-    m_workbench.choose(*m_page.verifyromsTextField, keys::verifyromsText,
-                       {Workbench::Choice::File, textKey("choose_verifyroms"), {QStringLiteral("txt")}});
 }
 
 } // namespace tessera

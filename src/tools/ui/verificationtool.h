@@ -25,7 +25,6 @@ public:
 
 public Q_SLOTS:
     void converter2Action();
-    void selectVerifytxt();
     /// Lets the emulator verify its ROMs now; what it prints goes to the field as a file.
     void askEmulator();
 

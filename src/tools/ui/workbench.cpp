@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+#include "tools/ui/toolpaths.h"
 #include "tools/ui/utilityfoot.h"
 
 #include <QCoreApplication>
@@ -152,12 +153,13 @@ QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect, const QStri
     return m_desktop.openPanel(panel).value_or(QString());
 }
 
-void Workbench::choose(QLineEdit& field, const ChosenKey& key, const WantedItem& item)
+void Workbench::choose(QLineEdit& field, const ToolPath& path)
 {
-    const QString path = openPanelpath(item.choice == Choice::File, item.choice == Choice::Folder,
-                                       qtTrId(item.titleKey), item.kind);
-    if (!path.isEmpty())
-        takePath(field, key, path);
+    const QString chosen = openPanelpath(
+        path.kind == ToolPath::Kind::File, path.kind == ToolPath::Kind::Folder, qtTrId(path.title),
+        QString::fromLatin1(path.extensions).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    if (!chosen.isEmpty())
+        takePath(field, path.key, chosen);
 }
 
 void Workbench::takePath(QLineEdit& field, const ChosenKey& key, const QString& path)

@@ -16,6 +16,7 @@ namespace tessera {
 class DefaultsController;
 class Desktop;
 class UtilityFoot;
+struct ToolPath;
 
 class Workbench;
 
@@ -51,14 +52,6 @@ class Workbench : public QObject
     Q_OBJECT
 
 public:
-    enum class Choice { File, Folder };
-    /// What a path chooser asks for.
-    struct WantedItem {
-        Choice choice;
-        const char* titleKey;
-        QStringList kind = {}; ///< extensions that are offered as a filter
-    };
-
     Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent = nullptr);
     /// A job that goes on is stopped.
     ~Workbench() override;
@@ -84,7 +77,7 @@ public:
     QString openPanelpath(bool chooseFile, bool chooseDirect, const QString& title = {},
                           const QStringList& kind = {});
     /// Fills the field, stores the path and flushes; nothing after Cancel.
-    void choose(QLineEdit& field, const ChosenKey& key, const WantedItem& item);
+    void choose(QLineEdit& field, const ToolPath& path);
     /// The same with a path that is known.
     void takePath(QLineEdit& field, const ChosenKey& key, const QString& path);
 
