@@ -1,8 +1,11 @@
 #include "core/encodings.h"
 
+#include <QUtf8StringView>
+
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
 #include <unicode/unistr.h>
+#include <unicode/utf8.h>
 
 #include <memory>
 
@@ -11,32 +14,6 @@ namespace tessera {
 namespace {
 
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
-
-// Length of the well-formed UTF-8 sequence at the start of `bytes`, or minus the length of the ill-formed
-// one that a single U+FFFD stands for (Unicode 15, table 3-7). `bytes` is not empty.
-int sequenceLength(std::string_view bytes)
-{
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-    const unsigned char lead = byte(0);
-    if (lead < 0x80)
-        return 1;
-    const int length = lead >= 0xC2 && lead <= 0xDF ? 2
-        : (lead & 0xF0) == 0xE0                     ? 3
-        : lead >= 0xF0 && lead <= 0xF4              ? 4
-                                                    : 0;
-    if (length == 0)
-        return -1;
-    // Only the second byte has bounds of its own; they rule out overlong forms, surrogates and too large
-    // values.
-    const unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-    const unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-    for (int i = 1; i < length; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        if (at >= bytes.size() || byte(at) < (i == 1 ? low : 0x80) || byte(at) > (i == 1 ? high : 0xBF))
-            return -i;
-    }
-    return length;
-}
 
 // ICU's own substitution writes U+001A for a single broken byte.
 void writeReplacement(const void*, UConverterToUnicodeArgs* arguments, const char*, int32_t,
@@ -61,13 +38,7 @@ bool isAscii(std::string_view bytes)
 
 bool isUtf8(std::string_view bytes)
 {
-    while (!bytes.empty()) {
-        const int length = sequenceLength(bytes);
-        if (length < 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(length));
-    }
-    return true;
+    return QUtf8StringView(bytes.data(), static_cast<qsizetype>(bytes.size())).isValidUtf8();
 }
 
 void appendUtf8(std::string& text, std::string_view bytes)
@@ -76,11 +47,11 @@ void appendUtf8(std::string& text, std::string_view bytes)
         text += bytes;
         return;
     }
-    while (!bytes.empty()) {
-        const int length = sequenceLength(bytes);
-        const auto taken = static_cast<std::size_t>(length < 0 ? -length : length);
-        text += length < 0 ? replacement : bytes.substr(0, taken);
-        bytes.remove_prefix(taken);
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t start = at;
+        UChar32 character = 0;
+        U8_NEXT(bytes.data(), at, bytes.size(), character);
+        text += character < 0 ? replacement : bytes.substr(start, at - start);
     }
 }
 

@@ -65,23 +65,6 @@ void takeFirstWords(std::string_view text, Take take)
     }
 }
 
-bool isForeign(char c)
-{
-    return static_cast<unsigned char>(c) >= 0x80;
-}
-
-// How much ASCII is at the start. What is not is rare, so large pieces are looked at together.
-std::size_t plainLength(std::string_view bytes)
-{
-    constexpr std::size_t pieceSize = 256;
-    std::size_t length = 0;
-    while (length < bytes.size() && isAscii(bytes.substr(length, pieceSize)))
-        length = std::min(length + pieceSize, bytes.size());
-    return static_cast<std::size_t>(
-        std::find_if(bytes.begin() + static_cast<std::ptrdiff_t>(length), bytes.end(), &isForeign)
-        - bytes.begin());
-}
-
 } // namespace
 
 std::expected<std::string, Failure> readPrinted(const QString& path)
@@ -96,22 +79,13 @@ std::expected<std::string, Failure> readPrinted(const QString& path)
     return bytes;
 }
 
-// Only runs of bytes outside ASCII need be looked at: none of their sequences goes on behind one of ours.
 std::string printedText(std::string bytes)
 {
     if (isAscii(bytes))
         return bytes;
     std::string text;
     text.reserve(bytes.size());
-    for (std::string_view rest = bytes; !rest.empty();) {
-        const std::size_t plain = plainLength(rest);
-        text += rest.substr(0, plain);
-        rest.remove_prefix(plain);
-        const auto foreignEnd = std::ranges::find_if_not(rest, &isForeign);
-        const auto foreign = static_cast<std::size_t>(foreignEnd - rest.begin());
-        appendUtf8(text, rest.substr(0, foreign));
-        rest.remove_prefix(foreign);
-    }
+    appendUtf8(text, bytes);
     return text;
 }
 
