@@ -1,7 +1,6 @@
 #include "widgets/rounded_view2.h"
 
 #include "core/failure.h"
-#include "widgets/roundedpath.h"
 #include "widgets/theme.h"
 
 #include <QPainter>
@@ -10,22 +9,17 @@
 namespace tessera {
 
 namespace {
-
-QRect inView(const Frame& frame, int viewHeight)
-{
-    const Frame turned = turnedOver(frame, viewHeight);
-    return QRectF(turned.x, turned.y, turned.width, turned.height).toRect();
-}
-
+constexpr int buttonSize = 14;
+constexpr int buttonTop = 12;
 } // namespace
 
 Rounded_View2::Rounded_View2(QWidget* parent)
     : QWidget(parent)
 {
     setDefaults();
-    closeButton = makeButton(closePanelButton, qtTrId("panel_close"), QKeySequence(Qt::CTRL | Qt::Key_W));
+    closeButton = makeButton("bu_close2", 8, qtTrId("panel_close"), QKeySequence(Qt::CTRL | Qt::Key_W));
     minimiseButton
-        = makeButton(minimisePanelButton, qtTrId("panel_minimise"), QKeySequence(Qt::CTRL | Qt::Key_M));
+        = makeButton("bu_minus2", 28, qtTrId("panel_minimise"), QKeySequence(Qt::CTRL | Qt::Key_M));
     connect(closeButton, &QToolButton::clicked, this, &Rounded_View2::orderOut);
     connect(minimiseButton, &QToolButton::clicked, this, &Rounded_View2::miniaturize);
 }
@@ -38,14 +32,15 @@ void Rounded_View2::setDefaults()
     update();
 }
 
-QToolButton* Rounded_View2::makeButton(const PanelButton& button, const QString& name,
+QToolButton* Rounded_View2::makeButton(const char* image, int x, const QString& name,
                                        const QKeySequence& keys)
 {
     auto* made = new QToolButton(this);
-    made->setObjectName(QLatin1String(button.image));
+    made->setObjectName(QLatin1String(image));
     made->setProperty("role", QStringLiteral("knob"));
-    made->setIcon(theme::mark(QLatin1String(button.image)));
-    made->setIconSize(inView(panelButtonFrame(button, 0), 0).size());
+    made->setIcon(theme::mark(QLatin1String(image)));
+    made->setGeometry(x, buttonTop, buttonSize, buttonSize);
+    made->setIconSize(made->size());
     made->setToolTip(name + QStringLiteral(" (") + keys.toString(QKeySequence::NativeText)
                      + QLatin1Char(')'));
     made->setAccessibleName(name);
@@ -72,24 +67,23 @@ void Rounded_View2::setBackgroundColor(const QColor& color)
     update();
 }
 
-void Rounded_View2::resizeEvent(QResizeEvent* event)
+QPainterPath Rounded_View2::outline() const
 {
-    QWidget::resizeEvent(event);
-    closeButton->setGeometry(inView(panelButtonFrame(closePanelButton, height()), height()));
-    minimiseButton->setGeometry(inView(panelButtonFrame(minimisePanelButton, height()), height()));
+    const double inset = static_cast<double>(m_borderWidth) / 1.5;
+    const QRectF inner = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    QPainterPath outline;
+    if (inner.isValid())
+        outline.addRoundedRect(inner.toAlignedRect(), radius, radius);
+    return outline;
 }
 
 void Rounded_View2::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(0, height());
-    painter.scale(1, -1);
-    const QPainterPath outline = painterPath(
-        roundedPath({0, 0, static_cast<double>(width()), static_cast<double>(height())}, m_borderWidth));
-    painter.fillPath(outline, m_backgroundColor);
+    painter.fillPath(outline(), m_backgroundColor);
     if (m_borderWidth > 0)
-        painter.strokePath(outline, QPen(m_borderColor, static_cast<double>(m_borderWidth)));
+        painter.strokePath(outline(), QPen(m_borderColor, static_cast<double>(m_borderWidth)));
 }
 
 } // namespace tessera

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QWidget>
 
 class QToolButton;
 
 namespace tessera {
-
-struct PanelButton;
 
 /// The translucent rounded background of a small window, with a close and a minimise button of its own.
 class Rounded_View2 : public QWidget
@@ -14,6 +13,8 @@ class Rounded_View2 : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr double radius = 19; ///< of its corners
+
     explicit Rounded_View2(QWidget* parent = nullptr);
 
     QToolButton* closeButton;
@@ -27,6 +28,8 @@ public:
     void setBorderColor(const QColor& color);
     void setBackgroundColor(const QColor& color);
     void setDefaults();
+    /// Its edges lie on whole numbers, within the view by two thirds of the border.
+    QPainterPath outline() const;
 
 Q_SIGNALS:
     // The buttons' actions, for the window.
@@ -35,10 +38,9 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QToolButton* makeButton(const PanelButton& button, const QString& name, const QKeySequence& keys);
+    QToolButton* makeButton(const char* image, int x, const QString& name, const QKeySequence& keys);
 
     float m_borderWidth = 0;
     QColor m_borderColor;

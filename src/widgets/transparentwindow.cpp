@@ -1,12 +1,12 @@
 #include "widgets/transparentwindow.h"
 
 #include "widgets/rounded_view2.h"
-#include "widgets/roundedpath.h"
 #include "widgets/windowdrag.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -158,10 +158,10 @@ void TransparentWindow::paintEvent(QPaintEvent*)
     painter.setBrush(QColor(0, 0, 0, shadowAlpha));
     const QRectF panel(m_panel->geometry());
     QPainterPath inner;
-    inner.addRoundedRect(panel, RoundedPath::radius, RoundedPath::radius);
+    inner.addRoundedRect(panel, Rounded_View2::radius, Rounded_View2::radius);
     for (int ring = 1; ring <= shadowWidth; ++ring) {
         QPainterPath outer;
-        const double radius = RoundedPath::radius + ring;
+        const double radius = Rounded_View2::radius + ring;
         outer.addRoundedRect(panel.adjusted(-ring, -ring, ring, ring), radius, radius);
         painter.drawPath(outer.subtracted(inner));
     }
