@@ -27,7 +27,8 @@ public:
     const std::vector<std::string_view>& entries() const { return m_entries; }
 
 private:
-    /// An entry's first place in the list, counted from 1; an empty slot holds 0.
+    /// An entry's first place in the list, counted from 1; an empty slot holds 0. Not an unordered_map: with
+    /// a title for every set, converting took a fifth longer, and reading the titles three times as long.
     struct Slot {
         std::uint32_t hash = 0;
         std::uint32_t entry = 0;
