@@ -11,79 +11,85 @@ namespace tessera {
 
 namespace {
 
-constexpr std::array<const char*, BiosModel::ColumnCount> headers{
-    textKey("bios_column_name"), textKey("bios_column_bios"), textKey("bios_column_rom")};
+using Kept = std::optional<PropertyList>;
+
 constexpr std::array fixedNames{textKey("bios_blank"), textKey("bios_default")};
+constexpr int keptRole = Qt::UserRole; // of a row's first cell: what a file held besides
 
-} // namespace
-
-struct BiosModel::Node {
-    Node* parent = nullptr;
-    BiosEntry entry; ///< without its children
-    std::vector<std::unique_ptr<Node>> children;
-
-    // What a file held is never blank.
-    bool isBlank() const { return !entry.kept && children.empty() && entry == BiosEntry(); }
-    int row() const
-    {
-        const auto own = std::ranges::find(parent->children, this, &std::unique_ptr<Node>::get);
-        return static_cast<int>(own - parent->children.begin());
-    }
-};
-
-BiosModel::BiosModel(QObject* parent)
-    : QAbstractItemModel(parent)
-    , m_root(std::make_unique<Node>())
-{
-}
-
-BiosModel::~BiosModel() = default;
-
-void BiosModel::fill(Node& node, const BiosEntries& entries)
+void fill(QStandardItem& above, const BiosEntries& entries)
 {
     for (const BiosEntry& entry : entries) {
-        auto child = std::make_unique<Node>();
-        child->parent = &node;
-        child->entry = entry;
-        child->entry.children.clear();
-        fill(*child, entry.children);
-        node.children.push_back(std::move(child));
+        auto* name = new QStandardItem(entry.name);
+        name->setData(QVariant::fromValue(entry.kept), keptRole);
+        fill(*name, entry.children);
+        above.appendRow({name, new QStandardItem(entry.bios), new QStandardItem(entry.rom)});
     }
 }
 
-BiosEntries BiosModel::entriesOf(const Node& node)
+// Without its children.
+BiosEntry entryOf(const QStandardItem& above, int row)
+{
+    const auto text = [&](BiosModel::Column column) { return above.child(row, column)->text(); };
+    return {text(BiosModel::Bios),
+            text(BiosModel::Rom),
+            text(BiosModel::Name),
+            {},
+            above.child(row)->data(keptRole).value<Kept>()};
+}
+
+// What a file held is never blank.
+bool isBlankRow(const QStandardItem& above, int row)
+{
+    const BiosEntry entry = entryOf(above, row);
+    return !entry.kept && !above.child(row)->hasChildren() && entry == BiosEntry();
+}
+
+BiosEntries entriesOf(const QStandardItem& above)
 {
     BiosEntries entries;
-    for (const auto& child : node.children) {
-        if (child->isBlank())
+    for (int row = 0; row < above.rowCount(); ++row) {
+        if (isBlankRow(above, row))
             continue;
-        entries.push_back(child->entry);
-        entries.back().children = entriesOf(*child);
+        entries.push_back(entryOf(above, row));
+        entries.back().children = entriesOf(*above.child(row));
     }
     return entries;
 }
 
-BiosModel::Node* BiosModel::nodeAt(const QModelIndex& index) const
+} // namespace
+
+BiosModel::BiosModel(QObject* parent)
+    : QStandardItemModel(parent)
 {
-    return index.isValid() ? static_cast<Node*>(index.internalPointer()) : m_root.get();
+    setHorizontalHeaderLabels(
+        {qtTrId("bios_column_name"), qtTrId("bios_column_bios"), qtTrId("bios_column_rom")});
 }
 
 void BiosModel::setEntries(const BiosEntries& entries)
 {
     beginResetModel();
-    m_root = std::make_unique<Node>();
-    fill(*m_root, entries);
+    {
+        // The reset tells of all that changes in between.
+        const QSignalBlocker quiet(this);
+        removeRows(0, rowCount());
+        fill(*invisibleRootItem(), entries);
+    }
     endResetModel();
 }
 
 BiosEntries BiosModel::entries() const
 {
-    return entriesOf(*m_root);
+    return entriesOf(*invisibleRootItem());
 }
 
 std::optional<BiosEntry> BiosModel::entry(const QModelIndex& index) const
 {
-    return index.isValid() ? std::optional(nodeAt(index)->entry) : std::nullopt;
+    return index.isValid() ? std::optional(entryOf(above(index), index.row())) : std::nullopt;
+}
+
+const QStandardItem& BiosModel::above(const QModelIndex& index) const
+{
+    return index.parent().isValid() ? *itemFromIndex(index.parent()) : *invisibleRootItem();
 }
 
 std::optional<int> BiosModel::fixedRow(const QModelIndex& index) const
@@ -104,7 +110,7 @@ QModelIndex BiosModel::at(const std::vector<int>& place) const
 
 bool BiosModel::isBlank(const QModelIndex& index) const
 {
-    return index.isValid() && nodeAt(index)->isBlank();
+    return index.isValid() && isBlankRow(above(index), index.row());
 }
 
 void BiosModel::setChosen(const QString& bios)
@@ -117,96 +123,40 @@ void BiosModel::setChosen(const QString& bios)
 
 QModelIndex BiosModel::add(const BiosEntry& entry)
 {
-    const auto row = static_cast<int>(m_root->children.size());
-    beginInsertRows({}, row, row);
-    fill(*m_root, {entry});
-    endInsertRows();
-    return index(row, Name);
+    fill(*invisibleRootItem(), {entry});
+    return index(rowCount() - 1, Name);
 }
 
 bool BiosModel::remove(const QModelIndex& index)
 {
-    if (!index.isValid() || fixedRow(index))
-        return false;
-    Node* above = nodeAt(index)->parent;
-    beginRemoveRows(index.parent(), index.row(), index.row());
-    above->children.erase(above->children.begin() + index.row());
-    endRemoveRows();
-    return true;
-}
-
-QModelIndex BiosModel::index(int row, int column, const QModelIndex& parent) const
-{
-    if (!hasIndex(row, column, parent))
-        return {};
-    return createIndex(row, column, nodeAt(parent)->children[static_cast<std::size_t>(row)].get());
-}
-
-QModelIndex BiosModel::parent(const QModelIndex& child) const
-{
-    Node* above = child.isValid() ? nodeAt(child)->parent : nullptr;
-    if (above == nullptr || above == m_root.get())
-        return {};
-    return createIndex(above->row(), 0, above);
-}
-
-int BiosModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.column() > 0 ? 0 : static_cast<int>(nodeAt(parent)->children.size());
-}
-
-int BiosModel::columnCount(const QModelIndex&) const
-{
-    return ColumnCount;
+    return index.isValid() && !fixedRow(index) && removeRow(index.row(), index.parent());
 }
 
 QVariant BiosModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid())
-        return {};
-    const BiosEntry& entry = nodeAt(index)->entry;
-    if (index.column() == Bios && !m_chosen.isEmpty() && entry.bios == m_chosen) {
+    const QVariant value = QStandardItemModel::data(index, role);
+    if (index.column() == Bios && !m_chosen.isEmpty() && itemFromIndex(index)->text() == m_chosen) {
         if (role == Qt::DecorationRole)
             return theme::icon(QStringLiteral("chosen"), "accent");
         if (role == Qt::AccessibleDescriptionRole)
-            return qtTrId("bios_set_now").arg(entry.bios.trimmed());
+            return qtTrId("bios_set_now").arg(m_chosen.trimmed());
     }
-    if (role != Qt::DisplayRole && role != Qt::EditRole)
-        return {};
-    switch (index.column()) {
-    case Name:
-        // The file's names for these two are no one's language.
-        if (const auto fixed = fixedRow(index))
-            return qtTrId(fixedNames[static_cast<std::size_t>(*fixed)]);
-        return entry.name;
-    case Bios:
-        return entry.bios;
-    case Rom:
-        return entry.rom;
-    default:
-        return {};
-    }
+    // What the file calls these two is in no language of ours.
+    const auto fixed = fixedRow(index);
+    const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+    return fixed && index.column() == Name && isText ? qtTrId(fixedNames[static_cast<std::size_t>(*fixed)])
+                                                     : value;
 }
 
 bool BiosModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
     if (!index.isValid() || role != Qt::EditRole || fixedRow(index))
         return false;
-    BiosEntry& entry = nodeAt(index)->entry;
-    QString& text = index.column() == Name ? entry.name : index.column() == Bios ? entry.bios : entry.rom;
-    if (text == value.toString())
+    if (itemFromIndex(index)->text() == value.toString())
         return true;
-    text = value.toString();
-    Q_EMIT dataChanged(index, index);
+    const bool isSet = QStandardItemModel::setData(index, value, role);
     Q_EMIT edited();
-    return true;
-}
-
-QVariant BiosModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
-        return {};
-    return qtTrId(headers[static_cast<std::size_t>(section)]);
+    return isSet;
 }
 
 Qt::ItemFlags BiosModel::flags(const QModelIndex& index) const

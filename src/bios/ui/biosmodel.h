@@ -2,14 +2,12 @@
 
 #include "bios/biosentry.h"
 
-#include <QAbstractItemModel>
-
-#include <memory>
+#include <QStandardItemModel>
 
 namespace tessera {
 
 /// The BIOS list as a tree: name, BIOS, archive. The cells of the real entries can be edited.
-class BiosModel : public QAbstractItemModel
+class BiosModel : public QStandardItemModel
 {
     Q_OBJECT
 
@@ -17,7 +15,6 @@ public:
     enum Column { Name, Bios, Rom, ColumnCount };
 
     explicit BiosModel(QObject* parent = nullptr);
-    ~BiosModel() override;
 
     void setEntries(const BiosEntries& entries);
     BiosEntries entries() const;
@@ -35,13 +32,8 @@ public:
     /// False for a fixed row.
     bool remove(const QModelIndex& index);
 
-    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
-    QModelIndex parent(const QModelIndex& child) const override;
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 Q_SIGNALS:
@@ -49,14 +41,8 @@ Q_SIGNALS:
     void edited();
 
 private:
-    /// An entry in its place: what is above it, and what is beneath it.
-    struct Node;
+    const QStandardItem& above(const QModelIndex& index) const;
 
-    static void fill(Node& node, const BiosEntries& entries);
-    static BiosEntries entriesOf(const Node& node);
-    Node* nodeAt(const QModelIndex& index) const;
-
-    std::unique_ptr<Node> m_root;
     QString m_chosen;
 };
 
