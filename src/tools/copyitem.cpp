@@ -12,9 +12,9 @@
 
 #include <fcntl.h>
 
-// The standard library's copy() cannot be stopped in the middle of a large file, loses times, and makes no
-// room before it writes; Qt's neither keeps times nor shares bytes where the file system could. So files are
-// copied by the system's own calls, and only folders and links are left to the library.
+// Neither the standard library's copy nor Qt's can be stopped in the middle of a large file, keeps times, or
+// makes room before it writes. So files are copied by the system's own calls, and only folders and links are
+// left to the library.
 
 namespace tessera {
 

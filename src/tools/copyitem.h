@@ -15,7 +15,7 @@ namespace tessera {
 /// Who looks on while something is copied.
 struct CopyWatch {
     std::stop_token stop;
-    std::function<void(std::int64_t bytes)> copied; ///< so many more; may be empty
+    std::function<void(std::int64_t bytes)> copied; ///< called with how many more; may be empty
 };
 
 /// The failure's key where somebody asked to stop.

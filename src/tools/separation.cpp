@@ -1,17 +1,17 @@
 #include "tools/separation.h"
 
 #include "core/encodings.h"
-#include "core/openfolder.h"
 
 #include <QFile>
 
 #include <algorithm>
-
-#include <sys/statvfs.h>
+#include <filesystem>
 
 namespace tessera {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::string_view folderIcon = "Icon\r";
 
@@ -27,10 +27,9 @@ QString decoded(const std::string& path)
 
 std::optional<std::int64_t> freeSpace(const std::string& folder)
 {
-    struct statvfs facts{};
-    if (::statvfs(folder.c_str(), &facts) != 0)
-        return std::nullopt;
-    return static_cast<std::int64_t>(facts.f_bavail) * static_cast<std::int64_t>(facts.f_frsize);
+    std::error_code error;
+    const auto space = fs::space(folder, error);
+    return error ? std::nullopt : std::optional(static_cast<std::int64_t>(space.available));
 }
 
 } // namespace
@@ -38,10 +37,12 @@ std::optional<std::int64_t> freeSpace(const std::string& folder)
 std::vector<std::string> romNames(const QString& folder)
 {
     std::vector<std::string> names;
-    const FolderEntries entries(::opendir(QFile::encodeName(folder + u'/').constData()));
-    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
-        if (isListed(entry->d_name))
-            names.emplace_back(entry->d_name);
+    std::error_code error;
+    const std::string path = QFile::encodeName(folder + u'/').toStdString();
+    for (fs::directory_iterator entry(path, error); entry != fs::directory_iterator();
+         entry.increment(error)) {
+        if (const std::string name = entry->path().filename(); isListed(name))
+            names.push_back(name);
     }
     return names;
 }
@@ -63,7 +64,7 @@ SupportedNames SupportedNames::read(const QString& listfull)
     return listed ? SupportedNames(*listed) : SupportedNames();
 }
 
-// Nearly all names are in lower case already; letters outside ASCII have one, too.
+// Nearly all names are ASCII in lower case and need no conversion.
 bool SupportedNames::supports(std::string_view fileName) const
 {
     const std::string_view name = fileName.substr(0, fileName.rfind('.'));
@@ -93,12 +94,12 @@ SeparationPlan Separation::plan(std::span<const std::string> names, const std::s
     SeparationPlan plan;
     plan.free = freeSpace(m_destination);
     for (const std::string& name : names) {
-        struct stat facts{};
+        std::error_code ignored;
         if (stop.stop_requested())
             break;
         if (m_supported.supports(name)) {
             ++plan.supported;
-        } else if (::lstat((m_destination + '/' + name).c_str(), &facts) == 0) {
+        } else if (fs::exists(fs::symlink_status(m_destination + '/' + name, ignored))) {
             ++plan.alreadyThere;
         } else {
             ++plan.toCopy;
