@@ -13,6 +13,7 @@ namespace tessera {
 class DeletionFocusRing
 {
 public:
+    /// Six of them are no controls of ours: what they did needs none here, or stands in a menu.
     static constexpr std::array controls{
         QLatin1StringView("titleSearchField"),  QLatin1StringView("buttonShot"),
         QLatin1StringView("setnameTextField2"), QLatin1StringView("editSetname"),
@@ -30,13 +31,6 @@ public:
         QLatin1StringView("buttonvsdown"),
     };
     static_assert(controls.size() == 27);
-
-    /// Six of them are no controls of ours: what they did needs none here, or stands in a menu.
-    static constexpr std::array without{
-        QLatin1StringView("editAdd"),       QLatin1StringView("titleSearchField2"),
-        QLatin1StringView("historyUpdate"), QLatin1StringView("buttonviso"),
-        QLatin1StringView("buttonvisr"),    QLatin1StringView("buttonvsdown"),
-    };
 
     /// Those controls that stand in this window.
     static void awakeFromNib(QWidget& window);

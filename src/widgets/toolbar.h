@@ -44,8 +44,6 @@ public:
     /// Puts the toolbar over everything in the window's layout and selects "general".
     void awakeFromNib();
     static QStringList toolbarDefaultItemIdentifiers();
-    static QStringList toolbarAllowedItemIdentifiers() { return toolbarDefaultItemIdentifiers(); }
-    static QStringList toolbarSelectableItemIdentifiers() { return toolbarDefaultItemIdentifiers(); }
     /// Nothing for any other identifier.
     QToolButton* itemForIdentifier(const QString& identifier) const;
     /// The second tab view, which a strip on one of the pages drives.

@@ -477,12 +477,13 @@ private Q_SLOTS:
         staged.app->windowFavorites();
         staged.app->favorites().editing().editRecord();
         staged.app->windowMain();
+        const QStringList without{"editAdd",    "titleSearchField2", "historyUpdate",
+                                  "buttonviso", "buttonvisr",        "buttonvsdown"};
         for (const QLatin1StringView name : DeletionFocusRing::controls) {
             QWidgetList found;
             for (const QWidget* window : QApplication::topLevelWidgets())
                 found += window->findChildren<QWidget*>(name);
-            QCOMPARE(found.isEmpty(),
-                     std::ranges::find(DeletionFocusRing::without, name) != DeletionFocusRing::without.end());
+            QCOMPARE(found.isEmpty(), without.contains(name));
             for (const QWidget* control : found) {
                 QVERIFY2(control->focusPolicy() & Qt::TabFocus, name.data());
                 QTRY_COMPARE(control->property("focusring").toString(), QStringLiteral("none"));

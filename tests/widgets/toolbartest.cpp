@@ -45,8 +45,6 @@ private Q_SLOTS:
         const QStringList order
             = QStringLiteral("general video effect av ioport misc support appearance").split(u' ');
         QCOMPARE(Toolbar::toolbarDefaultItemIdentifiers(), order);
-        QCOMPARE(Toolbar::toolbarAllowedItemIdentifiers(), order);
-        QCOMPARE(Toolbar::toolbarSelectableItemIdentifiers(), order);
         const auto* bar = room.window.findChild<QWidget*>(QStringLiteral("ToolbarForTabView"));
         QVERIFY(bar != nullptr);
         QCOMPARE(room.window.layout()->itemAt(0)->widget(), bar);
