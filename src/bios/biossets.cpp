@@ -8,7 +8,7 @@ namespace tessera {
 
 namespace {
 
-// Bytes; no machine's description is nearly as long, and what is none must not be kept for ever.
+// Bytes. No machine's element is nearly as long: one that does not end must not be kept for ever.
 constexpr std::size_t longestMachine = 64'000'000;
 
 } // namespace

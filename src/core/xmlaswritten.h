@@ -34,7 +34,7 @@ public:
     using QXmlStreamReader::errorString;
     using QXmlStreamReader::hasError;
     using QXmlStreamReader::lineNumber;
-    /// An error of what is missing, not of what is there.
+    /// An error because something is missing, not because something is wrong.
     bool endsTooEarly() const { return error() == PrematureEndOfDocumentError; }
 
 private:

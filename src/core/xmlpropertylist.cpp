@@ -279,7 +279,7 @@ std::expected<QByteArray, Failure> plainXmlPropertyList(const QByteArray& bytes,
         return std::unexpected(Failure{"failure_plist_encoding", {path}});
     if (text->empty())
         return std::unexpected(Failure{"failure_plist_empty", {path}});
-    // It may name an encoding in which the text is no longer.
+    // The declaration may name an encoding that the text is not in any more.
     const auto declaration = xmlDeclaration(*text);
     return XmlReader(std::string_view(*text).substr(declaration ? declaration->length : 0), path).run();
 }

@@ -41,6 +41,7 @@ QString unescaped(const QString& value)
     return text;
 }
 
+// Not QProcess::splitCommand(): it knows no backslash before a quotation mark.
 QStringList parted(const QString& command)
 {
     QStringList words;

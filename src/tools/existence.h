@@ -27,7 +27,7 @@ inline constexpr std::string_view found = "Found";
 inline constexpr std::string_view notFound = "Not found";
 } // namespace existencetexts
 
-/// One set that the emulator lists. Its name is another's.
+/// One set that the emulator lists. The name is a view of a text that somebody else holds.
 struct ExistenceRow {
     std::string_view romlistfull;
     bool isFound = false;

@@ -32,7 +32,7 @@ FileDrop::FileDrop(QWidget& window)
 {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
-    // They would take its address for a text.
+    // They would insert its address as a text.
     for (QLineEdit* field : window.findChildren<QLineEdit*>())
         field->installEventFilter(this);
 }

@@ -64,7 +64,7 @@ bool InputBlock::eventFilter(QObject* receiver, QEvent* event)
 {
     if (!isRefused(*receiver, *event) || QApplication::activeModalWidget() || m_open.contains(receiver))
         return false;
-    // A closing that is eaten without a word counts as agreed to.
+    // A close event that is only eaten counts as accepted.
     event->ignore();
     return true;
 }

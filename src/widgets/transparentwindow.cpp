@@ -81,7 +81,7 @@ void TransparentWindow::setLimits(const SizeLimits& limits)
     setMaximumSize(sizeOr(limits.maxWidth, QWIDGETSIZE_MAX), sizeOr(limits.maxHeight, QWIDGETSIZE_MAX));
 }
 
-// Another flag makes another window: it is shown again where it was.
+// To change the flag the window is made anew, and hidden: it is shown again where it was.
 void TransparentWindow::setAbove(bool above)
 {
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == above)
@@ -104,6 +104,8 @@ void TransparentWindow::miniaturize()
     showMinimized();
 }
 
+// Only where windows cannot be placed: the desktop's own move and resize know neither the limits of the
+// upper edge nor the step that a window makes at its largest height.
 bool TransparentWindow::handOver()
 {
     if (mayPlaceWindows() || windowHandle() == nullptr)
@@ -123,7 +125,7 @@ void TransparentWindow::mousePressEvent(QMouseEvent* event)
     m_initialLocation = inWindow(m_startWindowFrame, m_startLocation);
     m_isResizing = holds(resizeGrip(m_startWindowFrame), m_initialLocation);
     m_isDragging = !m_isResizing;
-    // Then no release is heard of.
+    // The compositor takes the mouse over: no release reaches us then.
     if (handOver())
         m_isResizing = m_isDragging = false;
     QWidget::mousePressEvent(event);

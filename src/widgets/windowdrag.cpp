@@ -20,6 +20,7 @@ void WindowDrag::press(const QMouseEvent& event)
     m_start = m_last = event.globalPosition().toPoint();
 }
 
+// Only where windows cannot be placed: elsewhere it depends on the window manager whether it takes the drag.
 bool WindowDrag::handOver(const QWidget& view)
 {
     QWindow* window = view.window()->windowHandle();
@@ -35,7 +36,7 @@ void WindowDrag::move(const QMouseEvent& event, QWidget& view)
     if (!m_isDragging && (place - m_start).manhattanLength() < far)
         return;
     m_isDragging = true;
-    // Then no release is heard of.
+    // The compositor takes the mouse over: no release reaches us then.
     if (handOver(view)) {
         m_isPressed = false;
         return;

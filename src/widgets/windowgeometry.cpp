@@ -39,7 +39,7 @@ Frame movedFrame(const Frame& window, Place initialLocation, Place mouse, const 
 
 Frame resizedFrame(const Frame& start, Place startLocation, Place mouse, const SizeLimits& limits)
 {
-    // In single precision, and so in the steps that it has.
+    // Deliberate: in single precision.
     const auto dx = static_cast<float>(mouse.x - startLocation.x);
     const auto dy = static_cast<float>(startLocation.y - mouse.y);
     Frame frame{start.x, start.y - dy, start.width + dx, start.height + dy};

@@ -44,7 +44,7 @@ Frame resizeGrip(const Frame& window);
 /// else anywhere.
 Frame movedFrame(const Frame& window, Place initialLocation, Place mouse, const Screen& screen);
 
-/// The frame at the mouse's way from `startLocation`, taken at the lower right corner: the upper edge stays.
+/// The frame after the lower right corner was dragged from `startLocation` to `mouse`: the upper edge stays.
 Frame resizedFrame(const Frame& start, Place startLocation, Place mouse, const SizeLimits& limits);
 
 /// Between y that grows downwards and upwards, in either direction; `height` is that of all.

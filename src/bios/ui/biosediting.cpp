@@ -114,7 +114,7 @@ void BiosEditing::restore(const BiosEntries& entries)
     Q_EMIT edited();
 }
 
-// From cell to cell of its row it is still being filled in; where there is no other one it is not.
+// While the editor only goes from cell to cell of the new row, the row is still being filled in.
 void BiosEditing::endEditor(QWidget*, QAbstractItemDelegate::EndEditHint hint)
 {
     const bool goesOn

@@ -220,7 +220,7 @@ void Bioslist::ask(const QString& set)
     m_question->ask();
 }
 
-// Nobody's own entries get lost, and what was known stays where it was.
+// The user's own entries are kept, and what was known stays where it was.
 void Bioslist::takeAnswer()
 {
     const BiosEntries found = m_question->entries();

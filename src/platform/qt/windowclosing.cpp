@@ -55,7 +55,7 @@ Windows allWindows(xcb_connection_t* server)
         for (std::size_t i = begin; i < end; ++i)
             level.push_back(xcb_query_tree(server, windows[i]));
         for (const auto& cookie : level) {
-            // One that is gone by now has no answer.
+            // A window that is gone by now has no answer.
             const auto tree = owned(xcb_query_tree_reply(server, cookie, nullptr));
             if (!tree)
                 continue;

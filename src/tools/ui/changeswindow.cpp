@@ -21,7 +21,7 @@ constexpr int margin = 18;
 constexpr int gap = 12;
 constexpr int nameWidth = 190;
 
-// Behind those of the kinds themselves.
+// The kind of the tab with the favourites: numbered behind the real ones.
 constexpr int favourites = MachineChange::kindCount;
 constexpr std::array<const char*, MachineChange::kindCount> titles{
     textKey("changes_added"), textKey("changes_gone"), textKey("changes_renamed"), textKey("changes_status")};

@@ -55,7 +55,7 @@ void ConversionTool::outputAction()
     m_page.showSaved({});
     m_workbench.indicator_start();
     m_workbench.run(
-        // The tool may have gone before it begins; the workbench waits for it.
+        // Without the tool, which may be gone before the job begins; the workbench waits for its jobs.
         [&workbench = m_workbench, options, listxml = m_page.listxmlTextField->text(),
          titles = m_page.mame32jpTextField->text()](const Job& job) {
             return convertFiles(listxml, titles, options, {job.stop(), workbench.progressOf(job, listxml)});
@@ -78,7 +78,7 @@ void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCa
         return end();
     }
     m_workbench.desktop().log(conversiontexts::logged);
-    // Before it is saved, who saves it knows that it is a part.
+    // Before the panel opens: whoever saves the list should know that it is not whole.
     if (const auto& stopped = list->stopped)
         m_workbench.inform(stopReason(*stopped).text());
     const auto path = m_workbench.desktop().savePanel(
@@ -91,7 +91,7 @@ void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCa
 void ConversionTool::save(const QString& path, ConvertedList list)
 {
     m_saved = path;
-    // What a job holds is copied; a list is not.
+    // A job copies what it holds, and a list cannot be copied.
     auto held = std::make_shared<ConvertedList>(std::move(list));
     QString report = conversionReport(held->games);
     if (const auto& stopped = held->stopped)

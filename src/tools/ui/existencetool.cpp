@@ -132,7 +132,7 @@ void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCanc
 }
 
 // Deliberate: such a check ends in the middle, with the indicator running and the information line as it was.
-// Elsewhere it is said why.
+// The list and the main window's status line say why.
 void ExistenceTool::stopWithoutHeader(const Failure& failure)
 {
     m_page.reportList->setEmptyText(failure.text());

@@ -82,7 +82,7 @@ void FavouritesTool::convert(const QString& old)
     trash(old);
 }
 
-// Deliberate: a backup that fails stops nothing, and a file that cannot be written is nobody's to hear of.
+// Deliberate: a backup that fails stops nothing, and where the new file cannot be written nobody is told.
 bool FavouritesTool::replaceFavorites(const QList<RecordDictionary>& records)
 {
     const QString favourites = m_host.pathOfDataFile();

@@ -23,7 +23,7 @@ public:
 
     RowsModel(std::array<QString, 2> titles, QObject* parent = nullptr);
 
-    /// Shown in the order of the sort that holds.
+    /// They are shown in the order by which the list is sorted now.
     void setRows(std::vector<Row> rows);
     void clear();
     std::size_t size() const { return m_rows.size(); }

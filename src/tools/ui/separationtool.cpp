@@ -93,7 +93,7 @@ void SeparationTool::list(const std::vector<std::string>& names, bool isCancelle
     makePlan();
 }
 
-// Beside the list, and without a word of it in the list itself.
+// Worked out on another thread and shown beside the list, whose own rows do not change.
 void SeparationTool::makePlan()
 {
     m_planStop.request_stop();
@@ -154,7 +154,7 @@ void SeparationTool::separateAction()
         [all = m_page.rows->size()](const SeparationCounts& counts) { return leftUndone(counts, all); });
 }
 
-// What was copied is there, whoever closes the window.
+// Closing the window takes no copy away: it is said how many there are.
 QString SeparationTool::leftUndone(const SeparationCounts& counts, std::size_t all)
 {
     if (!counts.isCancelled)

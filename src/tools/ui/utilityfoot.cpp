@@ -58,7 +58,7 @@ void UtilityFoot::addButtons(const QList<QPushButton*>& buttons)
     auto* layout = new QHBoxLayout(group);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();
-    // Before it moves in: a style sheet looks at it then.
+    // Before the button gets its new parent: the style sheet reads the property then.
     buttons.last()->setProperty("role", QStringLiteral("accent"));
     for (QPushButton* button : buttons) {
         button->setAutoDefault(true);
@@ -84,7 +84,7 @@ void UtilityFoot::setBusy(bool isBusy)
     if (isBusy)
         m_focused = m_buttons->isAncestorOf(focused) ? focused : nullptr;
     m_buttons->setEnabled(!isBusy);
-    // First what goes, then what comes: both beside each other would widen the window.
+    // What goes is hidden before the other is shown: both beside each other would widen the window.
     if (isBusy) {
         m_buttons->setVisible(false);
         button_cancel->setVisible(true);

@@ -68,7 +68,7 @@ Workbench::Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot
     connect(m_foot.button_cancel, &QPushButton::clicked, this, &Workbench::cancel);
 }
 
-// What was done is there, and what was left undone is not: both are still said.
+// What a job posted before it ended is still delivered: its lines in the log, and what it left undone.
 Workbench::~Workbench()
 {
     m_stop.request_stop();
@@ -175,7 +175,7 @@ QString Workbench::leftUndone()
     return qtTrId("tool_undone");
 }
 
-// An empty text stands for nothing that was left undone.
+// An empty text means that nothing was left undone.
 void Workbench::sayUndone(const QString& text)
 {
     if (text.isEmpty())
@@ -190,7 +190,7 @@ void Workbench::explain(const QString& text)
     Q_EMIT statusMessage(text);
 }
 
-// What ends while the question stands is neither abandoned nor taken until it is answered.
+// While somebody is asked whether a job may be abandoned, its end waits for the answer.
 void Workbench::takeEnd(std::function<void()> end)
 {
     if (m_isAsking)

@@ -102,7 +102,7 @@ public:
     }
     /// The job is asked to stop; it still ends by `done`.
     void cancel();
-    /// The same, but it is heard of no more, but for what it left undone.
+    /// The same, but nothing of it is shown any more except what it left undone.
     void abandon();
     /// Asks, where a job goes on, whether it may be abandoned.
     bool mayBeAbandoned();
