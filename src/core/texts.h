@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <concepts>
+
 namespace tessera {
 
 /// The language that was chosen, "en" or "ja"; without a choice Japanese where the user's own language is
@@ -29,6 +31,12 @@ inline void installToolkitTexts(QTranslator& translator, const QString& chosen)
     if (translator.load(QStringLiteral("qtbase_") + textLanguage(chosen),
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);
+}
+
+/// As the user's language writes it.
+inline QString numberText(std::integral auto number)
+{
+    return QLocale().toString(static_cast<qlonglong>(number));
 }
 
 } // namespace tessera

@@ -2,8 +2,7 @@
 
 #include "catalogue/recorddictionary.h"
 #include "core/failure.h"
-
-#include <QLocale>
+#include "core/texts.h"
 
 #include <algorithm>
 #include <tuple>
@@ -152,7 +151,7 @@ QString lineOf(const MachineChange& change)
 
 QString heading(const char* key, std::size_t count)
 {
-    return qtTrId(key).arg(QLocale().toString(static_cast<qulonglong>(count))) + QLatin1Char('\n');
+    return qtTrId(key).arg(numberText(count)) + QLatin1Char('\n');
 }
 
 } // namespace
@@ -185,14 +184,12 @@ QString comparisonSummary(const CatalogueComparison& comparison)
 {
     if (comparison.changes.empty())
         return qtTrId("changes_none");
-    const QLocale locale;
-    const auto number = [&](std::size_t count) { return locale.toString(static_cast<qulonglong>(count)); };
+    const auto number = [&](Kind kind) { return numberText(comparison.count(kind)); };
     QString summary
         = qtTrId("changes_summary")
-              .arg(number(comparison.count(Kind::Added)), number(comparison.count(Kind::Gone)),
-                   number(comparison.count(Kind::Renamed)), number(comparison.count(Kind::Status)));
+              .arg(number(Kind::Added), number(Kind::Gone), number(Kind::Renamed), number(Kind::Status));
     if (comparison.favourites > 0)
-        summary += qtTrId("changes_summary_favourites").arg(number(comparison.favourites));
+        summary += qtTrId("changes_summary_favourites").arg(numberText(comparison.favourites));
     return summary;
 }
 
@@ -222,23 +219,19 @@ QString changeText(const MachineChange& change, bool withKind)
 QString comparisonText(const CatalogueComparison& comparison)
 {
     QStringList sections;
-    if (comparison.favourites > 0) {
-        QString section = heading(textKey("changes_favourites"), comparison.favourites);
-        for (const MachineChange& change : comparison.changes) {
-            if (change.isFavourite)
-                section += lineOf(change);
-        }
+    const auto add = [&](const char* key, std::size_t count, auto isOfIt) {
+        if (count == 0)
+            return;
+        QString section = heading(key, count);
+        for (const MachineChange& change : comparison.changes)
+            section += isOfIt(change) ? lineOf(change) : QString();
         sections << section;
-    }
-    for (std::size_t kind = 0; kind < headings.size(); ++kind) {
-        if (comparison.counts[kind] == 0)
-            continue;
-        QString section = heading(headings[kind], comparison.counts[kind]);
-        for (const MachineChange& change : comparison.changes) {
-            if (static_cast<std::size_t>(change.kind) == kind)
-                section += lineOf(change);
-        }
-        sections << section;
+    };
+    add(textKey("changes_favourites"), comparison.favourites,
+        [](const MachineChange& change) { return change.isFavourite; });
+    for (const Kind kind : {Kind::Added, Kind::Gone, Kind::Renamed, Kind::Status}) {
+        add(headings[static_cast<std::size_t>(kind)], comparison.count(kind),
+            [kind](const MachineChange& change) { return change.kind == kind; });
     }
     return sections.join(QLatin1Char('\n'));
 }

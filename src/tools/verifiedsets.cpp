@@ -2,9 +2,8 @@
 
 #include "catalogue/recorddictionary.h"
 #include "core/failure.h"
+#include "core/texts.h"
 #include "tools/printedtext.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -201,11 +200,6 @@ constexpr std::array<const char*, VerifiedSet::verdictCount> states{
     textKey("state_good"), textKey("state_best"), textKey("state_bad"), textKey("state_notfound"),
     textKey("state_none")};
 
-QString number(std::int64_t count)
-{
-    return QLocale().toString(static_cast<qlonglong>(count));
-}
-
 bool isMissing(const WrongFile& file)
 {
     return file.problem == Problem::Missing || file.problem == Problem::MissingButOptional
@@ -244,20 +238,20 @@ QString sentenceOf(const VerifiedSet& set, const WrongFile& file)
     const auto* row = std::ranges::find(problems, file.problem, &ProblemWords::problem);
     QStringList arguments{fieldText(file.name), fieldText(archiveOf(set, file))};
     if (file.problem == Problem::OtherLength)
-        arguments << (file.foundBytes ? number(*file.foundBytes) : QStringLiteral("?"))
-                  << (file.bytes ? number(*file.bytes) : QStringLiteral("?"));
+        arguments << (file.foundBytes ? numberText(*file.foundBytes) : QStringLiteral("?"))
+                  << (file.bytes ? numberText(*file.bytes) : QStringLiteral("?"));
     return Failure{row->sentence, arguments}.text();
 }
 
 QString stateOf(const VerifiedSet& set)
 {
     const auto missing = std::ranges::count_if(set.files, &isMissing);
-    const auto others = static_cast<std::ptrdiff_t>(set.files.size()) - missing;
+    const auto others = std::ssize(set.files) - missing;
     QStringList words{qtTrId(states[static_cast<std::size_t>(set.verdict)])};
     if (missing > 0)
-        words << qtTrId("state_missing").arg(number(missing));
+        words << qtTrId("state_missing").arg(numberText(missing));
     if (others > 0)
-        words << qtTrId("state_wrong").arg(number(others));
+        words << qtTrId("state_wrong").arg(numberText(others));
     return words.join(QStringLiteral(" · "));
 }
 

@@ -1,6 +1,7 @@
 #include "tools/ui/changeswindow.h"
 
 #include "core/failure.h"
+#include "core/texts.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/bringforward.h"
@@ -8,7 +9,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -94,7 +94,7 @@ void ChangesWindow::addTab(const char* key, int kind, std::size_t count)
 {
     if (count == 0)
         return;
-    const int tab = kinds->addTab(qtTrId(key).arg(QLocale().toString(static_cast<qulonglong>(count))));
+    const int tab = kinds->addTab(qtTrId(key).arg(numberText(count)));
     kinds->setTabData(tab, kind);
 }
 

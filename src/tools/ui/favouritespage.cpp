@@ -1,11 +1,11 @@
 #include "tools/ui/favouritespage.h"
 
+#include "core/texts.h"
 #include "widgets/boundcontrols.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 
 namespace tessera {
@@ -38,8 +38,7 @@ FavouritesPage::FavouritesPage(DefaultsController& defaults, QWidget* parent)
 
 void FavouritesPage::showHidden(std::size_t records)
 {
-    hiddenText->setText(
-        qtTrId("favourites_hidden").arg(QLocale().toString(static_cast<qulonglong>(records))));
+    hiddenText->setText(qtTrId("favourites_hidden").arg(numberText(records)));
     m_hidden->setVisible(records > 0);
 }
 

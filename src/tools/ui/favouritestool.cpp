@@ -1,6 +1,7 @@
 #include "tools/ui/favouritestool.h"
 
 #include "core/atomicfile.h"
+#include "core/texts.h"
 #include "platform/desktop.h"
 #include "platform/trash.h"
 #include "tools/favouritesconversion.h"
@@ -9,7 +10,6 @@
 
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 
 namespace tessera {
@@ -71,7 +71,7 @@ void FavouritesTool::convert(const QString& old)
         return m_workbench.inform(kept.error().text());
     QStringList notes;
     if (found.size() < names->size())
-        notes << qtTrId("favourites_left_out").arg(QLocale().toString(names->size() - found.size()));
+        notes << qtTrId("favourites_left_out").arg(numberText(names->size() - found.size()));
     if (!kept->isEmpty())
         notes << qtTrId("favourites_unsaved_kept").arg(*kept);
     if (!replaceFavorites(found))

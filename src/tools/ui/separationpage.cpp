@@ -1,5 +1,6 @@
 #include "tools/ui/separationpage.h"
 
+#include "core/texts.h"
 #include "tools/separation.h"
 #include "tools/ui/oneline.h"
 #include "tools/ui/rowslist.h"
@@ -42,12 +43,11 @@ SeparationPage::SeparationPage(DefaultsController& defaults, QWidget* parent)
 void SeparationPage::showPlan(const SeparationPlan& plan)
 {
     const QLocale locale;
-    const auto number = [&](std::size_t count) { return locale.toString(static_cast<qulonglong>(count)); };
     QString text
         = qtTrId("separation_plan")
-              .arg(number(plan.supported), number(plan.toCopy), locale.formattedDataSize(plan.bytes));
+              .arg(numberText(plan.supported), numberText(plan.toCopy), locale.formattedDataSize(plan.bytes));
     if (plan.alreadyThere > 0)
-        text += qtTrId("separation_plan_there").arg(number(plan.alreadyThere));
+        text += qtTrId("separation_plan_there").arg(numberText(plan.alreadyThere));
     if (plan.free)
         text += qtTrId("separation_plan_free").arg(locale.formattedDataSize(*plan.free));
     const bool isTooMuch = plan.free && plan.bytes > *plan.free;
@@ -67,7 +67,7 @@ void SeparationPage::showFailures(const QStringList& failures)
 {
     QStringList lines;
     if (!failures.isEmpty())
-        lines << qtTrId("separation_not_copied").arg(QLocale().toString(failures.size()));
+        lines << qtTrId("separation_not_copied").arg(numberText(failures.size()));
     for (const QString& failure : failures)
         lines << onOneLine(failure);
     failedCopies->setPlainText(lines.join(QLatin1Char('\n')));
