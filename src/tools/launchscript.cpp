@@ -91,24 +91,11 @@ QString scriptText(const ScriptRequest& request)
 
 QString scriptFileName(int choice, ScriptFormat format, const ScriptTitles& titles)
 {
+    const std::array names{titles.name, titles.title, titles.titlejp, QString()};
     QString name;
-    switch (choice % 4) {
-    case 0:
-        name = titles.name;
-        break;
-    case 1:
-        name = titles.title;
-        break;
-    case 2:
-        name = titles.titlejp;
-        break;
-    default:
-        break;
-    }
-    if (choice < 0 || choice > 6)
-        name.clear();
-    else if (choice > 3)
-        name = titles.emulator + QLatin1Char('_') + name;
+    if (choice >= 0 && choice <= 6)
+        name = (choice > 3 ? titles.emulator + QLatin1Char('_') : QString())
+            + names[static_cast<std::size_t>(choice) % names.size()];
     // A title like "Puck Man / Pac-Man" would read as a folder and a file; each slash is shown as a hyphen.
     name.replace(QLatin1Char('/'), QLatin1Char('-'));
     if (format != ScriptFormat::None)

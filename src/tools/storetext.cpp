@@ -30,19 +30,6 @@ constexpr std::size_t objectMarkup = [] {
     return size;
 }();
 
-// The digits of the numbers from `first` on, `count` of them.
-std::size_t digitsFrom(std::size_t first, std::size_t count)
-{
-    const std::size_t end = first + count;
-    std::size_t sum = 0;
-    for (std::size_t low = 1, digits = 1; low < end; low *= 10, ++digits) {
-        const std::size_t from = std::max(first, low);
-        const std::size_t to = std::min(end, low * 10);
-        sum += to > from ? (to - from) * digits : 0;
-    }
-    return sum;
-}
-
 // Collects small texts into pieces for a sink.
 class PieceWriter
 {
@@ -154,8 +141,9 @@ std::string_view StoreText::later(std::size_t index) const
 
 std::size_t StoreText::size() const
 {
-    std::size_t size = header().size() + m_valueBytes + m_objects * objectMarkup
-        + digitsFrom(firstObjectId, m_objects) + storeEnd.size();
+    std::size_t size = header().size() + m_valueBytes + m_objects * objectMarkup + storeEnd.size();
+    for (std::size_t number = firstObjectId; number < firstObjectId + m_objects; ++number)
+        size += std::to_string(number).size();
     for (std::size_t i = 0; i < m_laterStarts.size(); ++i)
         size += later(i).size();
     return size;
