@@ -4,7 +4,6 @@
 #include "tools/conversion.h"
 #include "tools/ui/conversionpage.h"
 #include "tools/ui/workbench.h"
-#include "tools/verification.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
@@ -54,38 +53,27 @@ void ConversionTool::outputAction()
                                     m_page.button_isdevice->isChecked()};
     m_page.showSaved({});
     m_workbench.indicator_start();
-    m_workbench.run(
+    m_workbench.runOrRefuse(
         // Without the tool, which may be gone before the job begins; the workbench waits for its jobs.
         [&workbench = m_workbench, options, listxml = m_page.listxmlTextField->text(),
          titles = m_page.mame32jpTextField->text()](const Job& job) {
             return convertFiles(listxml, titles, options, {job.stop(), workbench.progressOf(job, listxml)});
         },
-        [this](std::expected<ConvertedList, Failure> list, bool isCancelled) {
-            offer(std::move(list), isCancelled);
-        });
+        [this](ConvertedList list) { offer(std::move(list)); });
 }
 
 // After Cancel in the panel the information line stays as it is: deliberate, as nothing was written.
-void ConversionTool::offer(std::expected<ConvertedList, Failure> list, bool isCancelled)
+void ConversionTool::offer(ConvertedList list)
 {
-    const auto end = [this] { m_workbench.indicator_stop(); };
-    if (isCancelled) {
-        m_workbench.inform(verificationtexts::cancelled);
-        return end();
-    }
-    if (!list) {
-        m_workbench.refuse(list.error().text());
-        return end();
-    }
     m_workbench.desktop().log(conversiontexts::logged);
     // Before the panel opens: whoever saves the list should know that it is not whole.
-    if (const auto& stopped = list->stopped)
+    if (const auto& stopped = list.stopped)
         m_workbench.inform(stopReason(*stopped).text());
     const auto path = m_workbench.desktop().savePanel(
         {QStringLiteral("Save XMLlist file"), QStringLiteral("Tessera"), {QStringLiteral("xml")}});
     if (path)
-        return save(*path, std::move(*list));
-    end();
+        return save(*path, std::move(list));
+    m_workbench.indicator_stop();
 }
 
 void ConversionTool::save(const QString& path, ConvertedList list)

@@ -26,7 +26,7 @@ public Q_SLOTS:
     void useAsCatalogue();
 
 private:
-    void offer(std::expected<ConvertedList, Failure> list, bool isCancelled);
+    void offer(ConvertedList list);
     void save(const QString& path, ConvertedList list);
     void conclude(const std::expected<void, Failure>& written, const QString& report);
 

@@ -81,7 +81,7 @@ void ExistenceTool::askEmulator()
     if (!QFileInfo::exists(m_page.rompathTextField2->text()))
         return m_workbench.refuse(existencetexts::noRoms);
     begin();
-    m_workbench.run(
+    m_workbench.runOrRefuse(
         [emulator](const Job& job) -> std::expected<std::string, Failure> {
             auto printed = printedBy(emulator, {QStringLiteral("-listfull")}, false, {job.stop(), {}});
             if (!printed || job.stop().stop_requested())
@@ -90,21 +90,16 @@ void ExistenceTool::askEmulator()
                 return std::unexpected(kept.error());
             return printed;
         },
-        [this](const std::expected<std::string, Failure>& printed, bool isCancelled) {
-            takePrinted(printed, isCancelled);
-        });
+        [this](const std::string& printed) { takePrinted(printed); });
 }
 
-void ExistenceTool::takePrinted(const std::expected<std::string, Failure>& printed, bool isCancelled)
+void ExistenceTool::takePrinted(const std::string& printed)
 {
-    if (isCancelled || !printed)
-        return show(printed ? std::expected<ExistenceList, Failure>() : std::unexpected(printed.error()),
-                    isCancelled);
     m_workbench.takePath(*m_page.listfullTextField2, keys::listfullPath, printedPath(listfullName));
-    m_workbench.run([text = *printed, roms = m_page.rompathTextField2->text()](
+    m_workbench.run([text = printed, roms = m_page.rompathTextField2->text()](
                         const Job&) { return checkExistenceOf(text, roms); },
-                    [this](std::expected<ExistenceList, Failure> list, bool wasCancelled) {
-                        show(std::move(list), wasCancelled);
+                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
+                        show(std::move(list), isCancelled);
                     });
 }
 

@@ -35,7 +35,7 @@ public Q_SLOTS:
 
 private:
     void begin();
-    void takePrinted(const std::expected<std::string, Failure>& printed, bool isCancelled);
+    void takePrinted(const std::string& printed);
     std::vector<ExistenceRow> rows() const;
     void show(std::expected<ExistenceList, Failure> list, bool isCancelled);
     void stopWithoutHeader(const Failure& failure);

@@ -1,6 +1,7 @@
 #include "tools/ui/verificationtool.h"
 
 #include "core/atomicfile.h"
+#include "core/texts.h"
 #include "platform/desktop.h"
 #include "tools/emulatorrun.h"
 #include "tools/printedtext.h"
@@ -9,7 +10,6 @@
 
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 
 #include <algorithm>
@@ -55,31 +55,23 @@ void VerificationTool::converter2Action()
         std::string report = verificationReport(*printed, chosen, job.stop());
         return Condensed{std::move(report), sets.get()};
     };
-    m_workbench.run(condense, [this](std::expected<Condensed, Failure> condensed, bool isCancelled) {
-        offer(std::move(condensed), isCancelled);
-    });
+    m_workbench.runOrRefuse(condense, [this](Condensed condensed) { offer(std::move(condensed)); });
 }
 
-void VerificationTool::offer(std::expected<Condensed, Failure> condensed, bool isCancelled)
+void VerificationTool::offer(Condensed condensed)
 {
-    const auto end = [this] { m_workbench.indicator_stop(); };
-    if (isCancelled) {
-        m_workbench.inform(verificationtexts::cancelled);
-        return end();
-    }
-    if (condensed)
-        m_page.showSets(std::move(condensed->sets));
-    if (!condensed || condensed->report.empty()) {
-        m_workbench.refuse(condensed ? QString(verificationtexts::nothingChosen) : condensed.error().text());
-        return end();
+    m_page.showSets(std::move(condensed.sets));
+    if (condensed.report.empty()) {
+        m_workbench.refuse(verificationtexts::nothingChosen);
+        return m_workbench.indicator_stop();
     }
     const auto path = m_workbench.desktop().savePanel({QStringLiteral("Save Verifyroms text"),
                                                        QStringLiteral("verifyroms_convert"),
                                                        {QStringLiteral("txt")}});
     if (path)
-        return save(*path, std::move(condensed->report));
+        return save(*path, std::move(condensed.report));
     m_workbench.inform(verificationtexts::cancelled);
-    end();
+    m_workbench.indicator_stop();
 }
 
 void VerificationTool::save(const QString& path, std::string report)
@@ -131,35 +123,26 @@ void VerificationTool::askEmulator()
             return std::unexpected(kept.error());
         return verifiedSets(*printed, job.stop());
     };
-    m_workbench.run(verify, [this](std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled) {
-        takeVerified(std::move(sets), isCancelled);
-    });
+    m_workbench.runOrRefuse(verify, [this](std::vector<VerifiedSet> sets) { takeVerified(std::move(sets)); });
 }
 
 void VerificationTool::showCount(std::size_t sets)
 {
-    m_workbench.showCount(
-        qtTrId("verification_count").arg(QLocale().toString(static_cast<qulonglong>(sets))));
+    m_workbench.showCount(qtTrId("verification_count").arg(numberText(sets)));
 }
 
-void VerificationTool::takeVerified(std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled)
+void VerificationTool::takeVerified(std::vector<VerifiedSet> sets)
 {
     m_workbench.indicator_stop();
-    if (isCancelled)
-        return m_workbench.inform(verificationtexts::cancelled);
-    if (!sets)
-        return m_workbench.refuse(sets.error().text());
     m_workbench.takePath(*m_page.verifyromsTextField, keys::verifyromsText, printedPath(verifyromsName));
-    const QLocale locale;
     const auto count = [&](VerifiedSet::Verdict verdict) {
-        return locale.toString(
-            static_cast<qlonglong>(std::ranges::count(*sets, verdict, &VerifiedSet::verdict)));
+        return numberText(std::ranges::count(sets, verdict, &VerifiedSet::verdict));
     };
     const QString summary
         = qtTrId("verification_verified")
-              .arg(locale.toString(static_cast<qulonglong>(sets->size())), count(VerifiedSet::Verdict::Good),
+              .arg(numberText(sets.size()), count(VerifiedSet::Verdict::Good),
                    count(VerifiedSet::Verdict::BestAvailable), count(VerifiedSet::Verdict::Bad));
-    m_page.showSets(std::move(*sets));
+    m_page.showSets(std::move(sets));
     m_workbench.conclude(summary);
 }
 

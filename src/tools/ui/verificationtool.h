@@ -35,9 +35,9 @@ private:
         std::vector<VerifiedSet> sets;
     };
 
-    void offer(std::expected<Condensed, Failure> condensed, bool isCancelled);
+    void offer(Condensed condensed);
     void showCount(std::size_t sets);
-    void takeVerified(std::expected<std::vector<VerifiedSet>, Failure> sets, bool isCancelled);
+    void takeVerified(std::vector<VerifiedSet> sets);
     void save(const QString& path, std::string report);
     void conclude(const std::expected<void, Failure>& written);
 

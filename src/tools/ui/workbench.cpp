@@ -5,6 +5,7 @@
 #include "platform/desktop.h"
 #include "tools/ui/toolpaths.h"
 #include "tools/ui/utilityfoot.h"
+#include "tools/verification.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -173,6 +174,16 @@ void Workbench::takePath(QLineEdit& field, const ChosenKey& key, const QString& 
 QString Workbench::leftUndone()
 {
     return qtTrId("tool_undone");
+}
+
+// Without a failure it was cancelled.
+void Workbench::giveUp(const QString& failure)
+{
+    indicator_stop();
+    if (failure.isEmpty())
+        inform(verificationtexts::cancelled);
+    else
+        refuse(failure);
 }
 
 // An empty text means that nothing was left undone.

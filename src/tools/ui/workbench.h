@@ -100,6 +100,17 @@ public:
                     [this, undone, result] { sayUndone(undone(*result)); });
         });
     }
+    /// The same for work that may fail: only a good result goes to `done`. A failure is said with a beep, and
+    /// that it was cancelled without one; the indicator stops then.
+    template <class Work, class Done>
+    void runOrRefuse(Work work, Done done)
+    {
+        run(std::move(work), [this, done = std::move(done)](auto result, bool isCancelled) {
+            if (isCancelled || !result)
+                return giveUp(isCancelled ? QString() : result.error().text());
+            done(std::move(*result));
+        });
+    }
     /// The job is asked to stop; it still ends by `done`.
     void cancel();
     /// The same, but nothing of it is shown any more except what it left undone.
@@ -117,6 +128,7 @@ Q_SIGNALS:
 private:
     friend class Job;
     static QString leftUndone();
+    void giveUp(const QString& failure);
     void sayUndone(const QString& text);
     Job begin();
     void takeEnd(std::function<void()> end);
