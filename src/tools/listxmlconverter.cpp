@@ -118,7 +118,6 @@ std::expected<void, Failure> ListxmlConverter::write(const MachineFields& fields
     };
     values[static_cast<std::size_t>(Field::Type)] = fields.type;
     const std::string_view name = put(Field::Name, fields.name.value_or(unknown));
-    m_titles.expect(name);
     const bool cloneofLater = !fields.cloneof && !fields.name;
     if (cloneofLater)
         rememberRest();

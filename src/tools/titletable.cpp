@@ -3,8 +3,6 @@
 #include "core/encodings.h"
 
 #include <algorithm>
-#include <bit>
-#include <functional>
 
 namespace tessera {
 
@@ -39,11 +37,6 @@ void skip(std::string_view& text, std::string_view characters)
     text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));
 }
 
-std::uint32_t hashOf(std::string_view name)
-{
-    return static_cast<std::uint32_t>(std::hash<std::string_view>()(name));
-}
-
 } // namespace
 
 TitleTable::TitleTable(std::string_view file)
@@ -54,7 +47,11 @@ TitleTable::TitleTable(std::string_view file)
         addLine(takeUntil(rest, '\r', '\n'));
         skip(rest, "\r\n");
     }
-    index();
+    // Of equal entries the first one counts.
+    for (std::size_t i = 1; i < m_entries.size(); ++i) {
+        if (m_names.insert(m_entries[i - 1]).second)
+            m_titles.push_back(m_entries[i]);
+    }
 }
 
 void TitleTable::addLine(std::string_view line)
@@ -68,42 +65,10 @@ void TitleTable::addLine(std::string_view line)
     }
 }
 
-void TitleTable::index()
-{
-    m_slots.resize(std::bit_ceil(m_entries.size() * 2 + 1));
-    for (std::uint32_t i = 0; i < m_entries.size(); ++i) {
-        const std::uint32_t hash = hashOf(m_entries[i]);
-        Slot& slot = m_slots[slotOf(m_entries[i], hash)];
-        if (slot.entry == 0)
-            slot = {hash, i + 1};
-    }
-}
-
-// Where the name is, or would be put.
-std::size_t TitleTable::slotOf(std::string_view name, std::uint32_t hash) const
-{
-    const std::size_t mask = m_slots.size() - 1;
-    std::size_t at = hash & mask;
-    while (m_slots[at].entry != 0 && !(m_slots[at].hash == hash && m_entries[m_slots[at].entry - 1] == name))
-        at = (at + 1) & mask;
-    return at;
-}
-
-void TitleTable::expect(std::string_view name) const
-{
-    if (!m_slots.empty())
-        __builtin_prefetch(&m_slots[hashOf(name) & (m_slots.size() - 1)]);
-}
-
 std::optional<std::string_view> TitleTable::titleOf(std::string_view name) const
 {
-    if (m_slots.empty())
-        return std::nullopt;
-    // The entry's own place counted from 1 is that of its title counted from 0.
-    const std::size_t title = m_slots[slotOf(name, hashOf(name))].entry;
-    if (title == 0 || title == m_entries.size())
-        return std::nullopt;
-    return m_entries[title];
+    const auto place = m_names.find(name);
+    return place ? std::optional(m_titles[*place]) : std::nullopt;
 }
 
 } // namespace tessera

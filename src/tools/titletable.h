@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include "catalogue/nameset.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,28 +20,18 @@ public:
     /// else as Shift JIS; broken bytes become U+FFFD.
     explicit TitleTable(std::string_view file);
 
-    /// Lets the memory be fetched that titleOf() will need for this name.
-    void expect(std::string_view name) const;
     /// What follows the first entry that is exactly `name`, or nothing.
     std::optional<std::string_view> titleOf(std::string_view name) const;
 
     const std::vector<std::string_view>& entries() const { return m_entries; }
 
 private:
-    /// An entry's first place in the list, counted from 1; an empty slot holds 0. Not an unordered_map: with
-    /// a title for every set, converting took a fifth longer, and reading the titles three times as long.
-    struct Slot {
-        std::uint32_t hash = 0;
-        std::uint32_t entry = 0;
-    };
-
     void addLine(std::string_view line);
-    void index();
-    std::size_t slotOf(std::string_view name, std::uint32_t hash) const;
 
     std::unique_ptr<const std::string> m_text; ///< stays in its place when the table is moved
     std::vector<std::string_view> m_entries;
-    std::vector<Slot> m_slots; ///< a power of two, at most half of them taken
+    NameSet m_names; ///< all entries but the last one
+    std::vector<std::string_view> m_titles; ///< what follows each of these
 };
 
 } // namespace tessera
