@@ -13,14 +13,10 @@ ListedSets::ListedSets(std::string_view printed)
 
 std::expected<ListedSets, Failure> ListedSets::read(const QString& listfull)
 {
-    ListedSets sets;
-    const auto read = readFirstWords(listfull, [&](std::span<const std::string_view> words) {
-        for (const std::string_view word : words)
-            sets.addWord(word);
-    });
-    if (!read)
-        return std::unexpected(read.error());
-    return sets;
+    const auto printed = readPrinted(listfull);
+    if (!printed)
+        return std::unexpected(printed.error());
+    return ListedSets(*printed);
 }
 
 void ListedSets::addWord(std::string_view word)

@@ -19,28 +19,6 @@ std::unexpected<Failure> notRead(const QFile& file)
     return std::unexpected(Failure{"convert_not_read", {file.fileName(), file.errorString()}});
 }
 
-// `take` gets each piece, and as how many bytes the whole file is known.
-template <class Take>
-std::expected<void, Failure> readPieces(const QString& path, Take take)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return notRead(file);
-    const std::size_t expected = file.isSequential() ? 0 : static_cast<std::size_t>(file.size());
-    std::array<char, 128 * 1024> piece;
-    for (std::size_t all = 0;;) {
-        const qint64 count = file.read(piece.data(), piece.size());
-        if (count < 0)
-            return notRead(file);
-        if (count == 0)
-            return {};
-        all += static_cast<std::size_t>(count);
-        if (all > textLimit)
-            return std::unexpected(Failure{"tool_text_too_large", {path}});
-        take(std::string_view(piece.data(), static_cast<std::size_t>(count)), std::min(expected, textLimit));
-    }
-}
-
 bool isWhiteSpace(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -52,31 +30,27 @@ std::string_view withoutWhiteSpace(std::string_view text)
         static_cast<std::size_t>(std::ranges::find_if_not(text, &isWhiteSpace) - text.begin()));
 }
 
-// Words are short, and what follows them is long.
-template <class Take>
-void takeFirstWords(std::string_view text, Take take)
-{
-    while (!(text = withoutWhiteSpace(text)).empty()) {
-        std::size_t end = 0;
-        while (end < text.size() && text[end] != ' ' && text[end] != '\n')
-            ++end;
-        take(text.substr(0, end));
-        text.remove_prefix(std::min(text.find('\n', end), text.size()));
-    }
-}
-
 } // namespace
 
 std::expected<std::string, Failure> readPrinted(const QString& path)
 {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return notRead(file);
     std::string bytes;
-    const auto read = readPieces(path, [&](std::string_view piece, std::size_t expected) {
-        bytes.reserve(expected);
-        bytes += piece;
-    });
-    if (!read)
-        return std::unexpected(read.error());
-    return bytes;
+    if (!file.isSequential())
+        bytes.reserve(std::min(static_cast<std::size_t>(file.size()), textLimit));
+    std::array<char, 128 * 1024> piece;
+    for (;;) {
+        const qint64 count = file.read(piece.data(), piece.size());
+        if (count < 0)
+            return notRead(file);
+        if (count == 0)
+            return bytes;
+        bytes.append(piece.data(), static_cast<std::size_t>(count));
+        if (bytes.size() > textLimit)
+            return std::unexpected(Failure{"tool_text_too_large", {path}});
+    }
 }
 
 std::string printedText(std::string bytes)
@@ -97,35 +71,13 @@ std::string_view withoutIndent(std::string_view text)
 std::vector<std::string_view> firstWords(std::string_view text)
 {
     std::vector<std::string_view> words;
-    takeFirstWords(text, [&](std::string_view word) { words.push_back(word); });
+    while (!(text = withoutWhiteSpace(text)).empty()) {
+        // Words are short, and what follows them is long.
+        const auto end = std::ranges::find_if(text, [](char c) { return c == ' ' || c == '\n'; });
+        words.push_back(text.substr(0, static_cast<std::size_t>(end - text.begin())));
+        text.remove_prefix(std::min(text.find('\n', words.back().size()), text.size()));
+    }
     return words;
-}
-
-std::expected<void, Failure>
-readFirstWords(const QString& path, const std::function<void(std::span<const std::string_view>)>& take)
-{
-    std::string rest; // the line that the next piece goes on with
-    std::vector<std::string_view> words;
-    const auto handOn = [&](std::string_view lines) {
-        words.clear();
-        takeFirstWords(lines, [&](std::string_view word) { words.push_back(word); });
-        take(words);
-    };
-    const auto read = readPieces(path, [&](std::string_view piece, std::size_t) {
-        const std::size_t whole = piece.rfind('\n') + 1;
-        std::string_view lines = piece.substr(0, whole);
-        if (!rest.empty() && !lines.empty()) {
-            const std::size_t first = lines.find('\n') + 1;
-            handOn(rest += lines.substr(0, first));
-            rest.clear();
-            lines.remove_prefix(first);
-        }
-        handOn(lines);
-        rest += piece.substr(whole);
-    });
-    if (read)
-        handOn(rest);
-    return read;
 }
 
 } // namespace tessera

@@ -3,8 +3,6 @@
 #include "core/failure.h"
 
 #include <expected>
-#include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,9 +22,5 @@ std::string_view withoutIndent(std::string_view text);
 /// The first word of every line that has one, in order: up to the first blank, white space before it skipped.
 /// Views of `text`.
 std::vector<std::string_view> firstWords(std::string_view text);
-
-/// The same of a file, handed on while it is read: some words at a time, which live as long as the call.
-std::expected<void, Failure>
-readFirstWords(const QString& path, const std::function<void(std::span<const std::string_view>)>& take);
 
 } // namespace tessera

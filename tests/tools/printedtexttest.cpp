@@ -1,3 +1,4 @@
+#include "tools/listedsets.h"
 #include "tools/printedtext.h"
 
 #include "core/encodings.h"
@@ -6,7 +7,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <random>
 
 using namespace tessera;
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(readPrinted(file.fileName()) == bytes.toStdString());
     }
 
-    void wordsAreTheSameWhileTheFileIsRead()
+    void setsAreTheSameReadFromAFile()
     {
         std::mt19937 random(3);
         QTemporaryDir folder;
@@ -111,15 +111,14 @@ private Q_SLOTS:
             QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
             file.write(text.data(), static_cast<qint64>(text.size()));
             file.close();
-            std::vector<std::string> words;
-            QVERIFY(readFirstWords(file.fileName(), [&](std::span<const std::string_view> some) {
-                words.insert(words.end(), some.begin(), some.end());
-            }));
+            const auto sets = ListedSets::read(file.fileName());
+            QVERIFY(sets.has_value());
             const auto expected = firstWords(text);
-            QVERIFY(std::ranges::equal(words, expected));
+            QCOMPARE(sets->size(), expected.size());
+            for (std::size_t i = 0; i < expected.size(); ++i)
+                QVERIFY((*sets)[i] == expected[i]);
         }
-        QCOMPARE(readFirstWords(folder.path(), [](std::span<const std::string_view>) { }).error().key,
-                 "convert_not_read");
+        QCOMPARE(ListedSets::read(folder.path()).error().key, "convert_not_read");
     }
 
     void whatCannotBeReadIsAFailure()
