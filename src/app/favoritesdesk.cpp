@@ -157,7 +157,7 @@ void FavoritesDesk::awakeFromNib()
 void FavoritesDesk::showSelection()
 {
     const auto first = m_controller.selection().first();
-    const auto count = static_cast<int>(m_controller.selection().favourites().size());
+    const auto count = static_cast<int>(m_controller.selection().records().size());
     m_window->factsPanel->showRecord(first ? &m_favourites.records()[*first] : nullptr, count);
 }
 

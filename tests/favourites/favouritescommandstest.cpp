@@ -204,7 +204,7 @@ private Q_SLOTS:
         m_staged->start();
         QCOMPARE(m_staged->shownNames(), list({"a", "b", "c"}));
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(1));
+        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
         // Once sorted, in the order that is shown.
         m_staged->controller->set_favorites();
         QCOMPARE(m_staged->shownNames(), list({"a", "b", "c"}));
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->storedSelection().toInt(), 2);
         m_staged->showTable();
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(1));
+        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
     }
 
     void aRandomFavouriteNeedsNoWindow()
@@ -313,7 +313,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->shownNames(), list({"b"}));
         m_staged->favourites.undoStack().undo();
         QCOMPARE(m_staged->shownNames(), list({"c", "b", "a"}));
-        QCOMPARE(m_staged->controller->selection().favourites(), (std::vector<std::uint32_t>{1, 2}));
+        QCOMPARE(m_staged->controller->selection().records(), (std::vector<std::uint32_t>{1, 2}));
         m_staged->controller->saveFavorites();
         QCOMPARE(m_staged->file(), listFile(threeEntries));
     }
@@ -380,7 +380,7 @@ private Q_SLOTS:
         QSet<QString> drawn;
         for (int i = 0; i < 100 && drawn.size() < 3; ++i) {
             m_staged->controller->gameShuffle2();
-            QCOMPARE(m_staged->controller->selection().favourites().size(), std::size_t(1));
+            QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
             drawn.insert(m_staged->controller->tableViewSelectionROM2());
             QCOMPARE(m_staged->desktop.takeTranscript(), list({"sound slot_end"}));
         }

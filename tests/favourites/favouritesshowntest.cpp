@@ -48,26 +48,26 @@ private Q_SLOTS:
         m_staged->startUnseen();
         if (isSeen)
             m_staged->showTable();
-        FavouriteSelection& selection = m_staged->controller->selection();
+        ListSelection& selection = m_staged->controller->selection();
         // "a" is the file's third, and the first row.
-        selection.selectFavourites({0, 2});
+        selection.select({0, 2});
         QCOMPARE(selection.firstRow(), 0);
         QCOMPARE(selection.first(), std::optional<std::uint32_t>(2));
-        QCOMPARE(selection.favourites(), (Indexes{0, 2}));
-        selection.selectFavourites({2, 0});
+        QCOMPARE(selection.records(), (Indexes{2, 0}));
+        selection.select({2, 0});
         QCOMPARE(selection.firstRow(), 0);
-        QCOMPARE(selection.favourites(), (Indexes{0, 2}));
-        selection.selectFavourites({0, 1, 77});
+        QCOMPARE(selection.records(), (Indexes{2, 0}));
+        selection.select({0, 1, 77});
         QCOMPARE(selection.firstRow(), 1);
-        QCOMPARE(selection.favourites(), (Indexes{0, 1}));
-        selection.selectFavourites({});
+        QCOMPARE(selection.records(), (Indexes{1, 0}));
+        selection.select({});
         QCOMPARE(selection.firstRow(), -1);
         QVERIFY(!selection.first());
-        QVERIFY(selection.favourites().empty());
+        QVERIFY(selection.records().empty());
         for (const int row : {0, 2}) {
             selection.selectRow(row);
             QCOMPARE(selection.firstRow(), row);
-            QCOMPARE(selection.favourites().size(), std::size_t(1));
+            QCOMPARE(selection.records().size(), std::size_t(1));
         }
         for (const int row : {-1, 3}) {
             selection.selectRow(1);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(selections.size(), 2);
         m_staged->favourites.undoStack().undo();
         QCOMPARE(counts.size(), 3);
-        QCOMPARE(m_staged->controller->selection().favourites(), Indexes{1});
+        QCOMPARE(m_staged->controller->selection().records(), Indexes{1});
     }
 
     void behindTheLastOneTheNewLastIsSelected()
@@ -174,11 +174,11 @@ private Q_SLOTS:
         m_staged->table->selectAll();
         m_staged->favourites.remove({1});
         QCOMPARE(m_staged->shownNames(), (QStringList{"a", "c"}));
-        QCOMPARE(m_staged->controller->selection().favourites(), (Indexes{0, 1}));
+        QCOMPARE(m_staged->controller->selection().records(), (Indexes{1, 0}));
         m_staged->table->selectRow(1);
         m_staged->favourites.remove({1});
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().favourites(), Indexes{0});
+        QCOMPARE(m_staged->controller->selection().records(), Indexes{0});
     }
 
     void onlyATextThatDiffersIsAnEdit()

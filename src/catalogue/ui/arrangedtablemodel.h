@@ -18,6 +18,8 @@ class ArrangedTableModel : public QAbstractTableModel
 
 public:
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// The rows' colours are others now.
+    void recolour() { showEverything({Qt::ForegroundRole}); }
 
 protected:
     /// `font` is the setting that names the rows' font.

@@ -333,7 +333,7 @@ void GameFinder::toggleFamily(int row)
     if (m_open.erase(name) == 0)
         m_open.insert(name);
     rearrange([this] { applyFamilies(); });
-    m_list.selectRecords({record});
+    m_list.selection().select({record});
 }
 
 void GameFinder::showAll()

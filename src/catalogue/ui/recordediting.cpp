@@ -62,7 +62,7 @@ void RecordEditing::editRecord()
 // What is selected at the answer is what was selected at the question: the alert is modal.
 void RecordEditing::removeRecord()
 {
-    std::vector<std::uint32_t> records = m_list.selectedRecords();
+    std::vector<std::uint32_t> records = m_list.selection().records();
     if (records.empty() || m_isLocked)
         return;
     m_desktop.beep();
@@ -78,13 +78,13 @@ void RecordEditing::removeRecord()
 void RecordEditing::showSelection()
 {
     if (m_editor)
-        m_editor->show(m_list.firstSelected(), m_catalogue.records(), !m_isLocked);
+        m_editor->show(m_list.selection().first(), m_catalogue.records(), !m_isLocked);
 }
 
 // The row that took the place of the first one is selected, so that several can be removed in a row.
 void RecordEditing::removed()
 {
-    const int row = m_list.firstSelectedRow();
+    const int row = m_list.selection().firstRow();
     m_list.setContent();
     m_list.selectRow(row);
 }
@@ -92,7 +92,7 @@ void RecordEditing::removed()
 void RecordEditing::putBack(const std::vector<std::uint32_t>& records)
 {
     m_list.setContent();
-    m_list.selectRecords(records);
+    m_list.selection().select(records);
 }
 
 } // namespace tessera

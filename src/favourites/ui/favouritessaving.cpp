@@ -40,14 +40,14 @@ void UCAppController::set_favorites()
         // The row is counted in the order of now: at start that of the file, although the stored one was
         // counted in the order that was shown. Nothing stored is the first row.
         const auto stored = m_parts.defaults.stored().value(keys::FavoriteTable.name);
-        m_selection.selectRow(stored ? stored->toLongLong() : 0);
+        selection().selectRow(stored ? stored->toLongLong() : 0);
     }
 }
 
 void UCAppController::saveFavorites()
 {
     commitEditing();
-    const int row = m_selection.firstRow();
+    const int row = selection().firstRow();
     m_parts.defaults.keep(keys::FavoriteTable, row < 0 ? nothingSelected : row);
     m_parts.defaults.flush();
     // Deliberate: an edit alone is not written, a cancelled removal is. Nobody is asked at quit: the log
@@ -106,8 +106,7 @@ void UCAppController::dir_make(const QString& path)
 
 void UCAppController::commitEditing()
 {
-    if (m_table != nullptr)
-        m_table->commitOpenEditor();
+    ListController::commitEditing();
     Q_EMIT commitRequested();
 }
 

@@ -44,8 +44,6 @@ public:
     void reload();
     /// Favourites, by their indexes, whose set is not in the catalogue any more.
     void setGone(RecordSet gone);
-    /// The rows' colours are others now.
-    void recolour() { showEverything({Qt::ForegroundRole}); }
 
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -2,15 +2,12 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/recorddictionary.h"
-#include "catalogue/statusmark.h"
 #include "favourites/gonefavourites.h"
 #include "favourites/playedgames.h"
 #include "favourites/ui/favouritestable.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
-
-#include <QRandomGenerator>
 
 #include <algorithm>
 
@@ -23,12 +20,10 @@ constexpr int recentDays = 30;
 } // namespace
 
 UCAppController::UCAppController(FavouritesParts parts, QObject* parent)
-    : QObject(parent)
+    : ListController(parts.desktop, parts.defaults.stored(), parent)
     , m_parts(std::move(parts))
-    , m_colors(m_parts.defaults.stored())
-    , m_model(new FavouritesTableModel(m_parts.favourites, m_list, m_parts.played, m_colors, m_parts.defaults,
+    , m_model(new FavouritesTableModel(m_parts.favourites, list(), m_parts.played, colors(), m_parts.defaults,
                                        this))
-    , m_selection(m_list)
 {
     joinFavourites();
 }
@@ -37,7 +32,7 @@ void UCAppController::joinFavourites()
 {
     const Favourites* favourites = &m_parts.favourites;
     connect(favourites, &Favourites::replaced, this, [this] { showAgain({}); });
-    connect(favourites, &Favourites::appended, this, [this] { showAgain(m_selection.favourites()); });
+    connect(favourites, &Favourites::appended, this, [this] { showAgain(selection().records()); });
     connect(favourites, &Favourites::putBackAt, this,
             [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
     connect(favourites, &Favourites::removed, this, &UCAppController::showAfterRemoval);
@@ -61,10 +56,7 @@ void UCAppController::joinFavourites()
 
 void UCAppController::setTable(FavouritesTable* table)
 {
-    m_table = table;
-    table->setModel(m_model);
-    m_selection.setTable(table);
-    connect(table, &GameTableView::selectionDidChange, this, &UCAppController::tableViewSelectionDidChange);
+    showIn(table, m_model);
     connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);
 }
 
@@ -79,9 +71,9 @@ void UCAppController::awakeFromNib()
 // selected, so that several can be removed in a row.
 void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 {
-    const int row = m_selection.firstRow();
+    const int row = selection().firstRow();
     std::vector<std::uint32_t> left;
-    for (const std::uint32_t each : m_selection.favourites()) {
+    for (const std::uint32_t each : selection().records()) {
         const auto before = std::ranges::lower_bound(gone, each);
         if (before == gone.end() || *before != each)
             left.push_back(each - static_cast<std::uint32_t>(before - gone.begin()));
@@ -92,13 +84,13 @@ void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 // The list as it is now, with these favourites selected, or else a row or the last one.
 void UCAppController::showAgain(const std::vector<std::uint32_t>& selected, int row)
 {
-    m_quiet = true;
-    m_model->reload();
-    if (row < 0)
-        m_selection.selectFavourites(selected);
-    else
-        m_selection.selectRow(std::min(row, m_model->rowCount() - 1));
-    m_quiet = false;
+    quietly([&] {
+        m_model->reload();
+        if (row < 0)
+            selection().select(selected);
+        else
+            selection().selectRow(std::min(row, m_model->rowCount() - 1));
+    });
     markGone();
     tableViewSelectionDidChange();
     Q_EMIT countChanged();
@@ -130,13 +122,13 @@ void UCAppController::addFavoritesTable(const GameRecord& game)
 void UCAppController::removeFavoritesTable()
 {
     commitEditing();
-    removeAfterAsking(m_selection.favourites());
+    removeAfterAsking(selection().records());
 }
 
 void UCAppController::removeShown()
 {
     commitEditing();
-    const auto shown = m_selection.first();
+    const auto shown = selection().first();
     removeAfterAsking(shown ? std::vector{*shown} : std::vector<std::uint32_t>());
 }
 
@@ -158,23 +150,6 @@ void UCAppController::removeAfterAsking(std::vector<std::uint32_t> favourites)
     m_favoritesUpdate = true;
 }
 
-void UCAppController::tableViewSelectionDidChange()
-{
-    if (m_quiet)
-        return;
-    Q_EMIT selectionChanged();
-    romStatus2();
-}
-
-void UCAppController::romStatus2()
-{
-    const auto favourite = m_selection.first();
-    const auto mark = statusMark(
-        favourite ? std::optional(m_parts.favourites.records()[*favourite][Field::Status]) : std::nullopt);
-    if (mark)
-        Q_EMIT markChanged(fieldText(*mark));
-}
-
 // Deliberate: no beep with nothing selected, unlike the game list.
 void UCAppController::tableViewDoubleAction2()
 {
@@ -185,23 +160,10 @@ void UCAppController::tableViewDoubleAction2()
 
 void UCAppController::favorites_tableViewSort()
 {
-    if (m_table != nullptr)
-        m_table->sortByColumn(m_table->firstColumn(), Qt::AscendingOrder);
+    if (table() != nullptr)
+        table()->sortByColumn(table()->firstColumn(), Qt::AscendingOrder);
     else
         m_model->sort(0, Qt::AscendingOrder);
-}
-
-void UCAppController::gameShuffle2()
-{
-    // The number is drawn before the list is looked at; of none it is 0.
-    const int count = m_model->rowCount();
-    const int row = count == 0 ? 0 : QRandomGenerator::global()->bounded(count);
-    if (count == 0) {
-        m_parts.desktop.beep();
-        return;
-    }
-    m_selection.selectRow(row);
-    m_parts.desktop.playSound(QStringLiteral("slot_end"));
 }
 
 void UCAppController::showRecentlyPlayed(bool only)
@@ -212,36 +174,24 @@ void UCAppController::showRecentlyPlayed(bool only)
     applyRecent();
 }
 
-void UCAppController::setRomFolders(std::shared_ptr<const RomFolders> folders)
-{
-    m_colors.setRomFolders(std::move(folders));
-    m_model->recolour();
-}
-
 void UCAppController::applyRecent()
 {
-    commitEditing();
-    const std::vector<std::uint32_t> selected = m_selection.favourites();
-    m_quiet = true;
+    Predicate predicate;
     if (m_onlyRecent) {
         const QStringList names = m_parts.played.recent(m_parts.desktop.now().addDays(-recentDays));
-        const QSet<QString> recent(names.begin(), names.end());
-        m_list.setPredicate(
-            [recent](const GameRecord& record) { return recent.contains(fieldText(record[Field::Name])); });
-    } else {
-        m_list.setPredicate({});
+        predicate = [recent = QSet<QString>(names.begin(), names.end())](const GameRecord& record) {
+            return recent.contains(fieldText(record[Field::Name]));
+        };
     }
-    m_selection.selectFavourites(selected);
-    m_quiet = false;
-    tableViewSelectionDidChange();
+    rearrange([&] { list().setPredicate(std::move(predicate)); });
     Q_EMIT countChanged();
 }
 
 QString UCAppController::search_priorityOption(const QString& name) const
 {
     const std::string set = name.toStdString();
-    if (const auto row = m_list.find(Field::Name, set))
-        return m_parts.favourites.value(m_list.rows()[*row], FavouriteKey::Option);
+    if (const auto row = list().find(Field::Name, set))
+        return m_parts.favourites.value(list().rows()[*row], FavouriteKey::Option);
     // The chip hides a favourite from the list, not its options from a launch.
     const auto& records = m_parts.favourites.records();
     const auto hidden = m_onlyRecent
@@ -251,43 +201,6 @@ QString UCAppController::search_priorityOption(const QString& name) const
         ? QString()
         : m_parts.favourites.value(static_cast<std::uint32_t>(hidden - records.begin()),
                                    FavouriteKey::Option);
-}
-
-QString UCAppController::selectedValue(Field field) const
-{
-    const auto favourite = m_selection.first();
-    return favourite ? shownValue(m_parts.favourites.records()[*favourite], field) : QString();
-}
-
-SelectedGame UCAppController::selected() const
-{
-    return {tableViewSelectionROM2(), selectedValue(Field::Title), selectedValue(Field::Titlejp),
-            tableViewSelectionCloneof()};
-}
-
-QString UCAppController::tableViewSelectionROM2() const
-{
-    return selectedValue(Field::Name);
-}
-
-QString UCAppController::tableViewSelectionParentROM2() const
-{
-    return selectedValue(Field::Cloneof);
-}
-
-QString UCAppController::tableViewSelectionCloneof() const
-{
-    return selectedValue(Field::Cloneof);
-}
-
-QString UCAppController::tableViewSelectionYEAR() const
-{
-    return selectedValue(Field::Year);
-}
-
-QString UCAppController::tableViewSelectionMaker() const
-{
-    return selectedValue(Field::Maker);
 }
 
 } // namespace tessera
