@@ -1,42 +1,24 @@
 #pragma once
 
-#include <QMainWindow>
+#include "app/listwindow.h"
 
-#include <cstddef>
-
-class QLabel;
 class QMenuBar;
-class QPushButton;
-class QStackedWidget;
-class QToolButton;
 
 namespace tessera {
 
 class ChipButton;
-class DefaultsController;
-class EmptyState;
-class FactsPanel;
-class FavouritesTable;
-class SidePanel;
 class SiteChoice;
-class SplitView_custom;
 
-/// The favourites with their side panel. It takes the main window's place.
-class FavoritesWindow : public QMainWindow
+/// The favourites. It takes the main window's place.
+class FavoritesWindow : public ListWindow
 {
     Q_OBJECT
 
 public:
     explicit FavoritesWindow(DefaultsController& defaults);
 
-    FavouritesTable* favoritesTable;
-    SidePanel* sidePanel;
-    FactsPanel* factsPanel; ///< in the side panel
-    SiteChoice* siteChoice; ///< in the side panel too
-    EmptyState* emptyState;
-    QPushButton* playButton;
-    QToolButton* stopButton;
-    QToolButton* randomButton;
+    GameTableView* favoritesTable;
+    SiteChoice* siteChoice; ///< in the side panel
     QToolButton* editButton;
     QToolButton* removeButton;
     QToolButton* mainButton;
@@ -48,29 +30,14 @@ public:
     void takeMenus(const QMenuBar& from);
     void showCount(std::size_t shown, std::size_t all);
     void showUnsaved(bool unsaved);
-    void showMessage(const QString& sentence);
-    void setRunning(bool running);
-
-    /// Columns and divider as they were left, and back into the settings.
-    void restore();
-    void remember();
-
-Q_SIGNALS:
-    void closeRequested();
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
 
 private:
-    QWidget* makeToolRow();
+    static const Kind& kind();
+    Bar* makeButtons();
     void makeStatusLine();
 
-    DefaultsController& m_defaults;
-    SplitView_custom* m_split;
-    QStackedWidget* m_pages;
     QLabel* m_count;
     QLabel* m_unsaved;
-    QLabel* m_message;
 };
 
 } // namespace tessera

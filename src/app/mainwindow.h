@@ -1,28 +1,17 @@
 #pragma once
 
-#include <QMainWindow>
+#include "app/listwindow.h"
 
-class QLabel;
 class QProgressBar;
-class QPushButton;
-class QSplitter;
-class QStackedWidget;
-class QToolButton;
 
 namespace tessera {
 
-class DefaultsController;
 class ChipBar;
-class EmptyState;
-class FactsPanel;
-class GameTableView;
 class RebuildStrip;
 class SearchField;
-class SidePanel;
-class SplitView_custom;
 
-/// The game list with its side panel, tool row and status line. Closing it asks for the end of the program.
-class MainWindow : public QMainWindow
+/// The game list. Closing it asks for the end of the program.
+class MainWindow : public ListWindow
 {
     Q_OBJECT
 
@@ -30,15 +19,9 @@ public:
     explicit MainWindow(DefaultsController& defaults);
 
     GameTableView* gameTable;
-    SidePanel* sidePanel;
-    FactsPanel* factsPanel; ///< in the side panel
     RebuildStrip* rebuildStrip;
     ChipBar* chipBar;
     SearchField* searchField;
-    EmptyState* emptyState;
-    QPushButton* playButton;
-    QToolButton* stopButton;
-    QToolButton* randomButton;
     QToolButton* filterButton;
     QToolButton* favoritesButton;
     QToolButton* logButton;
@@ -55,8 +38,6 @@ public:
     void setRomsMissing(bool missing) { m_romsMissing = missing; }
     /// With what hides the others, each in a few words.
     void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
-    /// Says a thing once in the status line; it stays until the next one.
-    void showMessage(const QString& sentence);
     /// Says nothing, where that was the last sentence.
     void takeBack(const QString& sentence);
     void showEmulator(const QString& text);
@@ -70,31 +51,20 @@ public:
     void offerRebuild(bool offered);
     void setBusy(bool busy);
 
-    /// Geometry and columns as they were left, and back into the settings.
+    /// Its geometry, too.
     void restore();
     void remember();
 
-Q_SIGNALS:
-    void closeRequested();
-
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
 private:
-    QWidget* makeToolRow();
+    static const Kind& kind();
+    Bar* makeButtons();
     void makeStatusLine();
-    void applyRowHeight();
     void sayWhatToDo(bool rebuilding);
 
-    DefaultsController& m_defaults;
     bool m_romsMissing = false;
     bool m_isFiltered = false;
     bool m_isRebuilding = false;
-    QSplitter* m_split;
-    SplitView_custom* m_splitLimits;
-    QStackedWidget* m_pages;
     QLabel* m_count;
-    QLabel* m_message;
     QLabel* m_emulator;
 };
 

@@ -58,7 +58,8 @@ public:
     }
     void showTable()
     {
-        table = std::make_unique<FavouritesTable>(controls);
+        table = std::make_unique<FavouritesTable>();
+        table->followRowHeight(controls);
         controller->setTable(table.get());
         controller->favorites_tableViewSort();
         table->resize(800, 300);

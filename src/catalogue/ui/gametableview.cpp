@@ -1,6 +1,7 @@
 #include "catalogue/ui/gametableview.h"
 
 #include "catalogue/ui/familydelegate.h"
+#include "platform/defaultscontroller.h"
 #include "widgets/myscrollers.h"
 
 #include <QClipboard>
@@ -57,6 +58,18 @@ GameTableView::GameTableView(QWidget* parent)
     connect(families, &FamilyDelegate::toggled, this, &GameTableView::familyToggled);
     // Of the left button only: see mouseDoubleClickEvent().
     connect(this, &QTableView::doubleClicked, this, &GameTableView::doubleAction);
+}
+
+void GameTableView::followRowHeight(const DefaultsController& defaults)
+{
+    const auto apply = [this, &defaults] {
+        // The setting may have half a pixel (13.5), rows have whole ones.
+        const int height = qBound(8, qRound(defaults.number(keys::rowHeight)), 400);
+        if (verticalHeader()->defaultSectionSize() != height)
+            verticalHeader()->setDefaultSectionSize(height);
+    };
+    apply();
+    connect(&defaults, &DefaultsController::changed, this, apply);
 }
 
 void GameTableView::commitOpenEditor()

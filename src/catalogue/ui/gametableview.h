@@ -6,6 +6,8 @@ class QMenu;
 
 namespace tessera {
 
+class DefaultsController;
+
 /// The table of games: whole rows are selected, Return plays, F2 edits the cell.
 class GameTableView : public QTableView
 {
@@ -14,6 +16,8 @@ class GameTableView : public QTableView
 public:
     explicit GameTableView(QWidget* parent = nullptr);
 
+    /// The rows are as high as the setting has it, also when it changes.
+    void followRowHeight(const DefaultsController& defaults);
     /// Puts the text of an open cell editor into its record, as leaving the cell would.
     void commitOpenEditor();
 

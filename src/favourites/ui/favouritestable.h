@@ -4,8 +4,6 @@
 
 namespace tessera {
 
-class DefaultsController;
-
 /// The table of favourites: the game list's, with a plain header of its own height.
 class FavouritesTable : public GameTableView
 {
@@ -14,15 +12,10 @@ class FavouritesTable : public GameTableView
 public:
     static constexpr int headerHeight = 22;
 
-    explicit FavouritesTable(DefaultsController& defaults, QWidget* parent = nullptr);
+    explicit FavouritesTable(QWidget* parent = nullptr);
 
     /// Some columns are not among the shown ones at first.
     void setModel(QAbstractItemModel* model) override;
-
-private:
-    void applyRowHeight();
-
-    DefaultsController& m_defaults;
 };
 
 } // namespace tessera

@@ -4,7 +4,7 @@
 #include "catalogue/recorddictionary.h"
 #include "favourites/gonefavourites.h"
 #include "favourites/playedgames.h"
-#include "favourites/ui/favouritestable.h"
+#include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
@@ -54,7 +54,7 @@ void UCAppController::joinFavourites()
     });
 }
 
-void UCAppController::setTable(FavouritesTable* table)
+void UCAppController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
     connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);

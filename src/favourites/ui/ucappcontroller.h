@@ -9,7 +9,6 @@ namespace tessera {
 
 class Catalogue;
 class DefaultsController;
-class FavouritesTable;
 class FavouritesTableModel;
 class PlayedGames;
 
@@ -32,7 +31,7 @@ class UCAppController : public ListController
 public:
     explicit UCAppController(FavouritesParts parts, QObject* parent = nullptr);
 
-    void setTable(FavouritesTable* table);
+    void setTable(GameTableView* table);
     FavouritesTableModel* model() { return m_model; }
 
     QString pathOfDataFile() const;
