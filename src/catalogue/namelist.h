@@ -15,6 +15,11 @@ public:
         m_text.insert(m_text.end(), name.begin(), name.end());
         m_ends.push_back(static_cast<std::uint32_t>(m_text.size()));
     }
+    void reserve(std::size_t names, std::size_t letters)
+    {
+        m_ends.reserve(names);
+        m_text.reserve(letters);
+    }
     std::size_t size() const { return m_ends.size(); }
     std::string_view operator[](std::size_t i) const
     {

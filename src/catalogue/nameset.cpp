@@ -1,5 +1,6 @@
 #include "catalogue/nameset.h"
 
+#include <bit>
 #include <functional>
 #include <utility>
 
@@ -29,7 +30,7 @@ std::pair<std::size_t, bool> NameSet::insert(std::string_view name)
     m_names.add(name);
     slot = {static_cast<std::uint32_t>(m_names.size()), hash};
     if (m_names.size() + m_names.size() / 2 > m_slots.size())
-        grow();
+        makeSlots(4 * m_slots.size());
     return {m_names.size() - 1, true};
 }
 
@@ -37,6 +38,14 @@ std::optional<std::size_t> NameSet::find(std::string_view name) const
 {
     const Slot& slot = m_slots[slotOf(name, hashOf(name))];
     return slot.number == 0 ? std::nullopt : std::optional<std::size_t>(slot.number - 1);
+}
+
+void NameSet::reserve(std::size_t names)
+{
+    constexpr std::size_t usualSize = 16;
+    m_names.reserve(names, usualSize * names);
+    if (const std::size_t slots = std::bit_ceil(names + names / 2); slots > m_slots.size())
+        makeSlots(slots);
 }
 
 // Where a name is, or would be.
@@ -49,9 +58,9 @@ std::size_t NameSet::slotOf(std::string_view name, std::uint32_t hash) const
     return at;
 }
 
-void NameSet::grow()
+void NameSet::makeSlots(std::size_t count)
 {
-    const std::vector<Slot> slots = std::exchange(m_slots, std::vector<Slot>(4 * m_slots.size()));
+    const std::vector<Slot> slots = std::exchange(m_slots, std::vector<Slot>(count));
     for (const Slot& slot : slots) {
         std::size_t at = slot.hash & (m_slots.size() - 1);
         while (slot.number != 0 && m_slots[at].number != 0)

@@ -15,6 +15,8 @@ public:
     NameSet() = default;
     NameSet(std::initializer_list<std::string_view> names);
 
+    /// Makes room for about so many, so that nothing is moved while they come.
+    void reserve(std::size_t names);
     /// Which one of the names it is, and whether it is new.
     std::pair<std::size_t, bool> insert(std::string_view name);
     std::optional<std::size_t> find(std::string_view name) const;
@@ -31,7 +33,7 @@ private:
     };
 
     std::size_t slotOf(std::string_view name, std::uint32_t hash) const;
-    void grow();
+    void makeSlots(std::size_t count);
 
     NameList m_names;
     /// A power of two of them, a third or more of which is free; a name has the one at its hash, or one

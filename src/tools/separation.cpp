@@ -49,6 +49,7 @@ std::vector<std::string> romNames(const QString& folder)
 
 SupportedNames::SupportedNames(const ListedSets& listed)
 {
+    m_names.reserve(listed.size());
     for (std::size_t i = 0; i < listed.size(); ++i)
         m_names.insert(listed[i]);
 }
