@@ -71,8 +71,9 @@ void ArrangedList::setPredicate(Predicate predicate)
     arrange();
 }
 
-void ArrangedList::setFound(std::optional<Found> found)
+void ArrangedList::setFound(std::optional<Found> found, Ranking ranking)
 {
+    m_ranks = m_ranks || ranking == Ranking::Anew;
     if (!found && !m_found)
         return;
     m_found = std::move(found);
@@ -122,10 +123,8 @@ void ArrangedList::sortBy(bool ascending)
 {
     m_ascending = ascending;
     m_isOrdered = false;
-    if (m_found)
-        m_found->ranks.clear();
+    m_ranks = false;
     arrange();
-    Q_EMIT sortWanted();
 }
 
 void ArrangedList::setFamilies(std::optional<Families> families)
@@ -171,7 +170,7 @@ void ArrangedList::arrange(Content content)
 {
     std::vector<std::uint32_t> rows = chosenOf(ordered(), chosen());
     std::vector<std::uint32_t> clones;
-    if (m_found && isRanked()) {
+    if (isRanked()) {
         rows = byRank(rows, m_found->ranks);
     } else if (m_families && !(m_found && m_found->opensFamilies)) {
         FamilyRows folded = foldFamilies(rows, m_families->heads, m_families->open);

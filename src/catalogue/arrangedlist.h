@@ -42,10 +42,12 @@ public:
     void setContent(std::span<const GameRecord> content, std::optional<SortedRecords> byName = std::nullopt);
     /// No predicate lets every record through.
     void setPredicate(Predicate predicate);
+    /// Whether ranks count again after a sort.
+    enum class Ranking : std::uint8_t { Anew, AsBefore };
     /// Besides the predicate: only what was found, the best ranked first. Nothing lets every record through.
-    void setFound(std::optional<Found> found);
+    void setFound(std::optional<Found> found, Ranking ranking = Ranking::Anew);
     /// Equal ones stay as they are shown, ranks included. The order that the list has already changes
-    /// nothing. A sort wins over ranks: they are forgotten until something is found anew.
+    /// nothing. A sort wins over ranks until something is found anew.
     void setSort(Field field, bool ascending);
     /// By what stands in no field of the records. The next content is sorted by fields again.
     void setSort(SortedRecords order, bool ascending);
@@ -64,7 +66,7 @@ public:
     Field sortField() const { return m_sorts.back().field; }
     bool ascending() const { return m_ascending; }
     /// The best ranked come first.
-    bool isRanked() const { return m_found && !m_found->ranks.empty(); }
+    bool isRanked() const { return m_ranks && m_found && !m_found->ranks.empty(); }
     /// How many clones belong to a row, shown or folded.
     std::uint32_t clones(std::size_t row) const { return m_clones.empty() ? 0 : m_clones[row]; }
 
@@ -84,8 +86,6 @@ Q_SIGNALS:
     // Rows are others now; where they would be the same nothing is told.
     void aboutToArrange();
     void arranged();
-    /// Somebody wants this order, also in place of ranks.
-    void sortWanted();
 
 private:
     enum class Content : std::uint8_t { Same, Other };
@@ -104,6 +104,7 @@ private:
     std::span<const GameRecord> m_content;
     Predicate m_predicate;
     std::optional<Found> m_found;
+    bool m_ranks = true; ///< ranks count: nothing was sorted since
     std::optional<Families> m_families;
     std::vector<Sort> m_sorts{{Field::Name, true}}; // each field once, the last one counts first
     bool m_ascending = true;

@@ -40,10 +40,7 @@ GameFinder::GameFinder(Catalogue& catalogue, GameListController& list, DefaultsC
         if (!m_isRearranging)
             Q_EMIT changed();
     });
-    connect(&list.list(), &ArrangedList::sortWanted, this, [this] { m_ranks = false; });
     connect(&catalogue, &Catalogue::recordChanged, this, &GameFinder::follow);
-    connect(&catalogue, &Catalogue::removed, this, &GameFinder::takeOut);
-    connect(&catalogue, &Catalogue::putBackAt, this, &GameFinder::putBack);
 }
 
 void GameFinder::restore()
@@ -53,7 +50,8 @@ void GameFinder::restore()
         = std::ranges::find_if(chips, [&](const ChipRow& each) { return chip == textOf(each.name); });
     m_chip = row == chips.end() ? Chip::All : row->chip;
     m_foldsFamilies = m_defaults.stored().flag(keys::GameListFamilies.name);
-    takeContent();
+    forget();
+    showContent();
 }
 
 GameSearch& GameFinder::search()
@@ -97,10 +95,21 @@ void GameFinder::prepare()
     tellCounts();
 }
 
-void GameFinder::takeContent()
+// What is kept of the records follows, and then what the list shows of them.
+void GameFinder::takeContent(ContentChange change, const std::vector<std::uint32_t>& records)
 {
-    if (!std::exchange(m_isAdjusted, false))
+    const bool isSmall = m_search && records.size() <= mostSingly;
+    if (isSmall && change == ContentChange::Removed)
+        takeOut(records);
+    else if (isSmall && change == ContentChange::PutBack)
+        putBack(records);
+    else
         forget();
+    showContent();
+}
+
+void GameFinder::showContent()
+{
     m_heads.clear();
     m_filtered.reset();
     applyFamilies();
@@ -141,21 +150,16 @@ void GameFinder::follow(std::uint32_t record, Field field)
 
 void GameFinder::takeOut(const std::vector<std::uint32_t>& records)
 {
-    if (records.size() > mostSingly || !m_search)
-        return;
     for (auto record = records.rbegin(); record != records.rend(); ++record) {
         m_search->remove(*record);
         if (!m_haves.empty())
             m_haves.erase(m_haves.begin() + *record);
     }
-    m_isAdjusted = true;
     askHavesAgain();
 }
 
 void GameFinder::putBack(const std::vector<std::uint32_t>& records)
 {
-    if (records.size() > mostSingly || !m_search)
-        return;
     for (const std::uint32_t record : records) {
         const GameRecord& back = m_catalogue.records()[record];
         const Have have = m_haves.empty() ? Have::Missing : m_roms->have(back);
@@ -163,7 +167,6 @@ void GameFinder::putBack(const std::vector<std::uint32_t>& records)
         if (!m_haves.empty())
             m_haves.insert(m_haves.begin() + record, have);
     }
-    m_isAdjusted = true;
     askHavesAgain();
 }
 
@@ -186,12 +189,11 @@ std::vector<std::uint32_t> GameFinder::suggestions(const QString& text, std::siz
 // The best is selected while it is typed.
 void GameFinder::setQuery(const QString& text)
 {
-    m_ranks = true;
     const bool wasEmpty = m_query.isEmpty();
     m_query = Query(text);
     if (m_query.isEmpty() && wasEmpty)
         return;
-    refresh();
+    rearrange([this] { find(ArrangedList::Ranking::Anew); });
     if (m_list.list().isRanked())
         m_list.selectRow(0);
 }
@@ -243,24 +245,22 @@ Found GameFinder::found()
     Found found = search().find(m_query);
     if (const auto& filter = filtered())
         found.records.keep(*filter);
-    if (!m_ranks)
-        found.ranks.clear();
     found.opensFamilies = !m_query.isEmpty();
     return found;
 }
 
-void GameFinder::find()
+void GameFinder::find(ArrangedList::Ranking ranking)
 {
     const Chip chip = effectiveChip();
     if (m_query.isEmpty() && chip == Chip::All && !filtered()) {
-        m_list.list().setFound(std::nullopt);
+        m_list.list().setFound(std::nullopt, ranking);
         if (m_search)
             Q_EMIT countsChanged(m_search->chipCounts());
     } else {
         Found records = found();
         Q_EMIT countsChanged(search().chipCounts(&records.records));
         search().keep(chip, records.records);
-        m_list.list().setFound(std::move(records));
+        m_list.list().setFound(std::move(records), ranking);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/arrangedlist.h"
 #include "catalogue/filterrules.h"
 #include "catalogue/search/gamesearch.h"
 #include "catalogue/romfolders.h"
@@ -17,6 +18,7 @@ namespace tessera {
 class Catalogue;
 class DefaultsController;
 class GameListController;
+enum class ContentChange : std::uint8_t;
 
 /// Decides what the game list shows: the search, the chips, the maker filter, the filter panel's rules, and
 /// whether clones are folded beneath their parents.
@@ -70,15 +72,16 @@ Q_SIGNALS:
 
 private:
     GameSearch& search();
-    void takeContent();
     void forget();
     void follow(std::uint32_t record, Field field);
     void takeOut(const std::vector<std::uint32_t>& records);
     void putBack(const std::vector<std::uint32_t>& records);
+    void takeContent(ContentChange change, const std::vector<std::uint32_t>& records);
+    void showContent();
     void foldTexts(GameSearch& search);
     void refresh();
     void rearrange(const std::function<void()>& change);
-    void find();
+    void find(ArrangedList::Ranking ranking = ArrangedList::Ranking::AsBefore);
     Found found();
     Chip effectiveChip() const;
     const std::optional<RecordSet>& filtered();
@@ -104,9 +107,7 @@ private:
     std::optional<RecordSet> m_filtered; ///< what maker filter and rules let through, once it is known
     std::vector<std::uint32_t> m_heads; ///< of the families, once they are known
     bool m_foldsFamilies = false;
-    bool m_ranks = true; ///< until the user sorts what was found
     bool m_isRearranging = false;
-    bool m_isAdjusted = false; ///< what is kept of the records already follows the coming content
     int m_havesQuestion = 0; ///< only the newest one is answered
     int m_havesAnswered = 0; ///< the question that was answered last
     std::set<std::string, std::less<>> m_open; ///< set names of the heads of open families

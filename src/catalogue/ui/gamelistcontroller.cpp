@@ -17,8 +17,10 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
     , m_desktop(desktop)
     , m_model(new GameTableModel(catalogue, list(), colors(), defaults, this))
 {
-    setContent();
-    connect(&catalogue, &Catalogue::replaced, this, &GameListController::setContent);
+    setContent(ContentChange::Replaced);
+    connect(&catalogue, &Catalogue::replaced, this, [this] { setContent(ContentChange::Replaced); });
+    connect(&catalogue, &Catalogue::removed, this, &GameListController::takeOut);
+    connect(&catalogue, &Catalogue::putBackAt, this, &GameListController::putBack);
     connect(&catalogue, &Catalogue::recordChanged, &list(),
             [this](std::uint32_t, Field field) { list().forgetOrder(field); });
     connect(&catalogue, &Catalogue::recordChanged, this, [this](std::uint32_t record, Field field) {
@@ -71,10 +73,24 @@ void GameListController::selectNeighbour(int step)
         selectRow(std::max(0, row + step));
 }
 
-void GameListController::setContent()
+// The row that took the place of the first one is selected, so that several can be removed in a row.
+void GameListController::takeOut(const std::vector<std::uint32_t>& records)
+{
+    const int row = selection().firstRow();
+    setContent(ContentChange::Removed, records);
+    selectRow(row);
+}
+
+void GameListController::putBack(const std::vector<std::uint32_t>& records)
+{
+    setContent(ContentChange::PutBack, records);
+    selection().select(records);
+}
+
+void GameListController::setContent(ContentChange change, const std::vector<std::uint32_t>& records)
 {
     list().setContent(m_catalogue.records(), m_catalogue.takeByName());
-    Q_EMIT contentChanged();
+    Q_EMIT contentChanged(change, records);
 }
 
 void GameListController::main_tableViewSort()

@@ -9,6 +9,9 @@ namespace tessera {
 class DefaultsController;
 class GameTableModel;
 
+/// What became of the list's records.
+enum class ContentChange : std::uint8_t { Replaced, Removed, PutBack };
+
 /// The game list's commands: what is selected, what a double click does, how the table is sorted.
 class GameListController : public ListController
 {
@@ -38,8 +41,6 @@ public:
     void selectRow(int row);
     /// The row before or after the first selected one.
     void selectNeighbour(int step);
-    /// After the catalogue's records became others.
-    void setContent();
 
 public Q_SLOTS:
     void main_tableViewSort();
@@ -50,10 +51,14 @@ public Q_SLOTS:
     void gameShuffle() { selectRandomRow(); }
 
 Q_SIGNALS:
-    /// The list has other records now.
-    void contentChanged();
+    /// The list has other records now; these were removed or put back.
+    void contentChanged(tessera::ContentChange change, const std::vector<std::uint32_t>& records);
 
 private:
+    void takeOut(const std::vector<std::uint32_t>& records);
+    void putBack(const std::vector<std::uint32_t>& records);
+    void setContent(ContentChange change, const std::vector<std::uint32_t>& records = {});
+
     Catalogue& m_catalogue;
     Desktop& m_desktop;
     GameTableModel* m_model;

@@ -18,8 +18,6 @@ RecordEditing::RecordEditing(Catalogue& catalogue, Desktop& desktop, GameListCon
 {
     connect(&list, &GameListController::selectionChanged, this, &RecordEditing::showSelection);
     connect(&catalogue, &Catalogue::recordChanged, this, &RecordEditing::showSelection);
-    connect(&catalogue, &Catalogue::removed, this, &RecordEditing::removed);
-    connect(&catalogue, &Catalogue::putBackAt, this, &RecordEditing::putBack);
 }
 
 RecordEditing::~RecordEditing() = default;
@@ -79,20 +77,6 @@ void RecordEditing::showSelection()
 {
     if (m_editor)
         m_editor->show(m_list.selection().first(), m_catalogue.records(), !m_isLocked);
-}
-
-// The row that took the place of the first one is selected, so that several can be removed in a row.
-void RecordEditing::removed()
-{
-    const int row = m_list.selection().firstRow();
-    m_list.setContent();
-    m_list.selectRow(row);
-}
-
-void RecordEditing::putBack(const std::vector<std::uint32_t>& records)
-{
-    m_list.setContent();
-    m_list.selection().select(records);
 }
 
 } // namespace tessera

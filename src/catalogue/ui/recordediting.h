@@ -38,8 +38,6 @@ Q_SIGNALS:
 
 private:
     void showSelection();
-    void removed();
-    void putBack(const std::vector<std::uint32_t>& records);
 
     Catalogue& m_catalogue;
     Desktop& m_desktop;

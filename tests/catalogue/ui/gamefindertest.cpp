@@ -1,6 +1,8 @@
 #include "catalogue/ui/gamefinder.h"
 
 #include "catalogue/romfolders.h"
+#include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/recordeditor.h"
 #include "stagedtable.h"
 #include "support/argumenttexts.h"
 #include "support/testmain.h"
@@ -245,10 +247,6 @@ private Q_SLOTS:
         m_finder->prepare();
         m_finder->setRomFolders(std::make_shared<const RomFolders>(m_stage->folder.path(), QStringList()));
         QTRY_VERIFY(m_finder->haveOf(0));
-        connect(&m_stage->catalogue, &Catalogue::removed, &m_stage->list,
-                [this] { m_stage->list.setContent(); });
-        connect(&m_stage->catalogue, &Catalogue::putBackAt, &m_stage->list,
-                [this] { m_stage->list.setContent(); });
         m_stage->catalogue.remove({1, 2});
         QCOMPARE(*m_finder->haveOf(2), Have::Here);
         QVERIFY(!m_finder->haveOf(3));
@@ -261,6 +259,39 @@ private Q_SLOTS:
         QCOMPARE(*m_finder->haveOf(2), Have::Missing);
         m_finder->setQuery("zed");
         QCOMPARE(shown(), QStringList({"Zed", "zed"}));
+    }
+
+    // Whoever was connected first: the editing or the search.
+    void aRemovalBeneathASearchShowsTheRightRows_data()
+    {
+        QTest::addColumn<bool>("editsFirst");
+        QTest::newRow("the editing") << true;
+        QTest::newRow("the search") << false;
+    }
+
+    void aRemovalBeneathASearchShowsTheRightRows()
+    {
+        QFETCH(bool, editsFirst);
+        m_finder.reset();
+        std::optional<RecordEditing> editing;
+        if (editsFirst)
+            editing.emplace(m_stage->catalogue, m_stage->desktop, m_stage->list);
+        m_finder = std::make_unique<GameFinder>(m_stage->catalogue, m_stage->list, m_stage->controls);
+        if (!editsFirst)
+            editing.emplace(m_stage->catalogue, m_stage->desktop, m_stage->list);
+        m_finder->prepare();
+        m_finder->setQuery("year:1980");
+        QCOMPARE(shown(), QStringList({"Zed", "mid"}));
+        m_stage->list.selectRow(0);
+        m_stage->catalogue.remove({0, 1});
+        QCOMPARE(shown(), QStringList("mid"));
+        QCOMPARE(m_stage->list.tableViewSelectionROM(), QStringLiteral("mid"));
+        m_finder->setQuery("zed");
+        QCOMPARE(shown(), QStringList("zed"));
+        m_stage->catalogue.undoStack().undo();
+        QCOMPARE(shown(), QStringList({"Zed", "zed"}));
+        m_finder->setQuery("year:1980");
+        QCOMPARE(shown(), QStringList({"Zed", "mid"}));
     }
 
     // An answer that is under way tells of the records as they were.
@@ -279,7 +310,6 @@ private Q_SLOTS:
         QFETCH(int, record);
         QVERIFY(put("abc.zip") && put("mid.zip"));
         m_finder->prepare();
-        followRemovals();
         if (change == 0)
             QVERIFY(QFile::remove(m_stage->folder.filePath("mid.zip")));
         m_finder->setRomFolders(std::make_shared<const RomFolders>(m_stage->folder.path(), QStringList()));
@@ -324,12 +354,6 @@ private Q_SLOTS:
     }
 
 private:
-    void followRemovals()
-    {
-        const auto follow = [this] { m_stage->list.setContent(); };
-        connect(&m_stage->catalogue, &Catalogue::removed, &m_stage->list, follow);
-        connect(&m_stage->catalogue, &Catalogue::putBackAt, &m_stage->list, follow);
-    }
     QStringList shown() const
     {
         QStringList names;
