@@ -12,45 +12,216 @@
 
 #include <fcntl.h>
 
-// Neither the standard library's copy nor Qt's can be stopped in the middle of a large file, keeps times, or
-// makes room before it writes. So files are copied by the system's own calls, and only folders and links are
-// left to the library.
-
 namespace tessera {
 
 namespace {
 
-namespace fs = std::filesystem;
 using Done = std::expected<void, Failure>;
 
 constexpr std::size_t pieceSize = std::size_t{1} << 20;
 constexpr mode_t keptPermissions = 0777;
 
-QString shown(const fs::path& path)
+QString shown(const std::string& path)
 {
-    return QFile::decodeName(QByteArray::fromStdString(path.native()));
+    return QFile::decodeName(QByteArray::fromStdString(path));
 }
 
-std::unexpected<Failure> failed(const char* key, const fs::path& path, std::error_code error)
+std::unexpected<Failure> failed(const char* key, const std::string& path, int error)
 {
-    return std::unexpected(Failure{key, {shown(path), QString::fromStdString(error.message())}});
+    return std::unexpected(
+        Failure{key, {shown(path), QString::fromStdString(std::generic_category().message(error))}});
 }
 
-std::error_code lastError()
+std::unexpected<Failure> notRead(const std::string& path)
 {
-    return {errno, std::generic_category()};
+    return failed("convert_not_read", path, errno);
 }
 
-bool isThere(const fs::path& path)
+std::unexpected<Failure> notWritten(const std::string& path)
+{
+    return failed("failure_write", path, errno);
+}
+
+std::string pathIn(const std::string& folder, const std::string& name)
+{
+    std::string path = folder;
+    path += '/';
+    path += name;
+    return path;
+}
+
+// A file or folder that is copied, and where to; both are named by an open folder and a name in it.
+struct Pair {
+    int from;
+    int to;
+    std::string name;
+    std::string fromPath; ///< for what is said of it
+    std::string toPath;
+};
+
+// One copy on its way, in a place where nobody sees it yet.
+class ItemCopy
+{
+public:
+    ItemCopy(const CopyWatch& watch, FileIdentity leftOut, std::vector<char>& piece)
+        : m_watch(watch)
+        , m_leftOut(leftOut)
+        , m_piece(piece)
+    {
+    }
+
+    Done copy(const Pair& item, const std::string& place);
+    // Last of all, from the innermost folder out: one that may not be written could not be filled or moved.
+    void finishFolders(const std::string& at) const;
+
+private:
+    Done copyFile(const Pair& item, const struct stat& facts);
+    Done copyBytes(const Pair& item, int from, int to);
+    Done copyFolder(const Pair& item, const struct stat& facts, const std::string& place);
+    static Done copyLink(const Pair& item, const struct stat& facts);
+    bool goOn(std::int64_t bytes);
+
+    struct Folder {
+        std::string place; ///< beneath the item, with its name
+        struct stat facts;
+    };
+
+    const CopyWatch& m_watch;
+    FileIdentity m_leftOut;
+    std::vector<char>& m_piece;
+    std::vector<Folder> m_folders;
+};
+
+Done ItemCopy::copy(const Pair& item, const std::string& place)
 {
     struct stat facts{};
-    return ::lstat(path.c_str(), &facts) == 0;
+    if (m_watch.stop.stop_requested())
+        return std::unexpected(Failure{copyCancelled, {}});
+    if (::fstatat(item.from, item.name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
+        return notRead(item.fromPath);
+    switch (facts.st_mode & S_IFMT) {
+    case S_IFREG:
+        return copyFile(item, facts);
+    case S_IFDIR:
+        return FileIdentity::of(facts) == m_leftOut ? Done() : copyFolder(item, facts, place);
+    case S_IFLNK:
+        return copyLink(item, facts);
+    default:
+        return std::unexpected(Failure{"copy_special", {shown(item.fromPath)}});
+    }
 }
 
-void takeTimes(const fs::path& path, const struct stat& facts)
+bool ItemCopy::goOn(std::int64_t bytes)
 {
+    if (m_watch.copied)
+        m_watch.copied(bytes);
+    return !m_watch.stop.stop_requested();
+}
+
+Done ItemCopy::copyFile(const Pair& item, const struct stat& facts)
+{
+    const FileHandle from(
+        ::openat(item.from, item.name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!from)
+        return notRead(item.fromPath);
+    FileHandle to(::openat(item.to, item.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!to)
+        return notWritten(item.toPath);
+    // A disk without room says so before, not after, most of the file was written.
+    if (facts.st_size > 0 && ::fallocate(to.number(), FALLOC_FL_KEEP_SIZE, 0, facts.st_size) != 0
+        && (errno == ENOSPC || errno == EFBIG || errno == EDQUOT))
+        return notWritten(item.toPath);
+    if (const auto copied = copyBytes(item, from.number(), to.number()); !copied)
+        return copied;
     const timespec times[2] = {facts.st_atim, facts.st_mtim};
-    ::utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);
+    ::fchmod(to.number(), facts.st_mode & keptPermissions);
+    ::futimens(to.number(), times);
+    if (!to.close())
+        return notWritten(item.toPath);
+    return {};
+}
+
+Done ItemCopy::copyBytes(const Pair& item, int from, int to)
+{
+    // Some file systems share the bytes instead of copying them. What fails here is tried by hand, which
+    // tells who is to blame.
+    for (ssize_t count = 1; count > 0;) {
+        count = ::copy_file_range(from, nullptr, to, nullptr, 8 * pieceSize, 0);
+        if (count > 0 && !goOn(count))
+            return std::unexpected(Failure{copyCancelled, {}});
+    }
+    for (;;) {
+        const ssize_t count = ::read(from, m_piece.data(), m_piece.size());
+        if (count < 0)
+            return notRead(item.fromPath);
+        if (count == 0)
+            return {};
+        for (ssize_t written = 0; written < count;) {
+            const ssize_t more
+                = ::write(to, m_piece.data() + written, static_cast<std::size_t>(count - written));
+            if (more < 0)
+                return notWritten(item.toPath);
+            written += more;
+        }
+        if (!goOn(count))
+            return std::unexpected(Failure{copyCancelled, {}});
+    }
+}
+
+Done ItemCopy::copyFolder(const Pair& item, const struct stat& facts, const std::string& place)
+{
+    const int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const FileHandle handle(::openat(item.from, item.name.c_str(), flags));
+    if (!handle)
+        return notRead(item.fromPath);
+    const int listed = ::dup(handle.number());
+    const FolderEntries entries(listed < 0 ? nullptr : ::fdopendir(listed));
+    if (!entries)
+        return notRead(item.fromPath);
+    if (::mkdirat(item.to, item.name.c_str(), 0700) != 0)
+        return notWritten(item.toPath);
+    const FileHandle to(::openat(item.to, item.name.c_str(), flags));
+    if (!to)
+        return notWritten(item.toPath);
+    m_folders.push_back({place, facts});
+    errno = 0;
+    while (const dirent* entry = ::readdir(entries.get())) {
+        const std::string name = entry->d_name;
+        if (name == "." || name == "..")
+            continue;
+        const Pair inner{handle.number(), to.number(), name, pathIn(item.fromPath, name),
+                         pathIn(item.toPath, name)};
+        if (const auto copied = copy(inner, pathIn(place, name)); !copied)
+            return copied;
+        errno = 0;
+    }
+    if (errno != 0)
+        return notRead(item.fromPath);
+    return {};
+}
+
+Done ItemCopy::copyLink(const Pair& item, const struct stat& facts)
+{
+    std::string target(static_cast<std::size_t>(facts.st_size) + 256, '\0');
+    const ssize_t length = ::readlinkat(item.from, item.name.c_str(), target.data(), target.size());
+    if (length < 0)
+        return notRead(item.fromPath);
+    target.resize(static_cast<std::size_t>(length));
+    if (::symlinkat(target.c_str(), item.to, item.name.c_str()) != 0)
+        return notWritten(item.toPath);
+    const timespec times[2] = {facts.st_atim, facts.st_mtim};
+    ::utimensat(item.to, item.name.c_str(), times, AT_SYMLINK_NOFOLLOW);
+    return {};
+}
+
+void ItemCopy::finishFolders(const std::string& at) const
+{
+    for (auto folder = m_folders.rbegin(); folder != m_folders.rend(); ++folder) {
+        const std::string path = pathIn(at, folder->place);
+        const timespec times[2] = {folder->facts.st_atim, folder->facts.st_mtim};
+        ::utimensat(AT_FDCWD, path.c_str(), times, 0);
+        ::chmod(path.c_str(), folder->facts.st_mode & keptPermissions);
+    }
 }
 
 // A folder of our own where copies grow, beside what they will stand among; it goes away at the end. One for
@@ -67,21 +238,33 @@ public:
     {
         std::error_code ignored;
         if (m_isThere)
-            fs::remove_all(m_path, ignored);
+            std::filesystem::remove_all(m_path, ignored);
     }
     Staging(const Staging&) = delete;
     Staging& operator=(const Staging&) = delete;
 
-    bool isThere() const { return m_isThere; }
-    fs::path path() const { return m_path; }
+    explicit operator bool() const { return m_isThere; }
+    const std::string& path() const { return m_path; }
+    /// Halves go away at once.
+    void clear(const std::string& name) const
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(pathIn(m_path, name), ignored);
+    }
 
 private:
     std::string m_path;
     bool m_isThere;
 };
 
+bool isThere(const std::string& path)
+{
+    struct stat facts{};
+    return ::lstat(path.c_str(), &facts) == 0;
+}
+
 // Somebody may have taken the name meanwhile.
-bool giveName(const fs::path& finished, const fs::path& name)
+bool giveName(const std::string& finished, const std::string& name)
 {
     if (::renameat2(AT_FDCWD, finished.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0)
         return true;
@@ -122,188 +305,65 @@ std::int64_t sizeAt(int folder, const char* name, FileIdentity leftOut)
 
 } // namespace
 
-// A place is a path beneath the three folders: where it is copied from, where the copy grows unseen, and
-// where it will stand.
 struct ItemCopier::Parts {
-    struct Folder {
-        fs::path place;
-        struct stat facts;
-    };
-
     std::string from;
     std::string into;
     CopyWatch watch;
     std::vector<char> piece = std::vector<char>(pieceSize);
     std::optional<Staging> staging;
-    fs::path hidden;
-    FileIdentity leftOut;
-    std::vector<Folder> folders; ///< that were copied, the outer ones first
 
-    Done copy(const fs::path& name);
-    Done copyPlace(const fs::path& place);
-    Done copyFile(const fs::path& place, const struct stat& facts);
-    Done copyBytes(const fs::path& place, int source, int target);
-    Done copyFolder(const fs::path& place, const struct stat& facts);
-    Done copyLink(const fs::path& place, const struct stat& facts) const;
-    void finishFolders() const;
-    bool findStaging();
-    bool goOn(std::int64_t bytes) const;
+    // Anew where somebody took it away; nothing where it cannot be made.
+    Staging* usableStaging()
+    {
+        if (!staging || !*staging || !isThere(staging->path())) {
+            staging.reset();
+            staging.emplace(into);
+        }
+        return *staging ? &*staging : nullptr;
+    }
 
-    std::unexpected<Failure> notRead(const fs::path& place, std::error_code error = lastError()) const
-    {
-        return failed("convert_not_read", from / place, error);
-    }
-    std::unexpected<Failure> notWritten(const fs::path& place, std::error_code error = lastError()) const
-    {
-        return failed("failure_write", into / place, error);
-    }
-    std::unexpected<Failure> exists(const fs::path& place) const
-    {
-        return std::unexpected(Failure{"copy_exists", {shown(into / place)}});
-    }
+    Done copy(const std::string& name);
+    Done copyThrough(const Staging& hidden, const Pair& item, FileIdentity leftOut);
 };
 
-// Anew where somebody took it away.
-bool ItemCopier::Parts::findStaging()
+Done ItemCopier::Parts::copy(const std::string& name)
 {
-    if (!staging || !staging->isThere() || !isThere(hidden)) {
-        staging.emplace(into);
-        hidden = staging->path();
-    }
-    return staging->isThere();
-}
-
-Done ItemCopier::Parts::copy(const fs::path& name)
-{
-    leftOut = identityOf(into);
-    folders.clear();
+    const std::string source = pathIn(from, name);
+    const std::string destination = pathIn(into, name);
+    const FileIdentity leftOut = identityOf(into);
     struct stat facts{};
-    if (::lstat((from / name).c_str(), &facts) == 0 && FileIdentity::of(facts) == leftOut)
-        return std::unexpected(Failure{"copy_into_itself", {shown(from / name)}});
-    if (isThere(into / name))
-        return exists(name);
-    if (!findStaging())
-        return notWritten(name);
-    Done copied = copyPlace(name);
-    if (copied && !giveName(hidden / name, into / name))
-        copied = errno == EEXIST ? exists(name) : notWritten(name);
-    std::error_code ignored;
-    if (copied)
-        finishFolders();
-    else
-        fs::remove_all(hidden / name, ignored); // halves go away at once
+    if (::lstat(source.c_str(), &facts) == 0 && FileIdentity::of(facts) == leftOut)
+        return std::unexpected(Failure{"copy_into_itself", {shown(source)}});
+    if (isThere(destination))
+        return std::unexpected(Failure{"copy_exists", {shown(destination)}});
+    Staging* const hidden = usableStaging();
+    if (hidden == nullptr)
+        return notWritten(destination);
+    const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    const FileHandle fromFolder(::open(from.c_str(), flags));
+    if (!fromFolder)
+        return notRead(source);
+    const FileHandle toFolder(::open(hidden->path().c_str(), flags));
+    if (!toFolder)
+        return notWritten(destination);
+    const auto copied
+        = copyThrough(*hidden, {fromFolder.number(), toFolder.number(), name, source, destination}, leftOut);
+    if (!copied)
+        hidden->clear(name);
     return copied;
 }
 
-Done ItemCopier::Parts::copyPlace(const fs::path& place)
+Done ItemCopier::Parts::copyThrough(const Staging& hidden, const Pair& item, FileIdentity leftOut)
 {
-    struct stat facts{};
-    if (watch.stop.stop_requested())
-        return std::unexpected(Failure{copyCancelled, {}});
-    if (::lstat((from / place).c_str(), &facts) != 0)
-        return notRead(place);
-    switch (facts.st_mode & S_IFMT) {
-    case S_IFREG:
-        return copyFile(place, facts);
-    case S_IFDIR:
-        return FileIdentity::of(facts) == leftOut ? Done() : copyFolder(place, facts);
-    case S_IFLNK:
-        return copyLink(place, facts);
-    default:
-        return std::unexpected(Failure{"copy_special", {shown(from / place)}});
-    }
-}
-
-bool ItemCopier::Parts::goOn(std::int64_t bytes) const
-{
-    if (watch.copied)
-        watch.copied(bytes);
-    return !watch.stop.stop_requested();
-}
-
-Done ItemCopier::Parts::copyFile(const fs::path& place, const struct stat& facts)
-{
-    const FileHandle source(::open((from / place).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!source)
-        return notRead(place);
-    FileHandle target(::open((hidden / place).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-    if (!target)
-        return notWritten(place);
-    // A disk without room says so before, not after, most of the file was written.
-    if (facts.st_size > 0 && ::fallocate(target.number(), FALLOC_FL_KEEP_SIZE, 0, facts.st_size) != 0
-        && (errno == ENOSPC || errno == EFBIG || errno == EDQUOT))
-        return notWritten(place);
-    if (const auto copied = copyBytes(place, source.number(), target.number()); !copied)
+    ItemCopy copying(watch, leftOut, piece);
+    if (const auto copied = copying.copy(item, item.name); !copied)
         return copied;
-    ::fchmod(target.number(), facts.st_mode & keptPermissions);
-    if (!target.close())
-        return notWritten(place);
-    takeTimes(hidden / place, facts);
+    if (!giveName(pathIn(hidden.path(), item.name), item.toPath)) {
+        return errno == EEXIST ? std::unexpected(Failure{"copy_exists", {shown(item.toPath)}})
+                               : notWritten(item.toPath);
+    }
+    copying.finishFolders(into);
     return {};
-}
-
-Done ItemCopier::Parts::copyBytes(const fs::path& place, int source, int target)
-{
-    // Some file systems share the bytes instead of copying them. What fails here is tried by hand, which
-    // tells who is to blame.
-    for (ssize_t count = 1; count > 0;) {
-        count = ::copy_file_range(source, nullptr, target, nullptr, 8 * pieceSize, 0);
-        if (count > 0 && !goOn(count))
-            return std::unexpected(Failure{copyCancelled, {}});
-    }
-    for (;;) {
-        const ssize_t count = ::read(source, piece.data(), piece.size());
-        if (count < 0)
-            return notRead(place);
-        if (count == 0)
-            return {};
-        for (ssize_t written = 0; written < count;) {
-            const ssize_t more
-                = ::write(target, piece.data() + written, static_cast<std::size_t>(count - written));
-            if (more < 0)
-                return notWritten(place);
-            written += more;
-        }
-        if (!goOn(count))
-            return std::unexpected(Failure{copyCancelled, {}});
-    }
-}
-
-Done ItemCopier::Parts::copyFolder(const fs::path& place, const struct stat& facts)
-{
-    std::error_code error;
-    fs::directory_iterator entry(from / place, error);
-    if (error)
-        return notRead(place, error);
-    if (::mkdir((hidden / place).c_str(), 0700) != 0)
-        return notWritten(place);
-    folders.push_back({place, facts});
-    for (; entry != fs::directory_iterator(); entry.increment(error)) {
-        if (const auto copied = copyPlace(place / entry->path().filename()); !copied)
-            return copied;
-    }
-    return error ? Done(notRead(place, error)) : Done();
-}
-
-Done ItemCopier::Parts::copyLink(const fs::path& place, const struct stat& facts) const
-{
-    std::error_code error;
-    const fs::path target = fs::read_symlink(from / place, error);
-    if (error)
-        return notRead(place, error);
-    if (fs::create_symlink(target, hidden / place, error); error)
-        return notWritten(place, error);
-    takeTimes(hidden / place, facts);
-    return {};
-}
-
-// Last of all, from the innermost folder out: one that may not be written could not be filled or moved.
-void ItemCopier::Parts::finishFolders() const
-{
-    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder) {
-        takeTimes(into / folder->place, folder->facts);
-        ::chmod((into / folder->place).c_str(), folder->facts.st_mode & keptPermissions);
-    }
 }
 
 ItemCopier::ItemCopier(const std::string& from, const std::string& into, const CopyWatch& watch)
@@ -320,7 +380,7 @@ std::expected<void, Failure> ItemCopier::copy(const std::string& name)
 
 std::int64_t itemSize(const std::string& from, const std::string& name, const std::string& into)
 {
-    return sizeAt(AT_FDCWD, (from / fs::path(name)).c_str(), identityOf(into));
+    return sizeAt(AT_FDCWD, pathIn(from, name).c_str(), identityOf(into));
 }
 
 } // namespace tessera
