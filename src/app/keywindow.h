@@ -15,7 +15,7 @@ class KeyWindow : public QObject
     Q_OBJECT
 
 public:
-    enum class Kind { Main, Mini, Favorites, Log, History, Editor, FavoritesEditor, Bios, Other };
+    enum class Kind { Main, Mini, Favourites, Log, History, Editor, FavouritesEditor, Bios, Other };
 
     explicit KeyWindow(QObject* parent = nullptr);
 

@@ -2,11 +2,11 @@
 
 #include "app/program.h"
 
-#include "app/emptystate.h"
-#include "app/favoriteswindow.h"
-#include "app/helpwindow.h"
-#include "app/miniwindow.h"
-#include "app/sidepanel.h"
+#include "app/windows/emptystate.h"
+#include "app/windows/favouriteswindow.h"
+#include "app/windows/helpwindow.h"
+#include "app/windows/miniwindow.h"
+#include "app/windows/sidepanel.h"
 #include "catalogue/ui/factspanel.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "favourites/ui/favouritestable.h"
@@ -35,7 +35,7 @@ Program::Program(const Ground& ground)
     joinLaunches();
     joinCatalogue();
     joinMainWindow();
-    connect(&favorites, &FavoritesDesk::windowMade, this, &Program::joinFavorites);
+    connect(&favorites, &FavouritesDesk::windowMade, this, &Program::joinFavourites);
     connect(&mini, &MiniDesk::windowMade, this, &Program::joinMini);
 }
 
@@ -87,7 +87,7 @@ void Program::joinStatusLine()
 void Program::joinLaunches()
 {
     connect(&gameList, &GameListController::launchRequested, &launches, &LaunchController::Launchusing);
-    connect(&favorites, &FavoritesDesk::launchRequested, &launches, &LaunchController::Launchusing);
+    connect(&favorites, &FavouritesDesk::launchRequested, &launches, &LaunchController::Launchusing);
     connect(&mini, &MiniDesk::launchRequested, &launches, &LaunchController::runGame);
     connect(&keys, &KeyCommands::runRequested, &launches, &LaunchController::runGame);
     connect(&favorites.editing(), &FavouriteEditing::commandWanted, &launches,
@@ -148,25 +148,26 @@ void Program::joinSidePanel(SidePanel& panel)
     connect(panel.verifyButton, &QPushButton::clicked, &commands, &CommandsDesk::verifySelected);
 }
 
-void Program::joinFavorites(FavoritesWindow& window)
+void Program::joinFavourites(FavouritesWindow& window)
 {
-    connect(&status, &StatusLine::said, &window, &FavoritesWindow::showMessage);
+    connect(&status, &StatusLine::said, &window, &FavouritesWindow::showMessage);
+    connect(&status, &StatusLine::takenBack, &window, &FavouritesWindow::takeBack);
     connect(&launches, &LaunchController::runningChanged, &window, [this, &window](bool running) {
         window.setRunning(running);
         if (running)
             window.showMessage(launches.runningText());
     });
     window.setRunning(launches.isRunning());
-    info.addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favorites);
-    artwork.joinFavorites(window);
-    artwork.addFavoritesMenu(*window.favoritesTable);
+    info.addContextMenu(*window.favoritesTable, KeyWindow::Kind::Favourites);
+    artwork.joinFavourites(window);
+    artwork.addFavouritesMenu(*window.favoritesTable);
     window.sidePanel->verifyButton->hide();
     joinSidePanel(*window.sidePanel);
     connect(window.sidePanel->pageButton, &QPushButton::clicked, &info, &InfoDesk::openROMinfo2);
     connect(window.stopButton, &QToolButton::clicked, &launches, &LaunchController::stopProcess);
     commands.leaveOpen(*window.stopButton);
-    connect(&favorites, &FavoritesDesk::mainWanted, &switching, &WindowSwitching::windowMain);
-    connect(&favorites, &FavoritesDesk::miniWanted, &switching, &WindowSwitching::windowMini);
+    connect(&favorites, &FavouritesDesk::mainWanted, &switching, &WindowSwitching::windowMain);
+    connect(&favorites, &FavouritesDesk::miniWanted, &switching, &WindowSwitching::windowMini);
 }
 
 void Program::joinMini(MiniWindow& window)

@@ -1,28 +1,28 @@
 #pragma once
 
-#include "app/artworkdesk.h"
-#include "app/biosdesk.h"
-#include "app/cataloguerebuild.h"
-#include "app/changesdesk.h"
-#include "app/commandsdesk.h"
-#include "app/editcommands.h"
-#include "app/favoritesdesk.h"
-#include "app/finding.h"
-#include "app/infodesk.h"
-#include "app/keycommands.h"
-#include "app/maindesk.h"
-#include "app/mainmenu.h"
-#include "app/mainwindow.h"
-#include "app/minidesk.h"
-#include "app/modemenu.h"
-#include "app/opengame.h"
-#include "app/optionsdesk.h"
-#include "app/preferenceswindow.h"
-#include "app/settingsreset.h"
+#include "app/desks/artworkdesk.h"
+#include "app/desks/biosdesk.h"
+#include "app/desks/cataloguerebuild.h"
+#include "app/desks/changesdesk.h"
+#include "app/desks/commandsdesk.h"
+#include "app/commands/editcommands.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/desks/finding.h"
+#include "app/desks/infodesk.h"
+#include "app/commands/keycommands.h"
+#include "app/desks/maindesk.h"
+#include "app/commands/mainmenu.h"
+#include "app/windows/mainwindow.h"
+#include "app/desks/minidesk.h"
+#include "app/commands/modemenu.h"
+#include "app/commands/opengame.h"
+#include "app/desks/optionsdesk.h"
+#include "app/windows/preferenceswindow.h"
+#include "app/commands/settingsreset.h"
 #include "app/statusline.h"
-#include "app/utilitydesk.h"
+#include "app/desks/utilitydesk.h"
 #include "app/windows.h"
-#include "app/windowswitching.h"
+#include "app/commands/windowswitching.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/ui/cataloguesaving.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -93,7 +93,7 @@ public:
     CatalogueSaving saving{catalogue, desktop, gameList, editing};
 
     // Favourites, and the launches that heed their options.
-    FavoritesDesk favorites{
+    FavouritesDesk favorites{
         {windows, desktop, settings, catalogue, gameList, finding, profiles, emulatorChoice}};
     EmulatorTask task{desktop};
     RunController runs{desktop, settings, logWindow, task};
@@ -150,7 +150,7 @@ private:
     void joinLaunches();
     void joinCatalogue();
     void joinMainWindow();
-    void joinFavorites(FavoritesWindow& window);
+    void joinFavourites(FavouritesWindow& window);
     void joinMini(MiniWindow& window);
     void joinSidePanel(SidePanel& panel);
 

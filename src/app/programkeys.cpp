@@ -2,7 +2,7 @@
 
 #include "app/program.h"
 
-#include "app/favoriteswindow.h"
+#include "app/windows/favouriteswindow.h"
 #include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
@@ -55,7 +55,7 @@ std::vector<KeyCommands::Row> Program::keyTable()
     };
     const Command remove2 = [favourites] { favourites->removeFavoritesTable(); };
     const Command save = [this] { saving.saveAction(); };
-    const Command save2 = [favourites] { favourites->saveFavoritesNow(); };
+    const Command save2 = [favourites] { favourites->saveFavouritesNow(); };
     const Command edit = [this] { editing.editRecord(); };
     const Command edit2 = [this] { favorites.editing().editRecord(); };
     const Command find = [this] {
@@ -75,11 +75,11 @@ std::vector<KeyCommands::Row> Program::keyTable()
     return {
         {Kind::Main,            random,  top,               bottom,              game,     remove,  save,  edit,  find,     bigger,  smaller,  list,    undo},
         {Kind::Mini,            random3, nullptr,           nullptr,             typed,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
-        {Kind::Favorites,       random2, top2,              bottom2,             favorite, remove2, save2, edit2, find,     bigger,  smaller,  list2,   undo2},
+        {Kind::Favourites,       random2, top2,              bottom2,             favorite, remove2, save2, edit2, find,     bigger,  smaller,  list2,   undo2},
         {Kind::Log,             nullptr, page(log, up),     page(log, down),     nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
         {Kind::History,         nullptr, page(history, up), page(history, down), nullptr,  nullptr, save,  edit,  findText, bigger2, smaller2, nullptr, undo},
         {Kind::Editor,          nullptr, nullptr,           nullptr,             game,     nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
-        {Kind::FavoritesEditor, nullptr, nullptr,           nullptr,             favorite, nullptr, save2, edit,  find,     bigger,  smaller,  nullptr, undo2},
+        {Kind::FavouritesEditor, nullptr, nullptr,           nullptr,             favorite, nullptr, save2, edit,  find,     bigger,  smaller,  nullptr, undo2},
         {Kind::Bios,            nullptr, nullptr,           nullptr,             nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo3},
         {Kind::Other,           nullptr, nullptr,           nullptr,             nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
     };

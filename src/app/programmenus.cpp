@@ -2,7 +2,7 @@
 
 #include "app/program.h"
 
-#include "app/helpwindow.h"
+#include "app/windows/helpwindow.h"
 #include "widgets/bringforward.h"
 
 namespace tessera {
@@ -33,7 +33,7 @@ std::vector<MenuRow> Program::menuRows()
     return {
         {file,     textKey("menu_openrom"),         "Ctrl+O",         run(gameList, &GameListController::openROMfile)},
         {file,     textKey("menu_save"),            "Ctrl+S",         run(keys, &KeyCommands::save)},
-        {file,     textKey("menu_savefavorites"),   nullptr,          run(favourites, &UCAppController::saveFavoritesNow)},
+        {file,     textKey("menu_savefavorites"),   nullptr,          run(favourites, &UCAppController::saveFavouritesNow)},
         {file},
         {file,     textKey("menu_rebuild"),         nullptr,          run(rebuild, &CatalogueRebuild::rebuild)},
         {file,     textKey("menu_tools"),           "Ctrl+T",         run(utility, &UtilityDesk::utilityOrderFront)},

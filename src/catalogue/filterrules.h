@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/arrangedlist.h"
-#include "core/failure.h"
+#include "core/message.h"
 
 #include <QString>
 

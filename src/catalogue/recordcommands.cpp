@@ -1,6 +1,6 @@
 #include "catalogue/recordcommands.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 
 namespace tessera {
 

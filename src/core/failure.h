@@ -1,23 +1,10 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
+#include "core/message.h"
 
 namespace tessera {
 
-/// Marks a text key that stands in a table and is looked up with qtTrId() later.
-constexpr const char* textKey(const char* key)
-{
-    return key;
-}
-
-/// Why something could not be done: the key of a text in translations/, and what fills its %1, %2, ...
-struct Failure {
-    const char* key;
-    QStringList arguments;
-
-    /// One sentence in the user's language.
-    QString text() const;
-};
+/// The message that says why something could not be done.
+using Failure = Message;
 
 } // namespace tessera

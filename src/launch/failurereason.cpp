@@ -18,7 +18,7 @@ QString listed(const QStringList& names)
 {
     QString text = names.mid(0, mostNamed).join(QStringLiteral(", "));
     if (names.size() > mostNamed)
-        text = Failure{"reason_more", {text, QString::number(names.size() - mostNamed)}}.text();
+        text = Message{"reason_more", {text, QString::number(names.size() - mostNamed)}}.text();
     return text;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/failure.h"
+#include "core/message.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #include "tools/cataloguecomparison.h"
 
 #include "catalogue/recorddictionary.h"
-#include "core/failure.h"
+#include "core/message.h"
 #include "core/texts.h"
 
 #include <algorithm>

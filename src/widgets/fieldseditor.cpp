@@ -1,6 +1,6 @@
 #include "widgets/fieldseditor.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/closekeys.h"
 
 #include <QFormLayout>

@@ -1,6 +1,6 @@
 #include "widgets/rounded_view2.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/theme.h"
 
 #include <QPainter>

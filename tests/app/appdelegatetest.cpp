@@ -1,9 +1,9 @@
 #include "stagedapp.h"
 
-#include "app/favoritesdesk.h"
-#include "app/infodesk.h"
-#include "app/mainwindow.h"
-#include "app/preferenceswindow.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/desks/infodesk.h"
+#include "app/windows/mainwindow.h"
+#include "app/windows/preferenceswindow.h"
 #include "catalogue/ui/appearancepage.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"

@@ -1,14 +1,14 @@
 #include "../artwork/scriptedserver.h"
 #include "stagedapp.h"
 
-#include "app/artworkdesk.h"
-#include "app/favoritesdesk.h"
-#include "app/favoriteswindow.h"
-#include "app/mainwindow.h"
-#include "app/minidesk.h"
-#include "app/miniwindow.h"
-#include "app/preferenceswindow.h"
-#include "app/sidepanel.h"
+#include "app/desks/artworkdesk.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/windows/favouriteswindow.h"
+#include "app/windows/mainwindow.h"
+#include "app/desks/minidesk.h"
+#include "app/windows/miniwindow.h"
+#include "app/windows/preferenceswindow.h"
+#include "app/windows/sidepanel.h"
 #include "artwork/ui/aspectview.h"
 #include "artwork/ui/downloadpanel.h"
 #include "artwork/ui/downloadprocessing.h"
@@ -18,7 +18,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestable.h"
-#include "app/filespage.h"
+#include "app/windows/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "support/installedtexts.h"
 #include "support/testmain.h"
@@ -175,7 +175,7 @@ private Q_SLOTS:
         m_staged->app->addFavorite();
         select("pong");
         m_staged->app->windowFavorites();
-        FavoritesWindow& window = m_staged->app->favorites().window();
+        FavouritesWindow& window = m_staged->app->favorites().window();
         QTRY_VERIFY(window.isActiveWindow());
         window.favoritesTable->selectRow(0);
         QCOMPARE(artwork().snapshot().snapimag(), m_staged->path("snap/qix.png"));

@@ -1,9 +1,9 @@
 #include "stagedapp.h"
 
-#include "app/cataloguerebuild.h"
-#include "app/changesdesk.h"
-#include "app/mainwindow.h"
-#include "app/rebuildstrip.h"
+#include "app/desks/cataloguerebuild.h"
+#include "app/desks/changesdesk.h"
+#include "app/windows/mainwindow.h"
+#include "app/windows/rebuildstrip.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"

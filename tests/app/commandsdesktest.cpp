@@ -1,8 +1,8 @@
-#include "app/commandsdesk.h"
+#include "app/desks/commandsdesk.h"
 
-#include "app/artworkdesk.h"
-#include "app/mainwindow.h"
-#include "app/preferenceswindow.h"
+#include "app/desks/artworkdesk.h"
+#include "app/windows/mainwindow.h"
+#include "app/windows/preferenceswindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "launch/ui/commandbar.h"
 #include "launch/ui/commandlinefoot.h"

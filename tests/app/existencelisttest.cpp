@@ -1,7 +1,7 @@
 #include "stagedapp.h"
 
-#include "app/finding.h"
-#include "app/mainwindow.h"
+#include "app/desks/finding.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/searchfield.h"
 #include "support/testmain.h"

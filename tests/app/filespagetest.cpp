@@ -1,4 +1,4 @@
-#include "app/filespage.h"
+#include "app/windows/filespage.h"
 
 #include "launch/launchroom.h"
 #include "launch/ui/folderproposal.h"

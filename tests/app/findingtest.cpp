@@ -1,8 +1,8 @@
 #include "stagedapp.h"
 
-#include "app/emptystate.h"
-#include "app/finding.h"
-#include "app/mainwindow.h"
+#include "app/windows/emptystate.h"
+#include "app/desks/finding.h"
+#include "app/windows/mainwindow.h"
 #include "support/writestore.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"

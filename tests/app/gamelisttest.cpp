@@ -1,7 +1,7 @@
 #include "stagedapp.h"
 
-#include "app/mainwindow.h"
-#include "app/preferenceswindow.h"
+#include "app/windows/mainwindow.h"
+#include "app/windows/preferenceswindow.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"

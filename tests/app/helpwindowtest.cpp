@@ -1,7 +1,7 @@
-#include "app/helpwindow.h"
+#include "app/windows/helpwindow.h"
 #include "stagedapp.h"
 
-#include "app/mainwindow.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/search/searchkeys.h"
 #include "support/testmain.h"
 

@@ -1,15 +1,15 @@
 #include "stagedapp.h"
 
-#include "app/artworkdesk.h"
-#include "app/biosdesk.h"
-#include "app/favoritesdesk.h"
-#include "app/favoriteswindow.h"
-#include "app/infodesk.h"
-#include "app/mainwindow.h"
-#include "app/minidesk.h"
-#include "app/miniwindow.h"
-#include "app/preferenceswindow.h"
-#include "app/sidepanel.h"
+#include "app/desks/artworkdesk.h"
+#include "app/desks/biosdesk.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/windows/favouriteswindow.h"
+#include "app/desks/infodesk.h"
+#include "app/windows/mainwindow.h"
+#include "app/desks/minidesk.h"
+#include "app/windows/miniwindow.h"
+#include "app/windows/preferenceswindow.h"
+#include "app/windows/sidepanel.h"
 #include "bios/ui/biosmodel.h"
 #include "artwork/ui/downloadprocessing.h"
 #include "bios/ui/biospanel.h"
@@ -23,7 +23,7 @@
 #include "info/ui/infopage.h"
 #include "info/ui/infosites.h"
 #include "info/ui/sitechoice.h"
-#include "app/filespage.h"
+#include "app/windows/filespage.h"
 #include "widgets/logview.h"
 #include "launch/ui/pathchooser.h"
 #include "support/showwatch.h"
@@ -123,12 +123,12 @@ private Q_SLOTS:
         m_staged->app->windowFavorites();
         QTRY_VERIFY(m_staged->app->favorites().window().isActiveWindow());
         m_staged->app->favorites().window().favoritesTable->selectRow(0);
-        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favourites);
         m_staged->app->searchHistoryinfo();
         QCOMPARE(history().historySearchField->text(), QStringLiteral("qix"));
         shows("Lines.");
         bringForward(m_staged->app->favorites().window());
-        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favourites);
         m_staged->app->openROMinfo();
         QVERIFY(m_staged->desktop.takeTranscript().contains("url http://a.test/game/qix"));
     }
@@ -158,8 +158,8 @@ private Q_SLOTS:
         m_staged->app->gameList().selectGame("qix");
         m_staged->app->addFavorite();
         m_staged->app->windowFavorites();
-        FavoritesWindow& window = m_staged->app->favorites().window();
-        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favorites);
+        FavouritesWindow& window = m_staged->app->favorites().window();
+        QTRY_COMPARE(m_staged->app->keyWindow(), KeyWindow::Kind::Favourites);
         window.favoritesTable->selectRow(0);
         QComboBox& popup = *window.siteChoice->infositePop2;
         QCOMPARE(popup.count(), 7);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         m_staged->app->gameList().selectGame("qix");
         m_staged->app->addFavorite();
         m_staged->app->windowFavorites();
-        FavoritesWindow& window = m_staged->app->favorites().window();
+        FavouritesWindow& window = m_staged->app->favorites().window();
         window.favoritesTable->selectRow(0);
         m_staged->desktop.takeTranscript();
         QStringList said;
@@ -219,7 +219,8 @@ private Q_SLOTS:
         m_staged->app->gameList().selectGame("qix");
         m_staged->app->addFavorite();
         isMini ? m_staged->app->windowMini() : m_staged->app->windowFavorites();
-        QTRY_COMPARE(m_staged->app->keyWindow(), isMini ? KeyWindow::Kind::Mini : KeyWindow::Kind::Favorites);
+        QTRY_COMPARE(m_staged->app->keyWindow(),
+                     isMini ? KeyWindow::Kind::Mini : KeyWindow::Kind::Favourites);
         if (isMini)
             m_staged->app->mini().setGame(QStringLiteral("qix"));
         else

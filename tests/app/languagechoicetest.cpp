@@ -1,4 +1,4 @@
-#include "app/languagechoice.h"
+#include "app/windows/languagechoice.h"
 
 #include "platform/defaultscontroller.h"
 #include "stagedapp.h"

@@ -1,7 +1,7 @@
 #include "stagedapp.h"
 
-#include "app/emptystate.h"
-#include "app/mainwindow.h"
+#include "app/windows/emptystate.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"

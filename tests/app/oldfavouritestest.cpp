@@ -1,8 +1,8 @@
 #include "stagedapp.h"
 
-#include "app/favoritesdesk.h"
-#include "app/finding.h"
-#include "app/mainwindow.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/desks/finding.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/ui/searchfield.h"
 #include "support/testmain.h"
 #include "tools/favouritesconversion.h"
@@ -121,7 +121,7 @@ private Q_SLOTS:
         Stage stage;
         stage.start();
         stage.app->favorites().controller().addFavoritesTable(stage.app->catalogue().records()[0]);
-        stage.app->saveFavoritesNow();
+        stage.app->saveFavouritesNow();
         stage.convert();
         const QFileInfo file(stage.app->favorites().favourites().path());
         QCOMPARE(file.dir().entryList({"*Favorites*.xml"}, QDir::Files).size(), 2);

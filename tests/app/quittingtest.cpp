@@ -1,7 +1,7 @@
 #include "stagedapp.h"
 
-#include "app/favoritesdesk.h"
-#include "app/mainwindow.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "launch/ui/launchcontroller.h"

@@ -1,6 +1,6 @@
 #include "stagedapp.h"
 
-#include "app/mainwindow.h"
+#include "app/windows/mainwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"

@@ -1,6 +1,6 @@
 #include "stagedapp.h"
 
-#include "app/favoritesdesk.h"
+#include "app/desks/favouritesdesk.h"
 #include "support/writestore.h"
 
 #include <QDir>

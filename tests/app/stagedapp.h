@@ -29,7 +29,7 @@ public:
     ChangesDesk& changes() { return program().changes; }
     UtilityObject& utility() { return program().utility.utility(); }
     HelpWindow& helpWindow() { return program().help(); }
-    FavoritesDesk& favorites() { return program().favorites; }
+    FavouritesDesk& favorites() { return program().favorites; }
     BiosDesk& bios() { return program().bios; }
     InfoDesk& info() { return program().info; }
     ArtworkDesk& artwork() { return program().artwork; }
@@ -39,7 +39,7 @@ public:
 
     void saveAction() { program().saving.saveAction(); }
     void saveOfKeyWindow() { choose("menu_save"); }
-    void saveFavoritesNow() { choose("menu_savefavorites"); }
+    void saveFavouritesNow() { choose("menu_savefavorites"); }
     void addFavorite() { choose("menu_addfavorite"); }
     void menuRun() { choose("menu_play"); }
     void mameslotAction() { choose("menu_random"); }

@@ -1,11 +1,11 @@
 #include "stagedapp.h"
 
-#include "app/favoritesdesk.h"
-#include "app/favoriteswindow.h"
-#include "app/finding.h"
-#include "app/mainwindow.h"
-#include "app/minidesk.h"
-#include "app/miniwindow.h"
+#include "app/desks/favouritesdesk.h"
+#include "app/windows/favouriteswindow.h"
+#include "app/desks/finding.h"
+#include "app/windows/mainwindow.h"
+#include "app/desks/minidesk.h"
+#include "app/windows/miniwindow.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
@@ -63,7 +63,7 @@ private Q_SLOTS:
             return names;
         };
         const QStringList later{
-            QStringLiteral("tessera::FavoritesWindow"), QStringLiteral("tessera::MiniWindow"),
+            QStringLiteral("tessera::FavouritesWindow"), QStringLiteral("tessera::MiniWindow"),
             QStringLiteral("tessera::RecordEditor"), QStringLiteral("tessera::FavouriteEditor"),
             QStringLiteral("tessera::FilterPanel")};
         for (const QString& name : later)
@@ -119,7 +119,7 @@ private Q_SLOTS:
     void savingTheFavouritesIsToldInTheMainWindowToo()
     {
         add("pong");
-        m_staged->app->saveFavoritesNow();
+        m_staged->app->saveFavouritesNow();
         QCOMPARE(main().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
                  QStringLiteral("favourites_saved"));
     }
@@ -289,7 +289,7 @@ private Q_SLOTS:
     void anotherStartBringsForwardWhatIsShown_data()
     {
         QTest::addColumn<QString>("window");
-        for (const char* name : {"MainWindow", "FavoritesWindow", "MiniWindow"})
+        for (const char* name : {"MainWindow", "FavouritesWindow", "MiniWindow"})
             QTest::newRow(name) << QStringLiteral("tessera::") + QLatin1StringView(name);
     }
     void anotherStartBringsForwardWhatIsShown()
@@ -298,7 +298,7 @@ private Q_SLOTS:
         m_staged->app->windowFavorites();
         m_staged->app->windowMini();
         m_staged->app->windowMain();
-        if (window.endsWith(QStringLiteral("FavoritesWindow")))
+        if (window.endsWith(QStringLiteral("FavouritesWindow")))
             m_staged->app->windowFavorites();
         else if (window.endsWith(QStringLiteral("MiniWindow")))
             m_staged->app->windowMini();
@@ -566,7 +566,7 @@ private Q_SLOTS:
 
 private:
     MainWindow& main() const { return m_staged->app->mainWindow(); }
-    FavoritesWindow& favorites() const { return m_staged->app->favorites().window(); }
+    FavouritesWindow& favorites() const { return m_staged->app->favorites().window(); }
     MiniWindow& mini() const { return m_staged->app->mini().window(); }
 
     static QWidget* windowNamed(const QString& name)

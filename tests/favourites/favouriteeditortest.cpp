@@ -77,7 +77,7 @@ private Q_SLOTS:
     void aFieldThatWasNotLeftIsSavedToo()
     {
         type(m_editor->optionField, QStringLiteral("-autosave"));
-        m_staged->controller->saveFavoritesNow();
+        m_staged->controller->saveFavouritesNow();
         QVERIFY(m_staged->file().contains("-autosave"));
     }
 

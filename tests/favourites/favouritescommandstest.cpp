@@ -123,7 +123,7 @@ private Q_SLOTS:
         m_staged->favourites.setValue(1, FavouriteKey::Option, QStringLiteral("-autosave"));
         QSignalSpy unsaved(m_staged->controller.get(), &UCAppController::unsavedChanged);
         QSignalSpy said(m_staged->controller.get(), &UCAppController::statusMessage);
-        m_staged->controller->saveFavoritesNow();
+        m_staged->controller->saveFavouritesNow();
         QVERIFY(m_staged->controller->favoritesUpdate());
         QVERIFY(m_staged->file().contains("<string>-autosave</string>"));
         QCOMPARE(unsaved.size(), 1);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_staged->favourites.path()));
         QVERIFY(QDir().mkpath(m_staged->favourites.path()));
         m_staged->desktop.answerError(QStringLiteral("failure_write"));
-        m_staged->controller->saveFavoritesNow();
+        m_staged->controller->saveFavouritesNow();
         // At quit nobody is asked.
         m_staged->desktop.takeTranscript();
         m_staged->controller->saveFavorites();
@@ -266,7 +266,7 @@ private Q_SLOTS:
         m_staged->writeFile(threeEntries);
         m_staged->start();
         m_staged->table->sortByColumn(1, Qt::DescendingOrder);
-        m_staged->controller->saveFavoritesNow();
+        m_staged->controller->saveFavouritesNow();
         QCOMPARE(m_staged->file(), listFile(threeEntries));
     }
 

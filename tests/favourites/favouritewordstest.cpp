@@ -247,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->desktop.alerts.back().informative,
                  QStringLiteral("If you stop processing, please choose Cancel."));
         QSignalSpy said(m_staged->controller.get(), &UCAppController::statusMessage);
-        m_staged->controller->saveFavoritesNow();
+        m_staged->controller->saveFavouritesNow();
         QCOMPARE(said.constLast().constFirst().toString(), QStringLiteral("Favourites saved."));
     }
 

@@ -68,7 +68,7 @@ struct ScriptedRooms : UtilityHost {
         QDir().mkpath(path);
     }
     void set_favorites() override { told << QStringLiteral("read favourites"); }
-    std::expected<QString, Failure> keepUnsavedFavorites() override
+    std::expected<QString, Failure> keepUnsavedFavourites() override
     {
         told << QStringLiteral("keep unsaved");
         return unsaved;

@@ -51,7 +51,7 @@ int build(const QString& emulator, const QString& output, const QString& titles,
         end();
         print(conversionReport(static_cast<std::size_t>(machines)));
         if (const auto& titlesFailure = job.titlesFailure())
-            warn(Failure{"rebuild_without_titles", {titlesFailure->text()}});
+            warn(Message{"rebuild_without_titles", {titlesFailure->text()}});
         status = Done;
         built = true;
     });

@@ -66,7 +66,7 @@ int runHistory(const Verb& verb, const QStringList& arguments)
         return failed(Failure{"failure_write",
                               {QStringLiteral("stdout"), QString::fromLocal8Bit(std::strerror(errno))}});
     if (shown.filedUnder)
-        refuse(Failure{"history_filed_under", {QString::fromStdString(*shown.filedUnder)}}.text());
+        refuse(Message{"history_filed_under", {QString::fromStdString(*shown.filedUnder)}}.text());
     return historyFile.hasFailed || infoFile.hasFailed ? Failed : Done;
 }
 

@@ -1,6 +1,6 @@
 #include "artwork/ui/aspectchoice.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/boundcontrols.h"
 
 #include <QActionGroup>

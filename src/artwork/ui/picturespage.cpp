@@ -1,7 +1,7 @@
 #include "artwork/ui/picturespage.h"
 
 #include "artwork/picturesites.h"
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/boundcontrols.h"
 
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 #include "catalogue/have.h"
 #include "catalogue/recordset.h"
 #include "catalogue/search/recordfacts.h"
-#include "core/failure.h"
+#include "core/message.h"
 
 #include <array>
 #include <cstdint>

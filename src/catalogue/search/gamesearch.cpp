@@ -24,10 +24,10 @@ bool hasAsked(Have have, HaveValue asked)
 }
 
 /// One search: a byte for each record that stays non-zero while everything lets it through.
-class Finding
+class Narrowing
 {
 public:
-    Finding(const SearchTexts& texts, const ContentFacts& facts, std::span<const Have> haves)
+    Narrowing(const SearchTexts& texts, const ContentFacts& facts, std::span<const Have> haves)
         : m_texts(texts)
         , m_facts(facts)
         , m_haves(haves)
@@ -73,18 +73,18 @@ private:
     std::vector<std::vector<Rank>> m_words; // of each word that is not turned round
 };
 
-void Finding::keepWithin(const RecordSet& records)
+void Narrowing::keepWithin(const RecordSet& records)
 {
     keepWhere(false, [&](std::size_t i) { return records.contains(static_cast<std::uint32_t>(i)); });
 }
 
-void Finding::keepChip(Chip chip)
+void Narrowing::keepChip(Chip chip)
 {
     if (chip != Chip::All)
         keepWhere(false, [&](std::size_t i) { return letsThrough(chip, m_facts[i], have(i)); });
 }
 
-void Finding::keepTerm(const Term& term)
+void Narrowing::keepTerm(const Term& term)
 {
     const bool no = term.negated;
     switch (term.kind) {
@@ -113,7 +113,7 @@ void Finding::keepTerm(const Term& term)
     }
 }
 
-void Finding::keepWords(const Term& term)
+void Narrowing::keepWords(const Term& term)
 {
     std::vector<Rank> ranks = wordRanks(m_texts, m_facts.size(), term.words);
     keepFound(term.negated, ranks);
@@ -122,7 +122,7 @@ void Finding::keepWords(const Term& term)
 }
 
 // Few values differ: each is looked at once.
-void Finding::keepDevices(const Term& term)
+void Narrowing::keepDevices(const Term& term)
 {
     std::vector<std::uint8_t> fits;
     for (const std::string& device : m_facts.devices())
@@ -130,12 +130,12 @@ void Finding::keepDevices(const Term& term)
     keepWhere(term.negated, [&](std::size_t i) { return fits[m_facts[i].device] != 0; });
 }
 
-Found Finding::found(const Query& query) const
+Found Narrowing::found(const Query& query) const
 {
     return {RecordSet::of(m_kept), ranks(query)};
 }
 
-std::vector<std::uint8_t> Finding::ranks(const Query& query) const
+std::vector<std::uint8_t> Narrowing::ranks(const Query& query) const
 {
     if (m_words.empty())
         return {};
@@ -156,19 +156,19 @@ std::vector<std::uint8_t> Finding::ranks(const Query& query) const
 
 Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) const
 {
-    Finding finding(m_texts, m_facts, m_haves);
-    finding.keepChip(chip);
+    Narrowing narrowing(m_texts, m_facts, m_haves);
+    narrowing.keepChip(chip);
     if (within != nullptr)
-        finding.keepWithin(*within);
+        narrowing.keepWithin(*within);
     for (const Term& term : query.terms()) {
         if (!term.applies)
             continue;
-        finding.keepTerm(term);
+        narrowing.keepTerm(term);
         // A whole page may have been pasted.
-        if (finding.isEmpty())
+        if (narrowing.isEmpty())
             return {RecordSet(m_facts.size()), {}};
     }
-    return finding.found(query);
+    return narrowing.found(query);
 }
 
 void GameSearch::keep(Chip chip, RecordSet& records) const

@@ -36,9 +36,9 @@ public:
     void setHaves(std::vector<Have> haves) { m_haves = std::move(haves); }
 
     /// `content` is the one that is searched.
-    void setFavorites(NameSet favorites, std::span<const GameRecord> content)
+    void setFavourites(NameSet favorites, std::span<const GameRecord> content)
     {
-        m_facts.setFavorites(std::move(favorites), content);
+        m_facts.setFavourites(std::move(favorites), content);
     }
 
     /// What the chip and all terms let through, and `within` holds.

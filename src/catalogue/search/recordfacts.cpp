@@ -37,15 +37,15 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .type = kindOf<GameType>(record[Field::Type], typeValues),
         .status = kindOf<GameStatus>(record[Field::Status], statusValues),
         .parent = isParent(record),
-        .favorite = m_favorites.contains(record[Field::Name]),
+        .favorite = m_favourites.contains(record[Field::Name]),
     };
 }
 
-void ContentFacts::setFavorites(NameSet favorites, std::span<const GameRecord> content)
+void ContentFacts::setFavourites(NameSet favorites, std::span<const GameRecord> content)
 {
-    m_favorites = std::move(favorites);
+    m_favourites = std::move(favorites);
     for (std::size_t i = 0; i < m_facts.size(); ++i)
-        m_facts[i].favorite = m_favorites.contains(content[i][Field::Name]);
+        m_facts[i].favorite = m_favourites.contains(content[i][Field::Name]);
 }
 
 // Few records have a device, and few values differ.

@@ -44,7 +44,7 @@ public:
     const std::vector<std::string>& devices() const { return m_devices; }
 
     /// The user's favourites; `content` is the one that the facts are of.
-    void setFavorites(NameSet favorites, std::span<const GameRecord> content);
+    void setFavourites(NameSet favorites, std::span<const GameRecord> content);
 
     void replace(std::uint32_t record, const GameRecord& now) { m_facts[record] = facts(now); }
     void remove(std::uint32_t record) { m_facts.erase(m_facts.begin() + record); }
@@ -58,7 +58,7 @@ private:
     std::uint32_t device(std::string_view value);
 
     std::vector<RecordFacts> m_facts;
-    NameSet m_favorites;
+    NameSet m_favourites;
     std::vector<std::string> m_devices;
     std::unordered_map<std::string, std::uint32_t> m_deviceNumbers;
 };

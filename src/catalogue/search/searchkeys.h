@@ -1,7 +1,7 @@
 #pragma once
 
 #include "catalogue/search/recordfacts.h"
-#include "core/failure.h"
+#include "core/message.h"
 
 #include <array>
 #include <cstdint>

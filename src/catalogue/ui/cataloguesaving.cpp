@@ -37,7 +37,7 @@ void CatalogueSaving::saveAction()
     else if (saved->isEmpty())
         Q_EMIT statusMessage(qtTrId("catalogue_saved"));
     else
-        Q_EMIT statusMessage(Failure{"catalogue_saved_kept", {*saved}}.text());
+        Q_EMIT statusMessage(Message{"catalogue_saved_kept", {*saved}}.text());
 }
 
 bool CatalogueSaving::saveBeforeQuitting()
@@ -73,7 +73,7 @@ void CatalogueSaving::saveForSessionEnd()
 void CatalogueSaving::logKept(const QString& copy)
 {
     if (!copy.isEmpty())
-        m_desktop.log(Failure{"catalogue_saved_kept", {copy}}.text());
+        m_desktop.log(Message{"catalogue_saved_kept", {copy}}.text());
 }
 
 } // namespace tessera

@@ -2,7 +2,7 @@
 
 #include "catalogue/gametypetransformer.h"
 #include "catalogue/recorddictionary.h"
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/theme.h"
 
 #include <QFrame>

@@ -59,8 +59,8 @@ GameSearch& GameFinder::search()
     if (!m_search) {
         m_search.emplace(m_catalogue.records());
         m_search->setHaves(m_haves);
-        if (!m_favorites.empty())
-            m_search->setFavorites(m_favorites, m_catalogue.records());
+        if (!m_favourites.empty())
+            m_search->setFavourites(m_favourites, m_catalogue.records());
         foldTexts(*m_search);
     }
     return *m_search;
@@ -359,13 +359,13 @@ void GameFinder::setRomFolders(const std::shared_ptr<const RomFolders>& folders)
     askHaves();
 }
 
-void GameFinder::setFavorites(const NameSet& favorites)
+void GameFinder::setFavourites(const NameSet& favorites)
 {
-    if (m_favorites == favorites)
+    if (m_favourites == favorites)
         return;
-    m_favorites = favorites;
+    m_favourites = favorites;
     if (m_search)
-        m_search->setFavorites(favorites, m_catalogue.records());
+        m_search->setFavourites(favorites, m_catalogue.records());
     if (m_chip == Chip::Favorites)
         refresh();
     else if (m_search)

@@ -61,7 +61,7 @@ public Q_SLOTS:
     /// Nothing hides records any more.
     void showAll();
     void setRomFolders(const std::shared_ptr<const tessera::RomFolders>& folders);
-    void setFavorites(const tessera::NameSet& favorites);
+    void setFavourites(const tessera::NameSet& favorites);
 
 Q_SIGNALS:
     /// What the list shows, or why.
@@ -102,7 +102,7 @@ private:
     std::optional<QString> m_maker;
     FilterRules m_rules;
     std::shared_ptr<const RomFolders> m_roms;
-    NameSet m_favorites;
+    NameSet m_favourites;
     std::vector<Have> m_haves; ///< none while the ROM folders are not known
     std::optional<RecordSet> m_filtered; ///< what maker filter and rules let through, once it is known
     std::vector<std::uint32_t> m_heads; ///< of the families, once they are known

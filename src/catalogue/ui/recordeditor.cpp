@@ -1,7 +1,7 @@
 #include "catalogue/ui/recordeditor.h"
 
 #include "catalogue/recorddictionary.h"
-#include "core/failure.h"
+#include "core/message.h"
 #include "widgets/bringforward.h"
 
 #include <QCompleter>

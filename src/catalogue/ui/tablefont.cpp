@@ -1,7 +1,7 @@
 #include "catalogue/ui/tablefont.h"
 
 #include "catalogue/ui/appearancepage.h"
-#include "core/failure.h"
+#include "core/message.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "widgets/bringforward.h"

@@ -1,6 +1,6 @@
 #include "favourites/ui/favouriteeditor.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "favourites/optionwords.h"
 #include "widgets/bringforward.h"
 #include "widgets/plaintooltip.h"
@@ -112,7 +112,7 @@ void FavouriteEditor::judgeOptions()
     const QString words = optionField->text();
     if (m_known.lists) {
         if (const QStringList unknown = unknownOptions(words, m_known.lists); !unknown.isEmpty())
-            sentences << Failure{"favourite_option_unknown", {unknown.join(QStringLiteral(", "))}}.text();
+            sentences << Message{"favourite_option_unknown", {unknown.join(QStringLiteral(", "))}}.text();
     }
     if (!words.isEmpty() && words.split(QLatin1Char(' ')).contains(QString()))
         sentences << qtTrId("favourite_option_blank");

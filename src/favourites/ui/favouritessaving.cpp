@@ -58,7 +58,7 @@ void UCAppController::saveFavorites()
         m_parts.desktop.log(QStringLiteral("save error: ") + written.error().text());
 }
 
-void UCAppController::saveFavoritesNow()
+void UCAppController::saveFavouritesNow()
 {
     commitEditing();
     m_favoritesUpdate = true;

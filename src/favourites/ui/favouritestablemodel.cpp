@@ -145,7 +145,7 @@ QVariant FavouritesTableModel::toolTip(std::uint32_t favourite) const
 {
     const QString name = edited(favourite, FavouriteColumn::Name);
     if (m_gone.contains(favourite))
-        return Failure{"favourite_gone", {name}}.text();
+        return Message{"favourite_gone", {name}}.text();
     return QString(name + QStringLiteral(" · ") + edited(favourite, FavouriteColumn::Status));
 }
 

@@ -63,7 +63,7 @@ public Q_SLOTS:
     void set_favorites();
     void saveFavorites();
     /// Writes at once, edits included, and says how it went.
-    void saveFavoritesNow();
+    void saveFavouritesNow();
     void addFavorite();
     void removeFavoritesTable();
     /// The first of the selected ones alone, which is what the editor shows.

@@ -1,6 +1,6 @@
 #include "info/ui/sitechoice.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "info/informationsites.h"
 #include "platform/defaultscontroller.h"
 

@@ -1,6 +1,6 @@
 #include "launch/ui/commandbar.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "launch/emulatorcommands.h"
 #include "widgets/boundcontrols.h"
 

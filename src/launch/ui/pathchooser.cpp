@@ -1,6 +1,6 @@
 #include "launch/ui/pathchooser.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"

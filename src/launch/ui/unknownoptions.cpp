@@ -1,6 +1,6 @@
 #include "launch/ui/unknownoptions.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "launch/emulatorprofile.h"
 #include "launch/optiontable.h"
 

@@ -1,6 +1,6 @@
 #include "platform/qt/colordialog.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

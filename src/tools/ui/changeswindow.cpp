@@ -1,6 +1,6 @@
 #include "tools/ui/changeswindow.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "core/texts.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"

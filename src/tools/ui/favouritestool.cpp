@@ -66,7 +66,7 @@ void FavouritesTool::convert(const QString& old)
     if (found.isEmpty())
         return m_workbench.inform(favouritestexts::noData);
     // They would be gone without a trace: the list is about to be read anew.
-    const auto kept = m_host.keepUnsavedFavorites();
+    const auto kept = m_host.keepUnsavedFavourites();
     if (!kept)
         return m_workbench.inform(kept.error().text());
     QStringList notes;
@@ -74,7 +74,7 @@ void FavouritesTool::convert(const QString& old)
         notes << qtTrId("favourites_left_out").arg(numberText(names->size() - found.size()));
     if (!kept->isEmpty())
         notes << qtTrId("favourites_unsaved_kept").arg(*kept);
-    if (!replaceFavorites(found))
+    if (!replaceFavourites(found))
         return;
     m_page.showResult(notes.join(QLatin1Char('\n')));
     m_workbench.inform(favouritestexts::finished);
@@ -83,7 +83,7 @@ void FavouritesTool::convert(const QString& old)
 }
 
 // Deliberate: a backup that fails stops nothing, and where the new file cannot be written nobody is told.
-bool FavouritesTool::replaceFavorites(const QList<RecordDictionary>& records)
+bool FavouritesTool::replaceFavourites(const QList<RecordDictionary>& records)
 {
     const QString favourites = m_host.pathOfDataFile();
     const auto text = favouritesText(records, favourites);

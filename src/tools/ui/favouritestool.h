@@ -26,7 +26,7 @@ public Q_SLOTS:
 private:
     bool confirm();
     void convert(const QString& old);
-    bool replaceFavorites(const QList<RecordDictionary>& records);
+    bool replaceFavourites(const QList<RecordDictionary>& records);
     void backUp(const QString& favourites);
     void trash(const QString& old);
 

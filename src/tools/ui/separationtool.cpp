@@ -160,7 +160,7 @@ QString SeparationTool::leftUndone(const SeparationCounts& counts, std::size_t a
     if (!counts.isCancelled)
         return {};
     const int done = counts.supported + counts.moved;
-    return Failure{"separation_undone", {QString::number(done), QString::number(all)}}.text();
+    return Message{"separation_undone", {QString::number(done), QString::number(all)}}.text();
 }
 
 void SeparationTool::mark(std::size_t place, const SeparatedRow& row)

@@ -50,7 +50,7 @@ public:
     virtual void set_favorites() = 0;
     /// Writes what is not saved yet into a file of its own, and gives its path; an empty one where everything
     /// is saved.
-    virtual std::expected<QString, Failure> keepUnsavedFavorites() = 0;
+    virtual std::expected<QString, Failure> keepUnsavedFavourites() = 0;
 };
 
 } // namespace tessera

@@ -1,6 +1,6 @@
 #include "tools/ui/verificationpage.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/boundcontrols.h"

@@ -1,6 +1,6 @@
 #include "tools/ui/workbench.h"
 
-#include "core/failure.h"
+#include "core/message.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 #include "tools/ui/toolpaths.h"

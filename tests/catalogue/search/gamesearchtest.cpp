@@ -395,7 +395,7 @@ private Q_SLOTS:
         GameSearch search = prepared(sample);
         const auto shown = [&] { return names(sample, search.find({}, Chip::Favorites).records.records()); };
         QCOMPARE(shown(), QString());
-        search.setFavorites({"robo", "cdr", "notthere", ""}, sample.store.records);
+        search.setFavourites({"robo", "cdr", "notthere", ""}, sample.store.records);
         QCOMPARE(shown(), QStringLiteral("cdr robo"));
         QCOMPARE(search.chipCounts().back(), std::size_t(2));
         GameRecord renamed = sample.store.records[8];
@@ -404,7 +404,7 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("robo"));
         search.replace(8, sample.store.records[8]);
         QCOMPARE(shown(), QStringLiteral("cdr robo"));
-        search.setFavorites({}, sample.store.records);
+        search.setFavourites({}, sample.store.records);
         QCOMPARE(shown(), QString());
     }
 

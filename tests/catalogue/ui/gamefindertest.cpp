@@ -107,7 +107,7 @@ private Q_SLOTS:
     {
         m_finder->prepare();
         QCOMPARE(m_counts, (ChipCounts{5, 5, 0, 2, 4, 0, 0}));
-        m_finder->setFavorites({"abc", "mid"});
+        m_finder->setFavourites({"abc", "mid"});
         QCOMPARE(m_counts, (ChipCounts{5, 5, 0, 2, 4, 0, 2}));
         m_finder->setChip(Chip::Working);
         QCOMPARE(shown(), QStringList({"", "zed"}));
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(m_counts, (ChipCounts{4, 4, 0, 3, 3, 0, 1}));
         m_finder->setChip(Chip::Favorites);
         QCOMPARE(shown(), QStringList("mid"));
-        m_finder->setFavorites({"Zed"});
+        m_finder->setFavourites({"Zed"});
         QCOMPARE(shown(), QStringList("Zed"));
     }
 
@@ -159,7 +159,7 @@ private Q_SLOTS:
 
     void favouritesAreKnownBeforeTheFirstSearch()
     {
-        m_finder->setFavorites({"mid"});
+        m_finder->setFavourites({"mid"});
         m_finder->setChip(Chip::Favorites);
         QCOMPARE(shown(), QStringList("mid"));
     }
