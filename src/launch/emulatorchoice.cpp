@@ -18,8 +18,8 @@ EmulatorChoice::EmulatorChoice(DefaultsController& defaults, std::function<QStri
 void EmulatorChoice::settingChanged(const QString& name)
 {
     lookForEmulator();
-    if (name == keys::Launchgamesusing.name)
-        Q_EMIT modeChosen();
+    if (name.isEmpty() || name == keys::Launchgamesusing.name)
+        Q_EMIT modeChanged();
 }
 
 QString EmulatorChoice::emulator() const

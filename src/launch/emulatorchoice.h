@@ -39,8 +39,8 @@ public:
 Q_SIGNALS:
     /// Another one than before, or none any more.
     void emulatorFound();
-    /// By the user; it is stored already.
-    void modeChosen();
+    /// Perhaps another one than before; it is stored already.
+    void modeChanged();
 
 private:
     void settingChanged(const QString& name);

@@ -103,6 +103,17 @@ private Q_SLOTS:
         QVERIFY(isMarked("checkboxMaximize"));
     }
 
+    void theyAreMarkedAgainWhenTheModeGoesBackWithAllSettings()
+    {
+        showPreferences();
+        m_staged->app->program().launches.MenuLaunchusing(QStringLiteral("MAME OS X"));
+        QVERIFY(!isMarked("checkboxMaximize"));
+        m_staged->desktop.answerAlert(QStringLiteral("reset_Message"), 0);
+        m_staged->app->preferencesWindow().resetButton->click();
+        QCOMPARE(control<QComboBox>("launchusingPop")->currentIndex(), 0);
+        QVERIFY(isMarked("checkboxMaximize"));
+    }
+
     void popUpsOfferWhatTheEmulatorListsBesides()
     {
         showPreferences();

@@ -56,7 +56,7 @@ void OptionsDesk::addPages()
             show();
     };
     connect(&m_parts.profiles, &ProfileCache::answered, this, follow);
-    connect(&m_parts.emulator, &EmulatorChoice::modeChosen, this, follow);
+    connect(&m_parts.emulator, &EmulatorChoice::modeChanged, this, follow);
     connect(&m_parts.paths, &PathChooser::chosen, this, follow);
     connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, follow);
     // Not at every key: half a path may be another program's.

@@ -33,7 +33,7 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     // After the runs have told the end.
     connect(&m_parts.task, &EmulatorTask::stopped, this, &LaunchController::launchNext);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
-    connect(&m_parts.emulator, &EmulatorChoice::modeChosen, this, &LaunchController::LaunchemuPopAction);
+    connect(&m_parts.emulator, &EmulatorChoice::modeChanged, this, &LaunchController::LaunchemuPopAction);
 }
 
 QString LaunchController::executable() const
