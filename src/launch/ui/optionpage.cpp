@@ -38,15 +38,14 @@ constexpr std::array chosenFiles{
     ChosenFile{"avinameTextField", [](PathChooser& chooser) { chooser.saveRecordfile(3); }},
 };
 
-// In the order of their lines, which is the one that the Tab key goes.
-std::vector<const OptionRow*> rowsOn(Page page)
+// By their lines, which is the order that the Tab key goes; on one line in the table's.
+std::multimap<int, const OptionRow*> rowsOn(Page page)
 {
-    std::vector<const OptionRow*> rows;
+    std::multimap<int, const OptionRow*> rows;
     for (const OptionRow& row : optionRows()) {
         if (row.place.page == page && row.place.line > 0)
-            rows.push_back(&row);
+            rows.emplace(row.place.line, &row);
     }
-    std::ranges::stable_sort(rows, {}, [](const OptionRow* row) { return row->place.line; });
     return rows;
 }
 
@@ -131,15 +130,15 @@ void OptionPage::layOut()
         QWidgetList controls;
     };
     std::map<int, Line> lines;
-    for (const OptionRow* row : rowsOn(m_page)) {
-        Line& line = lines[row->place.line];
+    for (const auto& [number, row] : rowsOn(m_page)) {
+        Line& line = lines[number];
         const QWidgetList made = make(*row);
         if (line.controls.isEmpty())
             line.place = row->place;
         if (row->control.buttons.empty())
             line.controls << made;
         for (int i = 0; i < std::ssize(row->control.buttons); ++i)
-            lines[row->place.line + i].controls << made[i];
+            lines[number + i].controls << made[i];
     }
     for (const auto& [number, line] : lines) {
         const QString label = line.place.label ? qtTrId(line.place.label) : QString();
