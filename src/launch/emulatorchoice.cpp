@@ -18,7 +18,7 @@ EmulatorChoice::EmulatorChoice(DefaultsController& defaults, std::function<QStri
 void EmulatorChoice::settingChanged(const QString& name)
 {
     lookForEmulator();
-    if (name.isEmpty() || name == keys::Launchgamesusing.name)
+    if (name == keys::Launchgamesusing.name)
         Q_EMIT modeChanged();
 }
 

@@ -39,7 +39,7 @@ public:
 Q_SIGNALS:
     /// Another one than before, or none any more.
     void emulatorFound();
-    /// Perhaps another one than before; it is stored already.
+    /// It is stored already. Not told where all settings go back: whoever puts them back says so.
     void modeChanged();
 
 private:

@@ -14,6 +14,7 @@
 #include "launch/ui/generalpage.h"
 #include "launch/ui/launchpages.h"
 #include "launch/ui/pathchooser.h"
+#include "platform/defaultscontroller.h"
 
 #include <QFileInfo>
 #include <QLineEdit>
@@ -57,6 +58,10 @@ void OptionsDesk::addPages()
     };
     connect(&m_parts.profiles, &ProfileCache::answered, this, follow);
     connect(&m_parts.emulator, &EmulatorChoice::modeChanged, this, follow);
+    connect(&m_parts.defaults, &DefaultsController::changed, this, [follow](const QString& name) {
+        if (name.isEmpty())
+            follow();
+    });
     connect(&m_parts.paths, &PathChooser::chosen, this, follow);
     connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, follow);
     // Not at every key: half a path may be another program's.
