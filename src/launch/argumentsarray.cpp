@@ -100,10 +100,14 @@ QStringList argumentsArray2(const LaunchOptions& options)
 
 bool takesValue(QStringView option)
 {
-    const QString valued = option + QLatin1Char('=');
-    return std::ranges::any_of(optionRows(), [&](const OptionRow& row) {
-        return QString::fromLatin1(row.sdl.options).split(QLatin1Char(' ')).contains(valued);
-    });
+    for (const OptionRow& row : optionRows()) {
+        for (const QLatin1StringView sent :
+             QStringTokenizer(QLatin1StringView(row.sdl.options), QLatin1Char(' '))) {
+            if (sent.endsWith(QLatin1Char('=')) && option == sent.chopped(1))
+                return true;
+        }
+    }
+    return false;
 }
 
 } // namespace tessera

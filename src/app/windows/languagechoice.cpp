@@ -27,6 +27,7 @@ LanguageChoice::LanguageChoice(DefaultsController& defaults, QWidget* parent)
     , m_defaults(defaults)
 {
     setObjectName(QStringLiteral("languagePop"));
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     for (const Language& language : languages)
         addItem(language.name != nullptr ? QString::fromUtf8(language.name)
                                          : qtTrId("appearance_language_system"));

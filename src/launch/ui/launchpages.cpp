@@ -45,9 +45,11 @@ GeneralPage& LaunchPages::general()
 LaunchOptions LaunchPages::options(const SelectedGame& selected) const
 {
     LaunchOptions options = storedOptions(m_defaults, selected);
+    const QString stored = options.romsTextField;
     for (const OptionPage* page : m_pages)
         page->read(options);
-    options.romsFolderFound = romsFolderExists(options.romsTextField);
+    if (options.romsTextField != stored)
+        options.romsFolderFound = romsFolderExists(options.romsTextField);
     return options;
 }
 
