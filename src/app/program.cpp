@@ -62,8 +62,6 @@ void Program::joinMenus()
     menu.addPlayedSwitch(favorites.played());
     artwork.fillMenu(*mainWindow.menuBar());
     commands.addAuditsTo(menu.menu("menu_game"));
-    edits.follow(menu.action("menu_undo"), menu.action("menu_redo"),
-                 {&catalogue.undoStack(), &favorites.favourites().undoStack(), &bios.undoStack()});
     connect(&menu, &MainMenu::openRequested, this, &Program::openRequested);
     connect(&windows, &Windows::dropped, this, &Program::openRequested);
     info.addContextMenu(*mainWindow.gameTable, KeyWindow::Kind::Main);
@@ -80,14 +78,13 @@ void Program::joinStatusLine()
     connect(&tableFont, &TableFont::statusMessage, &status, say);
     connect(&rebuild, &CatalogueRebuild::statusMessage, &status, say);
     connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
-    connect(&status, &StatusLine::said, &mainWindow, &MainWindow::showMessage);
-    connect(&status, &StatusLine::takenBack, &mainWindow, &MainWindow::takeBack);
 }
 
 void Program::joinLaunches()
 {
     connect(&gameList, &GameListController::launchRequested, &launches, &LaunchController::Launchusing);
-    connect(&favorites, &FavouritesDesk::launchRequested, &launches, &LaunchController::Launchusing);
+    connect(&favorites.controller(), &UCAppController::launchRequested, &launches,
+            &LaunchController::Launchusing);
     connect(&mini, &MiniDesk::launchRequested, &launches, &LaunchController::runGame);
     connect(&keys, &KeyCommands::runRequested, &launches, &LaunchController::runGame);
     connect(&favorites.editing(), &FavouriteEditing::commandWanted, &launches,
@@ -150,8 +147,7 @@ void Program::joinSidePanel(SidePanel& panel)
 
 void Program::joinFavourites(FavouritesWindow& window)
 {
-    connect(&status, &StatusLine::said, &window, &FavouritesWindow::showMessage);
-    connect(&status, &StatusLine::takenBack, &window, &FavouritesWindow::takeBack);
+    status.showIn(window);
     connect(&launches, &LaunchController::runningChanged, &window, [this, &window](bool running) {
         window.setRunning(running);
         if (running)
@@ -172,7 +168,7 @@ void Program::joinFavourites(FavouritesWindow& window)
 
 void Program::joinMini(MiniWindow& window)
 {
-    connect(&status, &StatusLine::answered, &window, &MiniWindow::showMessage);
+    status.showAnswersIn(window);
     artwork.joinMini(window);
     connect(&mini, &MiniDesk::mainWanted, &switching, &WindowSwitching::windowMain);
 }

@@ -5,7 +5,6 @@
 #include "app/desks/cataloguerebuild.h"
 #include "app/desks/changesdesk.h"
 #include "app/desks/commandsdesk.h"
-#include "app/commands/editcommands.h"
 #include "app/desks/favouritesdesk.h"
 #include "app/desks/finding.h"
 #include "app/desks/infodesk.h"
@@ -73,10 +72,10 @@ public:
 
     // Windows that are there from the beginning, and what is chosen in the preferences.
     CalmWheel calmWheel;
-    StatusLine status;
     MainWindow mainWindow{settings};
     Look look; ///< here it costs least: the main window takes it as a whole, the others when they are first
                ///< shown
+    StatusLine status{mainWindow};
     Windows windows{*mainWindow.menuBar(), settings};
     LogWindow logWindow;
     PreferencesWindow preferences;
@@ -128,9 +127,8 @@ public:
     // Commands.
     SettingsReset reset{
         {desktop, settings, mainWindow, *logWindow.infomationTextView, launches, artwork.aspect()}};
-    KeyCommands keys{windows.key(), keyTable()};
-    EditCommands edits{keys, catalogue, rebuild, gameList, favorites.controller()};
-    MainMenu menu{*mainWindow.menuBar(), menuRows()};
+    KeyCommands keys{windows.key(), keyTable(), rebuild};
+    MainMenu menu{*mainWindow.menuBar(), menuRows(), keys};
     ModeMenu modeMenu{*mainWindow.menuBar(), launches};
 
     /// The guide; made when it is first asked for.

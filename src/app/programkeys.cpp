@@ -2,9 +2,7 @@
 
 #include "app/program.h"
 
-#include "app/windows/favouriteswindow.h"
 #include "catalogue/ui/gametableview.h"
-#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "widgets/logview.h"
@@ -31,24 +29,20 @@ std::vector<KeyCommands::Row> Program::keyTable()
     using Command = KeyCommands::Command;
     constexpr auto up = QAbstractSlider::SliderPageStepSub;
     constexpr auto down = QAbstractSlider::SliderPageStepAdd;
-    GameTableView* table = mainWindow.gameTable;
+    // Its table is there when it is key, and not before.
     UCAppController* favourites = &favorites.controller();
-    const auto list = [table] { return table; };
-    // The window is there when it is key, and not before.
-    const auto list2 = [this] { return favorites.window().favoritesTable; };
+    GameListController* games = &gameList;
     const auto log = [this] { return logWindow.infomationTextView; };
     const auto history = [this] { return info.window().historyinfoTextView; };
-    const GameSelection* game = &gameList;
-    const GameSelection* favorite = favourites;
     const GameSelection* typed = &mini;
 
-    const Command random = [this] { gameList.gameShuffle(); };
+    const Command random = [games] { games->gameShuffle(); };
     const Command random2 = [favourites] { favourites->gameShuffle2(); };
     const Command random3 = [this] { mini.random(); };
-    const Command top = [table] { table->scrollToTop(); };
-    const Command top2 = [list2] { list2()->scrollToTop(); };
-    const Command bottom = [table] { table->scrollToBottom(); };
-    const Command bottom2 = [list2] { list2()->scrollToBottom(); };
+    const Command top = [games] { games->table()->scrollToTop(); };
+    const Command top2 = [favourites] { favourites->table()->scrollToTop(); };
+    const Command bottom = [games] { games->table()->scrollToBottom(); };
+    const Command bottom2 = [favourites] { favourites->table()->scrollToBottom(); };
     const Command remove = [this] {
         saving.commitEditing();
         editing.removeRecord();
@@ -73,15 +67,15 @@ std::vector<KeyCommands::Row> Program::keyTable()
     QUndoStack* undo3 = &bios.undoStack();
     // clang-format off
     return {
-        {Kind::Main,            random,  top,               bottom,              game,     remove,  save,  edit,  find,     bigger,  smaller,  list,    undo},
-        {Kind::Mini,            random3, nullptr,           nullptr,             typed,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
-        {Kind::Favourites,       random2, top2,              bottom2,             favorite, remove2, save2, edit2, find,     bigger,  smaller,  list2,   undo2},
-        {Kind::Log,             nullptr, page(log, up),     page(log, down),     nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
-        {Kind::History,         nullptr, page(history, up), page(history, down), nullptr,  nullptr, save,  edit,  findText, bigger2, smaller2, nullptr, undo},
-        {Kind::Editor,          nullptr, nullptr,           nullptr,             game,     nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
-        {Kind::FavouritesEditor, nullptr, nullptr,           nullptr,             favorite, nullptr, save2, edit,  find,     bigger,  smaller,  nullptr, undo2},
-        {Kind::Bios,            nullptr, nullptr,           nullptr,             nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo3},
-        {Kind::Other,           nullptr, nullptr,           nullptr,             nullptr,  nullptr, save,  edit,  find,     bigger,  smaller,  nullptr, undo},
+        {Kind::Main,             random,  top,               bottom,              games,      remove,  save,  edit,  find,     bigger,  smaller,  games,      undo},
+        {Kind::Mini,             random3, nullptr,           nullptr,             typed,      nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
+        {Kind::Favourites,       random2, top2,              bottom2,             favourites, remove2, save2, edit2, find,     bigger,  smaller,  favourites, undo2},
+        {Kind::Log,              nullptr, page(log, up),     page(log, down),     nullptr,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
+        {Kind::History,          nullptr, page(history, up), page(history, down), nullptr,    nullptr, save,  edit,  findText, bigger2, smaller2, nullptr,    undo},
+        {Kind::Editor,           nullptr, nullptr,           nullptr,             games,      nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
+        {Kind::FavouritesEditor, nullptr, nullptr,           nullptr,             favourites, nullptr, save2, edit,  find,     bigger,  smaller,  nullptr,    undo2},
+        {Kind::Bios,             nullptr, nullptr,           nullptr,             nullptr,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo3},
+        {Kind::Other,            nullptr, nullptr,           nullptr,             nullptr,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
     };
     // clang-format on
 }

@@ -166,7 +166,7 @@ private Q_SLOTS:
     // Every telling arranges what stands around the list once more.
     void whatChangesIsToldOnce()
     {
-        const QSignalSpy told(&m_staged->app->finding(), &Finding::changed);
+        const QSignalSpy told(&finder(), &GameFinder::changed);
         QTest::keyClick(field(), Qt::Key_G);
         QCOMPARE(told.size(), 1);
         QTest::keyClick(field(), Qt::Key_R);

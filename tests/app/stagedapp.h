@@ -43,8 +43,8 @@ public:
     void addFavorite() { choose("menu_addfavorite"); }
     void menuRun() { choose("menu_play"); }
     void mameslotAction() { choose("menu_random"); }
-    void undo() { program().edits.undo(); }
-    void redo() { program().edits.redo(); }
+    void undo() { program().keys.undo(); }
+    void redo() { program().keys.redo(); }
     void editCell() { choose("menu_editcell"); }
     void copySelection() { choose("menu_copy"); }
     void showPredicatePanel() { choose("menu_filter"); }

@@ -2,15 +2,17 @@
 
 #include "app/keywindow.h"
 
+#include <QUndoStack>
+
 #include <functional>
 #include <vector>
 
-class QUndoStack;
-
 namespace tessera {
 
+class CatalogueRebuild;
 class GameSelection;
 class GameTableView;
+class ListController;
 
 /// The commands that act on the window that is key: one table of windows by commands. Its columns differ from
 /// each other on purpose.
@@ -33,16 +35,20 @@ public:
         Command find;
         Command bigger;
         Command smaller;
-        std::function<GameTableView*()> list; ///< in which cells are edited and copied
+        ListController* list; ///< in which cells are edited and copied
         QUndoStack* undo;
     };
 
-    KeyCommands(KeyWindow& keyWindow, std::vector<Row> rows, QObject* parent = nullptr);
+    /// The first row is that of the game list, which is not edited while a catalogue is built.
+    KeyCommands(KeyWindow& keyWindow, std::vector<Row> rows, const CatalogueRebuild& rebuild,
+                QObject* parent = nullptr);
 
     /// The list of the key window; null where it has none.
     GameTableView* list() const;
-    /// Nothing to undo in a window without edits of its own: the catalogue's, which is the first row's.
-    QUndoStack* undoStack() const;
+    /// What undo and redo would do in the key window. One without edits of its own has those of the game
+    /// list.
+    bool canUndo() const { return undoStack()->canUndo(); }
+    bool canRedo() const { return undoStack()->canRedo(); }
 
 public Q_SLOTS:
     /// A random game.
@@ -50,6 +56,11 @@ public Q_SLOTS:
     void scrollsHomeAction();
     void scrollsEndAction();
     void menuRun();
+    void undo();
+    void redo();
+    void editCell();
+    /// What is selected in the text that has the focus, or in the list.
+    void copySelection();
     void remove();
     void save();
     void edit();
@@ -58,16 +69,21 @@ public Q_SLOTS:
     void makeTextSmaller();
 
 Q_SIGNALS:
-    void keyWindowChanged();
+    /// Another window is key, or there is something else to undo.
+    void changed();
     /// By its reference, the empty one included.
     void runRequested(const QString& game);
 
 private:
     const Row* row() const;
     void run(Command Row::* command);
+    QUndoStack* undoStack() const;
+    QUndoStack* editedStack();
+    void commitCells();
 
     KeyWindow& m_keyWindow;
     std::vector<Row> m_rows;
+    const CatalogueRebuild& m_rebuild;
 };
 
 } // namespace tessera

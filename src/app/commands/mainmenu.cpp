@@ -47,7 +47,7 @@ QAction* makeAction(const MenuRow& row, QObject* parent)
 
 } // namespace
 
-MainMenu::MainMenu(QMenuBar& bar, const std::vector<MenuRow>& rows, QObject* parent)
+MainMenu::MainMenu(QMenuBar& bar, const std::vector<MenuRow>& rows, const KeyCommands& keys, QObject* parent)
     : QObject(parent)
     , m_bar(bar)
 {
@@ -60,6 +60,12 @@ MainMenu::MainMenu(QMenuBar& bar, const std::vector<MenuRow>& rows, QObject* par
         QAction* action = makeAction(row, &bar);
         connect(action, &QAction::triggered, this, [command = row.command] { command(); });
         menu->addAction(action);
+        if (row.isEnabled != nullptr) {
+            const auto enable
+                = [action, &keys, asked = row.isEnabled] { action->setEnabled((keys.*asked)()); };
+            connect(&keys, &KeyCommands::changed, action, enable);
+            enable();
+        }
     }
 }
 

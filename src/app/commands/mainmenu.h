@@ -21,6 +21,7 @@ struct MenuRow {
     const char* text = nullptr; ///< a separator
     const char* shortcuts = nullptr; ///< apart by "; ", the one that is shown first
     std::function<void()> command = nullptr;
+    bool (KeyCommands::*isEnabled)() const = nullptr; ///< always, but for what it says
 };
 
 /// The menu bar; its shortcuts work in every window.
@@ -29,7 +30,8 @@ class MainMenu : public QObject
     Q_OBJECT
 
 public:
-    MainMenu(QMenuBar& bar, const std::vector<MenuRow>& rows, QObject* parent = nullptr);
+    MainMenu(QMenuBar& bar, const std::vector<MenuRow>& rows, const KeyCommands& keys,
+             QObject* parent = nullptr);
 
     QMenu& menu(const char* key) const;
     QAction& action(const char* key) const;

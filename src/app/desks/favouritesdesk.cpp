@@ -41,7 +41,6 @@ FavouritesDesk::FavouritesDesk(Parts parts, QObject* parent)
     , m_editing(m_favourites, m_controller)
     , m_playing(m_played, m_parts.desktop, m_parts.defaults)
 {
-    connect(&m_controller, &UCAppController::launchRequested, this, &FavouritesDesk::launchRequested);
     for (const auto& changed : {&Favourites::replaced, &Favourites::appended})
         connect(&m_favourites, changed, this, &FavouritesDesk::tellNames);
     connect(&m_favourites, &Favourites::removed, this, &FavouritesDesk::tellNames);

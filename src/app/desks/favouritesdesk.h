@@ -55,7 +55,6 @@ public:
     void awakeFromNib();
 
 Q_SIGNALS:
-    void launchRequested(const QString& game);
     /// The empty window's button, or its own one: back to the game list.
     void mainWanted();
     void miniWanted();

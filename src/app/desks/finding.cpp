@@ -30,7 +30,6 @@ Finding::Finding(const Parts& parts, QObject* parent)
 {
     MainWindow& window = m_parts.window;
     joinField();
-    connect(&m_finder, &GameFinder::changed, this, &Finding::changed);
     connect(&m_finder, &GameFinder::countsChanged, window.chipBar, &ChipBar::setCounts);
     connect(window.chipBar, &ChipBar::chosen, &m_finder, &GameFinder::setChip);
     connect(window.chipBar->familiesBox, &QCheckBox::clicked, &m_finder, &GameFinder::setFamilies);

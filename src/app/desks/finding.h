@@ -47,10 +47,6 @@ public Q_SLOTS:
     void focusSearch();
     void showAll();
 
-Q_SIGNALS:
-    /// Which rows are shown, or why, or what is known of them.
-    void changed();
-
 private:
     void joinField();
     void showQuery();

@@ -28,7 +28,7 @@ MainDesk::MainDesk(const Parts& parts, QObject* parent)
     connect(&list, &GameListController::selectionChanged, this, &MainDesk::showSelection);
     connect(&list, &GameListController::markChanged, window.factsPanel, &FactsPanel::showMark);
     connect(&m_parts.catalogue, &Catalogue::recordChanged, this, &MainDesk::showSelection);
-    connect(&m_parts.finding, &Finding::changed, this, &MainDesk::showCount);
+    connect(&m_parts.finding.finder(), &GameFinder::changed, this, &MainDesk::showCount);
     connect(&m_parts.finding.finder(), &GameFinder::havesChanged, this, &MainDesk::showSelection);
     connect(&m_parts.launches, &LaunchController::runningChanged, this, &MainDesk::showRunning);
     connect(&m_parts.emulator, &EmulatorChoice::emulatorFound, this, &MainDesk::showEmulator);

@@ -42,7 +42,7 @@ UtilityObject& UtilityDesk::utility()
     connect(window.scriptPage->button_launcher, &QPushButton::clicked, &m_parts.commands,
             &CommandsDesk::saveLauncher);
     FavouritesTool* favourites = &m_utility->favourites();
-    connect(&m_parts.finding, &Finding::changed, favourites, &FavouritesTool::showHidden);
+    connect(&m_parts.finding.finder(), &GameFinder::changed, favourites, &FavouritesTool::showHidden);
     connect(m_utility.get(), &UtilityObject::statusMessage, &m_parts.status, &StatusLine::say);
     connect(m_utility.get(), &UtilityObject::statusWithdrawn, &m_parts.status, &StatusLine::takeBack);
     m_parts.windows.places().keep(window, keys::UtilityWindowGeometry);

@@ -59,8 +59,6 @@ public:
 public Q_SLOTS:
     void utilityOrderFront();
 
-Q_SIGNALS:
-
 private:
     SelectedGame selectedGame() const override;
     QList<RecordDictionary> search_arrangedObjects(const QStringList& names) override;

@@ -24,7 +24,6 @@ FavouritesWindow::FavouritesWindow(DefaultsController& defaults)
     : ListWindow(defaults, new FavouritesTable, kind())
     , favoritesTable(table())
     , siteChoice(new SiteChoice(defaults))
-    , m_count(statusLabel("favoritesCount"))
     , m_unsaved(statusLabel("unsavedLabel"))
 {
     setObjectName(QStringLiteral("favoritesWindow"));
@@ -51,6 +50,9 @@ const ListWindow::Kind& FavouritesWindow::kind()
                            textKey("favorites_list"),
                            "MainSplitView2",
                            "SecondSplitView2",
+                           "favoritesCount",
+                           textKey("favorites_count"),
+                           textKey("favorites_count_some"),
                            keys::FavoritesWindowSplit,
                            keys::FavoritesWindowSplit2,
                            keys::FavoritesWindowColumns,
@@ -85,7 +87,7 @@ void FavouritesWindow::makeStatusLine()
     m_unsaved->setText(qtTrId("favorites_unsaved"));
     m_unsaved->setProperty("role", QStringLiteral("notice"));
     saveButton = statusButton("favoritesSaveButton", qtTrId("favorites_save"));
-    statusBar()->addWidget(m_count);
+    statusBar()->addWidget(countLabel());
     statusBar()->addWidget(m_unsaved);
     statusBar()->addWidget(saveButton);
     statusBar()->addWidget(message(), 1);
@@ -100,10 +102,9 @@ void FavouritesWindow::takeMenus(const QMenuBar& from)
 
 void FavouritesWindow::showCount(std::size_t shown, std::size_t all)
 {
-    m_count->setText(countText(shown, all, textKey("favorites_count"), textKey("favorites_count_some")));
+    ListWindow::showCount(shown, all);
     emptyState->showReason(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
                            all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
-    showPage(shown == 0);
 }
 
 void FavouritesWindow::showUnsaved(bool unsaved)

@@ -36,7 +36,6 @@ private:
     Bar* makeButtons();
     void makeStatusLine();
 
-    QLabel* m_count;
     QLabel* m_unsaved;
 };
 

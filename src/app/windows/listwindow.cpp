@@ -38,6 +38,7 @@ ListWindow::ListWindow(DefaultsController& defaults, GameTableView* table, const
     , m_table(table)
     , m_split(new QSplitter)
     , m_pages(new QStackedWidget)
+    , m_count(statusLabel(kind.count))
     , m_message(statusLabel("messageLabel"))
 {
     table->setObjectName(QLatin1StringView(kind.table));
@@ -103,16 +104,14 @@ QPushButton* ListWindow::statusButton(const char* name, const QString& text)
     return button;
 }
 
-QString ListWindow::countText(std::size_t shown, std::size_t all, const char* whole, const char* some) const
+void ListWindow::showCount(std::size_t shown, std::size_t all, const QStringList& reasons)
 {
     const QString total = QLocale().toString(static_cast<qulonglong>(all));
-    return shown == all ? qtTrId(whole).arg(total)
-                        : qtTrId(some).arg(QLocale().toString(static_cast<qulonglong>(shown)), total);
-}
-
-void ListWindow::showPage(bool isEmpty)
-{
-    m_pages->setCurrentWidget(isEmpty ? static_cast<QWidget*>(emptyState) : m_table);
+    const QString count = shown == all
+        ? qtTrId(m_kind.allShown).arg(total)
+        : qtTrId(m_kind.someShown).arg(QLocale().toString(static_cast<qulonglong>(shown)), total);
+    m_count->setText((QStringList{count} + reasons).join(QStringLiteral("  ·  ")));
+    m_pages->setCurrentWidget(shown == 0 ? static_cast<QWidget*>(emptyState) : m_table);
 }
 
 void ListWindow::showMessage(const QString& sentence)

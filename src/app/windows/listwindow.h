@@ -58,6 +58,9 @@ protected:
         const char* tableName; ///< the text
         const char* split;
         const char* split2;
+        const char* count; ///< the object's name
+        const char* allShown; ///< the text
+        const char* someShown; ///< the text
         const ChosenKey& splitKey;
         const ChosenKey& split2Key;
         const ChosenKey& columnsKey;
@@ -76,9 +79,9 @@ protected:
     void layOut(Bar* toolRow, QWidget* listSide);
     QLabel* statusLabel(const char* name);
     QPushButton* statusButton(const char* name, const QString& text);
-    /// The number of rows in the status line, in words by their keys.
-    QString countText(std::size_t shown, std::size_t all, const char* whole, const char* some) const;
-    void showPage(bool isEmpty);
+    /// The number of rows, and why there are not more; what is said in the place of no rows.
+    void showCount(std::size_t shown, std::size_t all, const QStringList& reasons = {});
+    QLabel* countLabel() const { return m_count; }
     QLabel* message() const { return m_message; }
 
     void closeEvent(QCloseEvent* event) override;
@@ -90,6 +93,7 @@ private:
     GameTableView* m_table;
     QSplitter* m_split;
     QStackedWidget* m_pages;
+    QLabel* m_count;
     QLabel* m_message;
 };
 

@@ -26,7 +26,6 @@ MainWindow::MainWindow(DefaultsController& defaults)
     , rebuildStrip(new RebuildStrip)
     , chipBar(new ChipBar)
     , searchField(new SearchField)
-    , m_count(statusLabel("countLabel"))
     , m_emulator(statusLabel("emulatorLabel"))
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -47,9 +46,17 @@ const ListWindow::Kind& MainWindow::kind()
     // The last column takes what is left.
     static constexpr std::array<ColumnWidth, 6> widths{
         {{0, 128}, {1, 240}, {2, 172}, {3, 56}, {4, 112}, {5, 76}}};
-    static const Kind kind{
-        "gameTable",           textKey("main_list"),   "MainSplitView",         "SecondSplitView",
-        keys::MainWindowSplit, keys::MainWindowSplit2, keys::MainWindowColumns, widths};
+    static const Kind kind{"gameTable",
+                           textKey("main_list"),
+                           "MainSplitView",
+                           "SecondSplitView",
+                           "countLabel",
+                           textKey("main_count"),
+                           textKey("main_count_some"),
+                           keys::MainWindowSplit,
+                           keys::MainWindowSplit2,
+                           keys::MainWindowColumns,
+                           widths};
     return kind;
 }
 
@@ -86,7 +93,7 @@ void MainWindow::makeStatusLine()
     progressIndicator->setTextVisible(false);
     progressIndicator->setAccessibleName(qtTrId("main_progress"));
     progressIndicator->hide();
-    statusBar()->addWidget(m_count);
+    statusBar()->addWidget(countLabel());
     statusBar()->addWidget(showAllButton);
     statusBar()->addWidget(runningLabel);
     statusBar()->addWidget(runningStopButton);
@@ -99,12 +106,10 @@ void MainWindow::makeStatusLine()
 
 void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList& reasons)
 {
-    const QStringList parts{countText(shown, all, textKey("main_count"), textKey("main_count_some"))};
-    m_count->setText((parts + reasons).join(QStringLiteral("  ·  ")));
+    ListWindow::showCount(shown, all, reasons);
     showAllButton->setVisible(!reasons.isEmpty());
     m_isFiltered = shown == 0 && all > 0;
     sayWhatToDo(m_isRebuilding);
-    showPage(shown == 0);
 }
 
 void MainWindow::showEmulator(const QString& text)

@@ -62,7 +62,6 @@ private:
     bool m_romsMissing = false;
     bool m_isFiltered = false;
     bool m_isRebuilding = false;
-    QLabel* m_count;
     QLabel* m_emulator;
 };
 

@@ -36,7 +36,7 @@ GameFinder::GameFinder(Catalogue& catalogue, GameListController& list, DefaultsC
 {
     m_pool.setMaxThreadCount(1);
     connect(&list, &GameListController::contentChanged, this, &GameFinder::takeContent);
-    connect(&list, &GameListController::countChanged, this, [this] {
+    connect(&list.list(), &ArrangedList::arranged, this, [this] {
         if (!m_isRearranging)
             Q_EMIT changed();
     });

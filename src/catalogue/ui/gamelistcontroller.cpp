@@ -27,7 +27,6 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
         if (field == Field::Status && selection().first() == record)
             romStatus();
     });
-    connect(&list(), &ArrangedList::arranged, this, &GameListController::countChanged);
     if (table != nullptr)
         setTable(table);
 }

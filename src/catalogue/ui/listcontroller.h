@@ -24,6 +24,8 @@ public:
     ArrangedList& list() { return m_list; }
     const ArrangedList& list() const { return m_list; }
     ListSelection& selection() { return m_selection; }
+    /// Null until the list is shown.
+    GameTableView* table() const { return m_table; }
 
     /// Of the first selected record.
     SelectedGame selected() const override;
@@ -45,14 +47,11 @@ Q_SIGNALS:
     void selectionChanged();
     /// The status mark to show; a status without one leaves the mark that was shown before.
     void markChanged(const QString& imageName);
-    /// The list shows other records, or another number of them.
-    void countChanged();
 
 protected:
     ListController(Desktop& desktop, const UserDefaults& stored, QObject* parent);
 
     void showIn(GameTableView* table, ArrangedTableModel* model);
-    GameTableView* table() const { return m_table; }
     const ColorTransformer& colors() const { return m_colors; }
     /// Runs what selects rows; nobody hears of it.
     void quietly(const std::function<void()>& change);

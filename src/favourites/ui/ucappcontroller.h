@@ -76,6 +76,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void statusMessage(const QString& text);
+    /// The list shows other records, or another number of them.
+    void countChanged();
     /// Something differs from the file.
     void unsavedChanged(bool unsaved);
     /// Texts that stand in open editors are to be taken over now.
