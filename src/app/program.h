@@ -119,8 +119,8 @@ public:
     InfoDesk info{
         {windows, desktop, settings, mainWindow, gameList, favorites, mini, paths, preferences, status}};
     BiosDesk bios{{windows, desktop, settings, emulatorChoice, gameList, biosFile()}};
-    CommandsDesk commands{{desktop, settings, logWindow, task, runs, launches, profiles, paths, gameList,
-                           artwork, preferences, status}};
+    CommandsDesk commands{{desktop, emulatorChoice, settings, logWindow, task, runs, launches, profiles,
+                           paths, gameList, artwork, preferences, status}};
     UtilityDesk utility{{desktop, settings, windows, catalogue, saving, rebuild, changes, commands, gameList,
                          finding, opening, emulatorChoice, launches, favorites.controller(), status}};
 

@@ -34,6 +34,11 @@ QString EmulatorChoice::emulatorNow()
     return emulator();
 }
 
+bool EmulatorChoice::findsEmulator()
+{
+    return QFileInfo::exists(emulatorNow());
+}
+
 void EmulatorChoice::lookForEmulator()
 {
     if (QFileInfo::exists(m_found) || !m_defaults.text(keys::ExecutionPath).isEmpty())

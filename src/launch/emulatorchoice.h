@@ -27,6 +27,8 @@ public:
     QString emulator() const;
     /// The same, but looked for once more where none was found.
     QString emulatorNow();
+    /// The same; false where nothing exists at its path.
+    bool findsEmulator();
     /// Where none was chosen, and none was found or its file has gone: one may have been installed since.
     void lookForEmulator();
 

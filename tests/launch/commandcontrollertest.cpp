@@ -20,7 +20,7 @@ namespace {
 // A launch's room with the commands in its log window.
 struct Room : test::Room {
     CommandBar& bar = *new CommandBar(defaults);
-    CommandController commands{CommandParts{desktop, bar, task, runs, controller, chooser, selected}};
+    CommandController commands{CommandParts{desktop, choice, bar, task, runs, controller, chooser, selected}};
 
     Room() { log.setCommands(&bar); }
 

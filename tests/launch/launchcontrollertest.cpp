@@ -460,7 +460,7 @@ private Q_SLOTS:
         room.installed = room.emulator();
         room.controller.LaunchemuCheck();
         QVERIFY(room.desktop.transcript().isEmpty());
-        QCOMPARE(room.controller.executable(), room.installed);
+        QCOMPARE(room.choice.emulator(), room.installed);
     }
 
     // Its alert stands before the log of the game before.

@@ -135,13 +135,13 @@ private Q_SLOTS:
     {
         Home home(0);
         home.installed = "/found/mame";
-        QCOMPARE(home.controller.executable(), home.emulator());
-        QVERIFY(home.controller.findsExecutable());
+        QCOMPARE(home.choice.emulator(), home.emulator());
+        QVERIFY(home.choice.findsEmulator());
         QLineEdit* field = home.pages.general().exeTextField;
         field->selectAll();
         QTest::keyClicks(field, "/typed/mame");
-        QCOMPARE(home.controller.executable(), QStringLiteral("/typed/mame"));
-        QVERIFY(!home.controller.findsExecutable());
+        QCOMPARE(home.choice.emulator(), QStringLiteral("/typed/mame"));
+        QVERIFY(!home.choice.findsEmulator());
         QCOMPARE(home.controller.archiveFolders().executable, QStringLiteral("/typed/mame"));
     }
 

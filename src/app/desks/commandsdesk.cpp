@@ -57,8 +57,9 @@ void CommandsDesk::make()
         return;
     m_bar = new CommandBar(m_parts.defaults);
     m_parts.logWindow.setCommands(m_bar);
-    m_controller = std::make_unique<CommandController>(CommandParts{
-        m_parts.desktop, *m_bar, m_parts.task, m_parts.runs, m_parts.launches, m_parts.paths, m_parts.list});
+    m_controller = std::make_unique<CommandController>(
+        CommandParts{m_parts.desktop, m_parts.emulator, *m_bar, m_parts.task, m_parts.runs, m_parts.launches,
+                     m_parts.paths, m_parts.list});
     connect(m_controller.get(), &CommandController::statusMessage, &m_parts.status, &StatusLine::say);
     for (QObject* stop : m_stops)
         m_controller->leaveOpen(*stop);

@@ -15,6 +15,7 @@ class CommandController;
 class CommandLineFoot;
 class DefaultsController;
 class Desktop;
+class EmulatorChoice;
 class EmulatorTask;
 class GameListController;
 class LaunchController;
@@ -34,6 +35,7 @@ class CommandsDesk : public QObject
 public:
     struct Parts {
         Desktop& desktop;
+        EmulatorChoice& emulator;
         DefaultsController& defaults;
         LogWindow& logWindow;
         EmulatorTask& task;

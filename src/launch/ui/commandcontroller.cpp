@@ -3,6 +3,7 @@
 #include "catalogue/gameselection.h"
 #include "core/failure.h"
 #include "launch/archivepath.h"
+#include "launch/emulatorchoice.h"
 #include "launch/emulatorcommands.h"
 #include "launch/emulatortask.h"
 #include "launch/ui/commandbar.h"
@@ -41,12 +42,12 @@ void CommandController::commandAction()
     CommandBar& bar = m_parts.bar;
     if (m_parts.launches.isRunning())
         return m_parts.desktop.beep();
-    if (!m_parts.launches.findsExecutable()) {
+    if (!m_parts.emulator.findsEmulator()) {
         m_parts.paths.displayAlert1();
         bar.returnButton->setEnabled(true);
         return;
     }
-    const QString executable = m_parts.launches.executable();
+    const QString executable = m_parts.emulator.emulator();
     const QString game = m_parts.selection.selected().name;
     const int position = bar.commandPop->currentIndex();
     const QString title = bar.commandPop->currentText();
@@ -73,7 +74,7 @@ void CommandController::exportAction()
     if (m_parts.launches.isRunning())
         return m_parts.desktop.beep();
     bar.exportButton->setEnabled(false);
-    if (!m_parts.launches.findsExecutable()) {
+    if (!m_parts.emulator.findsEmulator()) {
         m_parts.paths.displayAlert1();
         bar.exportButton->setEnabled(true);
         return;
@@ -96,7 +97,7 @@ void CommandController::exportAction()
     bar.setBusy(true);
     m_parts.runs.beginLog(exportHeader(title));
     const bool isWritable = QFile(*path).open(QIODevice::WriteOnly | QIODevice::Truncate);
-    const QString executable = m_parts.launches.executable();
+    const QString executable = m_parts.emulator.emulator();
     m_parts.runs.start({QStringLiteral("mame ") + title, executable, QFileInfo(executable).path(),
                         exportArguments(position), QString(), isWritable ? *path : QProcess::nullDevice()});
     concludeExport(*path, isWritable, waitForExit());

@@ -11,6 +11,7 @@ namespace tessera {
 
 class CommandBar;
 class Desktop;
+class EmulatorChoice;
 class EmulatorTask;
 class GameSelection;
 class LaunchController;
@@ -20,6 +21,7 @@ class RunController;
 /// What commands need; all of it outlives the controller.
 struct CommandParts {
     Desktop& desktop;
+    EmulatorChoice& emulator;
     CommandBar& bar;
     EmulatorTask& task;
     RunController& runs;

@@ -21,10 +21,6 @@
 
 namespace tessera {
 
-namespace {
-
-} // namespace
-
 LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     : QObject(parent)
     , m_parts(std::move(parts))
@@ -34,11 +30,6 @@ LaunchController::LaunchController(LaunchParts parts, QObject* parent)
     connect(&m_parts.task, &EmulatorTask::stopped, this, &LaunchController::launchNext);
     connect(&m_parts.profiles, &ProfileCache::answered, this, &LaunchController::profileAnswered);
     connect(&m_parts.emulator, &EmulatorChoice::modeChanged, this, &LaunchController::LaunchemuPopAction);
-}
-
-QString LaunchController::executable() const
-{
-    return m_parts.emulator.emulator();
 }
 
 QString LaunchController::aboutGame(const char* key) const
@@ -69,21 +60,15 @@ QString LaunchController::usedRomFolder() const
     return folders.usesRomFolder && romsfolder_FoundCheck() ? folders.romFolder : QString();
 }
 
-bool LaunchController::findsExecutable()
-{
-    m_parts.emulator.lookForEmulator();
-    return QFileInfo::exists(executable());
-}
-
 ArchiveFolders LaunchController::archiveFolders() const
 {
     const LaunchOptions now = options();
-    return {now.checkboxRompath != 0, now.romsTextField, executable()};
+    return {now.checkboxRompath != 0, now.romsTextField, m_parts.emulator.emulator()};
 }
 
 void LaunchController::prepareProfile()
 {
-    m_parts.profiles.request(executable());
+    m_parts.profiles.request(m_parts.emulator.emulator());
 }
 
 void LaunchController::Launchusing(const QString& game)
@@ -133,7 +118,8 @@ LaunchOptions LaunchController::options() const
 
 LaunchController::Launch LaunchController::launchOf(const QString& game) const
 {
-    return {executable(), game, argumentsArray(options()), ownOptions(m_parts.search_priorityOption(game))};
+    return {m_parts.emulator.emulator(), game, argumentsArray(options()),
+            ownOptions(m_parts.search_priorityOption(game))};
 }
 
 ShownLine LaunchController::shownLine(const QString& game)
@@ -169,7 +155,7 @@ QString LaunchController::shownCommandLine(const QString& game)
 QStringList LaunchController::shellOptions()
 {
     const QStringList built = argumentsArray(options());
-    const auto answer = m_parts.profiles.remembered(executable());
+    const auto answer = m_parts.profiles.remembered(m_parts.emulator.emulator());
     return answer && answer->profile ? answer->profile->fit(built, EmulatorProfile::Quotes::Kept).arguments
                                      : built;
 }
@@ -255,7 +241,7 @@ void LaunchController::LaunchemuCheck()
     const auto isMissing
         = [this](const ChosenKey& key) { return !QFileInfo::exists(m_parts.defaults.text(key)); };
     const auto mode = m_parts.emulator.mode();
-    if (mode == EmulatorChoice::CommandLineMame && !findsExecutable())
+    if (mode == EmulatorChoice::CommandLineMame && !m_parts.emulator.findsEmulator())
         m_parts.paths.displayAlert1();
     else if (mode == EmulatorChoice::MameOsx && isMissing(keys::MameosxPath))
         m_parts.paths.displayAlert2();

@@ -61,10 +61,6 @@ public:
     /// has ended.
     void stopAndWait();
     bool romsfolder_FoundCheck() const;
-    /// The one that launches and commands start: what is typed, or else what was found.
-    QString executable() const;
-    /// False where nothing exists at its path.
-    bool findsExecutable();
     /// Where archives are expected with what is chosen now.
     ArchiveFolders archiveFolders() const;
     /// What would be started for a short name, or without a game; the emulator's own wishes are respected
