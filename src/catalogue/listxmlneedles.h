@@ -1,12 +1,14 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
 
 namespace tessera {
 
-/// The texts that are looked for inside an element.
+/// The texts that are looked for inside an element: first the values, of which the first place counts, then
+/// the marks, each of which is there or not.
 enum class Needle : std::uint8_t {
     Description,
     Year,
@@ -34,6 +36,7 @@ struct NeedleRow {
 };
 
 inline constexpr std::size_t bucketCount = 8;
+inline constexpr int needlesInBucket = 2;
 
 // The fragments and buckets were chosen by trial over a whole list of MAME: hardly a false alarm remains.
 // clang-format off
@@ -65,7 +68,8 @@ static_assert([] {
     for (std::size_t i = 0; i < needleRows.size(); ++i) {
         const NeedleRow& row = needleRows[i];
         if (row.needle != static_cast<Needle>(i) || row.fragment.size() != 4 || row.bucket >= bucketCount
-            || row.anchor == std::string_view::npos || row.text.size() > needleReach)
+            || row.anchor == std::string_view::npos || row.text.size() > needleReach
+            || std::ranges::count(needleRows, row.bucket, &NeedleRow::bucket) > needlesInBucket)
             return false;
     }
     return true;

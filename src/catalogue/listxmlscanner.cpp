@@ -18,7 +18,7 @@ constexpr char pad = '\n';
 
 // For each bucket the rows of the needles in it.
 constexpr auto rowsByBucket = [] {
-    std::array<std::array<const NeedleRow*, 2>, bucketCount> rows{};
+    std::array<std::array<const NeedleRow*, needlesInBucket>, bucketCount> rows{};
     for (const NeedleRow& row : needleRows) {
         auto& bucket = rows[row.bucket];
         bucket[bucket[0] == nullptr ? 0 : 1] = &row;

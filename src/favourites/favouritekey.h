@@ -20,6 +20,7 @@ enum class FavouriteKey : std::uint8_t {
 };
 
 inline constexpr std::size_t favouriteKeyCount = 10;
+static_assert(static_cast<std::size_t>(FavouriteKey::Option) == fieldCount);
 
 /// Their names in the favourites file.
 inline constexpr std::array<const char*, favouriteKeyCount> favouriteKeyNames{

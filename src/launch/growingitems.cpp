@@ -52,11 +52,10 @@ int positionOf(const DefaultsController& defaults, const GrowingItems& items, co
     const auto shipped = std::ranges::find_if(items.shipped, [&](const PopupItem& item) {
         return item.title && title == QLatin1String(item.title);
     });
-    const auto position = static_cast<int>(shipped - items.shipped.begin());
     if (shipped != items.shipped.end())
-        return position;
+        return static_cast<int>(shipped - items.shipped.begin());
     const auto kept = static_cast<int>(keptTitles(defaults, items).indexOf(title));
-    return kept < 0 ? kept : position + kept;
+    return kept < 0 ? kept : static_cast<int>(items.shipped.size()) + kept;
 }
 
 PopupState storedState(const DefaultsController& defaults, const Key<float>& key, const GrowingItems& items)

@@ -18,7 +18,9 @@ enum class Page { General, Video, Effects, Sound, Input, Misc };
 /// Where a control stands.
 struct OptionPlace {
     Page page;
-    int line = 0; ///< from 1, controls of one line beside each other; 0 where the page itself places it
+    /// From 1, controls of one line beside each other; 0 where the page itself places it. A group of buttons
+    /// takes this line and one more for each further button.
+    int line = 0;
     const char* label = nullptr; ///< of the line; none leaves the column free
     bool startsGroup = false; ///< a thin line is above it
 };

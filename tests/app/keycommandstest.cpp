@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -181,6 +182,18 @@ private Q_SLOTS:
         m_table->clearSelection();
         m_staged->app->copySelection();
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+    }
+
+    void whatIsNotedOfPlayingIsSwitchedBesideItsClearing()
+    {
+        const QList<QAction*> items
+            = m_staged->app->mainWindow().menuBar()->findChild<QMenu*>("menu_game")->actions();
+        QStringList names;
+        for (const QAction* item : items)
+            names << item->objectName();
+        const qsizetype notes = names.indexOf(QStringLiteral("menu_notesplayed"));
+        QVERIFY(notes > 0);
+        QCOMPARE(names.value(notes + 1), QStringLiteral("menu_clearplayed"));
     }
 
     void columnsAreShownAndHidden()

@@ -14,8 +14,9 @@ class GameSelection;
 class GameTableView;
 class ListController;
 
-/// The commands that act on the window that is key: one table of windows by commands. Its columns differ from
-/// each other on purpose.
+/// The commands that act on the window that is key: one table of windows by commands, and what the Edit menu
+/// does to the list of the key window and to what was edited there. Deliberate: Home and End move by a page
+/// only where the window has text, and the editors have no list of their own.
 class KeyCommands : public QObject
 {
     Q_OBJECT

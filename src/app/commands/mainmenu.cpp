@@ -121,7 +121,7 @@ void MainMenu::addPlayedSwitch(PlayedController& played)
     notes->setObjectName(QStringLiteral("menu_notesplayed"));
     notes->setCheckable(true);
     notes->setChecked(played.notesPlayed());
-    games.insertAction(games.actions().constLast(), notes);
+    games.insertAction(&action("menu_clearplayed"), notes);
     connect(notes, &QAction::triggered, &played, &PlayedController::setNotesPlayed);
 }
 

@@ -42,7 +42,7 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
     GameListController& list = m_parts.list;
     PicturePane& pane = *m_parts.mainWindow.sidePanel->picturePane;
     m_aspect.setPopup(*pane.aspectPop);
-    show(m_main, pane, list);
+    makeSnapshot(m_main, pane, list);
     m_main->setHeld(true);
     connect(m_main.get(), &SnapshotController::statusMessage, &m_parts.mainWindow, &MainWindow::showMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
@@ -57,20 +57,20 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
 
 ArtworkDesk::~ArtworkDesk() = default;
 
-void ArtworkDesk::show(Shown& shown, PicturePane& pane, const GameSelection& selection)
+void ArtworkDesk::makeSnapshot(Snapshot& snapshot, PicturePane& pane, const GameSelection& selection)
 {
     fillKinds(*pane.buttonShot->menu());
     connect(pane.buttonShot, &QToolButton::clicked, &m_folder, &SnapFolder::ChangesnapPop);
     connect(&m_folder, &SnapFolder::labelChanged, pane.shotTextField, &QLabel::setText);
     pane.shotTextField->setText(m_folder.label());
-    show(shown, *pane.imageView, selection);
+    makeSnapshot(snapshot, *pane.imageView, selection);
 }
 
-void ArtworkDesk::show(Shown& shown, AspectView& view, const GameSelection& selection)
+void ArtworkDesk::makeSnapshot(Snapshot& snapshot, AspectView& view, const GameSelection& selection)
 {
-    shown = std::make_unique<SnapshotController>(
+    snapshot = std::make_unique<SnapshotController>(
         SnapshotParts{m_parts.desktop, m_parts.defaults, m_folder, view, selection});
-    connect(shown.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
+    connect(snapshot.get(), &SnapshotController::previewRequested, this, &ArtworkDesk::imagepreview);
 }
 
 void ArtworkDesk::joinFavourites(FavouritesWindow& window)
@@ -78,7 +78,7 @@ void ArtworkDesk::joinFavourites(FavouritesWindow& window)
     UCAppController& favorites = m_parts.favorites.controller();
     PicturePane& pane = *window.sidePanel->picturePane;
     m_aspect.addPopup(*pane.aspectPop);
-    show(m_favourites, pane, favorites);
+    makeSnapshot(m_favourites, pane, favorites);
     connect(m_favourites.get(), &SnapshotController::statusMessage, &window, &FavouritesWindow::showMessage);
     connect(&favorites, &UCAppController::selectionChanged, m_favourites.get(),
             &SnapshotController::showSelection);
@@ -89,7 +89,7 @@ void ArtworkDesk::joinMini(MiniWindow& window)
 {
     connect(&m_folder, &SnapFolder::labelChanged, window.shotTextField2, &QLabel::setText);
     window.shotTextField2->setText(m_folder.label());
-    show(m_mini, *window.imageView, m_parts.mini);
+    makeSnapshot(m_mini, *window.imageView, m_parts.mini);
     connect(m_mini.get(), &SnapshotController::statusMessage, &window, &MiniWindow::showMessage);
     connect(window.setnameTextField2, &QLineEdit::textChanged, m_mini.get(),
             &SnapshotController::showSelection);
@@ -98,7 +98,7 @@ void ArtworkDesk::joinMini(MiniWindow& window)
 
 // Deliberate: where the mini window is key, its set is shown in the file manager, opened and downloaded, not
 // the hidden list's: what a command acts on is what is seen.
-ArtworkDesk::Shown& ArtworkDesk::shown()
+ArtworkDesk::Snapshot& ArtworkDesk::keySnapshot()
 {
     using Kind = KeyWindow::Kind;
     const Kind key = m_parts.windows.key().kind();
@@ -109,7 +109,7 @@ ArtworkDesk::Shown& ArtworkDesk::shown()
 
 SnapshotController& ArtworkDesk::snapshot()
 {
-    return *shown();
+    return *keySnapshot();
 }
 
 void ArtworkDesk::snap_change()
@@ -122,9 +122,9 @@ void ArtworkDesk::snap_change()
 
 void ArtworkDesk::showPictures()
 {
-    for (const Shown* shown : {&m_main, &m_favourites, &m_mini}) {
-        if (*shown)
-            (*shown)->showSelection();
+    for (const Snapshot* snapshot : {&m_main, &m_favourites, &m_mini}) {
+        if (*snapshot)
+            (*snapshot)->showSelection();
     }
 }
 

@@ -89,11 +89,11 @@ public Q_SLOTS:
     void display_image_Finder2();
 
 private:
-    using Shown = std::unique_ptr<SnapshotController>;
+    using Snapshot = std::unique_ptr<SnapshotController>;
 
-    void show(Shown& shown, PicturePane& pane, const GameSelection& selection);
-    void show(Shown& shown, AspectView& view, const GameSelection& selection);
-    Shown& shown();
+    void makeSnapshot(Snapshot& snapshot, PicturePane& pane, const GameSelection& selection);
+    void makeSnapshot(Snapshot& snapshot, AspectView& view, const GameSelection& selection);
+    Snapshot& keySnapshot();
     void addPage();
     void pathChosen(const QString& key);
     void fillKinds(QMenu& menu);
@@ -105,9 +105,9 @@ private:
     Parts m_parts;
     SnapFolder m_folder;
     AspectChoice m_aspect;
-    Shown m_main;
-    Shown m_favourites;
-    Shown m_mini;
+    Snapshot m_main;
+    Snapshot m_favourites;
+    Snapshot m_mini;
     PictureLoader m_preview;
     QString m_previewName;
     std::unique_ptr<ImageWindow> m_imageWindow;

@@ -111,6 +111,7 @@ void LaunchController::launch(const QString& game)
     }
 }
 
+// Deliberate: of the game list's selection, whatever is launched; a recording is named after it.
 LaunchOptions LaunchController::options() const
 {
     return m_parts.pages.options(m_parts.selection.selected());

@@ -117,9 +117,11 @@ private:
     void noteRecent(const QString& game);
     QString aboutGame(const char* key) const;
 
+    // A launch waits for its emulator to say what it understands, runs, and is asked to end; another one
+    // begins when it has ended.
     LaunchParts m_parts;
     std::optional<Launch> m_waiting;
-    std::optional<QString> m_next; ///< to be launched when what runs has ended
+    std::optional<QString> m_next; ///< once what runs has ended
     QString m_name; ///< of the game that was started last
 };
 
