@@ -19,8 +19,7 @@ std::expected<QString, Failure> KeptFile::write(QByteArrayView text, const QDate
         kept = keepAs(m_path, datedName(m_path, when));
     if (!kept)
         return kept;
-    const std::array pieces{std::string_view(text.data(), static_cast<std::size_t>(text.size()))};
-    if (const auto written = writeAtomically(m_path, pieces); !written) {
+    if (const auto written = writeAtomically(m_path, text); !written) {
         if (!kept->isEmpty())
             QFile::remove(*kept);
         return std::unexpected(written.error());

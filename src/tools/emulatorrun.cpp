@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <array>
-
 namespace tessera {
 
 namespace {
@@ -82,7 +80,7 @@ std::expected<void, Failure> keepPrinted(const QString& name, std::string_view t
 {
     const QString path = printedPath(name);
     QDir().mkpath(QFileInfo(path).path());
-    return writeAtomically(path, std::array{text});
+    return writeAtomically(path, text);
 }
 
 } // namespace tessera

@@ -163,8 +163,7 @@ void ExistenceTool::exportCsv()
         {qtTrId("existence_csv_title"), QStringLiteral("ROM Existence Report"), {QStringLiteral("csv")}});
     if (!path)
         return;
-    const std::string csv = existenceCsv(rows());
-    if (const auto written = writeAtomically(*path, std::array{std::string_view(csv)}); !written)
+    if (const auto written = writeAtomically(*path, existenceCsv(rows())); !written)
         return m_workbench.refuse(written.error().text());
     m_workbench.inform(qtTrId("existence_csv_saved").arg(*path));
 }
@@ -183,7 +182,7 @@ void ExistenceTool::saveAction()
 // Deliberate: neither success nor failure is told; the log has the failure.
 void ExistenceTool::write(const QString& path)
 {
-    if (const auto written = writeAtomically(path, std::array{std::string_view(m_report)}); !written)
+    if (const auto written = writeAtomically(path, m_report); !written)
         m_workbench.desktop().log(
             QString(existencetexts::notWritten).arg(path, written.error().arguments.last()));
 }

@@ -76,8 +76,7 @@ void VerificationTool::offer(Condensed condensed)
 
 void VerificationTool::save(const QString& path, std::string report)
 {
-    m_workbench.run([path, report = std::move(report)](
-                        const Job&) { return writeAtomically(path, std::array{std::string_view(report)}); },
+    m_workbench.run([path, report = std::move(report)](const Job&) { return writeAtomically(path, report); },
                     [this](const std::expected<void, Failure>& written, bool) { conclude(written); },
                     [](const std::expected<void, Failure>& written) {
                         return written ? QString() : notWritten(written.error());
