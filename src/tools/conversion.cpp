@@ -22,8 +22,7 @@ constexpr qint64 readAtOnce = qint64{128} * 1024;
 constexpr int mostParts = 4;
 
 // Feeds the file from where it stands to `end`, or to its own end.
-std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end,
-                                  const ConversionWatch& watch)
+std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end, const Watch& watch)
 {
     while ((file.isSequential() || file.pos() < end) && !watch.stop.stop_requested()) {
         const std::span<char> room = converter.room(readAtOnce);
@@ -44,7 +43,7 @@ std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint
 }
 
 std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter& converter,
-                                                   const ConversionWatch& watch)
+                                                   const Watch& watch)
 {
     if (const auto fed = feed(converter, file, std::numeric_limits<qint64>::max(), watch); !fed)
         return std::unexpected(fed.error());
@@ -54,7 +53,7 @@ std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter
 // Nothing where the part cannot stand alone: it failed or was not converted to its end, or it holds what
 // concerns the whole text.
 std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint64 end,
-                                         ListxmlConverter& converter, const ConversionWatch& watch)
+                                         ListxmlConverter& converter, const Watch& watch)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || !file.seek(from)
@@ -69,7 +68,7 @@ std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint6
 // The parts beside each other, a thread each. Nothing where one of them cannot stand alone.
 std::optional<ConvertedList> convertParts(const QString& path, const ListxmlParts& parts,
                                           const TitleTable& titles, ConversionOptions options,
-                                          const ConversionWatch& watch)
+                                          const Watch& watch)
 {
     std::vector<std::future<std::optional<ConvertedList>>> converted;
     qint64 from = 0;
@@ -120,8 +119,7 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
 }
 
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options, const ConversionWatch& watch,
-                                                  int threads)
+                                                  ConversionOptions options, const Watch& watch, int threads)
 {
     QFile file(listxml);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -143,7 +141,7 @@ std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const 
 }
 
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options, const ConversionWatch& watch)
+                                                   ConversionOptions options, const Watch& watch)
 {
     const auto table = readTitles(titles);
     if (!table)

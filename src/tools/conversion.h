@@ -1,13 +1,10 @@
 #pragma once
 
 #include "tools/listxmlconverter.h"
+#include "tools/watch.h"
 
 #include <QString>
 #include <QThread>
-
-#include <cstdint>
-#include <functional>
-#include <stop_token>
 
 namespace tessera {
 
@@ -25,13 +22,6 @@ QString conversionReport(std::size_t games);
 /// Why not all of a list was converted.
 Failure stopReason(const StoppedAt& stopped);
 
-/// Who watches a conversion. Once somebody asks to stop, what comes is of no use.
-struct ConversionWatch {
-    std::stop_token stop;
-    /// So many bytes more of the list were read; told from any thread.
-    std::function<void(std::int64_t more)> progress;
-};
-
 /// The title list at a path.
 std::expected<TitleTable, Failure> readTitles(const QString& path);
 
@@ -39,13 +29,11 @@ std::expected<TitleTable, Failure> readTitles(const QString& path);
 /// out to be called "game" after all; in a pipe the first element decides. Large ones are converted in parts
 /// beside each other, at most `threads`.
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options,
-                                                  const ConversionWatch& watch = {},
+                                                  ConversionOptions options, const Watch& watch = {},
                                                   int threads = QThread::idealThreadCount());
 
 /// Both files in, the complete store out.
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options,
-                                                   const ConversionWatch& watch = {});
+                                                   ConversionOptions options, const Watch& watch = {});
 
 } // namespace tessera

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QCloseEvent;
+
 namespace tessera {
 
 class ConversionTool;
@@ -52,6 +54,7 @@ Q_SIGNALS:
     void statusWithdrawn(const QString& text);
 
 private:
+    void close(QCloseEvent* event);
     void reveal(const QString& path);
     void takeFocusRings();
 

@@ -9,7 +9,6 @@
 #include "tools/ui/verificationpage.h"
 #include "widgets/closekeys.h"
 
-#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QStackedWidget>
@@ -71,16 +70,6 @@ void UtilityWindow::addPage(ToolPage* page, const QString& title)
     utilityTabView->addWidget(page);
     pageList->addItem(title);
     foot->addButtons(page->footButtons());
-}
-
-void UtilityWindow::closeEvent(QCloseEvent* event)
-{
-    if (mayClose && !mayClose()) {
-        event->ignore();
-        return;
-    }
-    QWidget::closeEvent(event);
-    Q_EMIT closed();
 }
 
 } // namespace tessera
