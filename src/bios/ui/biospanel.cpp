@@ -1,7 +1,6 @@
 #include "bios/ui/biospanel.h"
 
 #include "bios/ui/biosmodel.h"
-#include "bios/ui/biosview.h"
 #include "widgets/bar.h"
 #include "widgets/closekeys.h"
 #include "widgets/myscrollers.h"
@@ -12,15 +11,37 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace tessera {
 
 namespace {
+
 constexpr QSize firstSize(560, 620);
 constexpr int iconSize = 32;
 constexpr int nameWidth = 300;
 constexpr int biosWidth = 110;
+
+/// The tree of the list. From cell to cell of a row, then to the next row, goes Tab in an editor: a new entry
+/// is filled in without the mouse.
+class BiosView : public QTreeView
+{
+protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override
+    {
+        const QModelIndex current = currentIndex();
+        if ((action != MoveNext && action != MovePrevious) || !current.isValid())
+            return QTreeView::moveCursor(action, modifiers);
+        const bool isForward = action == MoveNext;
+        const QModelIndex beside = current.siblingAtColumn(current.column() + (isForward ? 1 : -1));
+        if (beside.isValid())
+            return beside;
+        const QModelIndex row = isForward ? indexBelow(current) : indexAbove(current);
+        return row.siblingAtColumn(isForward ? 0 : model()->columnCount() - 1);
+    }
+};
+
 } // namespace
 
 BiosPanel::BiosPanel(QWidget* parent)
