@@ -4,6 +4,7 @@
 #include "artwork/ui/imagecandodrag.h"
 #include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
 #include <QLabel>
 #include <QLocale>
@@ -14,21 +15,15 @@ namespace tessera {
 
 ImageWindow::ImageWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , imageView2(new ImageCandoDrag)
-    , m_size(new QLabel)
+    , imageView2(named("imageView2", new ImageCandoDrag, qtTrId("image_view")))
+    , m_size(named("imageSizeLabel", withRole("imagestrip", new QLabel)))
 {
     setObjectName(QStringLiteral("imageWindow"));
-    imageView2->setObjectName(QStringLiteral("imageView2"));
-    imageView2->setAccessibleName(qtTrId("image_view"));
-    m_size->setObjectName(QStringLiteral("imageSizeLabel"));
-    m_size->setProperty("role", QStringLiteral("imagestrip"));
     m_size->setFixedHeight(imageStrip);
     m_size->setAlignment(Qt::AlignCenter);
     // A picture may be narrower than its size in words.
     m_size->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = edgeToEdge<QVBoxLayout>(this, 0);
     layout->addWidget(imageView2, 1);
     layout->addWidget(m_size);
     closeByKeyboard(*this);

@@ -14,7 +14,7 @@ class RowsList : public QTableView
     Q_OBJECT
 
 public:
-    RowsList(RowsModel& model, const QString& name, QWidget* parent = nullptr);
+    explicit RowsList(RowsModel& model, QWidget* parent = nullptr);
 
     void setEmptyText(const QString& text);
     QString emptyText() const;
