@@ -1,6 +1,5 @@
 #include "artwork/ui/imagewindow.h"
 
-#include "artwork/ui/imageframe.h"
 #include "artwork/ui/imagecandodrag.h"
 #include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
@@ -12,6 +11,11 @@
 #include <QVBoxLayout>
 
 namespace tessera {
+
+Frame imageFrame(const Frame& current, QSize picture)
+{
+    return {current.topLeft(), QSizeF(picture + QSize(0, imageStrip))};
+}
 
 ImageWindow::ImageWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
@@ -47,17 +51,12 @@ void ImageWindow::show(const QImage& image, const QString& name)
 void ImageWindow::fit(QSize picture)
 {
     const QRect free = screen()->availableGeometry();
-    const QRect now = geometry();
     const double bottom = free.y() + free.height();
-    const Frame current
-        = turnedOver(Frame{static_cast<double>(now.x()), static_cast<double>(now.y()),
-                           static_cast<double>(now.width()), static_cast<double>(now.height())},
-                     bottom);
+    const Frame current = turnedOver(QRectF(geometry()), bottom);
     const QSize room = free.size() - QSize(0, imageStrip);
     if (picture.width() > room.width() || picture.height() > room.height())
         picture.scale(room, Qt::KeepAspectRatio);
-    const Frame wanted = turnedOver(imageFrame(current, picture), bottom);
-    QRect place = QRectF(wanted.x, wanted.y, wanted.width, wanted.height).toRect();
+    QRect place = turnedOver(imageFrame(current, picture), bottom).toRect();
     if (!testAttribute(Qt::WA_Moved) && !isVisible()) {
         // It has no place yet; the desktop gives it one.
         resize(place.size());
