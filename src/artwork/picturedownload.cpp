@@ -1,7 +1,7 @@
 #include "artwork/picturedownload.h"
 
 #include "core/failure.h"
-#include "core/urltemplate.h"
+#include "platform/websites.h"
 
 #include <QFileInfo>
 #include <QPointer>
