@@ -1,6 +1,5 @@
 #include "widgets/formpage.h"
 
-#include "widgets/mnemonic.h"
 #include "widgets/named.h"
 
 #include <QAbstractButton>
@@ -8,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace tessera {
 
@@ -34,6 +34,12 @@ FormPage::FormPage(QWidget* parent)
     m_grid->setColumnStretch(controlColumn, 1);
     // Takes what a column of narrow controls leaves, so that labels stay where they are on every page.
     m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, fillColumn);
+}
+
+QString FormPage::withoutMnemonic(QString label)
+{
+    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
+    return label.remove(appended).remove(QLatin1Char('&'));
 }
 
 QLineEdit* FormPage::makeField(const char* objectName, const QString& name)

@@ -1,7 +1,6 @@
 #include "tools/ui/toolpage.h"
 
 #include "widgets/boundcontrols.h"
-#include "widgets/mnemonic.h"
 #include "widgets/named.h"
 #include "widgets/pathfield.h"
 
