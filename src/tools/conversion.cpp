@@ -1,9 +1,6 @@
 #include "tools/conversion.h"
 
-#include "tools/listxmlparts.h"
 #include "tools/titletable.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <future>
@@ -20,6 +17,25 @@ constexpr qint64 readAtOnce = qint64{128} * 1024;
 
 // More threads than these wait for the memory, not for a processor.
 constexpr int mostParts = 4;
+
+// Bytes. A smaller part is not worth a thread.
+constexpr qint64 smallestPart = qint64{8} << 20;
+// Real elements are shorter than this, nearly all of them.
+constexpr qint64 probed = qint64{1} << 20;
+
+QByteArray probe(QFile& file, qint64 from)
+{
+    return file.seek(from) ? file.read(probed) : QByteArray();
+}
+
+ElementName nameIn(const QByteArray& text)
+{
+    const auto game = text.indexOf("<game ");
+    const auto machine = text.indexOf("<machine ");
+    if (game < 0 && machine < 0)
+        return ElementName::Undecided;
+    return machine < 0 || (game >= 0 && game < machine) ? ElementName::Game : ElementName::Machine;
+}
 
 // Feeds the file from where it stands to `end`, or to its own end.
 std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end, const Watch& watch)
@@ -116,6 +132,24 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
     if (bytes.size() > titlesLimit)
         return std::unexpected(Failure{"convert_no_titles", {path}});
     return TitleTable({bytes.data(), static_cast<std::size_t>(bytes.size())});
+}
+
+ListxmlParts partsOf(QFile& file, int most)
+{
+    const qint64 size = file.isSequential() ? 0 : file.size();
+    const qint64 count = std::min<qint64>(most, size / smallestPart);
+    ListxmlParts parts;
+    if (count > 1)
+        parts.name = nameIn(probe(file, 0));
+    const QByteArray endTag = parts.name == ElementName::Game ? "</game>" : "</machine>";
+    for (qint64 i = 1; i < count && parts.name != ElementName::Undecided; ++i) {
+        const qint64 from = size / count * i;
+        const auto found = probe(file, from).indexOf(endTag);
+        if (found >= 0)
+            parts.ends.push_back(from + found + endTag.size());
+    }
+    parts.ends.push_back(size);
+    return parts;
 }
 
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,

@@ -3,7 +3,7 @@
 #include "tools/listxmlconverter.h"
 #include "tools/watch.h"
 
-#include <QString>
+#include <QFile>
 #include <QThread>
 
 namespace tessera {
@@ -24,6 +24,16 @@ Failure stopReason(const StoppedAt& stopped);
 
 /// The title list at a path.
 std::expected<TitleTable, Failure> readTitles(const QString& path);
+
+/// A saved list, parted where no element is open: behind end tags. Each part can be converted by itself.
+struct ListxmlParts {
+    ElementName name = ElementName::Undecided; ///< as the first start tag decides
+    std::vector<qint64> ends; ///< bytes from the file's start, rising; the last is the file's size
+};
+
+/// About equal parts, at most `most`. One part where the file is small, or is a pipe, or has no end tag near
+/// where it would be parted.
+ListxmlParts partsOf(QFile& file, int most);
 
 /// Converts a saved list. One that can be read from its start again is begun again where its elements turn
 /// out to be called "game" after all; in a pipe the first element decides. Large ones are converted in parts

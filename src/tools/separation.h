@@ -2,7 +2,7 @@
 
 #include "catalogue/nameset.h"
 #include "tools/copyitem.h"
-#include "tools/listedsets.h"
+#include "tools/printedtext.h"
 
 #include <QLatin1StringView>
 #include <QString>
