@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <functional>
+
 namespace tessera {
 
 namespace {
@@ -59,7 +61,7 @@ void ConversionTool::outputAction()
          titles = m_page.mame32jpTextField->text()](const Job& job) {
             return convertFiles(listxml, titles, options, workbench.watch(job, listxml));
         },
-        [this](ConvertedList list) { offer(std::move(list)); });
+        std::bind_front(&ConversionTool::offer, this));
 }
 
 // After Cancel in the panel the information line stays as it is: deliberate, as nothing was written.

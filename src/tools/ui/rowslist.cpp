@@ -60,11 +60,6 @@ QString RowsList::emptyText() const
     return m_empty->text();
 }
 
-void RowsList::setStateWidth(int width)
-{
-    setColumnWidth(RowsModel::StateColumn, width);
-}
-
 void RowsList::setNameWidth(int width)
 {
     horizontalHeader()->setSectionResizeMode(RowsModel::NameColumn, QHeaderView::Interactive);

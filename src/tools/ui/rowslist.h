@@ -18,7 +18,6 @@ public:
 
     void setEmptyText(const QString& text);
     QString emptyText() const;
-    void setStateWidth(int width);
     /// What became of it is the longer text, and gets the room.
     void setNameWidth(int width);
     /// Sorted by no column any more.

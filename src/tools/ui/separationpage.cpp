@@ -2,7 +2,6 @@
 
 #include "core/texts.h"
 #include "tools/separation.h"
-#include "tools/ui/oneline.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/named.h"

@@ -59,11 +59,6 @@ void UtilityObject::takeFocusRings()
     DeletionFocusRing::takeRing(*m_window->utilityTabView);
 }
 
-bool UtilityObject::mayBeAbandoned()
-{
-    return m_workbench->mayBeAbandoned();
-}
-
 QString UtilityObject::issueuuid() const
 {
     return QString::fromStdString(storelayout::newUuid());
@@ -90,7 +85,7 @@ void UtilityObject::utilityOrderFront()
 
 void UtilityObject::close(QCloseEvent* event)
 {
-    if (mayBeAbandoned())
+    if (m_workbench->mayBeAbandoned())
         windowWillClose();
     else
         event->ignore();

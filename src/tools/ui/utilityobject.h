@@ -37,9 +37,6 @@ public:
     VerificationTool& verification() { return *m_verification; }
     FavouritesTool& favourites() { return *m_favourites; }
 
-    /// Asks, where a tool is at work, whether it may be stopped.
-    bool mayBeAbandoned();
-
     /// A new one in its standard form.
     QString issueuuid() const;
 

@@ -87,7 +87,7 @@ ChosenVerdicts VerificationPage::chosen() const
 QWidget* VerificationPage::makeSets()
 {
     setList->setEmptyText(qtTrId("verification_empty"));
-    setList->setStateWidth(stateWidth);
+    setList->setColumnWidth(RowsModel::StateColumn, stateWidth);
     setDetails->setPlaceholderText(qtTrId("verification_details"));
     auto* sets = new QWidget(this);
     auto* layout = edgeToEdge(sets, gap);

@@ -149,11 +149,6 @@ void Workbench::takePath(QLineEdit& field, const ChosenKey& key, const QString& 
         Q_EMIT statusMessage(failure);
 }
 
-QString Workbench::leftUndone()
-{
-    return qtTrId("tool_undone");
-}
-
 // Without a failure it was cancelled.
 void Workbench::giveUp(const QString& failure)
 {

@@ -93,7 +93,7 @@ public:
     template <class Work, class Done>
     void run(Work work, Done done)
     {
-        run(std::move(work), std::move(done), [](const auto&) { return leftUndone(); });
+        run(std::move(work), std::move(done), [](const auto&) { return qtTrId("tool_undone"); });
     }
     /// The same; where the job is abandoned, the status line says what `undone` makes of the result.
     template <class Work, class Done, class Undone>
@@ -102,18 +102,18 @@ public:
         const Job job = begin();
         m_pool.start([this, job, work = std::move(work), done = std::move(done), undone = std::move(undone)] {
             const auto result = std::make_shared<decltype(work(job))>(work(job));
-            const auto conclude = [this, job, done, undone, result] {
+            const auto finish = [this, job, done, undone, result] {
                 if (job.isAbandoned())
                     return sayUndone(undone(*result));
                 end();
                 done(std::move(*result), job.stop().stop_requested());
             };
             // While somebody is asked whether a job may be abandoned, its end waits for the answer.
-            const auto afterAnswer = [this, conclude] {
+            const auto afterAnswer = [this, finish] {
                 if (m_isAsking)
-                    connect(this, &Workbench::answered, this, conclude, Qt::SingleShotConnection);
+                    connect(this, &Workbench::answered, this, finish, Qt::SingleShotConnection);
                 else
-                    conclude();
+                    finish();
             };
             QMetaObject::invokeMethod(this, afterAnswer, Qt::QueuedConnection);
         });
@@ -147,7 +147,6 @@ Q_SIGNALS:
 
 private:
     friend class Job;
-    static QString leftUndone();
     void giveUp(const QString& failure);
     void sayUndone(const QString& text);
     Job begin();
