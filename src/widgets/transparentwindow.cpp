@@ -111,10 +111,8 @@ bool TransparentWindow::handOver()
 
 void TransparentWindow::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
-        QWidget::mousePressEvent(event);
-        return;
-    }
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
     m_startWindowFrame = frame();
     m_startLocation = onScreen(*event);
     m_initialLocation = inWindow(m_startWindowFrame, m_startLocation);

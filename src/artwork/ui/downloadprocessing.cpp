@@ -47,10 +47,8 @@ DownloadPanel& DownloadProcessing::panel()
 // A name that is no plain file name would lie elsewhere.
 void DownloadProcessing::snapdownload_url(const QString& name)
 {
-    if (!isPlainFileName(name) || m_folder.snappath().isEmpty()) {
-        m_desktop.beep();
-        return;
-    }
+    if (!isPlainFileName(name) || m_folder.snappath().isEmpty())
+        return m_desktop.beep();
     if (const auto site = m_sites.siteWithoutHost()) {
         m_desktop.beep();
         Q_EMIT statusMessage(qtTrId("pictures_no_host").arg(*site));
@@ -61,10 +59,8 @@ void DownloadProcessing::snapdownload_url(const QString& name)
 
 void DownloadProcessing::download_process(const QUrl& url)
 {
-    if (m_downloadstate) {
-        m_desktop.beep();
-        return;
-    }
+    if (m_downloadstate)
+        return m_desktop.beep();
     m_download.start(url, m_folder.snappath());
 }
 
