@@ -42,7 +42,8 @@ bool Tessera_AppDelegate::run(const QString& file)
     applicationDidFinishLaunching();
     if (m_isEnding)
         return false;
-    afterFirstPaint(m_program->mainWindow, [this] { beginAfterFirstPaint(); });
+    connect(new FirstPaint(m_program->mainWindow), &FirstPaint::passed, this,
+            &Tessera_AppDelegate::beginAfterFirstPaint);
     if (m_buildWanted)
         QTimer::singleShot(0, &m_program->rebuild, &CatalogueRebuild::build);
     application_openFile(file);

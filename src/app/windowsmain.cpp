@@ -38,8 +38,8 @@ int runWindows(QApplication& application, UserDefaults& stored, const QString& f
     if (!delegate.run(file))
         return 0;
     // Drawing it in all its sizes is nothing that the list has to wait for.
-    afterFirstPaint(delegate.program().mainWindow,
-                    [] { QGuiApplication::setWindowIcon(theme::mark(QStringLiteral("tessera"))); });
+    QObject::connect(new FirstPaint(delegate.program().mainWindow), &FirstPaint::passed, &application,
+                     [] { QGuiApplication::setWindowIcon(theme::mark(QStringLiteral("tessera"))); });
     return application.exec();
 }
 

@@ -1,7 +1,7 @@
 #include "artwork/picturedownload.h"
 
 #include "core/failure.h"
-#include "core/urltemplate.h"
+#include "platform/websites.h"
 
 #include <QFileInfo>
 #include <QPointer>
@@ -45,9 +45,8 @@ struct PictureDownload::Job {
     bool isTooLarge = false;
 };
 
-PictureDownload::PictureDownload(MayReplace mayReplace, DownloadLimits limits, QObject* parent)
+PictureDownload::PictureDownload(DownloadLimits limits, QObject* parent)
     : QObject(parent)
-    , m_mayReplace(std::move(mayReplace))
     , m_limits(limits)
 {
 }
@@ -208,8 +207,8 @@ bool PictureDownload::mayTake(const QString& path)
     const QPointer<PictureDownload> alive(this);
     const std::weak_ptr<Job> job = m_job;
     m_job->isAsking = true;
-    const MayReplace mayReplace = m_mayReplace;
-    const bool answer = mayReplace(path);
+    bool answer = false;
+    Q_EMIT asked(path, answer);
     if (!alive || !isJob(job))
         return false;
     m_job->isAsking = false;

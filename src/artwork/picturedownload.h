@@ -8,7 +8,6 @@
 #include <QSaveFile>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 namespace tessera {
@@ -25,10 +24,7 @@ class PictureDownload : public QObject
     Q_OBJECT
 
 public:
-    /// Whether the file at a path may be replaced. It may take its time and let events through.
-    using MayReplace = std::function<bool(const QString& path)>;
-
-    explicit PictureDownload(MayReplace mayReplace, DownloadLimits limits = {}, QObject* parent = nullptr);
+    explicit PictureDownload(DownloadLimits limits = {}, QObject* parent = nullptr);
     ~PictureDownload() override;
 
     bool isUnderWay() const { return m_job != nullptr; }
@@ -42,6 +38,9 @@ Q_SIGNALS:
     /// A picture will come, of so many bytes; unknownLength where the server does not tell.
     void answered(double expectedLength);
     void received(double length, double expectedLength);
+    /// Whether the file at a path may be replaced; not where nobody says so. Whoever hears it may take their
+    /// time and let events through.
+    void asked(const QString& path, bool& mayReplace);
 
     void finished(const QString& path, double expectedLength);
     void cancelled();
@@ -69,7 +68,6 @@ private:
     std::optional<QString> reasonOfError() const;
     void stop();
 
-    MayReplace m_mayReplace;
     DownloadLimits m_limits;
     std::unique_ptr<QNetworkAccessManager> m_network; // made for the first download
     std::shared_ptr<Job> m_job; // null when none is under way

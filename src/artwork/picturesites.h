@@ -1,7 +1,6 @@
 #pragma once
 
 #include "artwork/artworkkinds.h"
-#include "core/urltemplate.h"
 #include "platform/websites.h"
 
 namespace tessera {

@@ -1,45 +1,52 @@
 #include "core/atomicfile.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace tessera {
 
-std::expected<void, Failure> writeAtomically(const QString& path, std::span<const std::string_view> pieces)
-{
-    return writeAtomically(path, [pieces](const ContentSink& sink) {
-        for (const std::string_view piece : pieces) {
-            if (!sink(piece))
-                return;
-        }
-    });
-}
-
-std::expected<void, Failure> writeAtomically(const QString& path,
-                                             const std::function<void(const ContentSink&)>& content)
+AtomicFile::AtomicFile(const QString& path)
+    : m_file(path)
 {
     // A pipe or a device would be replaced by a file.
     const QFileInfo present(path);
     if (present.exists() && !present.isFile())
-        return std::unexpected(Failure{"failure_write", {path, QStringLiteral("not a regular file")}});
-    QSaveFile file(path);
-    const auto failed = [&] { return std::unexpected(Failure{"failure_write", {path, file.errorString()}}); };
-    if (!file.open(QIODevice::WriteOnly))
-        return failed();
-    bool isGood = true;
-    content([&](std::string_view piece) {
-        // A disk that fills up takes a part of the piece first; the next attempt has the reason.
-        while (isGood && !piece.empty()) {
-            const qint64 written = file.write(piece.data(), static_cast<qint64>(piece.size()));
-            isGood = written > 0;
-            piece.remove_prefix(isGood ? static_cast<std::size_t>(written) : 0);
-        }
-        return isGood;
-    });
-    // What is still in the buffer has to be written first: commit() does not notice where that fails.
-    if (!isGood || !file.flush() || !file.commit())
-        return failed();
-    return {};
+        m_obstacle = QStringLiteral("not a regular file");
+    m_isGood = m_obstacle.isEmpty() && m_file.open(QIODevice::WriteOnly);
+}
+
+// A disk that fills up takes a part of the piece first; the next attempt has the reason.
+bool AtomicFile::write(QByteArrayView piece)
+{
+    while (m_isGood && !piece.isEmpty()) {
+        const qint64 written = m_file.write(piece.data(), piece.size());
+        m_isGood = written > 0;
+        piece = piece.sliced(qMax(written, qint64{0}));
+    }
+    return m_isGood;
+}
+
+std::expected<void, Failure> AtomicFile::commit()
+{
+    // What is still in the buffer has to be written first: QSaveFile does not notice where that fails.
+    if (m_isGood && m_file.flush() && m_file.commit())
+        return {};
+    return std::unexpected(Failure{
+        "failure_write", {m_file.fileName(), m_obstacle.isEmpty() ? m_file.errorString() : m_obstacle}});
+}
+
+std::expected<void, Failure> writeAtomically(const QString& path, QByteArrayView content)
+{
+    AtomicFile file(path);
+    file.write(content);
+    return file.commit();
+}
+
+std::expected<void, Failure> writeAtomically(const QString& path, std::span<const std::string_view> pieces)
+{
+    AtomicFile file(path);
+    for (const std::string_view piece : pieces)
+        file.write(piece);
+    return file.commit();
 }
 
 } // namespace tessera

@@ -5,7 +5,17 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
 namespace tessera {
+
+FileState FileState::of(const QString& path)
+{
+    struct stat state{};
+    if (::stat(QFile::encodeName(path).constData(), &state) != 0)
+        return {};
+    return {state.st_ino, state.st_size, state.st_mtim.tv_sec, state.st_mtim.tv_nsec};
+}
 
 bool KeptFile::exists() const
 {
@@ -19,8 +29,7 @@ std::expected<QString, Failure> KeptFile::write(QByteArrayView text, const QDate
         kept = keepAs(m_path, datedName(m_path, when));
     if (!kept)
         return kept;
-    const std::array pieces{std::string_view(text.data(), static_cast<std::size_t>(text.size()))};
-    if (const auto written = writeAtomically(m_path, pieces); !written) {
+    if (const auto written = writeAtomically(m_path, text); !written) {
         if (!kept->isEmpty())
             QFile::remove(*kept);
         return std::unexpected(written.error());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/failure.h"
-#include "core/filestate.h"
 
 #include <QByteArrayView>
 #include <QDateTime>
@@ -9,6 +8,18 @@
 #include <expected>
 
 namespace tessera {
+
+/// Which content stands at a path: another inode, size or time means that somebody has written it.
+struct FileState {
+    quint64 inode = 0; ///< 0 where there is no file
+    qint64 size = 0; ///< bytes
+    qint64 seconds = 0;
+    qint64 nanoseconds = 0;
+
+    static FileState of(const QString& path);
+
+    bool operator==(const FileState&) const = default;
+};
 
 /// A file that is written whole. Whatever stands at its path and was not read, because it is broken or
 /// because somebody has written it since, is kept under a dated name when ours takes its place.

@@ -1,6 +1,6 @@
 #include "core/xmlaswritten.h"
 
-#include "core/xmldeclaration.h"
+#include "core/xmlencoding.h"
 
 #include <algorithm>
 #include <span>

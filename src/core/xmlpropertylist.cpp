@@ -1,6 +1,5 @@
 #include "core/propertylistcheck.h"
 
-#include "core/xmldeclaration.h"
 #include "core/xmlencoding.h"
 
 #include <QDateTime>

@@ -24,19 +24,13 @@ void appendSection(HistoryText& shown, const Section& section, const InfoFile* f
                    FiledEntries wanted)
 {
     // Deliberate: in an absent file every name has an empty entry.
-    if (file == nullptr) {
-        appendEntry(shown.text, section, {});
-        return;
-    }
-    if (const auto entry = file->entry(name, section.kind)) {
-        appendEntry(shown.text, section, *entry);
-        return;
-    }
+    if (file == nullptr)
+        return appendEntry(shown.text, section, {});
+    if (const auto entry = file->entry(name, section.kind))
+        return appendEntry(shown.text, section, *entry);
     const auto filed = file->filed(name, section.kind);
-    if (filed && wanted == FiledEntries::Show) {
-        appendEntry(shown.text, section, filed->text);
-        return;
-    }
+    if (filed && wanted == FiledEntries::Show)
+        return appendEntry(shown.text, section, filed->text);
     if (filed && !shown.filedUnder)
         shown.filedUnder = filed->name;
     shown.text += section.none;

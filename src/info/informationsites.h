@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/urltemplate.h"
 #include "platform/websites.h"
 
 namespace tessera {

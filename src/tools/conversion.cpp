@@ -1,9 +1,6 @@
 #include "tools/conversion.h"
 
-#include "tools/listxmlparts.h"
 #include "tools/titletable.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <future>
@@ -21,9 +18,27 @@ constexpr qint64 readAtOnce = qint64{128} * 1024;
 // More threads than these wait for the memory, not for a processor.
 constexpr int mostParts = 4;
 
+// Bytes. A smaller part is not worth a thread.
+constexpr qint64 smallestPart = qint64{8} << 20;
+// Real elements are shorter than this, nearly all of them.
+constexpr qint64 probed = qint64{1} << 20;
+
+QByteArray probe(QFile& file, qint64 from)
+{
+    return file.seek(from) ? file.read(probed) : QByteArray();
+}
+
+ElementName nameIn(const QByteArray& text)
+{
+    const auto game = text.indexOf("<game ");
+    const auto machine = text.indexOf("<machine ");
+    if (game < 0 && machine < 0)
+        return ElementName::Undecided;
+    return machine < 0 || (game >= 0 && game < machine) ? ElementName::Game : ElementName::Machine;
+}
+
 // Feeds the file from where it stands to `end`, or to its own end.
-std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end,
-                                  const ConversionWatch& watch)
+std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint64 end, const Watch& watch)
 {
     while ((file.isSequential() || file.pos() < end) && !watch.stop.stop_requested()) {
         const std::span<char> room = converter.room(readAtOnce);
@@ -44,7 +59,7 @@ std::expected<void, Failure> feed(ListxmlConverter& converter, QFile& file, qint
 }
 
 std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter& converter,
-                                                   const ConversionWatch& watch)
+                                                   const Watch& watch)
 {
     if (const auto fed = feed(converter, file, std::numeric_limits<qint64>::max(), watch); !fed)
         return std::unexpected(fed.error());
@@ -54,7 +69,7 @@ std::expected<ConvertedList, Failure> convertWhole(QFile& file, ListxmlConverter
 // Nothing where the part cannot stand alone: it failed or was not converted to its end, or it holds what
 // concerns the whole text.
 std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint64 end,
-                                         ListxmlConverter& converter, const ConversionWatch& watch)
+                                         ListxmlConverter& converter, const Watch& watch)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || !file.seek(from)
@@ -69,7 +84,7 @@ std::optional<ConvertedList> convertPart(const QString& path, qint64 from, qint6
 // The parts beside each other, a thread each. Nothing where one of them cannot stand alone.
 std::optional<ConvertedList> convertParts(const QString& path, const ListxmlParts& parts,
                                           const TitleTable& titles, ConversionOptions options,
-                                          const ConversionWatch& watch)
+                                          const Watch& watch)
 {
     std::vector<std::future<std::optional<ConvertedList>>> converted;
     qint64 from = 0;
@@ -119,9 +134,26 @@ std::expected<TitleTable, Failure> readTitles(const QString& path)
     return TitleTable({bytes.data(), static_cast<std::size_t>(bytes.size())});
 }
 
+ListxmlParts partsOf(QFile& file, int most)
+{
+    const qint64 size = file.isSequential() ? 0 : file.size();
+    const qint64 count = std::min<qint64>(most, size / smallestPart);
+    ListxmlParts parts;
+    if (count > 1)
+        parts.name = nameIn(probe(file, 0));
+    const QByteArray endTag = parts.name == ElementName::Game ? "</game>" : "</machine>";
+    for (qint64 i = 1; i < count && parts.name != ElementName::Undecided; ++i) {
+        const qint64 from = size / count * i;
+        const auto found = probe(file, from).indexOf(endTag);
+        if (found >= 0)
+            parts.ends.push_back(from + found + endTag.size());
+    }
+    parts.ends.push_back(size);
+    return parts;
+}
+
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options, const ConversionWatch& watch,
-                                                  int threads)
+                                                  ConversionOptions options, const Watch& watch, int threads)
 {
     QFile file(listxml);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -143,7 +175,7 @@ std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const 
 }
 
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options, const ConversionWatch& watch)
+                                                   ConversionOptions options, const Watch& watch)
 {
     const auto table = readTitles(titles);
     if (!table)

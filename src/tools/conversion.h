@@ -1,13 +1,10 @@
 #pragma once
 
 #include "tools/listxmlconverter.h"
+#include "tools/watch.h"
 
-#include <QString>
+#include <QFile>
 #include <QThread>
-
-#include <cstdint>
-#include <functional>
-#include <stop_token>
 
 namespace tessera {
 
@@ -25,27 +22,28 @@ QString conversionReport(std::size_t games);
 /// Why not all of a list was converted.
 Failure stopReason(const StoppedAt& stopped);
 
-/// Who watches a conversion. Once somebody asks to stop, what comes is of no use.
-struct ConversionWatch {
-    std::stop_token stop;
-    /// So many bytes more of the list were read; told from any thread.
-    std::function<void(std::int64_t more)> progress;
-};
-
 /// The title list at a path.
 std::expected<TitleTable, Failure> readTitles(const QString& path);
+
+/// A saved list, parted where no element is open: behind end tags. Each part can be converted by itself.
+struct ListxmlParts {
+    ElementName name = ElementName::Undecided; ///< as the first start tag decides
+    std::vector<qint64> ends; ///< bytes from the file's start, rising; the last is the file's size
+};
+
+/// About equal parts, at most `most`. One part where the file is small, or is a pipe, or has no end tag near
+/// where it would be parted.
+ListxmlParts partsOf(QFile& file, int most);
 
 /// Converts a saved list. One that can be read from its start again is begun again where its elements turn
 /// out to be called "game" after all; in a pipe the first element decides. Large ones are converted in parts
 /// beside each other, at most `threads`.
 std::expected<ConvertedList, Failure> convertFile(const QString& listxml, const TitleTable& titles,
-                                                  ConversionOptions options,
-                                                  const ConversionWatch& watch = {},
+                                                  ConversionOptions options, const Watch& watch = {},
                                                   int threads = QThread::idealThreadCount());
 
 /// Both files in, the complete store out.
 std::expected<ConvertedList, Failure> convertFiles(const QString& listxml, const QString& titles,
-                                                   ConversionOptions options,
-                                                   const ConversionWatch& watch = {});
+                                                   ConversionOptions options, const Watch& watch = {});
 
 } // namespace tessera

@@ -63,7 +63,7 @@ struct Pair {
 class ItemCopy
 {
 public:
-    ItemCopy(const CopyWatch& watch, FileIdentity leftOut, std::vector<char>& piece)
+    ItemCopy(const Watch& watch, FileIdentity leftOut, std::vector<char>& piece)
         : m_watch(watch)
         , m_leftOut(leftOut)
         , m_piece(piece)
@@ -86,7 +86,7 @@ private:
         struct stat facts;
     };
 
-    const CopyWatch& m_watch;
+    const Watch& m_watch;
     FileIdentity m_leftOut;
     std::vector<char>& m_piece;
     std::vector<Folder> m_folders;
@@ -113,8 +113,8 @@ Done ItemCopy::copy(const Pair& item, const std::string& place)
 
 bool ItemCopy::goOn(std::int64_t bytes)
 {
-    if (m_watch.copied)
-        m_watch.copied(bytes);
+    if (m_watch.progress)
+        m_watch.progress(bytes);
     return !m_watch.stop.stop_requested();
 }
 
@@ -308,7 +308,7 @@ std::int64_t sizeAt(int folder, const char* name, FileIdentity leftOut)
 struct ItemCopier::Parts {
     std::string from;
     std::string into;
-    CopyWatch watch;
+    Watch watch;
     std::vector<char> piece = std::vector<char>(pieceSize);
     std::optional<Staging> staging;
 
@@ -366,7 +366,7 @@ Done ItemCopier::Parts::copyThrough(const Staging& hidden, const Pair& item, Fil
     return {};
 }
 
-ItemCopier::ItemCopier(const std::string& from, const std::string& into, const CopyWatch& watch)
+ItemCopier::ItemCopier(const std::string& from, const std::string& into, const Watch& watch)
     : m_parts(std::make_unique<Parts>(from, into, watch))
 {
 }

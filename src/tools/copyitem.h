@@ -1,22 +1,13 @@
 #pragma once
 
 #include "core/failure.h"
+#include "tools/watch.h"
 
-#include <cstdint>
 #include <expected>
-#include <functional>
 #include <memory>
-#include <stop_token>
 #include <string>
-#include <string_view>
 
 namespace tessera {
-
-/// Who looks on while something is copied.
-struct CopyWatch {
-    std::stop_token stop;
-    std::function<void(std::int64_t bytes)> copied; ///< called with how many more; may be empty
-};
 
 /// The failure's key where somebody asked to stop.
 inline constexpr const char* copyCancelled = textKey("copy_cancelled");
@@ -28,7 +19,7 @@ inline constexpr const char* copyCancelled = textKey("copy_cancelled");
 class ItemCopier
 {
 public:
-    ItemCopier(const std::string& from, const std::string& into, const CopyWatch& watch);
+    ItemCopier(const std::string& from, const std::string& into, const Watch& watch);
     ~ItemCopier();
 
     std::expected<void, Failure> copy(const std::string& name);

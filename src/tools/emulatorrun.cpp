@@ -7,8 +7,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <array>
-
 namespace tessera {
 
 namespace {
@@ -78,11 +76,18 @@ QString printedPath(const QString& name)
         + QStringLiteral("/Tessera/printed/") + name;
 }
 
-std::expected<void, Failure> keepPrinted(const QString& name, std::string_view text)
+std::expected<std::string, Failure> keptPrintedBy(const QString& emulator, const QStringList& arguments,
+                                                  bool mayFail, const QString& name,
+                                                  const EmulatorRunWatch& watch)
 {
+    auto printed = printedBy(emulator, arguments, mayFail, watch);
+    if (!printed || watch.stop.stop_requested())
+        return printed;
     const QString path = printedPath(name);
     QDir().mkpath(QFileInfo(path).path());
-    return writeAtomically(path, std::array{text});
+    if (const auto written = writeAtomically(path, *printed); !written)
+        return std::unexpected(written.error());
+    return printed;
 }
 
 } // namespace tessera

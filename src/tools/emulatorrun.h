@@ -32,7 +32,9 @@ std::expected<std::string, Failure> printedBy(const QString& emulator, const QSt
 /// Where what an emulator printed is kept, for the tools that read it from a file: a name in our cache.
 QString printedPath(const QString& name);
 
-/// Keeps it there.
-std::expected<void, Failure> keepPrinted(const QString& name, std::string_view text);
+/// The same as printedBy(), and what came is kept there under `name`, unless somebody asked to stop.
+std::expected<std::string, Failure> keptPrintedBy(const QString& emulator, const QStringList& arguments,
+                                                  bool mayFail, const QString& name,
+                                                  const EmulatorRunWatch& watch = {});
 
 } // namespace tessera

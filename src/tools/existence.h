@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/failure.h"
-#include "tools/listedsets.h"
+#include "tools/printedtext.h"
 
 #include <QLatin1StringView>
 

@@ -105,8 +105,7 @@ QString scriptFileName(int choice, ScriptFormat format, const ScriptTitles& titl
 
 std::expected<void, Failure> saveScript(const QString& path, ScriptFormat format, const QString& text)
 {
-    const std::string bytes = text.toStdString();
-    if (const auto written = writeAtomically(path, std::array{std::string_view(bytes)}); !written)
+    if (const auto written = writeAtomically(path, text.toUtf8()); !written)
         return written;
     // A shell script stays as it was written: deliberate.
     if (format != ScriptFormat::CommandFile)

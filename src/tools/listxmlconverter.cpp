@@ -2,7 +2,7 @@
 
 #include "catalogue/storelayout.h"
 #include "catalogue/xmltext.h"
-#include "tools/copiedtext.h"
+#include "core/encodings.h"
 #include "tools/machinefields.h"
 #include "tools/titletable.h"
 
@@ -17,6 +17,7 @@ namespace {
 constexpr std::size_t longestLag = 4096;
 
 constexpr std::string_view unknown = "????";
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
 constexpr std::size_t lastBytesKept = 256;
 constexpr std::size_t longestName = 100; // in a message
 
@@ -35,6 +36,29 @@ std::string_view nameIn(std::string_view element)
     const std::string_view rest = element.substr(at + attribute.size(), longestName);
     // Behind the text stands the scanner's padding of line feeds.
     return rest.substr(0, rest.find_first_of("\"\n"));
+}
+
+// What is copied into a store as it stands. Deliberate: bytes that are not UTF-8, and characters that XML
+// cannot hold, become U+FFFD, or the store could not be read back. Nothing is escaped. Gives `bytes` itself
+// where nothing had to be replaced, else a view of `room`.
+std::string_view copiedText(std::string_view bytes, std::string& room)
+{
+    if (xmlTextLength(bytes) == bytes.size())
+        return bytes;
+    std::string wellFormed;
+    appendUtf8(wellFormed, bytes);
+    room.clear();
+    for (std::string_view rest = wellFormed; !rest.empty();) {
+        const std::size_t good = xmlTextLength(rest);
+        room += rest.substr(0, good);
+        rest.remove_prefix(good);
+        if (rest.empty())
+            break;
+        room += replacement;
+        // A control character, or one of U+FFFE and U+FFFF.
+        rest.remove_prefix(static_cast<unsigned char>(rest.front()) < 0x80 ? 1 : 3);
+    }
+    return room;
 }
 
 } // namespace

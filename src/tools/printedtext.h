@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/namelist.h"
 #include "core/failure.h"
 
 #include <expected>
@@ -22,5 +23,22 @@ std::string_view withoutIndent(std::string_view text);
 /// The first word of every line that has one, in order: up to the first blank, white space before it skipped.
 /// Views of `text`.
 std::vector<std::string_view> firstWords(std::string_view text);
+
+/// The set names of what an emulator prints for -listfull, in its order; with the first word of its header,
+/// which is not told apart.
+class ListedSets : public NameList
+{
+public:
+    ListedSets() = default;
+    explicit ListedSets(std::string_view printed);
+    static std::expected<ListedSets, Failure> read(const QString& listfull);
+
+    // The names that were handed out stay where they are.
+    ListedSets(ListedSets&&) = default;
+    ListedSets& operator=(ListedSets&&) = default;
+
+private:
+    void addWord(std::string_view word);
+};
 
 } // namespace tessera

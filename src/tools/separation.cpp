@@ -110,7 +110,7 @@ SeparationPlan Separation::plan(std::span<const std::string> names, const std::s
     return plan;
 }
 
-SeparationCounts Separation::run(std::span<const std::string> names, const CopyWatch& watch,
+SeparationCounts Separation::run(std::span<const std::string> names, const Watch& watch,
                                  const std::function<void(const SeparatedRow&)>& marked) const
 {
     SeparationCounts counts;

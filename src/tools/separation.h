@@ -2,7 +2,7 @@
 
 #include "catalogue/nameset.h"
 #include "tools/copyitem.h"
-#include "tools/listedsets.h"
+#include "tools/printedtext.h"
 
 #include <QLatin1StringView>
 #include <QString>
@@ -88,7 +88,7 @@ public:
 
     SeparationPlan plan(std::span<const std::string> names, const std::stop_token& stop) const;
     /// In the order of `names`; `marked` is told of each.
-    SeparationCounts run(std::span<const std::string> names, const CopyWatch& watch,
+    SeparationCounts run(std::span<const std::string> names, const Watch& watch,
                          const std::function<void(const SeparatedRow&)>& marked) const;
     /// One file or folder.
     SeparatedRow copy(const std::string& name) const;

@@ -1,6 +1,7 @@
 #include "tools/storetext.h"
 
 #include "catalogue/storelayout.h"
+#include "core/atomicfile.h"
 
 #include <algorithm>
 #include <charconv>
@@ -181,7 +182,9 @@ void StoreText::write(const ContentSink& sink) const
 
 std::expected<void, Failure> StoreText::save(const QString& path) const
 {
-    return writeAtomically(path, [this](const ContentSink& sink) { write(sink); });
+    AtomicFile file(path);
+    write([&](std::string_view piece) { return file.write(piece); });
+    return file.commit();
 }
 
 std::string StoreText::joined() const

@@ -1,16 +1,21 @@
 #pragma once
 
 #include "catalogue/gamerecord.h"
-#include "core/atomicfile.h"
+#include "core/failure.h"
 
 #include <array>
 #include <cstdint>
+#include <expected>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace tessera {
+
+/// Takes the next piece of a text; false where no more is wanted.
+using ContentSink = std::function<bool(std::string_view)>;
 
 /// A store's text. Only the values are held: four fifths of the text is markup, which is made while it is
 /// written.

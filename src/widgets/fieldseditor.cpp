@@ -2,6 +2,7 @@
 
 #include "core/message.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -17,10 +18,9 @@ FieldsEditor::FieldsEditor(const std::array<const char*, 4>& names, QWidget* par
     , previousButton(button(names[1], textKey("editor_previous")))
     , nextButton(button(names[2], textKey("editor_next")))
     , closeButton(button(names[3], textKey("editor_close")))
-    , m_heading(new QLabel)
+    , m_heading(withRole("heading", new QLabel))
     , m_form(new QFormLayout)
 {
-    m_heading->setProperty("role", QStringLiteral("heading"));
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setWordWrap(true);
     m_form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -43,16 +43,14 @@ FieldsEditor::~FieldsEditor()
 
 QPushButton* FieldsEditor::button(const char* name, const char* textKey)
 {
-    auto* made = new QPushButton(qtTrId(textKey));
-    made->setObjectName(QLatin1String(name));
+    auto* made = named(name, new QPushButton(qtTrId(textKey)));
     made->setAutoDefault(false);
     return made;
 }
 
 QLineEdit* FieldsEditor::addField(const char* name, const char* labelKey, QLineEdit* edit)
 {
-    edit->setObjectName(QLatin1String(name));
-    edit->setAccessibleName(qtTrId(labelKey));
+    named(name, edit, qtTrId(labelKey));
     m_form->addRow(qtTrId(labelKey), edit);
     const auto field = static_cast<int>(m_rows.size());
     m_rows.push_back({edit, QString()});

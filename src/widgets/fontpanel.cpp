@@ -1,6 +1,7 @@
 #include "widgets/fontpanel.h"
 
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -26,10 +27,7 @@ constexpr int largestSize = 96;
 
 QListView* makeList(const char* name, const QString& accessibleName, QWidget* parent)
 {
-    auto* list = new QListView(parent);
-    list->setObjectName(QLatin1String(name));
-    list->setProperty("role", QStringLiteral("choice"));
-    list->setAccessibleName(accessibleName);
+    auto* list = named(name, withRole("choice", new QListView(parent)), accessibleName);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setUniformItemSizes(true);
     return list;
@@ -73,21 +71,17 @@ void showRow(QListView& list, const QStringListModel& texts, const QString& text
 
 FontPanel::FontPanel(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , filterField(new QLineEdit(this))
+    , filterField(named("filterField", new QLineEdit(this), qtTrId("fontpanel_filter")))
     , familyList(makeList("familyList", qtTrId("fontpanel_families"), this))
     , styleList(makeList("styleList", qtTrId("fontpanel_styles"), this))
-    , sizeField(new QSpinBox(this))
+    , sizeField(named("sizeField", new QSpinBox(this), qtTrId("fontpanel_size")))
     , sampleLabel(new QLabel(qtTrId("fontpanel_sample"), this))
     , m_allFamilies(familiesToShow())
 {
     setObjectName(QStringLiteral("fontPanel"));
     setWindowTitle(qtTrId("fontpanel_title"));
-    filterField->setObjectName(QStringLiteral("filterField"));
     filterField->setPlaceholderText(qtTrId("fontpanel_filter"));
-    filterField->setAccessibleName(qtTrId("fontpanel_filter"));
     filterField->installEventFilter(this);
-    sizeField->setObjectName(QStringLiteral("sizeField"));
-    sizeField->setAccessibleName(qtTrId("fontpanel_size"));
     sizeField->setRange(smallestSize, largestSize);
     familyList->setModel(&m_families);
     styleList->setModel(&m_styles);
@@ -106,8 +100,7 @@ FontPanel::FontPanel(QWidget* parent)
 
 void FontPanel::layOut()
 {
-    sampleLabel->setObjectName(QStringLiteral("sampleLabel"));
-    sampleLabel->setProperty("role", QStringLiteral("picture"));
+    named("sampleLabel", withRole("picture", sampleLabel));
     sampleLabel->setAlignment(Qt::AlignCenter);
     sampleLabel->setFixedHeight(sampleHeight);
     sampleLabel->setMinimumWidth(1);

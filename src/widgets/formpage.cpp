@@ -1,13 +1,13 @@
 #include "widgets/formpage.h"
 
-#include "widgets/mnemonic.h"
+#include "widgets/named.h"
 
 #include <QAbstractButton>
 #include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace tessera {
 
@@ -36,20 +36,21 @@ FormPage::FormPage(QWidget* parent)
     m_grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, fillColumn);
 }
 
+QString FormPage::withoutMnemonic(QString label)
+{
+    static const QRegularExpression appended(QStringLiteral("\\(&.\\)"));
+    return label.remove(appended).remove(QLatin1Char('&'));
+}
+
 QLineEdit* FormPage::makeField(const char* objectName, const QString& name)
 {
-    auto* field = new QLineEdit;
-    field->setObjectName(QLatin1String(objectName));
-    field->setAccessibleName(withoutMnemonic(name));
-    return field;
+    return named(objectName, new QLineEdit, withoutMnemonic(name));
 }
 
 void FormPage::addHeading(const QString& title, const QString& explanation)
 {
-    auto* heading = new QLabel(title, this);
-    heading->setProperty("role", QStringLiteral("heading"));
-    auto* text = new QLabel(explanation, this);
-    text->setProperty("role", QStringLiteral("dim"));
+    auto* heading = withRole("heading", new QLabel(title, this));
+    auto* text = withRole("dim", new QLabel(explanation, this));
     text->setWordWrap(true);
     m_grid->addWidget(heading, m_row++, labelColumn, 1, allColumns);
     m_grid->addWidget(text, m_row++, labelColumn, 1, allColumns);
@@ -58,8 +59,7 @@ void FormPage::addHeading(const QString& title, const QString& explanation)
 
 QLabel* FormPage::addRow(const QString& label, QWidget* control)
 {
-    auto* name = new QLabel(label, this);
-    name->setProperty("role", QStringLiteral("dim"));
+    auto* name = withRole("dim", new QLabel(label, this));
     name->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     name->setBuddy(control);
     // A box is heard as it reads: the label may stand for the row's other boxes too.
@@ -76,9 +76,7 @@ QLabel* FormPage::addRow(const QString& label, QWidget* control)
 QLabel* FormPage::addRow(const QString& label, const QList<QWidget*>& controls)
 {
     auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(16);
+    auto* layout = edgeToEdge(row, 16);
     for (QWidget* control : controls)
         layout->addWidget(control);
     layout->addStretch();
@@ -90,8 +88,7 @@ QLabel* FormPage::addRow(const QString& label, const QList<QWidget*>& controls)
 
 QLabel* FormPage::addNote(const QString& text)
 {
-    auto* note = new QLabel(text, this);
-    note->setProperty("role", QStringLiteral("dim"));
+    auto* note = withRole("dim", new QLabel(text, this));
     note->setWordWrap(true);
     m_grid->addWidget(note, m_row++, controlColumn);
     return note;
@@ -105,9 +102,8 @@ void FormPage::addWide(QWidget* widget, int stretch)
 
 void FormPage::addLine()
 {
-    auto* line = new QFrame(this);
+    auto* line = withRole("line", new QFrame(this));
     line->setFrameShape(QFrame::HLine);
-    line->setProperty("role", QStringLiteral("line"));
     m_grid->addWidget(line, m_row++, labelColumn, 1, allColumns);
 }
 

@@ -17,6 +17,8 @@ class FormPage : public QWidget
 public:
     explicit FormPage(QWidget* parent = nullptr);
 
+    /// A label as it is heard: without the mark of its key, in "&Year" and in "年(&Y)" alike.
+    static QString withoutMnemonic(QString label);
     /// A field for a row; `name` is its accessible one.
     static QLineEdit* makeField(const char* objectName, const QString& name);
 

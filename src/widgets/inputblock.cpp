@@ -55,11 +55,6 @@ InputBlock::InputBlock(const QList<QPointer<QObject>>& open)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-InputBlock::~InputBlock()
-{
-    QCoreApplication::instance()->removeEventFilter(this);
-}
-
 bool InputBlock::eventFilter(QObject* receiver, QEvent* event)
 {
     if (!isRefused(*receiver, *event) || QApplication::activeModalWidget() || m_open.contains(receiver))

@@ -14,7 +14,6 @@ class InputBlock : public QObject
 public:
     /// Widgets, and actions of menus for the sake of their keys.
     explicit InputBlock(const QList<QPointer<QObject>>& open);
-    ~InputBlock() override;
 
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override;

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QMenuBar>
 
 #include <deque>
 
@@ -24,7 +23,9 @@ QString shownTitle(const QAction& item)
     return title;
 }
 
-QAction* search(const QString& title, const QWidget* start)
+} // namespace
+
+QAction* findMenuItemNamed(const QString& title, const QWidget* start)
 {
     std::deque<const QWidget*> queue;
     if (start != nullptr)
@@ -42,18 +43,6 @@ QAction* search(const QString& title, const QWidget* start)
         }
     }
     return nullptr;
-}
-
-} // namespace
-
-QAction* findMenuItemNamed(const QString& title, const QMenu* start)
-{
-    return search(title, start);
-}
-
-QAction* findMenuItemNamed(const QString& title, const QMenuBar* start)
-{
-    return search(title, start);
 }
 
 } // namespace tessera

@@ -1,8 +1,8 @@
 #include "widgets/pathfield.h"
 
+#include "widgets/named.h"
 #include "widgets/theme.h"
 
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
@@ -23,9 +23,7 @@ PathField::PathField(const QString& name, const QString& chooseLabel, const QStr
     m_reveal->setAccessibleName(revealLabel + QStringLiteral(": ") + name);
     setFocusProxy(m_field);
 
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    auto* layout = edgeToEdge(this, 8);
     layout->addWidget(m_field, 1);
     layout->addWidget(m_choose);
     layout->addWidget(m_reveal);

@@ -1,6 +1,7 @@
 #include "widgets/rounded_view2.h"
 
 #include "core/message.h"
+#include "widgets/named.h"
 #include "widgets/theme.h"
 
 #include <QPainter>
@@ -35,15 +36,12 @@ void Rounded_View2::setDefaults()
 QToolButton* Rounded_View2::makeButton(const char* image, int x, const QString& name,
                                        const QKeySequence& keys)
 {
-    auto* made = new QToolButton(this);
-    made->setObjectName(QLatin1String(image));
-    made->setProperty("role", QStringLiteral("knob"));
+    auto* made = named(image, withRole("knob", new QToolButton(this)), name);
     made->setIcon(theme::mark(QLatin1String(image)));
     made->setGeometry(x, buttonTop, buttonSize, buttonSize);
     made->setIconSize(made->size());
     made->setToolTip(name + QStringLiteral(" (") + keys.toString(QKeySequence::NativeText)
                      + QLatin1Char(')'));
-    made->setAccessibleName(name);
     made->setShortcut(keys);
     made->setAutoRaise(true);
     return made;

@@ -1,5 +1,6 @@
 #include "widgets/toolbar.h"
 
+#include "widgets/named.h"
 #include "widgets/theme.h"
 
 #include <QBoxLayout>
@@ -25,9 +26,7 @@ Toolbar::Toolbar(QWidget& preferencesWindow, QStackedWidget& preferencesTab)
 
 void Toolbar::awakeFromNib()
 {
-    auto* bar = new QWidget(&m_preferencesWindow);
-    bar->setObjectName(QStringLiteral("ToolbarForTabView"));
-    bar->setProperty("role", QStringLiteral("toolbar"));
+    auto* bar = named("ToolbarForTabView", withRole("toolbar", new QWidget(&m_preferencesWindow)));
     bar->setAttribute(Qt::WA_StyledBackground);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(12, 8, 12, 8);
@@ -48,17 +47,14 @@ void Toolbar::awakeFromNib()
 
 QToolButton* Toolbar::makeItem(const Item& item)
 {
-    auto* button = new QToolButton;
-    const QString identifier = QLatin1String(item.identifier);
-    button->setObjectName(identifier);
-    button->setProperty("role", QStringLiteral("page"));
+    auto* button = named(item.identifier, withRole("page", new QToolButton));
     button->setText(qtTrId(item.identifier));
     button->setIcon(theme::icon(QLatin1String(item.image)));
     button->setIconSize(QSize(iconSize, iconSize));
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setCheckable(true);
     button->setFocusPolicy(Qt::StrongFocus);
-    connect(button, &QToolButton::clicked, this, [this, identifier] { _showTab(identifier); });
+    connect(button, &QToolButton::clicked, this, [this, button] { _showTab(button->objectName()); });
     return button;
 }
 

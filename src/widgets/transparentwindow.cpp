@@ -26,7 +26,7 @@ double screenBottom()
 
 Place onScreen(const QMouseEvent& event)
 {
-    return turnedOver(Place{event.globalPosition().x(), event.globalPosition().y()}, screenBottom());
+    return turnedOver(event.globalPosition(), screenBottom());
 }
 
 // The main one; the desktop's own panel at its upper edge counts as the menu bar.
@@ -34,9 +34,7 @@ Screen mainScreen()
 {
     const QRect all = QGuiApplication::primaryScreen()->geometry();
     const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
-    return {{static_cast<double>(all.x()), 0, static_cast<double>(all.width()),
-             static_cast<double>(all.height())},
-            static_cast<double>(free.y() - all.y())};
+    return {QRectF(all.x(), 0, all.width(), all.height()), static_cast<double>(free.y() - all.y())};
 }
 
 int sizeOr(double size, int other)
@@ -60,16 +58,13 @@ TransparentWindow::TransparentWindow(QWidget* parent)
 
 Frame TransparentWindow::frame() const
 {
-    const QRect panel = geometry().adjusted(shadowWidth, shadowWidth, -shadowWidth, -shadowWidth);
-    return turnedOver(Frame{static_cast<double>(panel.x()), static_cast<double>(panel.y()),
-                            static_cast<double>(panel.width()), static_cast<double>(panel.height())},
+    return turnedOver(QRectF(geometry().adjusted(shadowWidth, shadowWidth, -shadowWidth, -shadowWidth)),
                       screenBottom());
 }
 
 void TransparentWindow::setFrame(const Frame& frame)
 {
-    const Frame turned = turnedOver(frame, screenBottom());
-    setGeometry(QRectF(turned.x, turned.y, turned.width, turned.height)
+    setGeometry(turnedOver(frame, screenBottom())
                     .toRect()
                     .adjusted(-shadowWidth, -shadowWidth, shadowWidth, shadowWidth));
 }
@@ -116,10 +111,8 @@ bool TransparentWindow::handOver()
 
 void TransparentWindow::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
-        QWidget::mousePressEvent(event);
-        return;
-    }
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
     m_startWindowFrame = frame();
     m_startLocation = onScreen(*event);
     m_initialLocation = inWindow(m_startWindowFrame, m_startLocation);

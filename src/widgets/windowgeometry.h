@@ -1,24 +1,13 @@
 #pragma once
 
+#include <QRectF>
+
 /// Places and frames of windows as plain numbers: the origin is at the bottom left and y grows upwards. A
 /// window turns them over at its own edge.
 namespace tessera {
 
-struct Place {
-    double x = 0;
-    double y = 0;
-
-    bool operator==(const Place&) const = default;
-};
-
-struct Frame {
-    double x = 0;
-    double y = 0;
-    double width = 0;
-    double height = 0;
-
-    bool operator==(const Frame&) const = default;
-};
+using Place = QPointF;
+using Frame = QRectF;
 
 /// Of a window; what is not positive is no limit.
 struct SizeLimits {

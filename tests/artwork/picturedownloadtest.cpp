@@ -469,9 +469,10 @@ private:
 
     void make(DownloadLimits limits)
     {
-        m_download = std::make_unique<PictureDownload>(
-            [this](const QString& file) { return m_mayReplace(file); }, limits);
+        m_download = std::make_unique<PictureDownload>(limits);
         const PictureDownload* download = m_download.get();
+        connect(download, &PictureDownload::asked, this,
+                [this](const QString& file, bool& mayReplace) { mayReplace = m_mayReplace(file); });
         connect(download, &PictureDownload::began, this, [this] { m_said << QStringLiteral("began"); });
         connect(download, &PictureDownload::answered, this,
                 [this](double expected) { m_said << QStringLiteral("answered %1").arg(expected); });

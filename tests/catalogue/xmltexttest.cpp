@@ -1,4 +1,4 @@
-#include "core/xmldeclaration.h"
+#include "core/xmlencoding.h"
 #include "catalogue/xmltext.h"
 
 #include "support/testmain.h"

@@ -1,4 +1,4 @@
-#include "core/filestate.h"
+#include "core/keptfile.h"
 
 #include "support/testmain.h"
 

@@ -1,4 +1,4 @@
-#include "info/shiftjis.h"
+#include "info/textencoding.h"
 
 #include "support/testmain.h"
 
@@ -40,7 +40,8 @@ private Q_SLOTS:
             if (low == 0x1A || low == 0x1C || low == 0x7F)
                 continue;
             const std::string bytes{static_cast<char>(pair >> 8), static_cast<char>(low)};
-            QVERIFY2(strictShiftJis(bytes) == byIcu(bytes), qPrintable(QString::number(pair, 16)));
+            QVERIFY2(decodedAs(TextEncoding::ShiftJis, bytes) == byIcu(bytes),
+                     qPrintable(QString::number(pair, 16)));
         }
     }
 
@@ -49,9 +50,10 @@ private Q_SLOTS:
         for (int byte = 0; byte < 256; ++byte) {
             const std::string bytes(1, static_cast<char>(byte));
             if (byte < 0x80)
-                QVERIFY(strictShiftJis(bytes) == bytes);
+                QVERIFY(decodedAs(TextEncoding::ShiftJis, bytes) == bytes);
             else
-                QVERIFY2(strictShiftJis(bytes) == byIcu(bytes), qPrintable(QString::number(byte, 16)));
+                QVERIFY2(decodedAs(TextEncoding::ShiftJis, bytes) == byIcu(bytes),
+                         qPrintable(QString::number(byte, 16)));
         }
     }
 
@@ -65,13 +67,13 @@ private Q_SLOTS:
             std::string bytes;
             for (int i = 0; i < 50'000; ++i)
                 bytes += characters[random.bounded(static_cast<quint32>(characters.size()))];
-            QVERIFY(strictShiftJis(bytes) == byIcu(bytes));
+            QVERIFY(decodedAs(TextEncoding::ShiftJis, bytes) == byIcu(bytes));
             bytes += '\x83';
-            QVERIFY(!strictShiftJis(bytes));
+            QVERIFY(!decodedAs(TextEncoding::ShiftJis, bytes));
         }
     }
 
-    void nothingIsNothing() { QVERIFY(strictShiftJis("") == std::string()); }
+    void nothingIsNothing() { QVERIFY(decodedAs(TextEncoding::ShiftJis, "") == std::string()); }
 };
 
 TESSERA_TEST(ShiftJisTest);

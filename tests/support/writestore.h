@@ -8,8 +8,7 @@ namespace tessera {
 /// A store file of these records, whatever stood at the path.
 inline std::expected<void, Failure> writeStore(const QString& path, std::span<const GameRecord> records)
 {
-    const std::string text = storeText(records);
-    return writeAtomically(path, std::array{std::string_view(text)});
+    return writeAtomically(path, storeText(records));
 }
 
 } // namespace tessera

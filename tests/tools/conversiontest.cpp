@@ -1,7 +1,6 @@
 #include "tools/conversion.h"
 
 #include "support/testmain.h"
-#include "tools/listxmlparts.h"
 #include "tools/titletable.h"
 
 #include <QFile>

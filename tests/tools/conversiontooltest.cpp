@@ -61,7 +61,7 @@ private Q_SLOTS:
             list.write("<machine name=\"m" + QByteArray::number(i) + "\" ></machine>\n");
         list.close();
         std::atomic<std::int64_t> all = 0;
-        const ConversionWatch watch{{}, [&](std::int64_t more) { all += more; }};
+        const Watch watch{{}, [&](std::int64_t more) { all += more; }};
         QVERIFY(convertFile(list.fileName(), TitleTable(), {}, watch, 1));
         QCOMPARE(all.load(), QFileInfo(list).size());
     }
@@ -76,10 +76,10 @@ private Q_SLOTS:
         list.close();
         std::stop_source stop;
         std::int64_t all = 0;
-        const ConversionWatch watch{stop.get_token(), [&](std::int64_t more) {
-                                        all += more;
-                                        stop.request_stop();
-                                    }};
+        const Watch watch{stop.get_token(), [&](std::int64_t more) {
+                              all += more;
+                              stop.request_stop();
+                          }};
         (void)convertFile(list.fileName(), TitleTable(), {}, watch, 1);
         QVERIFY(all > 0 && all < QFileInfo(list).size());
     }

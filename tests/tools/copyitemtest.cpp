@@ -44,7 +44,7 @@ private:
 };
 
 std::expected<void, Failure> copyItem(const std::string& from, const std::string& name,
-                                      const std::string& into, const CopyWatch& watch)
+                                      const std::string& into, const Watch& watch)
 {
     return ItemCopier(from, into, watch).copy(name);
 }
@@ -93,7 +93,7 @@ private Q_SLOTS:
             bytes[i] = static_cast<char>(i);
         write(m_from + "/a", bytes);
         std::int64_t copied = 0;
-        const CopyWatch watch{{}, [&](std::int64_t more) { copied += more; }};
+        const Watch watch{{}, [&](std::int64_t more) { copied += more; }};
         QVERIFY(copyItem(m_from, "a", m_to, watch).has_value());
         QVERIFY(read(m_to + "/a") == bytes);
         QCOMPARE(copied, size);
@@ -169,7 +169,7 @@ private Q_SLOTS:
     void whatTakesTheNameMeanwhileStays()
     {
         write(m_from + "/a.zip", "new");
-        const CopyWatch watch{{}, [&](std::int64_t) { write(m_to + "/a.zip", "old"); }};
+        const Watch watch{{}, [&](std::int64_t) { write(m_to + "/a.zip", "old"); }};
         expectFailure(copyItem(m_from, "a.zip", m_to, watch), "copy_exists", m_to + "/a.zip");
         QCOMPARE(read(m_to + "/a.zip"), "old");
         QCOMPARE(names(m_to), {"a.zip"});
@@ -307,8 +307,7 @@ private Q_SLOTS:
         makeFolder(m_from + "/set");
         write(m_from + "/set/a", "a");
         write(m_from + "/set/b", "b");
-        const CopyWatch watch{{},
-                              [&](std::int64_t) { QDir(QString::fromStdString(m_to)).removeRecursively(); }};
+        const Watch watch{{}, [&](std::int64_t) { QDir(QString::fromStdString(m_to)).removeRecursively(); }};
         QCOMPARE(copyItem(m_from, "set", m_to, watch).error().key, "failure_write");
         QVERIFY(!QFileInfo::exists(QString::fromStdString(m_to)));
         QCOMPARE(read(m_from + "/set/a"), "a");
@@ -322,7 +321,7 @@ private Q_SLOTS:
         openToAll();
         const test::OrdinaryUser user;
         QVERIFY(user.holds());
-        const CopyWatch watch{{}, [&](std::int64_t) { ::chmod(m_to.c_str(), 0555); }};
+        const Watch watch{{}, [&](std::int64_t) { ::chmod(m_to.c_str(), 0555); }};
         for (const char* name : {"set", "b"}) {
             ::chmod(m_to.c_str(), 0755);
             const auto copied = copyItem(m_from, name, m_to, watch);
@@ -339,7 +338,7 @@ private Q_SLOTS:
         if (!disk.isThere())
             QSKIP("no file system may be mounted here");
         write(m_from + "/a", "a");
-        const CopyWatch watch{{}, [&](std::int64_t) { disk.takeAway(); }};
+        const Watch watch{{}, [&](std::int64_t) { disk.takeAway(); }};
         QCOMPARE(copyItem(m_from, "a", m_to, watch).error().key, "failure_write");
         // What is beneath the place where it was stays as it is.
         QCOMPARE(names(m_to), QStringList());
@@ -351,7 +350,7 @@ private Q_SLOTS:
             write(m_from + '/' + name, name);
         write(m_to + "/b", "old");
         QStringList meanwhile;
-        const CopyWatch watch{{}, [&](std::int64_t) { meanwhile << names(m_to).filter(".tessera-"); }};
+        const Watch watch{{}, [&](std::int64_t) { meanwhile << names(m_to).filter(".tessera-"); }};
         {
             ItemCopier copier(m_from, m_to, watch);
             QVERIFY(copier.copy("a").has_value());
@@ -392,7 +391,7 @@ private Q_SLOTS:
     {
         write(m_from + "/large", QByteArray(20 << 20, 'x'));
         std::stop_source stop;
-        const CopyWatch watch{stop.get_token(), [&](std::int64_t) { stop.request_stop(); }};
+        const Watch watch{stop.get_token(), [&](std::int64_t) { stop.request_stop(); }};
         const auto copied = copyItem(m_from, "large", m_to, watch);
         QVERIFY(!copied.has_value());
         QCOMPARE(copied.error().key, copyCancelled);

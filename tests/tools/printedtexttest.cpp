@@ -1,4 +1,3 @@
-#include "tools/listedsets.h"
 #include "tools/printedtext.h"
 
 #include "core/encodings.h"

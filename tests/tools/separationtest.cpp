@@ -293,7 +293,7 @@ private Q_SLOTS:
         std::stop_source stop;
         std::vector<SeparatedRow> rows;
         const Separation separation(roms(), aside(), {});
-        const CopyWatch watch{stop.get_token(), {}};
+        const Watch watch{stop.get_token(), {}};
         auto counts
             = separation.run(std::vector<std::string>{"a.zip", "b.zip"}, watch, [&](const SeparatedRow& row) {
                   rows.push_back(row);

@@ -14,7 +14,7 @@ private Q_SLOTS:
     {
         QWidget window;
         int runs = 0;
-        afterFirstPaint(window, [&] { ++runs; });
+        connect(new FirstPaint(window), &FirstPaint::passed, this, [&] { ++runs; });
         QCoreApplication::processEvents();
         QCOMPARE(runs, 0);
         window.show();
@@ -30,7 +30,7 @@ private Q_SLOTS:
         int runs = 0;
         {
             QWidget window;
-            afterFirstPaint(window, [&] { ++runs; });
+            connect(new FirstPaint(window), &FirstPaint::passed, this, [&] { ++runs; });
             window.show();
             window.repaint();
         }

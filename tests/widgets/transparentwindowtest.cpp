@@ -16,7 +16,7 @@ namespace {
 
 QString line(const Frame& frame)
 {
-    return QStringLiteral("%1,%2 %3x%4").arg(frame.x).arg(frame.y).arg(frame.width).arg(frame.height);
+    return QStringLiteral("%1,%2 %3x%4").arg(frame.x()).arg(frame.y()).arg(frame.width()).arg(frame.height());
 }
 
 double screenHeight()
@@ -41,7 +41,7 @@ private:
     void send(QEvent::Type type, Place place, Qt::MouseButton button)
     {
         const Place turned = turnedOver(place, screenHeight());
-        const QPointF global(turned.x, turned.y);
+        const QPointF global(turned.x(), turned.y());
         QMouseEvent event(type, m_window.mapFromGlobal(global), global, button,
                           type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&m_window, &event);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         hand.press({250, 250});
         hand.move({250, 5000});
         const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
-        QCOMPARE(m_window->frame().y + m_window->frame().height, screenHeight() - available.y());
+        QCOMPARE(m_window->frame().y() + m_window->frame().height(), screenHeight() - available.y());
         hand.release({250, 5000});
     }
 

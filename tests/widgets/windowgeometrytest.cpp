@@ -9,7 +9,7 @@ namespace {
 // As a failed comparison can show it.
 QString line(const Frame& frame)
 {
-    return QStringLiteral("%1,%2 %3x%4").arg(frame.x).arg(frame.y).arg(frame.width).arg(frame.height);
+    return QStringLiteral("%1,%2 %3x%4").arg(frame.x()).arg(frame.y()).arg(frame.width()).arg(frame.height());
 }
 
 } // namespace
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QFETCH(double, fromBottom);
         QFETCH(bool, resizes);
         const Frame window{100, 50, 300, 200};
-        const Place mouse{window.x + window.width - fromRight, window.y + fromBottom};
+        const Place mouse{window.x() + window.width() - fromRight, window.y() + fromBottom};
         QCOMPARE(holds(resizeGrip(window), inWindow(window, mouse)), resizes);
     }
 
@@ -126,8 +126,8 @@ private Q_SLOTS:
     {
         // 0.1 is no number of either precision; the nearer one of the two is not taken.
         const Frame frame = resizedFrame({0, 0, 100, 100}, {}, {0.1, 0}, {});
-        QCOMPARE(frame.width, 100.0 + static_cast<double>(0.1F));
-        QVERIFY(frame.width != 100.0 + 0.1);
+        QCOMPARE(frame.width(), 100.0 + static_cast<double>(0.1F));
+        QVERIFY(frame.width() != 100.0 + 0.1);
     }
 
     void turningOverTwiceChangesNothing()

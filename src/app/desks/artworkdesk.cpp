@@ -202,8 +202,8 @@ SnapSites& ArtworkDesk::sites()
 DownloadProcessing& ArtworkDesk::download()
 {
     if (!m_download) {
-        m_download = std::make_unique<DownloadProcessing>(
-            m_parts.desktop, m_folder, sites(), [this]() -> DownloadPanel& { return downloadPanel(); });
+        m_download = std::make_unique<DownloadProcessing>(m_parts.desktop, m_folder, sites());
+        connect(m_download.get(), &DownloadProcessing::panelMade, this, &ArtworkDesk::takePanel);
         connect(m_download.get(), &DownloadProcessing::SnapChange, this, &ArtworkDesk::snap_change);
         connect(m_download.get(), &DownloadProcessing::statusMessage, &m_parts.status, &StatusLine::answer);
         connect(m_download.get(), &DownloadProcessing::began, this, &ArtworkDesk::showDownload);
@@ -214,19 +214,13 @@ DownloadProcessing& ArtworkDesk::download()
 // The list stays key: the next game is chosen while this one's picture comes.
 void ArtworkDesk::showDownload()
 {
-    showBesides(downloadPanel());
+    showBesides(m_download->panel());
 }
 
-DownloadPanel& ArtworkDesk::downloadPanel()
+void ArtworkDesk::takePanel(DownloadPanel& panel)
 {
-    if (!m_downloadPanel) {
-        m_downloadPanel = std::make_unique<DownloadPanel>();
-        connect(m_downloadPanel->cancelButton, &QPushButton::clicked, m_download.get(),
-                &DownloadProcessing::cancel);
-        m_parts.windows.carryMenuKeys(*m_downloadPanel);
-        m_parts.windows.places().keep(*m_downloadPanel, keys::DownloadPanelGeometry);
-    }
-    return *m_downloadPanel;
+    m_parts.windows.carryMenuKeys(panel);
+    m_parts.windows.places().keep(panel, keys::DownloadPanelGeometry);
 }
 
 void ArtworkDesk::addPage()

@@ -98,7 +98,7 @@ private:
     void pathChosen(const QString& key);
     void fillKinds(QMenu& menu);
     void fillFolders(QMenu& menu);
-    DownloadPanel& downloadPanel();
+    void takePanel(DownloadPanel& panel);
     void showDownload();
     void showPictures();
 
@@ -112,7 +112,6 @@ private:
     QString m_previewName;
     std::unique_ptr<ImageWindow> m_imageWindow;
     std::unique_ptr<SnapSites> m_sites;
-    std::unique_ptr<DownloadPanel> m_downloadPanel;
     std::unique_ptr<DownloadProcessing> m_download;
     PicturesPage* m_page = nullptr; ///< of the preferences
 };

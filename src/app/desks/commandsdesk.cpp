@@ -120,8 +120,7 @@ void CommandsDesk::saveLauncher()
     const QByteArray entry
         = desktopEntry(title.isEmpty() ? game : title, QStringList{shown.executable} + shown.line.arguments,
                        QFileInfo(shown.executable).path(), m_parts.artwork.pictureFile());
-    const std::string_view bytes(entry.constData(), static_cast<std::size_t>(entry.size()));
-    if (const auto written = writeAtomically(*path, std::array{bytes}); !written)
+    if (const auto written = writeAtomically(*path, entry); !written)
         return m_parts.status.say(written.error().text());
     // Desktops start what may be executed.
     QFile file(*path);

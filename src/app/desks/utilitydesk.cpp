@@ -18,6 +18,7 @@
 #include "tools/ui/scriptpage.h"
 #include "tools/ui/utilityobject.h"
 #include "tools/ui/utilitywindow.h"
+#include "tools/ui/workbench.h"
 
 #include <QPushButton>
 
@@ -51,7 +52,7 @@ UtilityObject& UtilityDesk::utility()
 
 bool UtilityDesk::mayBeAbandoned()
 {
-    return !m_utility || m_utility->mayBeAbandoned();
+    return !m_utility || m_utility->workbench().mayBeAbandoned();
 }
 
 void UtilityDesk::utilityOrderFront()

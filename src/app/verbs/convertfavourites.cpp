@@ -51,7 +51,7 @@ std::expected<void, Failure> replace(const QString& favourites, const QList<Reco
             warn(kept.error());
     }
     QDir().mkpath(QFileInfo(favourites).path());
-    return writeAtomically(favourites, std::array{std::string_view(*text)});
+    return writeAtomically(favourites, *text);
 }
 
 } // namespace

@@ -29,8 +29,7 @@ int runExistence(const Verb& verb, const QStringList& arguments)
     if (!list)
         return failed(list.error());
     const std::string report = existenceReport(list->rows, list->found, list->notFound);
-    if (const auto written = writeAtomically(parser.value(output), std::array{std::string_view(report)});
-        !written)
+    if (const auto written = writeAtomically(parser.value(output), report); !written)
         return failed(written.error());
     print(existenceSummary(list->rows.size(), list->found, list->notFound));
     return Done;

@@ -59,8 +59,7 @@ int runVerify(const Verb& verb, const QStringList& arguments)
     if (!printed)
         return failed(printed.error());
     const std::string report = verificationReport(*printed, *chosen);
-    if (const auto written = writeAtomically(parser.value(output), std::array{std::string_view(report)});
-        !written)
+    if (const auto written = writeAtomically(parser.value(output), report); !written)
         return refuse(QString(verificationtexts::notWritten)
                           .arg(written.error().arguments[0], written.error().arguments[1]));
     print(verificationtexts::saved);

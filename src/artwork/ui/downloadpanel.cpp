@@ -1,8 +1,8 @@
 #include "artwork/ui/downloadpanel.h"
 
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -19,30 +19,23 @@ constexpr int whole = 100;
 
 DownloadPanel::DownloadPanel(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , progressInd2(new QProgressBar)
-    , infomationTextView(new QPlainTextEdit)
-    , cancelButton(new QPushButton(qtTrId("download_stop")))
-    , closeButton(new QPushButton(qtTrId("download_close")))
-    , folderLabel(new QLabel)
+    , progressInd2(named("progressInd2", new QProgressBar, qtTrId("download_progress")))
+    , infomationTextView(named("downloadTextView", new QPlainTextEdit, qtTrId("download_panel")))
+    , cancelButton(named("downloadCancelButton", new QPushButton(qtTrId("download_stop"))))
+    , closeButton(named("downloadCloseButton", new QPushButton(qtTrId("download_close"))))
+    , folderLabel(withRole("faint", new QLabel))
 {
     setObjectName(QStringLiteral("downloadPanel"));
     setWindowTitle(qtTrId("download_panel"));
-    setProperty("role", QStringLiteral("panel"));
+    withRole("panel", this);
     setAttribute(Qt::WA_StyledBackground);
-    progressInd2->setObjectName(QStringLiteral("progressInd2"));
-    progressInd2->setAccessibleName(qtTrId("download_progress"));
     progressInd2->setTextVisible(false);
     setIndeterminate(false);
-    infomationTextView->setObjectName(QStringLiteral("downloadTextView"));
-    infomationTextView->setAccessibleName(qtTrId("download_panel"));
     infomationTextView->setReadOnly(true);
     infomationTextView->setTabChangesFocus(true);
-    infomationTextView->setProperty("role", QStringLiteral("reading"));
+    withRole("reading", infomationTextView);
     folderLabel->setTextFormat(Qt::PlainText);
-    folderLabel->setProperty("role", QStringLiteral("faint"));
     folderLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    cancelButton->setObjectName(QStringLiteral("downloadCancelButton"));
-    closeButton->setObjectName(QStringLiteral("downloadCloseButton"));
     connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
 
     auto* foot = new QHBoxLayout;
@@ -51,9 +44,7 @@ DownloadPanel::DownloadPanel(QWidget* parent)
     foot->addWidget(folderLabel, 1);
     foot->addWidget(cancelButton);
     foot->addWidget(closeButton);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(12);
+    auto* layout = edgeToEdge<QVBoxLayout>(this, 12);
     layout->addWidget(infomationTextView, 1);
     auto* bar = new QHBoxLayout;
     bar->setContentsMargins(16, 0, 16, 0);

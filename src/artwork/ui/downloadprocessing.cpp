@@ -10,35 +10,45 @@
 
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 namespace tessera {
 
 DownloadProcessing::DownloadProcessing(Desktop& desktop, SnapFolder& folder, SnapSites& sites,
-                                       std::function<DownloadPanel&()> downloadPanel, DownloadLimits limits,
-                                       QObject* parent)
+                                       DownloadLimits limits, QObject* parent)
     : QObject(parent)
     , m_desktop(desktop)
     , m_folder(folder)
     , m_sites(sites)
-    , m_downloadPanel(std::move(downloadPanel))
-    , m_download([this](const QString&) { return mayReplace(); }, limits)
+    , m_download(limits)
 {
     connect(&m_download, &PictureDownload::began, this, &DownloadProcessing::begin);
     connect(&m_download, &PictureDownload::answered, this, &DownloadProcessing::takeAnswer);
     connect(&m_download, &PictureDownload::received, this, &DownloadProcessing::takeData);
+    connect(&m_download, &PictureDownload::asked, this, &DownloadProcessing::ask);
     connect(&m_download, &PictureDownload::finished, this, &DownloadProcessing::finish);
     connect(&m_download, &PictureDownload::cancelled, this, &DownloadProcessing::showCancelled);
     connect(&m_download, &PictureDownload::refused, this, &DownloadProcessing::refuse);
     connect(&m_download, &PictureDownload::failed, this, &DownloadProcessing::fail);
 }
 
+DownloadProcessing::~DownloadProcessing() = default;
+
+DownloadPanel& DownloadProcessing::panel()
+{
+    if (!m_panel) {
+        m_panel = std::make_unique<DownloadPanel>();
+        connect(m_panel->cancelButton, &QPushButton::clicked, this, &DownloadProcessing::cancel);
+        Q_EMIT panelMade(*m_panel);
+    }
+    return *m_panel;
+}
+
 // A name that is no plain file name would lie elsewhere.
 void DownloadProcessing::snapdownload_url(const QString& name)
 {
-    if (!isPlainFileName(name) || m_folder.snappath().isEmpty()) {
-        m_desktop.beep();
-        return;
-    }
+    if (!isPlainFileName(name) || m_folder.snappath().isEmpty())
+        return m_desktop.beep();
     if (const auto site = m_sites.siteWithoutHost()) {
         m_desktop.beep();
         Q_EMIT statusMessage(qtTrId("pictures_no_host").arg(*site));
@@ -49,10 +59,8 @@ void DownloadProcessing::snapdownload_url(const QString& name)
 
 void DownloadProcessing::download_process(const QUrl& url)
 {
-    if (m_downloadstate) {
-        m_desktop.beep();
-        return;
-    }
+    if (m_downloadstate)
+        return m_desktop.beep();
     m_download.start(url, m_folder.snappath());
 }
 
@@ -63,11 +71,10 @@ void DownloadProcessing::cancel()
 
 void DownloadProcessing::begin(const QUrl& url)
 {
-    DownloadPanel& panel = m_downloadPanel();
-    panel.setPercent(0);
-    panel.setIndeterminate(true);
-    panel.setRunning(true);
-    panel.folderLabel->setText(m_folder.snappath());
+    panel().setPercent(0);
+    panel().setIndeterminate(true);
+    panel().setRunning(true);
+    panel().folderLabel->setText(m_folder.snappath());
     m_downloadstate = true;
     showStatus(downloadtexts::requested(url));
     Q_EMIT began();
@@ -75,27 +82,23 @@ void DownloadProcessing::begin(const QUrl& url)
 
 void DownloadProcessing::takeAnswer(double expectedLength)
 {
-    m_downloadPanel().setIndeterminate(false);
-    m_lExLength = expectedLength;
+    panel().setIndeterminate(false);
     showStatus(downloadtexts::answered(expectedLength));
-    m_lDlLength = 0;
 }
 
-void DownloadProcessing::takeData(double length)
+void DownloadProcessing::takeData(double length, double expectedLength)
 {
-    m_lDlLength = length;
-    const auto text = downloadtexts::received(m_lDlLength, m_lExLength);
+    const auto text = downloadtexts::received(length, expectedLength);
     if (!text)
         return;
-    m_dlPercent = downloadPercent(m_lDlLength, m_lExLength).value_or(0);
-    m_downloadPanel().setPercent(m_dlPercent);
+    panel().setPercent(downloadPercent(length, expectedLength).value_or(0));
     showStatus(*text);
 }
 
-void DownloadProcessing::finish()
+void DownloadProcessing::finish(const QString&, double expectedLength)
 {
     Q_EMIT SnapChange(QStringLiteral("downloadDidFinish"));
-    showStatus(downloadtexts::finished(m_lExLength));
+    showStatus(downloadtexts::finished(expectedLength));
     m_desktop.playSound(QStringLiteral("Pop"));
     rest();
 }
@@ -103,7 +106,6 @@ void DownloadProcessing::finish()
 void DownloadProcessing::refuse()
 {
     m_desktop.beep();
-    m_lDlLength = 0;
     rest();
     showStatus(downloadtexts::notAnImage);
 }
@@ -118,31 +120,30 @@ void DownloadProcessing::showCancelled()
 void DownloadProcessing::fail(const QString& reason)
 {
     showStatus(downloadtexts::failed);
-    m_downloadPanel().setRunning(false);
+    panel().setRunning(false);
     m_desktop.beep();
     m_desktop.runAlert({qtTrId("download_Miss"), reason, {QStringLiteral("OK")}});
     rest();
     m_desktop.log(QStringLiteral("didFailWithError"));
 }
 
-bool DownloadProcessing::mayReplace()
+void DownloadProcessing::ask(const QString&, bool& mayReplace)
 {
     m_desktop.beep();
     Alert alert{qtTrId("download_Message"), qtTrId("download_info"), {qtTrId("overwrite"), qtTrId("cancel")}};
     alert.style = Alert::Style::Warning;
-    return m_desktop.runAlert(alert) == 0;
+    mayReplace = m_desktop.runAlert(alert) == 0;
 }
 
 void DownloadProcessing::showStatus(const QString& text)
 {
-    m_downloadPanel().infomationTextView->setPlainText(text);
+    panel().infomationTextView->setPlainText(text);
 }
 
 void DownloadProcessing::rest()
 {
-    DownloadPanel& panel = m_downloadPanel();
-    panel.setIndeterminate(false);
-    panel.setRunning(false);
+    panel().setIndeterminate(false);
+    panel().setRunning(false);
     m_downloadstate = false;
 }
 

@@ -4,8 +4,6 @@
 
 #include <QObject>
 
-#include <functional>
-
 namespace tessera {
 
 class Desktop;
@@ -19,13 +17,14 @@ class DownloadProcessing : public QObject
     Q_OBJECT
 
 public:
-    /// `downloadPanel` gives the panel, made when it is first needed.
-    DownloadProcessing(Desktop& desktop, SnapFolder& folder, SnapSites& sites,
-                       std::function<DownloadPanel&()> downloadPanel, DownloadLimits limits = {},
+    DownloadProcessing(Desktop& desktop, SnapFolder& folder, SnapSites& sites, DownloadLimits limits = {},
                        QObject* parent = nullptr);
+    ~DownloadProcessing() override;
 
     /// True from the request on until the download has ended, and an alert about its end is dismissed.
     bool downloadstate() const { return m_downloadstate; }
+    /// Made when it is first needed.
+    DownloadPanel& panel();
 
 public Q_SLOTS:
     void snapdownload_url(const QString& name);
@@ -33,6 +32,7 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
+    void panelMade(DownloadPanel& panel);
     void began();
     /// A picture has come.
     void SnapChange(const QString& object);
@@ -41,23 +41,20 @@ Q_SIGNALS:
 private:
     void begin(const QUrl& url);
     void takeAnswer(double expectedLength);
-    void takeData(double length);
-    void finish();
+    void takeData(double length, double expectedLength);
+    void finish(const QString& path, double expectedLength);
     void refuse();
     void showCancelled();
     void fail(const QString& reason);
-    bool mayReplace();
+    void ask(const QString& path, bool& mayReplace);
     void showStatus(const QString& text);
     void rest();
 
     Desktop& m_desktop;
     SnapFolder& m_folder;
     SnapSites& m_sites;
-    std::function<DownloadPanel&()> m_downloadPanel;
+    std::unique_ptr<DownloadPanel> m_panel;
     PictureDownload m_download;
-    double m_lExLength = unknownLength;
-    double m_lDlLength = 0;
-    double m_dlPercent = 0;
     bool m_downloadstate = false;
 };
 

@@ -9,11 +9,6 @@
 
 namespace tessera {
 
-ImageCandoDrag::ImageCandoDrag(QWidget* parent)
-    : QWidget(parent)
-{
-}
-
 void ImageCandoDrag::setImage(const QImage& image)
 {
     m_image = image;

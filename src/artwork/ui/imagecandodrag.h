@@ -14,7 +14,7 @@ class ImageCandoDrag : public QWidget
     Q_OBJECT
 
 public:
-    explicit ImageCandoDrag(QWidget* parent = nullptr);
+    using QWidget::QWidget;
 
     void setImage(const QImage& image);
     const QImage& image() const { return m_image; }

@@ -1,9 +1,9 @@
 #include "artwork/ui/imagewindow.h"
 
-#include "artwork/ui/imageframe.h"
 #include "artwork/ui/imagecandodrag.h"
 #include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
 #include <QLabel>
 #include <QLocale>
@@ -12,23 +12,22 @@
 
 namespace tessera {
 
+Frame imageFrame(const Frame& current, QSize picture)
+{
+    return {current.topLeft(), QSizeF(picture + QSize(0, imageStrip))};
+}
+
 ImageWindow::ImageWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , imageView2(new ImageCandoDrag)
-    , m_size(new QLabel)
+    , imageView2(named("imageView2", new ImageCandoDrag, qtTrId("image_view")))
+    , m_size(named("imageSizeLabel", withRole("imagestrip", new QLabel)))
 {
     setObjectName(QStringLiteral("imageWindow"));
-    imageView2->setObjectName(QStringLiteral("imageView2"));
-    imageView2->setAccessibleName(qtTrId("image_view"));
-    m_size->setObjectName(QStringLiteral("imageSizeLabel"));
-    m_size->setProperty("role", QStringLiteral("imagestrip"));
     m_size->setFixedHeight(imageStrip);
     m_size->setAlignment(Qt::AlignCenter);
     // A picture may be narrower than its size in words.
     m_size->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = edgeToEdge<QVBoxLayout>(this, 0);
     layout->addWidget(imageView2, 1);
     layout->addWidget(m_size);
     closeByKeyboard(*this);
@@ -52,17 +51,12 @@ void ImageWindow::show(const QImage& image, const QString& name)
 void ImageWindow::fit(QSize picture)
 {
     const QRect free = screen()->availableGeometry();
-    const QRect now = geometry();
     const double bottom = free.y() + free.height();
-    const Frame current
-        = turnedOver(Frame{static_cast<double>(now.x()), static_cast<double>(now.y()),
-                           static_cast<double>(now.width()), static_cast<double>(now.height())},
-                     bottom);
+    const Frame current = turnedOver(QRectF(geometry()), bottom);
     const QSize room = free.size() - QSize(0, imageStrip);
     if (picture.width() > room.width() || picture.height() > room.height())
         picture.scale(room, Qt::KeepAspectRatio);
-    const Frame wanted = turnedOver(imageFrame(current, picture), bottom);
-    QRect place = QRectF(wanted.x, wanted.y, wanted.width, wanted.height).toRect();
+    QRect place = turnedOver(imageFrame(current, picture), bottom).toRect();
     if (!testAttribute(Qt::WA_Moved) && !isVisible()) {
         // It has no place yet; the desktop gives it one.
         resize(place.size());

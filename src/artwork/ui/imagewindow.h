@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/windowgeometry.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -7,6 +9,12 @@ class QLabel;
 namespace tessera {
 
 class ImageCandoDrag;
+
+/// The strip beneath a picture that is shown at its own size, in pixels.
+inline constexpr int imageStrip = 20;
+
+/// The frame of a window that shows a picture pixel by pixel: its origin stays.
+Frame imageFrame(const Frame& current, QSize picture);
 
 /// One picture at its own size, over a strip that tells how large it is.
 class ImageWindow : public QWidget

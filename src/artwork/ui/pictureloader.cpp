@@ -26,8 +26,6 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
 {
 }
 
-PictureLoader::~PictureLoader() = default;
-
 void PictureLoader::load(const QString& path)
 {
     m_wanted = path;

@@ -17,7 +17,6 @@ class PictureLoader : public QObject
 public:
     /// A picture that is larger is given in this size at most; an empty size is no limit.
     explicit PictureLoader(QSize most = {}, QObject* parent = nullptr);
-    ~PictureLoader() override;
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.

@@ -1,10 +1,10 @@
 #include "artwork/ui/picturepane.h"
 
 #include "artwork/ui/aspectview.h"
+#include "widgets/named.h"
 #include "widgets/toolbutton.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
@@ -13,25 +13,17 @@ namespace tessera {
 
 PicturePane::PicturePane(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent)
-    , imageView(new AspectView(defaults))
-    , shotTextField(new QLabel)
-    , buttonShot(toolButton(QStringLiteral("nextpicture"), qtTrId("artwork_next")))
-    , aspectPop(new QComboBox)
+    , imageView(named("imageView", new AspectView(defaults), qtTrId("artwork_picture")))
+    , shotTextField(named("shotTextField", withRole("dim", new QLabel)))
+    , buttonShot(named("buttonShot", toolButton(QStringLiteral("nextpicture"), qtTrId("artwork_next"))))
+    , aspectPop(named("PopUpButton_aspect", withRole("quiet", new QComboBox), qtTrId("aspect_ratio")))
 {
-    setProperty("role", QStringLiteral("panel"));
+    withRole("panel", this);
     setAttribute(Qt::WA_StyledBackground);
-    imageView->setObjectName(QStringLiteral("imageView"));
-    imageView->setAccessibleName(qtTrId("artwork_picture"));
     imageView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    shotTextField->setObjectName(QStringLiteral("shotTextField"));
-    shotTextField->setProperty("role", QStringLiteral("dim"));
-    buttonShot->setObjectName(QStringLiteral("buttonShot"));
     buttonShot->setPopupMode(QToolButton::MenuButtonPopup);
     buttonShot->setMenu(new QMenu(buttonShot));
-    aspectPop->setObjectName(QStringLiteral("PopUpButton_aspect"));
-    aspectPop->setAccessibleName(qtTrId("aspect_ratio"));
     aspectPop->setToolTip(qtTrId("aspect_ratio"));
-    aspectPop->setProperty("role", QStringLiteral("quiet"));
 
     auto* row = new QHBoxLayout;
     row->setSpacing(8);

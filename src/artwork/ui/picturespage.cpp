@@ -1,8 +1,8 @@
 #include "artwork/ui/picturespage.h"
 
 #include "artwork/picturesites.h"
-#include "core/message.h"
 #include "widgets/boundcontrols.h"
+#include "widgets/named.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,23 +10,12 @@
 
 namespace tessera {
 
-namespace {
-
-QCheckBox* makeBox(const char* objectName, const char* text)
-{
-    auto* box = new QCheckBox(qtTrId(text));
-    box->setObjectName(QLatin1String(objectName));
-    return box;
-}
-
-} // namespace
-
 PicturesPage::PicturesPage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
-    , screenfolderPop(new QComboBox)
-    , checkboxSuppress(makeBox("checkboxSuppress", textKey("pictures_suppress")))
-    , wholeStepsBox(makeBox("wholeStepsBox", textKey("pictures_wholesteps")))
-    , snapdownsitePop(new QComboBox)
+    , screenfolderPop(named("screenfolderPop", new QComboBox))
+    , checkboxSuppress(named("checkboxSuppress", new QCheckBox(qtTrId("pictures_suppress"))))
+    , wholeStepsBox(named("wholeStepsBox", new QCheckBox(qtTrId("pictures_wholesteps"))))
+    , snapdownsitePop(named("snapdownsitePop", new QComboBox))
     , hostField(makeField("picturesHostField", qtTrId("pictures_host")))
     , snapdownTextField(makeField("snapdownTextField", qtTrId("pictures_snaptemplate")))
     , titlesdownTextField(makeField("titlesdownTextField", qtTrId("pictures_titletemplate")))
@@ -41,7 +30,6 @@ PicturesPage::PicturesPage(DefaultsController& defaults, QWidget* parent)
 
 void PicturesPage::addView(DefaultsController& defaults)
 {
-    screenfolderPop->setObjectName(QStringLiteral("screenfolderPop"));
     for (const ArtworkKind& kind : artworkKinds)
         screenfolderPop->addItem(kind.label);
     bind(*screenfolderPop, defaults, keys::Screenfolder);
@@ -54,7 +42,6 @@ void PicturesPage::addView(DefaultsController& defaults)
 
 void PicturesPage::addSites(DefaultsController& defaults)
 {
-    snapdownsitePop->setObjectName(QStringLiteral("snapdownsitePop"));
     for (const WebSite& site : pictureSites)
         snapdownsitePop->addItem(qtTrId("pictures_sitenumber").arg(site.number));
     snapdownsitePop->addItem(ownSite);

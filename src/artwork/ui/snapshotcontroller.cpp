@@ -91,10 +91,8 @@ void SnapshotController::display_image_Finder()
 void SnapshotController::reveal(const QString& folder, const QString& suffix)
 {
     const QString name = m_parts.selection.selected().name;
-    if (name.isEmpty() || folder.isEmpty()) {
-        m_parts.desktop.beep();
-        return;
-    }
+    if (name.isEmpty() || folder.isEmpty())
+        return m_parts.desktop.beep();
     const QString path = folder + QLatin1Char('/') + name;
     const bool isShown
         = isPlainFileName(name) && (m_parts.desktop.reveal(path + suffix) || m_parts.desktop.reveal(path));

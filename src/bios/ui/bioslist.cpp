@@ -167,10 +167,8 @@ void Bioslist::tableViewDoubleAction()
 void Bioslist::saveAction()
 {
     const auto xml = biosEntriesXml(m_parts.panel.treeController_list->entries(), m_file.path());
-    if (!xml) {
-        m_parts.desktop.log(xml.error().text());
-        return;
-    }
+    if (!xml)
+        return m_parts.desktop.log(xml.error().text());
     QDir().mkpath(QFileInfo(m_file.path()).absolutePath());
     if (const auto written = m_file.write(*xml, m_parts.desktop.now()); !written)
         m_parts.desktop.log(written.error().text());
@@ -207,10 +205,8 @@ void Bioslist::addOfGame()
 void Bioslist::ask(const QString& set)
 {
     const QString emulator = m_parts.emulator.emulatorNow();
-    if (isAsking() || emulator.isEmpty()) {
-        m_parts.desktop.beep();
-        return;
-    }
+    if (isAsking() || emulator.isEmpty())
+        return m_parts.desktop.beep();
     m_question = std::make_unique<BiosQuestion>(emulator, set);
     connect(m_question.get(), &BiosQuestion::answered, this, &Bioslist::takeAnswer);
     connect(m_question.get(), &BiosQuestion::failed, this, &Bioslist::fail);

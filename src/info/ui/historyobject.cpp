@@ -48,8 +48,6 @@ HistoryObject::HistoryObject(Desktop& desktop, DefaultsController& defaults, His
     settingChanged(QString());
 }
 
-HistoryObject::~HistoryObject() = default;
-
 void HistoryObject::awakeFromNib()
 {
     m_text.clear();
@@ -70,10 +68,8 @@ void HistoryObject::set_infoString()
 void HistoryObject::load(Loaded& which)
 {
     const QString path = m_defaults.text(which.kind.key);
-    if (!QFileInfo::exists(path)) {
-        showText(m_text + which.kind.missing);
-        return;
-    }
+    if (!QFileInfo::exists(path))
+        return showText(m_text + which.kind.missing);
     // A chosen path was stored first, and that has begun the load.
     if (which.isLoading && which.path == path)
         return;

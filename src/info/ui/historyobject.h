@@ -26,7 +26,6 @@ class HistoryObject : public QObject
 public:
     HistoryObject(Desktop& desktop, DefaultsController& defaults, HistoryWindow& window,
                   QObject* parent = nullptr);
-    ~HistoryObject() override;
 
     /// Reads both files for the first time.
     void awakeFromNib();

@@ -3,12 +3,12 @@
 #include "widgets/logview.h"
 #include "widgets/bar.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 #include "widgets/theme.h"
 #include "widgets/plaintooltip.h"
 #include "widgets/toolbutton.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -25,10 +25,8 @@ constexpr int findWidth = 150;
 
 QLineEdit* searchField(const char* name, const QString& says, int width)
 {
-    auto* field = new QLineEdit;
-    field->setObjectName(QLatin1String(name));
+    auto* field = named(name, new QLineEdit, says);
     field->setPlaceholderText(says);
-    field->setAccessibleName(says);
     field->setClearButtonEnabled(true);
     field->addAction(theme::icon(QStringLiteral("search"), "faint"), QLineEdit::LeadingPosition);
     field->setFixedWidth(width);
@@ -38,18 +36,14 @@ QLineEdit* searchField(const char* name, const QString& says, int width)
 // Names and paths come from files.
 QLabel* plainLabel(const char* role)
 {
-    auto* label = new QLabel;
+    auto* label = withRole(role, new QLabel);
     label->setTextFormat(Qt::PlainText);
-    label->setProperty("role", QLatin1String(role));
     return label;
 }
 
 QPushButton* link(const char* name, const QString& text)
 {
-    auto* button = new QPushButton(text);
-    button->setObjectName(QLatin1String(name));
-    button->setProperty("role", QStringLiteral("link"));
-    return button;
+    return named(name, withRole("link", new QPushButton(text)));
 }
 
 QString escaped(QString text)
@@ -61,17 +55,13 @@ QString escaped(QString text)
 
 HistoryWindow::HistoryWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , historyinfoTextView(new LogView(this))
+    , historyinfoTextView(named("historyinfoTextView", new LogView(this), qtTrId("history_title")))
 {
     setObjectName(QStringLiteral("historyWindow"));
     setWindowTitle(qtTrId("history_title"));
-    historyinfoTextView->setObjectName(QStringLiteral("historyinfoTextView"));
-    historyinfoTextView->setAccessibleName(qtTrId("history_title"));
-    historyinfoTextView->setProperty("role", QStringLiteral("reading"));
+    withRole("reading", historyinfoTextView);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = edgeToEdge<QVBoxLayout>(this, 0);
     layout->addWidget(makeToolRow());
     layout->addWidget(historyinfoTextView, 1);
     layout->addWidget(makeFoot());
@@ -85,12 +75,10 @@ QWidget* HistoryWindow::makeToolRow()
     historySearchField = searchField("historySearchField", qtTrId("history_set"), nameWidth);
     m_parentName = plainLabel("faint");
     m_parentName->setText(qtTrId("history_parent"));
-    parentTextField = plainLabel("dim");
-    parentTextField->setObjectName(QStringLiteral("parentTextField"));
+    parentTextField = named("parentTextField", plainLabel("dim"));
     filedButton = link("filedButton", QString());
     findField = searchField("findField", qtTrId("history_find"), findWidth);
-    findCount = plainLabel("faint");
-    findCount->setObjectName(QStringLiteral("findCount"));
+    findCount = named("findCount", plainLabel("faint"));
     smallerButton = toolButton(QStringLiteral("smaller"), qtTrId("history_smaller"));
     biggerButton = toolButton(QStringLiteral("bigger"), qtTrId("history_bigger"));
 
@@ -114,8 +102,7 @@ QWidget* HistoryWindow::makeFoot()
     auto* foot = new Bar(Bar::Place::Foot);
     historyButton = link("historyButton", qtTrId("history_choose"));
     mameinfoButton = link("mameinfoButton", qtTrId("mameinfo_choose"));
-    followBox = new QCheckBox(qtTrId("history_follow"));
-    followBox->setObjectName(QStringLiteral("followBox"));
+    followBox = named("followBox", new QCheckBox(qtTrId("history_follow")));
     QHBoxLayout* layout = foot->row();
     layout->addWidget(historyButton);
     layout->addWidget(mameinfoButton);

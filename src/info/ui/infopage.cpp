@@ -2,9 +2,9 @@
 
 #include "info/informationsites.h"
 #include "widgets/boundcontrols.h"
+#include "widgets/named.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -12,19 +12,17 @@ namespace tessera {
 
 InfoPage::InfoPage(DefaultsController& defaults, QWidget* parent)
     : FormPage(parent)
-    , infositePop(new QComboBox)
+    , infositePop(named("infositePop", new QComboBox))
     , hostField(makeField("hostField", qtTrId("infosite_host")))
     , rominfoTextField(makeField("rominfoTextField", qtTrId("infosite_template")))
     , urlTextField(makeField("urlTextField", qtTrId("infosite_url")))
-    , openButton(new QPushButton(qtTrId("infosite_open")))
+    , openButton(named("openURLButton", new QPushButton(qtTrId("infosite_open"))))
 {
-    infositePop->setObjectName(QStringLiteral("infositePop"));
     for (const WebSite& site : informationSites)
         infositePop->addItem(qtTrId("infosite_number").arg(site.number));
     // Its position is the one that keeps the template; nobody can choose it.
     infositePop->insertSeparator(infositePop->count());
     infositePop->addItem(ownSite);
-    openButton->setObjectName(QStringLiteral("openURLButton"));
     openButton->setAutoDefault(false);
 
     addHeading(qtTrId("infosite_heading"), qtTrId("infosite_explanation"));
@@ -34,9 +32,7 @@ InfoPage::InfoPage(DefaultsController& defaults, QWidget* parent)
     addNote(qtTrId("infosite_note"));
     addLine();
     auto* address = new QWidget;
-    auto* row = new QHBoxLayout(address);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    auto* row = edgeToEdge(address, 8);
     row->addWidget(urlTextField, 1);
     row->addWidget(openButton);
     address->setFocusProxy(urlTextField);

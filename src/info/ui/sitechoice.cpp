@@ -3,6 +3,7 @@
 #include "core/message.h"
 #include "info/informationsites.h"
 #include "platform/defaultscontroller.h"
+#include "widgets/named.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -29,25 +30,19 @@ QString titleOf(int item, const DefaultsController& defaults)
 
 SiteChoice::SiteChoice(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent)
-    , infositePop2(new QComboBox(this))
-    , addressField2(new QLineEdit(this))
+    , infositePop2(named("infositePop2", new QComboBox(this), qtTrId("infosite_choice")))
+    , addressField2(named("addressField2", new QLineEdit(this), qtTrId("infosite_address")))
     , m_defaults(defaults)
 {
-    infositePop2->setObjectName(QStringLiteral("infositePop2"));
-    infositePop2->setAccessibleName(qtTrId("infosite_choice"));
     // An address may be longer than the window is wide.
     infositePop2->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     infositePop2->setMinimumContentsLength(8);
     for (int item = 0; item < ownItem; ++item)
         infositePop2->addItem(QString());
     infositePop2->addItem(ownSite);
-    addressField2->setObjectName(QStringLiteral("addressField2"));
-    addressField2->setAccessibleName(qtTrId("infosite_address"));
     addressField2->setPlaceholderText(QStringLiteral("https://…/{$gamename}"));
     addressField2->setText(defaults.text(keys::VisitedRomPath));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    auto* layout = edgeToEdge<QVBoxLayout>(this, 8);
     layout->addWidget(infositePop2);
     layout->addWidget(addressField2);
 

@@ -140,10 +140,8 @@ void RunController::saveLogAction()
         = m_desktop.savePanel({qtTrId("log_save"), QStringLiteral("Log output"), {QStringLiteral("txt")}});
     if (!path)
         return;
-    const std::string text = log.text().toStdString();
-    const std::array<std::string_view, 1> pieces{text};
     // Deliberate: no alert and no beep for a failure; the status line alone says it.
-    if (const auto written = writeAtomically(*path, pieces); !written)
+    if (const auto written = writeAtomically(*path, log.text().toUtf8()); !written)
         Q_EMIT statusMessage(written.error().text());
 }
 

@@ -39,8 +39,6 @@ QtDesktop::QtDesktop(RecentDocuments& recent)
 {
 }
 
-QtDesktop::~QtDesktop() = default;
-
 void QtDesktop::beep()
 {
     playSound(QStringLiteral("beep"));

@@ -16,7 +16,6 @@ class QtDesktop : public Desktop
 {
 public:
     explicit QtDesktop(RecentDocuments& recent);
-    ~QtDesktop() override;
 
     void beep() override;
     void playSound(const QString& name) override;

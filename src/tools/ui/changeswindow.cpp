@@ -6,6 +6,7 @@
 #include "tools/ui/rowsmodel.h"
 #include "widgets/bringforward.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -36,23 +37,18 @@ bool belongsTo(const MachineChange& change, int kind)
 ChangesWindow::ChangesWindow(QWidget* parent)
     : QWidget(parent, Qt::Window)
     , summary(new QLabel(this))
-    , kinds(new QTabBar(this))
-    , filterField(new QLineEdit(this))
+    , kinds(named("kinds", new QTabBar(this), qtTrId("changes_title")))
+    , filterField(named("changesFilter", new QLineEdit(this), qtTrId("existence_filter")))
     , rows(new RowsModel({qtTrId("changes_set"), qtTrId("changes_change")}, this))
-    , changes(new RowsList(*rows, QStringLiteral("changes"), this))
+    , changes(named("changes", new RowsList(*rows, this), qtTrId("changes_title")))
 {
     setObjectName(QStringLiteral("changesWindow"));
     setWindowTitle(qtTrId("changes_title"));
     summary->setWordWrap(true);
-    kinds->setObjectName(QStringLiteral("kinds"));
-    kinds->setAccessibleName(qtTrId("changes_title"));
     kinds->setExpanding(false);
     kinds->setDrawBase(false);
-    filterField->setObjectName(QStringLiteral("changesFilter"));
     filterField->setPlaceholderText(qtTrId("existence_filter"));
-    filterField->setAccessibleName(qtTrId("existence_filter"));
     filterField->setClearButtonEnabled(true);
-    changes->setAccessibleName(qtTrId("changes_title"));
     changes->setEmptyText(qtTrId("changes_none"));
     changes->setNameWidth(nameWidth);
     auto* layout = new QVBoxLayout(this);

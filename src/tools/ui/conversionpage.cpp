@@ -1,5 +1,7 @@
 #include "tools/ui/conversionpage.h"
 
+#include "widgets/named.h"
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,26 +17,18 @@ ConversionPage::ConversionPage(DefaultsController& defaults, QWidget* parent)
     listxmlTextField = addPath(selectlistxml, defaults);
     mame32jpTextField = addPath(selectlocalize, defaults);
 
-    button_isbios = makeBox(qtTrId("convert_bios"), QStringLiteral("button_isbios"));
-    button_ismechanical = makeBox(qtTrId("convert_mechanical"), QStringLiteral("button_ismechanical"));
-    button_isdevice = makeBox(qtTrId("convert_devices"), QStringLiteral("button_isdevice"));
+    button_isbios = named("button_isbios", new QCheckBox(qtTrId("convert_bios"), this));
+    button_ismechanical = named("button_ismechanical", new QCheckBox(qtTrId("convert_mechanical"), this));
+    button_isdevice = named("button_isdevice", new QCheckBox(qtTrId("convert_devices"), this));
     addRow(qtTrId("convert_leave_out"), {button_isbios, button_ismechanical, button_isdevice});
     addLine();
-    savedText = addNote();
-    savedText->setObjectName(QStringLiteral("savedText"));
+    savedText = named("savedText", addNote());
     savedText->setTextFormat(Qt::PlainText);
     button_useNow = makeButton("button_useNow", qtTrId("convert_use"));
     button_changes = makeButton("button_changes", qtTrId("convert_changes"));
     addRow(QString(), {button_useNow, button_changes});
     addStretch();
     showSaved({});
-}
-
-QCheckBox* ConversionPage::makeBox(const QString& label, const QString& name)
-{
-    auto* box = new QCheckBox(label, this);
-    box->setObjectName(name);
-    return box;
 }
 
 void ConversionPage::showSaved(const QString& path)

@@ -33,9 +33,6 @@ public:
     QPushButton* button_useNow;
     QPushButton* button_changes;
     QPushButton* button_convert; ///< at the window's foot
-
-private:
-    QCheckBox* makeBox(const QString& label, const QString& name);
 };
 
 } // namespace tessera

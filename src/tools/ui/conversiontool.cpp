@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <functional>
+
 namespace tessera {
 
 namespace {
@@ -57,9 +59,9 @@ void ConversionTool::outputAction()
         // Without the tool, which may be gone before the job begins; the workbench waits for its jobs.
         [&workbench = m_workbench, options, listxml = m_page.listxmlTextField->text(),
          titles = m_page.mame32jpTextField->text()](const Job& job) {
-            return convertFiles(listxml, titles, options, {job.stop(), workbench.progressOf(job, listxml)});
+            return convertFiles(listxml, titles, options, workbench.watch(job, listxml));
         },
-        [this](ConvertedList list) { offer(std::move(list)); });
+        std::bind_front(&ConversionTool::offer, this));
 }
 
 // After Cancel in the panel the information line stays as it is: deliberate, as nothing was written.

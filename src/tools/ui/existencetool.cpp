@@ -14,6 +14,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <functional>
+
 namespace tessera {
 
 namespace {
@@ -56,9 +58,7 @@ void ExistenceTool::romlistup()
         return m_workbench.refuse(existencetexts::noRoms);
     begin();
     m_workbench.run([listfull, roms](const Job&) { return checkExistence(listfull, roms); },
-                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
-                        show(std::move(list), isCancelled);
-                    });
+                    std::bind_front(&ExistenceTool::show, this));
 }
 
 void ExistenceTool::begin()
@@ -82,15 +82,11 @@ void ExistenceTool::askEmulator()
         return m_workbench.refuse(existencetexts::noRoms);
     begin();
     m_workbench.runOrRefuse(
-        [emulator](const Job& job) -> std::expected<std::string, Failure> {
-            auto printed = printedBy(emulator, {QStringLiteral("-listfull")}, false, {job.stop(), {}});
-            if (!printed || job.stop().stop_requested())
-                return printed;
-            if (const auto kept = keepPrinted(listfullName, *printed); !kept)
-                return std::unexpected(kept.error());
-            return printed;
+        [emulator](const Job& job) {
+            return keptPrintedBy(emulator, {QStringLiteral("-listfull")}, false, listfullName,
+                                 {job.stop(), {}});
         },
-        [this](const std::string& printed) { takePrinted(printed); });
+        std::bind_front(&ExistenceTool::takePrinted, this));
 }
 
 void ExistenceTool::takePrinted(const std::string& printed)
@@ -98,9 +94,7 @@ void ExistenceTool::takePrinted(const std::string& printed)
     m_workbench.takePath(*m_page.listfullTextField2, keys::listfullPath, printedPath(listfullName));
     m_workbench.run([text = printed, roms = m_page.rompathTextField2->text()](
                         const Job&) { return checkExistenceOf(text, roms); },
-                    [this](std::expected<ExistenceList, Failure> list, bool isCancelled) {
-                        show(std::move(list), isCancelled);
-                    });
+                    std::bind_front(&ExistenceTool::show, this));
 }
 
 void ExistenceTool::show(std::expected<ExistenceList, Failure> list, bool isCancelled)
@@ -163,8 +157,7 @@ void ExistenceTool::exportCsv()
         {qtTrId("existence_csv_title"), QStringLiteral("ROM Existence Report"), {QStringLiteral("csv")}});
     if (!path)
         return;
-    const std::string csv = existenceCsv(rows());
-    if (const auto written = writeAtomically(*path, std::array{std::string_view(csv)}); !written)
+    if (const auto written = writeAtomically(*path, existenceCsv(rows())); !written)
         return m_workbench.refuse(written.error().text());
     m_workbench.inform(qtTrId("existence_csv_saved").arg(*path));
 }
@@ -183,7 +176,7 @@ void ExistenceTool::saveAction()
 // Deliberate: neither success nor failure is told; the log has the failure.
 void ExistenceTool::write(const QString& path)
 {
-    if (const auto written = writeAtomically(path, std::array{std::string_view(m_report)}); !written)
+    if (const auto written = writeAtomically(path, m_report); !written)
         m_workbench.desktop().log(
             QString(existencetexts::notWritten).arg(path, written.error().arguments.last()));
 }
@@ -191,7 +184,7 @@ void ExistenceTool::write(const QString& path)
 void ExistenceTool::clear_reportController()
 {
     m_page.reportList->dropSort();
-    m_page.rows->clear();
+    m_page.rows->setRows({});
     m_page.filterField->clear();
     m_page.foundBar->setCounts(0, 0);
     m_page.reportList->setEmptyText(qtTrId("existence_empty"));

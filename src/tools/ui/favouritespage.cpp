@@ -2,8 +2,8 @@
 
 #include "core/texts.h"
 #include "widgets/boundcontrols.h"
+#include "widgets/named.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -12,22 +12,19 @@ namespace tessera {
 
 FavouritesPage::FavouritesPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
-    , hiddenText(new QLabel(this))
+    , hiddenText(named("hiddenText", new QLabel(this)))
     , button_showAll(makeButton("button_showAll", qtTrId("favourites_showall")))
     , button_convert3(makeFootButton("button_convert3", qtTrId("favourites_convert")))
     , m_hidden(new QWidget(this))
 {
     addHeading(qtTrId("favourites_page"), qtTrId("favourites_explanation"));
     favoritesTextField = addPath(selectFavoritesxml);
-    hiddenText->setObjectName(QStringLiteral("hiddenText"));
     hiddenText->setWordWrap(true);
-    auto* hidden = new QHBoxLayout(m_hidden);
-    hidden->setContentsMargins(0, 0, 0, 0);
+    auto* hidden = edgeToEdge(m_hidden);
     hidden->addWidget(hiddenText, 1);
     hidden->addWidget(button_showAll);
     addRow(QString(), m_hidden);
-    resultText = addNote();
-    resultText->setObjectName(QStringLiteral("resultText"));
+    resultText = named("resultText", addNote());
     resultText->setTextInteractionFlags(Qt::TextSelectableByMouse);
     addStretch();
     showHidden(0);

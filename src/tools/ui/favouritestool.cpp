@@ -90,7 +90,7 @@ bool FavouritesTool::replaceFavourites(const QList<RecordDictionary>& records)
     if (QFileInfo::exists(favourites))
         backUp(favourites);
     m_host.dir_make(QFileInfo(favourites).path());
-    return text && writeAtomically(favourites, std::array{std::string_view(*text)}).has_value();
+    return text && writeAtomically(favourites, *text).has_value();
 }
 
 void FavouritesTool::backUp(const QString& favourites)

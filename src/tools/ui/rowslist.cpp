@@ -1,6 +1,7 @@
 #include "tools/ui/rowslist.h"
 
 #include "tools/ui/rowsmodel.h"
+#include "widgets/named.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -16,11 +17,10 @@ constexpr int emptyMargin = 32;
 
 } // namespace
 
-RowsList::RowsList(RowsModel& model, const QString& name, QWidget* parent)
+RowsList::RowsList(RowsModel& model, QWidget* parent)
     : QTableView(parent)
-    , m_empty(new QLabel(viewport()))
+    , m_empty(withRole("dim", new QLabel(viewport())))
 {
-    setObjectName(name);
     setModel(&model);
     setSelectionBehavior(SelectRows);
     setEditTriggers(NoEditTriggers);
@@ -41,7 +41,6 @@ RowsList::RowsList(RowsModel& model, const QString& name, QWidget* parent)
     dropSort();
     setSortingEnabled(true);
 
-    m_empty->setProperty("role", QStringLiteral("dim"));
     m_empty->setAlignment(Qt::AlignCenter);
     m_empty->setWordWrap(true);
     m_empty->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -59,11 +58,6 @@ void RowsList::setEmptyText(const QString& text)
 QString RowsList::emptyText() const
 {
     return m_empty->text();
-}
-
-void RowsList::setStateWidth(int width)
-{
-    setColumnWidth(RowsModel::StateColumn, width);
 }
 
 void RowsList::setNameWidth(int width)

@@ -14,11 +14,10 @@ class RowsList : public QTableView
     Q_OBJECT
 
 public:
-    RowsList(RowsModel& model, const QString& name, QWidget* parent = nullptr);
+    explicit RowsList(RowsModel& model, QWidget* parent = nullptr);
 
     void setEmptyText(const QString& text);
     QString emptyText() const;
-    void setStateWidth(int width);
     /// What became of it is the longer text, and gets the room.
     void setNameWidth(int width);
     /// Sorted by no column any more.

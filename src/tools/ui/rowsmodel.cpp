@@ -1,11 +1,20 @@
 #include "tools/ui/rowsmodel.h"
 
-#include "tools/ui/oneline.h"
-
 #include <algorithm>
 #include <numeric>
 
 namespace tessera {
+
+QString onOneLine(QString text)
+{
+    for (QChar& c : text) {
+        if (c == u'\n' || c == u'\r')
+            c = u'\u21B5';
+        else if (c.unicode() < 0x20)
+            c = QChar::ReplacementCharacter;
+    }
+    return text;
+}
 
 RowsModel::RowsModel(std::array<QString, 2> titles, QObject* parent)
     : QAbstractTableModel(parent)
@@ -19,11 +28,6 @@ void RowsModel::setRows(std::vector<Row> rows)
     m_rows = std::move(rows);
     arrange();
     endResetModel();
-}
-
-void RowsModel::clear()
-{
-    setRows({});
 }
 
 void RowsModel::setState(std::size_t place, const QString& state)

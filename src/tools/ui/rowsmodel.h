@@ -8,6 +8,9 @@
 
 namespace tessera {
 
+/// With a sign in the place of each control character: a file's name may hold line feeds.
+QString onOneLine(QString text);
+
 /// The list of a tool: a name, and what became of it, in two columns that can be sorted and filtered.
 class RowsModel : public QAbstractTableModel
 {
@@ -25,10 +28,11 @@ public:
 
     /// They are shown in the order by which the list is sorted now.
     void setRows(std::vector<Row> rows);
-    void clear();
     std::size_t size() const { return m_rows.size(); }
     /// The rows in the order shown.
     const Row& shown(std::size_t position) const { return m_rows[m_order[position]]; }
+    /// The places of all of them.
+    const std::vector<std::size_t>& places() const { return m_order; }
     /// Of the row at a position now; the place that it keeps however the list is sorted.
     std::size_t placeOf(std::size_t position) const { return m_order[position]; }
     void setState(std::size_t place, const QString& state);

@@ -2,6 +2,7 @@
 
 #include "launch/popupitems.h"
 #include "widgets/boundcontrols.h"
+#include "widgets/named.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -25,8 +26,7 @@ constexpr std::array optionChoices{textKey("script_withoptions"), textKey("scrip
 
 QComboBox* makePopup(const char* name, std::span<const char* const> labelKeys, QWidget* parent)
 {
-    auto* popup = new QComboBox(parent);
-    popup->setObjectName(QLatin1String(name));
+    auto* popup = named(name, new QComboBox(parent));
     popup->setMinimumWidth(popupWidth);
     popup->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     for (const char* key : labelKeys)
@@ -42,12 +42,11 @@ ScriptPage::ScriptPage(DefaultsController& defaults, QWidget* parent)
     , emulatorPop(makePopup("emulatorPop", {}, this))
     , filenamePop(makePopup("filenamePop", fileNames, this))
     , preoptionPop(makePopup("preoptionPop", optionChoices, this))
-    , scriptimageView(new QLabel(this))
+    , scriptimageView(named("scriptimageView", new QLabel(this)))
     , button_launcher(makeFootButton("button_launcher", qtTrId("script_launcher")))
     , button_make(makeFootButton("button_make", qtTrId("script_make")))
 {
     formatPop->setAccessibleName(qtTrId("script_format"));
-    scriptimageView->setObjectName(QStringLiteral("scriptimageView"));
     scriptimageView->setFixedSize(pictureSize, pictureSize);
     button_launcher->setToolTip(qtTrId("script_launcher_tip"));
     // The launch modes, under the same titles.

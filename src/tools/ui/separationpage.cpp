@@ -2,9 +2,9 @@
 
 #include "core/texts.h"
 #include "tools/separation.h"
-#include "tools/ui/oneline.h"
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
+#include "widgets/named.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -22,16 +22,14 @@ SeparationPage::SeparationPage(DefaultsController& defaults, QWidget* parent)
     , button_check1(makeFootButton("button_check1", qtTrId("separation_check")))
     , button_separete(makeFootButton("button_separete", qtTrId("separation_separate")))
     , rows(new RowsModel({qtTrId("separation_name"), qtTrId("separation_status")}, this))
-    , separationList(new RowsList(*rows, QStringLiteral("separationList"), this))
+    , separationList(named("separationList", new RowsList(*rows, this), qtTrId("separation_page")))
     , failedCopies(makeText("failedCopies", qtTrId("separation_failures")))
 {
     addHeading(qtTrId("separation_page"), qtTrId("separation_explanation"));
     rompathTextField1 = addPath(selectROMsfolder1, defaults);
     listfullTextField1 = addPath(selectListfull1, defaults);
     movepathTextField = addPath(selectMovefolder, defaults);
-    planText = addNote();
-    planText->setObjectName(QStringLiteral("planText"));
-    separationList->setAccessibleName(qtTrId("separation_page"));
+    planText = named("planText", addNote());
     separationList->setEmptyText(qtTrId("separation_empty"));
     addWide(separationList, 1);
     failedCopies->setFixedHeight(failuresHeight);

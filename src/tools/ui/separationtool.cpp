@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <functional>
+
 namespace tessera {
 
 namespace {
@@ -26,15 +28,6 @@ std::vector<std::string> namesShown(const RowsModel& rows)
     for (std::size_t i = 0; i < rows.size(); ++i)
         names.push_back(rows.shown(i).name);
     return names;
-}
-
-std::vector<std::size_t> placesShown(const RowsModel& rows)
-{
-    std::vector<std::size_t> places;
-    places.reserve(rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        places.push_back(rows.placeOf(i));
-    return places;
 }
 
 } // namespace
@@ -74,9 +67,8 @@ void SeparationTool::statuscheck()
         return m_workbench.refuse(separationtexts::noListfull);
     m_workbench.indicator_start();
     clear_separatorController();
-    m_workbench.run(
-        [roms](const Job&) { return romNames(roms); },
-        [this](const std::vector<std::string>& names, bool isCancelled) { list(names, isCancelled); });
+    m_workbench.run([roms](const Job&) { return romNames(roms); },
+                    std::bind_front(&SeparationTool::list, this));
 }
 
 void SeparationTool::list(const std::vector<std::string>& names, bool isCancelled)
@@ -98,18 +90,17 @@ void SeparationTool::makePlan()
 {
     m_planStop.request_stop();
     m_planStop = std::stop_source();
-    const int number = ++m_plan;
     m_page.hidePlan();
     if (m_page.rows->size() == 0 || !QFileInfo(m_page.movepathTextField->text()).isDir())
         return;
-    m_planPool.start([this, number, names = namesShown(*m_page.rows), stop = m_planStop.get_token(),
+    m_planPool.start([this, names = namesShown(*m_page.rows), stop = m_planStop.get_token(),
                       roms = m_page.rompathTextField1->text(), listfull = m_page.listfullTextField1->text(),
                       destination = m_page.movepathTextField->text()] {
         const auto plan = Separation(roms, destination, SupportedNames::read(listfull)).plan(names, stop);
         QMetaObject::invokeMethod(
             this,
-            [this, number, plan] {
-                if (number == m_plan)
+            [this, stop, plan] {
+                if (!stop.stop_requested())
                     m_page.showPlan(plan);
             },
             Qt::QueuedConnection);
@@ -130,7 +121,7 @@ void SeparationTool::separateAction()
     m_failures.clear();
     m_page.showFailures({});
     const auto separate = [this, destination, names = namesShown(*m_page.rows),
-                           places = placesShown(*m_page.rows), roms = m_page.rompathTextField1->text(),
+                           places = m_page.rows->places(), roms = m_page.rompathTextField1->text(),
                            listfull = m_page.listfullTextField1->text()](const Job& job) {
         const Separation separation(roms, destination, SupportedNames::read(listfull));
         const qint64 all = separation.plan(names, job.stop()).bytes;
@@ -191,7 +182,7 @@ void SeparationTool::movefile(const QString& fileName)
 void SeparationTool::clear_separatorController()
 {
     m_page.separationList->dropSort();
-    m_page.rows->clear();
+    m_page.rows->setRows({});
     m_page.showFailures({});
     makePlan();
 }

@@ -40,8 +40,7 @@ private:
     SeparationPage& m_page;
     Workbench& m_workbench;
     QStringList m_failures;
-    std::stop_source m_planStop;
-    int m_plan = 0; ///< only the newest one is shown
+    std::stop_source m_planStop; ///< of the newest one, which alone is shown
     QThreadPool m_planPool; ///< ends first, while everything else still stands
 };
 

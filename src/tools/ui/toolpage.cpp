@@ -1,7 +1,7 @@
 #include "tools/ui/toolpage.h"
 
 #include "widgets/boundcontrols.h"
-#include "widgets/mnemonic.h"
+#include "widgets/named.h"
 #include "widgets/pathfield.h"
 
 #include <QLineEdit>
@@ -19,8 +19,7 @@ QLineEdit* ToolPage::addPath(const ToolPath& path)
 {
     const QString label = qtTrId(path.label);
     auto* row = new PathField(withoutMnemonic(label), qtTrId("tool_choose"), qtTrId("tool_reveal"), this);
-    QLineEdit* field = row->field();
-    field->setObjectName(QLatin1StringView(path.field));
+    QLineEdit* field = named(path.field, row->field());
     row->chooseButton()->setObjectName(QStringLiteral("button_") + QLatin1StringView(path.name));
     row->revealButton()->setObjectName(QStringLiteral("reveal_") + QLatin1StringView(path.name));
     addRow(label, row);
@@ -40,9 +39,7 @@ QLineEdit* ToolPage::addPath(const ToolPath& path, DefaultsController& defaults)
 
 QPushButton* ToolPage::makeButton(const char* name, const QString& text)
 {
-    auto* button = new QPushButton(text, this);
-    button->setObjectName(QLatin1StringView(name));
-    return button;
+    return named(name, new QPushButton(text, this));
 }
 
 QPushButton* ToolPage::makeFootButton(const char* name, const QString& text)
@@ -53,9 +50,7 @@ QPushButton* ToolPage::makeFootButton(const char* name, const QString& text)
 
 QPlainTextEdit* ToolPage::makeText(const char* name, const QString& accessibleName)
 {
-    auto* text = new QPlainTextEdit(this);
-    text->setObjectName(QLatin1StringView(name));
-    text->setAccessibleName(accessibleName);
+    auto* text = named(name, new QPlainTextEdit(this), accessibleName);
     text->setReadOnly(true);
     text->document()->setDocumentMargin(textMargin);
     text->setTabChangesFocus(true);

@@ -1,6 +1,7 @@
 #include "tools/ui/utilityfoot.h"
 
-#include <QHBoxLayout>
+#include "widgets/named.h"
+
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -17,28 +18,21 @@ constexpr int spacing = 14;
 
 UtilityFoot::UtilityFoot(QWidget* parent)
     : QWidget(parent)
-    , infoTextField(new QLabel(this))
-    , progressInd(new QProgressBar(this))
-    , progressCount(new QLabel(this))
-    , button_cancel(new QPushButton(qtTrId("tool_cancel"), this))
+    , infoTextField(named("infoTextField", new QLabel(this), qtTrId("tool_information")))
+    , progressInd(named("progressInd", new QProgressBar(this), qtTrId("tool_progress")))
+    , progressCount(named("progressCount", withRole("dim", new QLabel(this))))
+    , button_cancel(named("button_cancel", new QPushButton(qtTrId("tool_cancel"), this)))
     , m_buttons(new QStackedWidget(this))
 {
-    setProperty("role", QStringLiteral("foot"));
+    withRole("foot", this);
     setAttribute(Qt::WA_StyledBackground);
-    infoTextField->setObjectName(QStringLiteral("infoTextField"));
-    infoTextField->setAccessibleName(qtTrId("tool_information"));
     infoTextField->setTextFormat(Qt::PlainText);
     infoTextField->setWordWrap(true);
     infoTextField->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    progressInd->setObjectName(QStringLiteral("progressInd"));
-    progressInd->setAccessibleName(qtTrId("tool_progress"));
     progressInd->setTextVisible(false);
     progressInd->setFixedWidth(indicatorWidth);
     progressInd->setVisible(false);
-    progressCount->setObjectName(QStringLiteral("progressCount"));
-    progressCount->setProperty("role", QStringLiteral("dim"));
     progressCount->setVisible(false);
-    button_cancel->setObjectName(QStringLiteral("button_cancel"));
     button_cancel->setVisible(false);
     m_buttons->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
 
@@ -55,11 +49,10 @@ UtilityFoot::UtilityFoot(QWidget* parent)
 void UtilityFoot::addButtons(const QList<QPushButton*>& buttons)
 {
     auto* group = new QWidget(m_buttons);
-    auto* layout = new QHBoxLayout(group);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* layout = edgeToEdge(group);
     layout->addStretch();
     // Before the button gets its new parent: the style sheet reads the property then.
-    buttons.last()->setProperty("role", QStringLiteral("accent"));
+    withRole("accent", buttons.last());
     for (QPushButton* button : buttons) {
         button->setAutoDefault(true);
         layout->addWidget(button);

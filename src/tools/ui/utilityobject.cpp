@@ -14,6 +14,7 @@
 #include "widgets/bringforward.h"
 #include "widgets/deletionfocusring.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -35,8 +36,7 @@ UtilityObject::UtilityObject(Desktop& desktop, DefaultsController& defaults, Uti
     , m_favourites(std::make_unique<FavouritesTool>(*m_window->favouritesPage, *m_workbench, host))
     , m_scripts(std::make_unique<ScriptTool>(*m_window->scriptPage, *m_workbench, host))
 {
-    connect(m_window.get(), &UtilityWindow::closed, this, &UtilityObject::windowWillClose);
-    m_window->mayClose = [this] { return mayBeAbandoned(); };
+    connect(m_window.get(), &UtilityWindow::closing, this, &UtilityObject::close);
     connect(m_workbench.get(), &Workbench::statusMessage, this, &UtilityObject::statusMessage);
     connect(m_workbench.get(), &Workbench::statusWithdrawn, this, &UtilityObject::statusWithdrawn);
     for (const ToolPage* page : m_window->findChildren<ToolPage*>()) {
@@ -57,11 +57,6 @@ void UtilityObject::takeFocusRings()
     for (QComboBox* popUp : m_window->findChildren<QComboBox*>())
         DeletionFocusRing::takeRing(*popUp);
     DeletionFocusRing::takeRing(*m_window->utilityTabView);
-}
-
-bool UtilityObject::mayBeAbandoned()
-{
-    return m_workbench->mayBeAbandoned();
 }
 
 QString UtilityObject::issueuuid() const
@@ -86,6 +81,14 @@ void UtilityObject::reveal(const QString& path)
 void UtilityObject::utilityOrderFront()
 {
     bringForward(*m_window);
+}
+
+void UtilityObject::close(QCloseEvent* event)
+{
+    if (m_workbench->mayBeAbandoned())
+        windowWillClose();
+    else
+        event->ignore();
 }
 
 void UtilityObject::windowWillClose()

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QCloseEvent;
+
 namespace tessera {
 
 class ConversionTool;
@@ -35,9 +37,6 @@ public:
     VerificationTool& verification() { return *m_verification; }
     FavouritesTool& favourites() { return *m_favourites; }
 
-    /// Asks, where a tool is at work, whether it may be stopped.
-    bool mayBeAbandoned();
-
     /// A new one in its standard form.
     QString issueuuid() const;
 
@@ -52,6 +51,7 @@ Q_SIGNALS:
     void statusWithdrawn(const QString& text);
 
 private:
+    void close(QCloseEvent* event);
     void reveal(const QString& path);
     void takeFocusRings();
 

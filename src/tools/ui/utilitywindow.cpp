@@ -8,9 +8,8 @@
 #include "tools/ui/utilityfoot.h"
 #include "tools/ui/verificationpage.h"
 #include "widgets/closekeys.h"
+#include "widgets/named.h"
 
-#include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -26,8 +25,8 @@ constexpr int listWidth = 196;
 
 UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     : QWidget(parent, Qt::Window)
-    , pageList(new QListWidget(this))
-    , utilityTabView(new QStackedWidget(this))
+    , pageList(named("pageList", new QListWidget(this), qtTrId("tool_pages")))
+    , utilityTabView(named("utilityTabView", new QStackedWidget(this)))
     , conversionPage(new ConversionPage(defaults, this))
     , existencePage(new ExistencePage(defaults, this))
     , separationPage(new SeparationPage(defaults, this))
@@ -38,10 +37,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
 {
     setObjectName(QStringLiteral("utilityWindow"));
     setWindowTitle(qtTrId("tool_title"));
-    pageList->setObjectName(QStringLiteral("pageList"));
-    pageList->setAccessibleName(qtTrId("tool_pages"));
     pageList->setFixedWidth(listWidth);
-    utilityTabView->setObjectName(QStringLiteral("utilityTabView"));
     addPage(conversionPage, qtTrId("convert_page"));
     addPage(existencePage, qtTrId("existence_page"));
     addPage(separationPage, qtTrId("separation_page"));
@@ -53,9 +49,7 @@ UtilityWindow::UtilityWindow(DefaultsController& defaults, QWidget* parent)
     form->setSpacing(0);
     form->addWidget(utilityTabView, 1);
     form->addWidget(foot);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    auto* layout = edgeToEdge(this, 0);
     layout->addWidget(pageList);
     layout->addLayout(form, 1);
 
@@ -71,16 +65,6 @@ void UtilityWindow::addPage(ToolPage* page, const QString& title)
     utilityTabView->addWidget(page);
     pageList->addItem(title);
     foot->addButtons(page->footButtons());
-}
-
-void UtilityWindow::closeEvent(QCloseEvent* event)
-{
-    if (mayClose && !mayClose()) {
-        event->ignore();
-        return;
-    }
-    QWidget::closeEvent(event);
-    Q_EMIT closed();
 }
 
 } // namespace tessera

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <functional>
-
 class QListWidget;
 class QStackedWidget;
 
@@ -37,13 +35,13 @@ public:
     FavouritesPage* favouritesPage;
     ScriptPage* scriptPage;
     UtilityFoot* foot;
-    std::function<bool()> mayClose; ///< asked before it closes, if there
 
 Q_SIGNALS:
-    void closed();
+    /// It closes, unless whoever hears it ignores the event.
+    void closing(QCloseEvent* event);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override { Q_EMIT closing(event); }
 
 private:
     void addPage(ToolPage* page, const QString& title);

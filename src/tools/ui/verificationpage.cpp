@@ -4,10 +4,10 @@
 #include "tools/ui/rowslist.h"
 #include "tools/ui/rowsmodel.h"
 #include "widgets/boundcontrols.h"
+#include "widgets/named.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -35,7 +35,7 @@ constexpr std::array<const char*, verdicts.size()> meanings{
 VerificationPage::VerificationPage(DefaultsController& defaults, QWidget* parent)
     : ToolPage(parent)
     , rows(new RowsModel({qtTrId("existence_set"), qtTrId("verification_state")}, this))
-    , setList(new RowsList(*rows, QStringLiteral("setList"), this))
+    , setList(named("setList", new RowsList(*rows, this), qtTrId("verification_sets")))
     , setDetails(makeText("setDetails", qtTrId("verification_details")))
     , button_ask3(makeFootButton("button_ask3", qtTrId("tool_from_mame")))
     , button_convert2(makeFootButton("button_convert2", qtTrId("verification_convert")))
@@ -86,14 +86,11 @@ ChosenVerdicts VerificationPage::chosen() const
 
 QWidget* VerificationPage::makeSets()
 {
-    setList->setAccessibleName(qtTrId("verification_sets"));
     setList->setEmptyText(qtTrId("verification_empty"));
-    setList->setStateWidth(stateWidth);
+    setList->setColumnWidth(RowsModel::StateColumn, stateWidth);
     setDetails->setPlaceholderText(qtTrId("verification_details"));
     auto* sets = new QWidget(this);
-    auto* layout = new QHBoxLayout(sets);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(gap);
+    auto* layout = edgeToEdge(sets, gap);
     layout->addWidget(setList, listShare);
     layout->addWidget(setDetails, detailsShare);
     connect(setList->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

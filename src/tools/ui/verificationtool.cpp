@@ -13,6 +13,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <functional>
 #include <future>
 
 namespace tessera {
@@ -55,7 +56,7 @@ void VerificationTool::converter2Action()
         std::string report = verificationReport(*printed, chosen, job.stop());
         return Condensed{std::move(report), sets.get()};
     };
-    m_workbench.runOrRefuse(condense, [this](Condensed condensed) { offer(std::move(condensed)); });
+    m_workbench.runOrRefuse(condense, std::bind_front(&VerificationTool::offer, this));
 }
 
 void VerificationTool::offer(Condensed condensed)
@@ -76,8 +77,7 @@ void VerificationTool::offer(Condensed condensed)
 
 void VerificationTool::save(const QString& path, std::string report)
 {
-    m_workbench.run([path, report = std::move(report)](
-                        const Job&) { return writeAtomically(path, std::array{std::string_view(report)}); },
+    m_workbench.run([path, report = std::move(report)](const Job&) { return writeAtomically(path, report); },
                     [this](const std::expected<void, Failure>& written, bool) { conclude(written); },
                     [](const std::expected<void, Failure>& written) {
                         return written ? QString() : notWritten(written.error());
@@ -111,24 +111,17 @@ void VerificationTool::askEmulator()
         std::size_t count = 0;
         const auto printing = [&](std::string_view piece) {
             count += verdictLines(piece);
-            job.post([this, count] { showCount(count); });
+            job.post([&workbench = m_workbench, count] {
+                workbench.showCount(qtTrId("verification_count").arg(numberText(count)));
+            });
         };
         // Whatever is bad or missing makes its status another one than 0.
-        const auto printed = printedBy(emulator, arguments, true, {job.stop(), printing});
+        const auto printed = keptPrintedBy(emulator, arguments, true, verifyromsName, {job.stop(), printing});
         if (!printed)
             return std::unexpected(printed.error());
-        if (job.stop().stop_requested())
-            return {};
-        if (const auto kept = keepPrinted(verifyromsName, *printed); !kept)
-            return std::unexpected(kept.error());
         return verifiedSets(*printed, job.stop());
     };
-    m_workbench.runOrRefuse(verify, [this](std::vector<VerifiedSet> sets) { takeVerified(std::move(sets)); });
-}
-
-void VerificationTool::showCount(std::size_t sets)
-{
-    m_workbench.showCount(qtTrId("verification_count").arg(numberText(sets)));
+    m_workbench.runOrRefuse(verify, std::bind_front(&VerificationTool::takeVerified, this));
 }
 
 void VerificationTool::takeVerified(std::vector<VerifiedSet> sets)

@@ -36,7 +36,6 @@ private:
     };
 
     void offer(Condensed condensed);
-    void showCount(std::size_t sets);
     void takeVerified(std::vector<VerifiedSet> sets);
     void save(const QString& path, std::string report);
     void conclude(const std::expected<void, Failure>& written);

@@ -24,16 +24,9 @@ constexpr int wholeIndicator = 1000;
 constexpr qint64 progressSteps = 100;
 } // namespace
 
-void Job::post(std::function<void()> call) const
+bool Job::isAbandoned() const
 {
-    Workbench& workbench = m_workbench;
-    QMetaObject::invokeMethod(
-        &workbench,
-        [&workbench, number = m_number, call = std::move(call)] {
-            if (number == workbench.m_job)
-                call();
-        },
-        Qt::QueuedConnection);
+    return m_number != m_workbench.m_job;
 }
 
 void Job::log(const QString& line) const
@@ -41,22 +34,6 @@ void Job::log(const QString& line) const
     Workbench& workbench = m_workbench;
     QMetaObject::invokeMethod(
         &workbench, [&workbench, line] { workbench.m_desktop.log(line); }, Qt::QueuedConnection);
-}
-
-void Job::end(std::function<void()> done, std::function<void()> abandoned) const
-{
-    Workbench& workbench = m_workbench;
-    QMetaObject::invokeMethod(
-        &workbench,
-        [&workbench, number = m_number, done = std::move(done), abandoned = std::move(abandoned)] {
-            workbench.takeEnd([&workbench, number, done, abandoned] {
-                if (number != workbench.m_job)
-                    return abandoned();
-                workbench.end();
-                done();
-            });
-        },
-        Qt::QueuedConnection);
 }
 
 Workbench::Workbench(Desktop& desktop, DefaultsController& defaults, UtilityFoot& foot, QObject* parent)
@@ -128,19 +105,20 @@ void Workbench::showCount(const QString& text)
     m_foot.progressCount->setVisible(true);
 }
 
-std::function<void(qint64)> Workbench::progressOf(const Job& job, const QString& path)
+Watch Workbench::watch(const Job& job, const QString& path)
 {
     // Of a pipe nobody knows how much will come.
     const qint64 all = QFileInfo(path).size();
     auto done = std::make_shared<std::atomic<qint64>>(0);
     auto shown = std::make_shared<std::atomic<qint64>>(0);
-    return [this, job, all, done, shown](qint64 more) {
+    const auto progress = [this, job, all, done, shown](qint64 more) {
         const qint64 now = done->fetch_add(more) + more;
         qint64 before = shown->load();
         if (all == 0 || now - before < all / progressSteps || !shown->compare_exchange_strong(before, now))
             return;
         job.post([this, now, all] { showProgress(std::min(now, all), all); });
     };
+    return {job.stop(), progress};
 }
 
 QString Workbench::openPanelpath(bool chooseFile, bool chooseDirect, const QString& title,
@@ -171,11 +149,6 @@ void Workbench::takePath(QLineEdit& field, const ChosenKey& key, const QString& 
         Q_EMIT statusMessage(failure);
 }
 
-QString Workbench::leftUndone()
-{
-    return qtTrId("tool_undone");
-}
-
 // Without a failure it was cancelled.
 void Workbench::giveUp(const QString& failure)
 {
@@ -201,15 +174,6 @@ void Workbench::explain(const QString& text)
     Q_EMIT statusMessage(text);
 }
 
-// While somebody is asked whether a job may be abandoned, its end waits for the answer.
-void Workbench::takeEnd(std::function<void()> end)
-{
-    if (m_isAsking)
-        m_ended = std::move(end);
-    else
-        end();
-}
-
 bool Workbench::mayBeAbandoned()
 {
     // What was cancelled is not asked about again.
@@ -223,8 +187,8 @@ bool Workbench::mayBeAbandoned()
     const bool wasAsking = std::exchange(m_isAsking, true);
     const bool may = m_desktop.runAlert(alert) == 1;
     m_isAsking = wasAsking;
-    if (!m_isAsking && m_ended)
-        QMetaObject::invokeMethod(this, std::exchange(m_ended, {}), Qt::QueuedConnection);
+    if (!m_isAsking)
+        QMetaObject::invokeMethod(this, &Workbench::answered, Qt::QueuedConnection);
     return may;
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "core/settingskeys.h"
+#include "tools/watch.h"
 
 #include <QObject>
 #include <QThreadPool>
 
-#include <functional>
 #include <memory>
-#include <stop_token>
 
 class QLineEdit;
 
@@ -16,9 +15,8 @@ namespace tessera {
 class DefaultsController;
 class Desktop;
 class UtilityFoot;
-struct ToolPath;
-
 class Workbench;
+struct ToolPath;
 
 /// What goes on beside the windows, as it is seen from there.
 class Job
@@ -33,11 +31,19 @@ public:
 
     const std::stop_token& stop() const { return m_stop; }
     /// The call is made on the windows' thread, unless the job is abandoned by then.
-    void post(std::function<void()> call) const;
+    template <class Call>
+    void post(Call call) const
+    {
+        const auto unlessAbandoned = [job = *this, call = std::move(call)] {
+            if (!job.isAbandoned())
+                call();
+        };
+        QMetaObject::invokeMethod(&m_workbench, unlessAbandoned, Qt::QueuedConnection);
+    }
     /// A line of the system log; written whether or not the job is abandoned.
     void log(const QString& line) const;
-    /// It has ended. One of the two calls is made there: the second one where it was abandoned.
-    void end(std::function<void()> done, std::function<void()> abandoned) const;
+    /// For the windows' thread alone.
+    bool isAbandoned() const;
 
 private:
     Workbench& m_workbench;
@@ -70,8 +76,8 @@ public:
 
     /// How many of something are done, where nobody knows how many there will be.
     void showCount(const QString& text);
-    /// For a job that reads a file: takes from any thread how much more of it was read, and shows it.
-    std::function<void(qint64 more)> progressOf(const Job& job, const QString& path);
+    /// For a job that reads a file: shows how much of it was read.
+    Watch watch(const Job& job, const QString& path);
 
     /// The chosen path; empty after Cancel.
     QString openPanelpath(bool chooseFile, bool chooseDirect, const QString& title = {},
@@ -87,7 +93,7 @@ public:
     template <class Work, class Done>
     void run(Work work, Done done)
     {
-        run(std::move(work), std::move(done), [](const auto&) { return leftUndone(); });
+        run(std::move(work), std::move(done), [](const auto&) { return qtTrId("tool_undone"); });
     }
     /// The same; where the job is abandoned, the status line says what `undone` makes of the result.
     template <class Work, class Done, class Undone>
@@ -95,9 +101,21 @@ public:
     {
         const Job job = begin();
         m_pool.start([this, job, work = std::move(work), done = std::move(done), undone = std::move(undone)] {
-            auto result = std::make_shared<decltype(work(job))>(work(job));
-            job.end([job, done, result] { done(std::move(*result), job.stop().stop_requested()); },
-                    [this, undone, result] { sayUndone(undone(*result)); });
+            const auto result = std::make_shared<decltype(work(job))>(work(job));
+            const auto finish = [this, job, done, undone, result] {
+                if (job.isAbandoned())
+                    return sayUndone(undone(*result));
+                end();
+                done(std::move(*result), job.stop().stop_requested());
+            };
+            // While somebody is asked whether a job may be abandoned, its end waits for the answer.
+            const auto afterAnswer = [this, finish] {
+                if (m_isAsking)
+                    connect(this, &Workbench::answered, this, finish, Qt::SingleShotConnection);
+                else
+                    finish();
+            };
+            QMetaObject::invokeMethod(this, afterAnswer, Qt::QueuedConnection);
         });
     }
     /// The same for work that may fail: only a good result goes to `done`. A failure is said with a beep, and
@@ -124,14 +142,14 @@ Q_SIGNALS:
     void statusMessage(const QString& text);
     /// It is out of date.
     void statusWithdrawn(const QString& text);
+    /// Whether a job may be abandoned is known by now.
+    void answered();
 
 private:
     friend class Job;
-    static QString leftUndone();
     void giveUp(const QString& failure);
     void sayUndone(const QString& text);
     Job begin();
-    void takeEnd(std::function<void()> end);
     void end();
 
     Desktop& m_desktop;
@@ -141,7 +159,6 @@ private:
     bool m_isBusy = false;
     int m_job = 0;
     bool m_isAsking = false; ///< whether a job may be abandoned
-    std::function<void()> m_ended; ///< what ended meanwhile
     QString m_explained;
     QThreadPool m_pool; ///< ends first, while everything else still stands
 };

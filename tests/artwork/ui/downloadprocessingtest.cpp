@@ -64,13 +64,12 @@ private Q_SLOTS:
         m_folder = std::make_unique<SnapFolder>(*m_desktop, m_staging->defaults);
         m_folder->Setsnapfolder();
         m_sites = std::make_unique<SnapSites>(m_staging->defaults);
-        m_panel = std::make_unique<DownloadPanel>();
+        m_processing = std::make_unique<DownloadProcessing>(
+            *m_desktop, *m_folder, *m_sites, DownloadLimits{.silence = std::chrono::milliseconds(400)});
+        m_panel = &m_processing->panel();
         m_texts.clear();
         connect(m_panel->infomationTextView, &QPlainTextEdit::textChanged, this,
                 [this] { m_texts << m_panel->infomationTextView->toPlainText(); });
-        m_processing = std::make_unique<DownloadProcessing>(
-            *m_desktop, *m_folder, *m_sites, [this]() -> DownloadPanel& { return *m_panel; },
-            DownloadLimits{.silence = std::chrono::milliseconds(400)});
         m_changes.clear();
         connect(m_processing.get(), &DownloadProcessing::SnapChange, this,
                 [this](const QString& object) { m_changes << object; });
@@ -402,7 +401,7 @@ private:
     std::unique_ptr<ScriptedServer> m_server;
     std::unique_ptr<SnapFolder> m_folder;
     std::unique_ptr<SnapSites> m_sites;
-    std::unique_ptr<DownloadPanel> m_panel;
+    DownloadPanel* m_panel;
     std::unique_ptr<DownloadProcessing> m_processing;
     QStringList m_texts;
     QStringList m_changes;

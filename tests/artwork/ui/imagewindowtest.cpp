@@ -1,7 +1,6 @@
 #include "artwork/ui/imagewindow.h"
 
 #include "artwork/ui/imagecandodrag.h"
-#include "artwork/ui/imageframe.h"
 #include "support/testmain.h"
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "core/urltemplate.h"
+#include "platform/websites.h"
 
 #include "support/testmain.h"
 
