@@ -26,14 +26,8 @@ ArrangedTableModel::ArrangedTableModel(ArrangedList& list, DefaultsController& d
     , m_fontKey(font)
 {
     readFont();
-    connect(&m_list, &ArrangedList::aboutToArrange, this, [this] {
-        if (!m_isChanging)
-            beginResetModel();
-    });
-    connect(&m_list, &ArrangedList::arranged, this, [this] {
-        if (!m_isChanging)
-            endResetModel();
-    });
+    connect(&m_list, &ArrangedList::aboutToArrange, this, &ArrangedTableModel::beginArranging);
+    connect(&m_list, &ArrangedList::arranged, this, &ArrangedTableModel::endArranging);
     connect(&m_defaults, &DefaultsController::changed, this, &ArrangedTableModel::settingChanged);
 }
 
@@ -70,36 +64,28 @@ void ArrangedTableModel::showRecord(std::uint32_t record)
     }
 }
 
-void ArrangedTableModel::quietly(const std::function<void()>& change)
+void ArrangedTableModel::beginArranging(ArrangedList::Change change)
 {
-    m_isChanging = true;
-    change();
-    m_isChanging = false;
-}
-
-void ArrangedTableModel::replace(const std::function<void()>& change)
-{
-    beginResetModel();
-    quietly(change);
-    endResetModel();
-}
-
-void ArrangedTableModel::resort(const std::function<void()>& change)
-{
+    if (change != ArrangedList::Change::Order)
+        return beginResetModel();
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    std::vector<std::uint32_t> records;
-    records.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& place : before)
-        records.push_back(recordAt(place));
-    quietly(change);
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (qsizetype i = 0; i < before.size(); ++i) {
-        const auto row = m_list.rowOf(records[static_cast<std::size_t>(i)]);
-        after << (row ? index(static_cast<int>(*row), before[i].column()) : QModelIndex());
+    m_places = persistentIndexList();
+    m_recordsThere.clear();
+    for (const QModelIndex& place : m_places)
+        m_recordsThere.push_back(recordAt(place));
+}
+
+void ArrangedTableModel::endArranging(ArrangedList::Change change)
+{
+    if (change != ArrangedList::Change::Order)
+        return endResetModel();
+    QModelIndexList now;
+    now.reserve(m_places.size());
+    for (qsizetype i = 0; i < m_places.size(); ++i) {
+        const auto row = m_list.rowOf(m_recordsThere[static_cast<std::size_t>(i)]);
+        now << (row ? index(static_cast<int>(*row), m_places[i].column()) : QModelIndex());
     }
-    changePersistentIndexList(before, after);
+    changePersistentIndexList(m_places, now);
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 

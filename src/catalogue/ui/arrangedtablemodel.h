@@ -10,8 +10,8 @@ namespace tessera {
 
 class DefaultsController;
 
-/// What the models over an arranged list share: its rows, their font and colours, and that an arrangement of
-/// the list resets the model.
+/// What the models over an arranged list share: its rows, their font and colours, and that other rows reset
+/// the model, while the same ones in another order stay selected.
 class ArrangedTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -33,23 +33,22 @@ protected:
         return m_list.rows()[static_cast<std::size_t>(index.row())];
     }
 
-    /// Other records: nothing stays selected.
-    void replace(const std::function<void()>& change);
-    /// The same records in another order: what is selected stays selected.
-    void resort(const std::function<void()>& change);
     void showEverything(const QList<int>& roles = {});
     void showRecord(std::uint32_t record);
 
 private:
     void readFont();
     void settingChanged(const QString& name);
-    void quietly(const std::function<void()>& change);
+    void beginArranging(ArrangedList::Change change);
+    void endArranging(ArrangedList::Change change);
 
     ArrangedList& m_list;
     DefaultsController& m_defaults;
     const Key<QLatin1StringView>& m_fontKey;
     QFont m_font;
-    bool m_isChanging = false;
+    // While the rows change places: what is kept by its place, and the record in each.
+    QModelIndexList m_places;
+    std::vector<std::uint32_t> m_recordsThere;
 };
 
 } // namespace tessera

@@ -146,8 +146,7 @@ bool GameTableModel::setData(const QModelIndex& index, const QVariant& value, in
 void GameTableModel::sort(int column, Qt::SortOrder order)
 {
     if (column >= 0 && column < columnCount())
-        resort(
-            [&] { list().setSort(columns[static_cast<std::size_t>(column)], order == Qt::AscendingOrder); });
+        list().setSort(columns[static_cast<std::size_t>(column)], order == Qt::AscendingOrder);
 }
 
 } // namespace tessera

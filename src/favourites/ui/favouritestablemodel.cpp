@@ -78,19 +78,17 @@ void FavouritesTableModel::showPlayed()
 {
     const Sort& sort = m_sorts.back();
     if (sort.column == FavouriteColumn::Times || sort.column == FavouriteColumn::Last)
-        resort([&] { arrange(sort); });
+        arrange(sort);
     showEverything();
 }
 
 void FavouritesTableModel::reload()
 {
-    replace([this] {
-        m_gone = RecordSet(m_favourites.records().size());
-        list().setContent(m_favourites.records());
-        // As when each of them were asked for again: those that are equal by the last one keep their order.
-        for (const Sort& sort : m_sorts)
-            arrange(sort);
-    });
+    m_gone = RecordSet(m_favourites.records().size());
+    list().setContent(m_favourites.records());
+    // As when each of them were asked for again: those that are equal by the last one keep their order.
+    for (const Sort& sort : m_sorts)
+        arrange(sort);
 }
 
 void FavouritesTableModel::setGone(RecordSet gone)
@@ -218,7 +216,6 @@ void FavouritesTableModel::arrange(const Sort& sort)
                        sort.ascending);
 }
 
-// The same favourites in another order: what is selected stays selected.
 void FavouritesTableModel::sort(int column, Qt::SortOrder order)
 {
     if (column < 0 || column >= columns)
@@ -226,7 +223,7 @@ void FavouritesTableModel::sort(int column, Qt::SortOrder order)
     const Sort sort{columnAt(column), order == Qt::AscendingOrder};
     std::erase_if(m_sorts, [&](const Sort& each) { return each.column == sort.column; });
     m_sorts.push_back(sort);
-    resort([&] { arrange(sort); });
+    arrange(sort);
 }
 
 } // namespace tessera
