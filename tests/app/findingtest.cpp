@@ -367,8 +367,7 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
         search(QString());
         QVERIFY(list().selectGame(QStringLiteral("jp")));
-        m_staged->app->catalogue().setValue(*list().selection().first(), Field::Title,
-                                            QStringLiteral("Zork"));
+        m_staged->app->catalogue().setValue(*list().firstSelected(), Field::Title, QStringLiteral("Zork"));
         search(QStringLiteral("zork"));
         QCOMPARE(shown(), QStringLiteral("jp"));
         search(QStringLiteral("jackpot"));
@@ -419,13 +418,13 @@ private Q_SLOTS:
         finder().setRomFolders(std::make_shared<RomFolders>(std::nullopt, QStringList()));
         QVERIFY(answered.wait());
         QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
-        QCOMPARE(list().selection().count(), 1);
+        QCOMPARE(list().selectedCount(), 1);
     }
 
     void anOpenEditorIsTakenOverBeforeTheRowsChange()
     {
         QVERIFY(list().selectGame(QStringLiteral("jp")));
-        const int row = list().selection().firstRow();
+        const int row = list().firstRow();
         const QModelIndex title = list().model()->index(row, GameTableModel::columnOf(Field::Title));
         window().gameTable->edit(title);
         auto* editor = window().gameTable->viewport()->findChild<QLineEdit*>();
@@ -568,12 +567,12 @@ private Q_SLOTS:
     void everythingSelectedStaysSoWithinAChip()
     {
         window().gameTable->selectAll();
-        QCOMPARE(list().selection().count(), 8);
+        QCOMPARE(list().selectedCount(), 8);
         click(Chip::Games);
-        QCOMPARE(list().selection().count(), 5);
+        QCOMPARE(list().selectedCount(), 5);
         click(Chip::All);
-        QCOMPARE(list().selection().count(), 5);
-        QCOMPARE(list().selection().records(), (std::vector<std::uint32_t>{1, 2, 0, 4, 3}));
+        QCOMPARE(list().selectedCount(), 5);
+        QCOMPARE(list().selectedRecords(), (std::vector<std::uint32_t>{1, 2, 0, 4, 3}));
     }
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "catalogue/ui/gamelistcontroller.h"
 #include "support/writestore.h"
 #include "favourites/favourites.h"
 #include "favourites/favouritespath.h"
@@ -52,8 +53,8 @@ public:
     }
     void startUnseen()
     {
-        controller = std::make_unique<UCAppController>(FavouritesParts{
-            desktop, controls, favourites, played, catalogue, [this] { return selectedGame; }});
+        controller = std::make_unique<UCAppController>(
+            FavouritesParts{desktop, controls, favourites, played, catalogue, games});
         controller->awakeFromNib();
     }
     void showTable()
@@ -88,7 +89,7 @@ public:
     Catalogue catalogue;
     Favourites favourites;
     PlayedGames played;
-    const GameRecord* selectedGame = nullptr;
+    GameListController games{catalogue, desktop, controls}; ///< follows the catalogue
     std::unique_ptr<FavouritesTable> table;
     std::unique_ptr<UCAppController> controller;
 };

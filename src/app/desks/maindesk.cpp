@@ -48,8 +48,8 @@ void MainDesk::showSelection()
 {
     FactsPanel& facts = *m_parts.window.factsPanel;
     const GameRecord* record = m_parts.list.selectedRecord();
-    facts.showRecord(record, m_parts.list.selection().count());
-    const auto first = m_parts.list.selection().first();
+    facts.showRecord(record, m_parts.list.selectedCount());
+    const auto first = m_parts.list.firstSelected();
     facts.showHave(first ? m_parts.finding.finder().haveOf(*first) : std::nullopt, record);
 }
 

@@ -4,10 +4,11 @@
 #include "catalogue/recorddictionary.h"
 #include "favourites/gonefavourites.h"
 #include "favourites/playedgames.h"
-#include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -19,9 +20,9 @@ constexpr int recentDays = 30;
 
 } // namespace
 
-UCAppController::UCAppController(FavouritesParts parts, QObject* parent)
+UCAppController::UCAppController(const FavouritesParts& parts, QObject* parent)
     : ListController(parts.desktop, parts.defaults.stored(), parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
     , m_model(new FavouritesTableModel(m_parts.favourites, list(), m_parts.played, colors(), m_parts.defaults,
                                        this))
 {
@@ -32,7 +33,7 @@ void UCAppController::joinFavourites()
 {
     const Favourites* favourites = &m_parts.favourites;
     connect(favourites, &Favourites::replaced, this, [this] { showAgain({}); });
-    connect(favourites, &Favourites::appended, this, [this] { showAgain(selection().records()); });
+    connect(favourites, &Favourites::appended, this, [this] { showAgain(selectedRecords()); });
     connect(favourites, &Favourites::putBackAt, this,
             [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
     connect(favourites, &Favourites::removed, this, &UCAppController::showAfterRemoval);
@@ -71,9 +72,9 @@ void UCAppController::awakeFromNib()
 // selected, so that several can be removed in a row.
 void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 {
-    const int row = selection().firstRow();
+    const int row = firstRow();
     std::vector<std::uint32_t> left;
-    for (const std::uint32_t each : selection().records()) {
+    for (const std::uint32_t each : selectedRecords()) {
         const auto before = std::ranges::lower_bound(gone, each);
         if (before == gone.end() || *before != each)
             left.push_back(each - static_cast<std::uint32_t>(before - gone.begin()));
@@ -84,13 +85,12 @@ void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 // The list as it is now, with these favourites selected, or else a row or the last one.
 void UCAppController::showAgain(const std::vector<std::uint32_t>& selected, int row)
 {
-    quietly([&] {
+    {
+        const QScopedValueRollback quiet(m_isQuiet, true);
         m_model->reload();
-        if (row < 0)
-            selection().select(selected);
-        else
-            selection().selectRow(std::min(row, m_model->rowCount() - 1));
-    });
+        selectRecords(selected);
+        selectRow(row);
+    }
     markGone();
     tableViewSelectionDidChange();
     Q_EMIT countChanged();
@@ -103,7 +103,7 @@ void UCAppController::markGone()
 
 void UCAppController::addFavorite()
 {
-    const GameRecord* game = m_parts.selectedGame();
+    const GameRecord* game = m_parts.games.selectedRecord();
     if (game == nullptr) {
         m_parts.desktop.beep();
         return;
@@ -122,13 +122,13 @@ void UCAppController::addFavoritesTable(const GameRecord& game)
 void UCAppController::removeFavoritesTable()
 {
     commitEditing();
-    removeAfterAsking(selection().records());
+    removeAfterAsking(selectedRecords());
 }
 
 void UCAppController::removeShown()
 {
     commitEditing();
-    const auto shown = selection().first();
+    const auto shown = firstSelected();
     removeAfterAsking(shown ? std::vector{*shown} : std::vector<std::uint32_t>());
 }
 
@@ -183,7 +183,10 @@ void UCAppController::applyRecent()
             return recent.contains(fieldText(record[Field::Name]));
         };
     }
-    rearrange([&] { list().setPredicate(std::move(predicate)); });
+    {
+        const Rearranging keeping(*this);
+        list().setPredicate(std::move(predicate));
+    }
     Q_EMIT countChanged();
 }
 
