@@ -1,7 +1,12 @@
 #include "catalogue/ui/arrangedtablemodel.h"
 
+#include "catalogue/colortransformer.h"
+#include "catalogue/gametypetransformer.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/statusmark.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/fontname.h"
+#include "widgets/theme.h"
 
 #include <algorithm>
 
@@ -18,10 +23,13 @@ constexpr std::array looks{
 
 } // namespace
 
-ArrangedTableModel::ArrangedTableModel(ArrangedList& list, DefaultsController& defaults,
+ArrangedTableModel::ArrangedTableModel(ArrangedList& list, std::span<const TableColumn> columns,
+                                       const ColorTransformer& colors, DefaultsController& defaults,
                                        const Key<QLatin1StringView>& font, QObject* parent)
     : QAbstractTableModel(parent)
     , m_list(list)
+    , m_columns(columns)
+    , m_colors(colors)
     , m_defaults(defaults)
     , m_fontKey(font)
 {
@@ -48,6 +56,71 @@ void ArrangedTableModel::settingChanged(const QString& name)
 int ArrangedTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_list.size());
+}
+
+int ArrangedTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant ArrangedTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const GameRecord& record = m_list[static_cast<std::size_t>(index.row())];
+    const std::optional<Field> field = column(index).field;
+    switch (role) {
+    case Qt::DisplayRole:
+        if (field == Field::Type)
+            return GameTypeTransformer::transformedValue(record[Field::Type]);
+        [[fallthrough]];
+    case Qt::EditRole:
+        return field ? fieldText(record[*field]) : QVariant();
+    case Qt::FontRole:
+        return m_font;
+    case Qt::DecorationRole:
+        if (field == Field::Name)
+            return theme::mark(fieldText(statusMark(record[Field::Status]).value_or(noStatusMark)));
+        return QVariant();
+    case Qt::ToolTipRole:
+        if (field == Field::Name)
+            return QString(fieldText(record[Field::Name]) + QStringLiteral(" · ")
+                           + fieldText(record[Field::Status]));
+        return QVariant();
+    case Qt::ForegroundRole:
+        if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
+            return *color;
+        return QVariant();
+    default:
+        return QVariant();
+    }
+}
+
+QVariant ArrangedTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return QVariant();
+    if (role == Qt::DisplayRole)
+        return qtTrId(m_columns[static_cast<std::size_t>(section)].heading);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return QVariant();
+}
+
+Qt::ItemFlags ArrangedTableModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    return column(index).isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool ArrangedTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable) || data(index, Qt::EditRole) == value)
+        return false;
+    setText(index, value.toString());
+    return true;
 }
 
 void ArrangedTableModel::showEverything(const QList<int>& roles)
