@@ -4,7 +4,6 @@
 
 #include "app/windows/favouriteswindow.h"
 #include "catalogue/ui/gametableview.h"
-#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "widgets/logview.h"

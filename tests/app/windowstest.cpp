@@ -11,7 +11,6 @@
 #include "catalogue/ui/recordediting.h"
 #include "launch/ui/launchcontroller.h"
 #include "favourites/ui/favouriteeditor.h"
-#include "favourites/ui/favouritestable.h"
 #include "widgets/logview.h"
 #include "launch/ui/logwindow.h"
 #include "support/testmain.h"

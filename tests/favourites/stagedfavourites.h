@@ -2,11 +2,11 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
 #include "support/writestore.h"
 #include "favourites/favourites.h"
 #include "favourites/favouritespath.h"
 #include "favourites/playedgames.h"
-#include "favourites/ui/favouritestable.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "favourites/ui/ucappcontroller.h"
 #include "platform/defaultscontroller.h"
@@ -59,7 +59,7 @@ public:
     }
     void showTable()
     {
-        table = std::make_unique<FavouritesTable>();
+        table = std::make_unique<GameTableView>();
         table->followRowHeight(controls);
         controller->setTable(table.get());
         controller->favorites_tableViewSort();
@@ -90,7 +90,7 @@ public:
     Favourites favourites;
     PlayedGames played;
     GameListController games{catalogue, desktop, controls}; ///< follows the catalogue
-    std::unique_ptr<FavouritesTable> table;
+    std::unique_ptr<GameTableView> table;
     std::unique_ptr<UCAppController> controller;
 };
 

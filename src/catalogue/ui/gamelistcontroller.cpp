@@ -35,6 +35,7 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
 void GameListController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
+    connect(table, &GameTableView::doubleAction, this, &GameListController::tableViewDoubleAction);
 }
 
 RecordDictionary GameListController::objectDictionary() const

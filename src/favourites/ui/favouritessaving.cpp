@@ -4,7 +4,6 @@
 
 #include "core/atomicfile.h"
 #include "core/keptcopy.h"
-#include "favourites/ui/favouritestable.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 

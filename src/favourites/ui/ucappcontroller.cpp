@@ -8,6 +8,7 @@
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
+#include <QHeaderView>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -17,6 +18,7 @@ namespace tessera {
 namespace {
 
 constexpr int recentDays = 30;
+constexpr int headerHeight = 22;
 
 } // namespace
 
@@ -58,6 +60,9 @@ void UCAppController::joinFavourites()
 void UCAppController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
+    table->horizontalHeader()->setFixedHeight(headerHeight);
+    for (const FavouriteColumn column : FavouritesTableModel::hiddenColumns)
+        table->setColumnHidden(static_cast<int>(column), true);
     connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);
 }
 

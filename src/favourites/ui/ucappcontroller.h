@@ -29,6 +29,7 @@ class UCAppController : public ListController
 public:
     explicit UCAppController(const FavouritesParts& parts, QObject* parent = nullptr);
 
+    /// With a header of its own height; some columns are not among the shown ones at first.
     void setTable(GameTableView* table);
     FavouritesTableModel* model() { return m_model; }
 
