@@ -409,14 +409,15 @@ private Q_SLOTS:
 
     void whatHappensBesideLeavesTheChoiceAlone()
     {
-        search(QStringLiteral("konami"));
+        // What the ROM folders hold is asked for, so that their answer searches anew.
+        search(QStringLiteral("konami have:no"));
         QVERIFY(list().selectGame(QStringLiteral("gradius3")));
         click(Chip::Games);
         QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
         finder().setPredicate(QStringLiteral("Konami"));
-        QSignalSpy answered(&finder(), &GameFinder::changed);
+        QSignalSpy answered(&finder(), &GameFinder::havesChanged);
         finder().setRomFolders(std::make_shared<RomFolders>(std::nullopt, QStringList()));
-        QVERIFY(answered.wait());
+        QTRY_VERIFY(!answered.isEmpty());
         QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
         QCOMPARE(list().selectedCount(), 1);
     }
