@@ -10,7 +10,6 @@
     <message id="column_option"><source></source><translation>Options</translation></message>
     <message id="column_times"><source></source><translation>Played</translation></message>
     <message id="column_last"><source></source><translation>Last played</translation></message>
-    <message id="favourites_table"><source></source><translation>Favourites</translation></message>
     <message id="favourites_saved"><source></source><translation>Favourites saved.</translation></message>
     <message id="favourite_gone"><source></source><translation>“%1” is not in the catalogue any more.</translation></message>
     <message id="favourite_editor"><source></source><translation>Favourite</translation></message>

@@ -10,7 +10,6 @@
     <message id="column_option"><source></source><translation>オプション</translation></message>
     <message id="column_times"><source></source><translation>回数</translation></message>
     <message id="column_last"><source></source><translation>最後に遊んだ日時</translation></message>
-    <message id="favourites_table"><source></source><translation>お気に入り</translation></message>
     <message id="favourites_saved"><source></source><translation>お気に入りを保存しました。</translation></message>
     <message id="favourite_gone"><source></source><translation>“%1”はもうカタログにありません。</translation></message>
     <message id="favourite_editor"><source></source><translation>お気に入りの編集</translation></message>

@@ -8,8 +8,8 @@
 #include "app/windows/miniwindow.h"
 #include "app/windows/sidepanel.h"
 #include "catalogue/ui/factspanel.h"
+#include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouriteeditor.h"
-#include "favourites/ui/favouritestable.h"
 #include "widgets/theme.h"
 
 #include <QApplication>

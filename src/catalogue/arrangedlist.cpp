@@ -49,7 +49,7 @@ RecordSet recordsWhere(std::span<const GameRecord> content, const Predicate& pre
 
 void ArrangedList::setContent(std::span<const GameRecord> content, std::optional<SortedRecords> byName)
 {
-    Q_EMIT aboutToArrange();
+    Q_EMIT aboutToArrange(Change::Content);
     m_content = content;
     m_found.reset();
     m_families.reset();
@@ -62,13 +62,13 @@ void ArrangedList::setContent(std::span<const GameRecord> content, std::optional
     for (const Sort& sort : std::span(m_sorts).first(m_sorts.size() - 1))
         m_before = sorted(sort.field).ordered(sort.ascending, m_before);
     m_isOrdered = false;
-    arrange(Content::Other);
+    arrange(Change::Content);
 }
 
 void ArrangedList::setPredicate(Predicate predicate)
 {
     m_predicate = std::move(predicate);
-    arrange();
+    arrange(Change::Rows);
 }
 
 void ArrangedList::setFound(std::optional<Found> found, Ranking ranking)
@@ -77,7 +77,7 @@ void ArrangedList::setFound(std::optional<Found> found, Ranking ranking)
     if (!found && !m_found)
         return;
     m_found = std::move(found);
-    arrange();
+    arrange(Change::Rows);
 }
 
 void ArrangedList::setSort(Field field, bool ascending)
@@ -124,7 +124,7 @@ void ArrangedList::sortBy(bool ascending)
     m_ascending = ascending;
     m_isOrdered = false;
     m_ranks = false;
-    arrange();
+    arrange(Change::Order);
 }
 
 void ArrangedList::setFamilies(std::optional<Families> families)
@@ -132,7 +132,7 @@ void ArrangedList::setFamilies(std::optional<Families> families)
     if (!families && !m_families)
         return;
     m_families = std::move(families);
-    arrange();
+    arrange(Change::Rows);
 }
 
 // The predicate is asked about what was found only.
@@ -166,7 +166,7 @@ const std::vector<std::uint32_t>& ArrangedList::ordered()
     return m_ordered;
 }
 
-void ArrangedList::arrange(Content content)
+void ArrangedList::arrange(Change change)
 {
     std::vector<std::uint32_t> rows = chosenOf(ordered(), chosen());
     std::vector<std::uint32_t> clones;
@@ -177,17 +177,17 @@ void ArrangedList::arrange(Content content)
         rows = std::move(folded.rows);
         clones = std::move(folded.clones);
     }
-    if (content == Content::Same) {
+    if (change != Change::Content) {
         if (rows == m_rows && clones == m_clones)
             return;
-        Q_EMIT aboutToArrange();
+        Q_EMIT aboutToArrange(change);
     }
     m_rows = std::move(rows);
     m_clones = std::move(clones);
     m_rowOf.assign(m_content.size(), hidden);
     for (std::uint32_t row = 0; row < m_rows.size(); ++row)
         m_rowOf[m_rows[row]] = row;
-    Q_EMIT arranged();
+    Q_EMIT arranged(change);
 }
 
 bool ArrangedList::isBeneath(std::size_t row) const

@@ -82,19 +82,21 @@ public:
     /// The first row whose field is exactly `value`.
     std::optional<std::size_t> find(Field field, std::string_view value) const;
 
+    /// What was asked for: another content, other ones of its records, or another order of the same ones.
+    enum class Change : std::uint8_t { Content, Rows, Order };
+
 Q_SIGNALS:
-    // Rows are others now; where they would be the same nothing is told.
-    void aboutToArrange();
-    void arranged();
+    // Rows are others now; where they would be the same nothing is told, but of another content.
+    void aboutToArrange(tessera::ArrangedList::Change change);
+    void arranged(tessera::ArrangedList::Change change);
 
 private:
-    enum class Content : std::uint8_t { Same, Other };
     struct Sort {
         Field field;
         bool ascending;
     };
 
-    void arrange(Content content = Content::Same);
+    void arrange(Change change);
     void keepShownOrder();
     void sortBy(bool ascending);
     RecordSet chosen() const;

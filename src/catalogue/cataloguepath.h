@@ -1,10 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QStandardPaths>
 
 namespace tessera {
 
 /// $XDG_DATA_HOME/Tessera/Tessera.xml
-QString standardCataloguePath();
+inline QString standardCataloguePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+        + QStringLiteral("/Tessera/Tessera.xml");
+}
 
 } // namespace tessera

@@ -51,15 +51,6 @@ Have RomFolders::have(const GameRecord& record) const
     return have(record.has(Field::Name) ? std::optional(name) : std::nullopt, record[Field::Cloneof]);
 }
 
-std::vector<Have> RomFolders::haves(std::span<const GameRecord> content) const
-{
-    std::vector<Have> haves;
-    haves.reserve(content.size());
-    for (const GameRecord& record : content)
-        haves.push_back(have(record));
-    return haves;
-}
-
 std::vector<RomFolders::SetNames> RomFolders::setNames(std::span<const GameRecord> content)
 {
     std::vector<SetNames> names;

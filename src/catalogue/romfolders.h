@@ -29,7 +29,6 @@ public:
     bool holds(std::string_view setName) const;
 
     Have have(const GameRecord& record) const;
-    std::vector<Have> haves(std::span<const GameRecord> content) const;
 
     /// A record's own set and its parent's, in a copy that any thread may keep.
     struct SetNames {
@@ -38,6 +37,7 @@ public:
     };
     static std::vector<SetNames> setNames(std::span<const GameRecord> content);
     std::vector<Have> haves(std::span<const SetNames> sets) const;
+    std::vector<Have> haves(std::span<const GameRecord> content) const { return haves(setNames(content)); }
 
 private:
     Have have(std::optional<std::string_view> name, std::string_view parent) const;

@@ -2,6 +2,8 @@
 
 #include "catalogue/gamerecord.h"
 
+#include <QUuid>
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -58,6 +60,9 @@ constexpr std::size_t lastObjectId(std::size_t records)
 }
 
 /// A new one in its standard form: 36 characters, upper case.
-std::string newUuid();
+inline std::string newUuid()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper().toStdString();
+}
 
 } // namespace tessera::storelayout

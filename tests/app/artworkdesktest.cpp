@@ -17,7 +17,6 @@
 #include "artwork/ui/picturespage.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
-#include "favourites/ui/favouritestable.h"
 #include "app/windows/filespage.h"
 #include "launch/ui/folderproposal.h"
 #include "support/installedtexts.h"

@@ -193,7 +193,7 @@ private Q_SLOTS:
         staged.app->mainWindow().searchField->setText("nothing");
         QTRY_COMPARE(staged.app->gameList().list().size(), std::size_t(0));
         Q_EMIT window.changes->opened("pacman");
-        QCOMPARE(staged.app->gameList().selection().count(), 1);
+        QCOMPARE(staged.app->gameList().selectedCount(), 1);
         window.kinds->setCurrentIndex(1);
         QVERIFY2(rows().contains("qix Qix"), qPrintable(rows().join('\n')));
         Q_EMIT window.changes->opened("qix");

@@ -97,7 +97,7 @@ private Q_SLOTS:
             m_table->selectionModel()->select(m_list->model()->index(row, 0),
                                               QItemSelectionModel::Select | QItemSelectionModel::Rows);
         m_table->sortByColumn(3, Qt::DescendingOrder);
-        QCOMPARE(m_list->selection().count(), 2);
+        QCOMPARE(m_list->selectedCount(), 2);
         QList<QString> selected;
         for (const QModelIndex& row : m_table->selectionModel()->selectedRows())
             selected << row.data().toString();
@@ -152,7 +152,7 @@ private Q_SLOTS:
         m_table->selectRow(2);
         m_table->selectionModel()->select(m_list->model()->index(1, 0),
                                           QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        QCOMPARE(m_list->selection().count(), 2);
+        QCOMPARE(m_list->selectedCount(), 2);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("galaga"));
         QCOMPARE(m_list->tableViewSelectionParentROM(), QStringLiteral("galaga88"));
         QCOMPARE(m_list->tableViewSelectionTitleE(), QStringLiteral("Galaga"));
@@ -233,7 +233,7 @@ private Q_SLOTS:
         QVERIFY(!m_table->indexAt(beneath).isValid());
         QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, beneath);
         QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, beneath);
-        QCOMPARE(m_list->selection().count(), 0);
+        QCOMPARE(m_list->selectedCount(), 0);
         QCOMPARE(launches.count(), 0);
         QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
     }
@@ -245,7 +245,7 @@ private Q_SLOTS:
         const QPoint row = m_table->visualRect(m_list->model()->index(2, 1)).center();
         QTest::mouseClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, row);
         QTest::mouseDClick(m_table->viewport(), Qt::LeftButton, Qt::NoModifier, row);
-        QCOMPARE(m_list->selection().count(), 1);
+        QCOMPARE(m_list->selectedCount(), 1);
         QCOMPARE(m_list->tableViewSelectionROM(), QString());
         QCOMPARE(m_staged->desktop.transcript(), QStringList{QStringLiteral("beep")});
     }

@@ -17,7 +17,6 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/recordeditor.h"
-#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "info/ui/infopage.h"

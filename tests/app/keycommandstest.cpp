@@ -51,7 +51,7 @@ private Q_SLOTS:
         for (int i = 0; i < 60; ++i) {
             m_table->selectAll();
             m_staged->app->mameslotAction();
-            QCOMPARE(m_staged->app->gameList().selection().count(), 1);
+            QCOMPARE(m_staged->app->gameList().selectedCount(), 1);
             QCOMPARE(m_staged->desktop.takeTranscript(), QStringList{QStringLiteral("sound slot_end")});
             const QRect row = m_table->visualRect(m_table->selectionModel()->selectedRows().constFirst());
             QVERIFY(m_table->viewport()->rect().intersects(row));
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_staged->app->mainWindow().isActiveWindow());
         for (int i = 0; i < 5; ++i) {
             QTest::keyClick(m_table, Qt::Key_G, Qt::ControlModifier);
-            QCOMPARE(m_staged->app->gameList().selection().count(), 1);
+            QCOMPARE(m_staged->app->gameList().selectedCount(), 1);
         }
         QVERIFY(m_staged->desktop.takeTranscript().contains(QStringLiteral("sound slot_end")));
     }
@@ -121,7 +121,7 @@ private Q_SLOTS:
         m_staged->app->scrollsEndAction();
         m_staged->app->mameslotAction();
         QCOMPARE(m_table->verticalScrollBar()->value(), 0);
-        QCOMPARE(m_staged->app->gameList().selection().count(), 0);
+        QCOMPARE(m_staged->app->gameList().selectedCount(), 0);
         QVERIFY(m_staged->desktop.takeTranscript().isEmpty());
     }
 

@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->store(), before);
         m_staged->app->undo();
         QCOMPARE(names(), m_all);
-        QCOMPARE(m_list->selection().count(), 3);
+        QCOMPARE(m_list->selectedCount(), 3);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("1943"));
         QVERIFY(!m_staged->app->catalogue().hasChanges());
         m_staged->app->redo();

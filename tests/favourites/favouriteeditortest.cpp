@@ -160,7 +160,7 @@ private Q_SLOTS:
     void removingFromTheEditorTakesWhatItShows()
     {
         m_staged->table->selectAll();
-        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(2));
+        QCOMPARE(m_staged->controller->selectedRecords().size(), std::size_t(2));
         QCOMPARE(m_editor->field(FavouriteKey::Title)->text(), QStringLiteral("A"));
         m_staged->desktop.answerAlert(QStringLiteral("favorites_remove_message"), 0);
         QTest::mouseClick(m_editor->removeButton, Qt::LeftButton);

@@ -43,7 +43,7 @@ private Q_SLOTS:
     void addingOneAndQuittingMakesFolderAndFile()
     {
         m_staged->start();
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         m_staged->desktop.takeTranscript();
         m_staged->controller->addFavorite();
         QCOMPARE(m_staged->desktop.transcript(), list({"sound shutter"}));
@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         m_staged->writeFile(threeEntries);
         m_staged->start();
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         const QString before = m_staged->controller->tableViewSelectionROM2();
         m_staged->controller->addFavorite();
         m_staged->controller->addFavorite();
@@ -99,7 +99,7 @@ private Q_SLOTS:
         m_staged->controller->saveFavorites();
         QCOMPARE(m_staged->storedSelection().toInt(), -1);
         m_staged->controller->set_favorites();
-        QCOMPARE(m_staged->controller->selection().firstRow(), -1);
+        QCOMPARE(m_staged->controller->firstRow(), -1);
     }
 
     void anEditAloneIsNotWrittenAtQuit()
@@ -157,7 +157,7 @@ private Q_SLOTS:
         const InstalledTexts texts(language);
         QVERIFY(writeBytes(m_staged->path(QStringLiteral("support")), "a file"));
         m_staged->start();
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         m_staged->controller->addFavorite();
         m_staged->desktop.takeTranscript();
         m_staged->controller->saveFavorites();
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->desktop.transcript(), QStringList{line});
         QCOMPARE(m_staged->controller->model()->rowCount(), 0);
         // Later, the list stays as it was.
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         m_staged->controller->addFavorite();
         m_staged->controller->set_favorites();
         QCOMPARE(m_staged->controller->model()->rowCount(), 1);
@@ -204,7 +204,7 @@ private Q_SLOTS:
         m_staged->start();
         QCOMPARE(m_staged->shownNames(), list({"a", "b", "c"}));
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
+        QCOMPARE(m_staged->controller->selectedRecords().size(), std::size_t(1));
         // Once sorted, in the order that is shown.
         m_staged->controller->set_favorites();
         QCOMPARE(m_staged->shownNames(), list({"a", "b", "c"}));
@@ -240,14 +240,14 @@ private Q_SLOTS:
         m_staged->defaults.setValue(keys::FavoriteTable.name, 1);
         m_staged->startUnseen();
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         m_staged->controller->addFavorite();
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
         m_staged->controller->saveFavorites();
         QCOMPARE(m_staged->storedSelection().toInt(), 2);
         m_staged->showTable();
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
+        QCOMPARE(m_staged->controller->selectedRecords().size(), std::size_t(1));
     }
 
     void aRandomFavouriteNeedsNoWindow()
@@ -313,7 +313,7 @@ private Q_SLOTS:
         QCOMPARE(m_staged->shownNames(), list({"b"}));
         m_staged->favourites.undoStack().undo();
         QCOMPARE(m_staged->shownNames(), list({"c", "b", "a"}));
-        QCOMPARE(m_staged->controller->selection().records(), (std::vector<std::uint32_t>{1, 2}));
+        QCOMPARE(m_staged->controller->selectedRecords(), (std::vector<std::uint32_t>{1, 2}));
         m_staged->controller->saveFavorites();
         QCOMPARE(m_staged->file(), listFile(threeEntries));
     }
@@ -322,7 +322,7 @@ private Q_SLOTS:
     {
         m_staged->writeFile(threeEntries);
         m_staged->start();
-        m_staged->selectedGame = &pong;
+        m_staged->games.selectGame(QStringLiteral("pong"));
         m_staged->controller->addFavorite();
         m_staged->table->sortByColumn(0, Qt::DescendingOrder);
         m_staged->table->selectRow(2);
@@ -380,7 +380,7 @@ private Q_SLOTS:
         QSet<QString> drawn;
         for (int i = 0; i < 100 && drawn.size() < 3; ++i) {
             m_staged->controller->gameShuffle2();
-            QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
+            QCOMPARE(m_staged->controller->selectedRecords().size(), std::size_t(1));
             drawn.insert(m_staged->controller->tableViewSelectionROM2());
             QCOMPARE(m_staged->desktop.takeTranscript(), list({"sound slot_end"}));
         }

@@ -48,32 +48,32 @@ private Q_SLOTS:
         m_staged->startUnseen();
         if (isSeen)
             m_staged->showTable();
-        ListSelection& selection = m_staged->controller->selection();
+        UCAppController& favourites = *m_staged->controller;
         // "a" is the file's third, and the first row.
-        selection.select({0, 2});
-        QCOMPARE(selection.firstRow(), 0);
-        QCOMPARE(selection.first(), std::optional<std::uint32_t>(2));
-        QCOMPARE(selection.records(), (Indexes{2, 0}));
-        selection.select({2, 0});
-        QCOMPARE(selection.firstRow(), 0);
-        QCOMPARE(selection.records(), (Indexes{2, 0}));
-        selection.select({0, 1, 77});
-        QCOMPARE(selection.firstRow(), 1);
-        QCOMPARE(selection.records(), (Indexes{1, 0}));
-        selection.select({});
-        QCOMPARE(selection.firstRow(), -1);
-        QVERIFY(!selection.first());
-        QVERIFY(selection.records().empty());
+        favourites.selectRecords({0, 2});
+        QCOMPARE(favourites.firstRow(), 0);
+        QCOMPARE(favourites.firstSelected(), std::optional<std::uint32_t>(2));
+        QCOMPARE(favourites.selectedRecords(), (Indexes{2, 0}));
+        favourites.selectRecords({2, 0});
+        QCOMPARE(favourites.firstRow(), 0);
+        QCOMPARE(favourites.selectedRecords(), (Indexes{2, 0}));
+        favourites.selectRecords({0, 1, 77});
+        QCOMPARE(favourites.firstRow(), 1);
+        QCOMPARE(favourites.selectedRecords(), (Indexes{1, 0}));
+        favourites.selectRecords({});
+        QCOMPARE(favourites.firstRow(), -1);
+        QVERIFY(!favourites.firstSelected());
+        QVERIFY(favourites.selectedRecords().empty());
         for (const int row : {0, 2}) {
-            selection.selectRow(row);
-            QCOMPARE(selection.firstRow(), row);
-            QCOMPARE(selection.records().size(), std::size_t(1));
+            favourites.selectRow(row);
+            QCOMPARE(favourites.firstRow(), row);
+            QCOMPARE(favourites.selectedRecords().size(), std::size_t(1));
         }
-        for (const int row : {-1, 3}) {
-            selection.selectRow(1);
-            selection.selectRow(row);
-            QCOMPARE(selection.firstRow(), -1);
-        }
+        // Behind the last one there is the last one, before the first one nothing.
+        favourites.selectRow(3);
+        QCOMPARE(favourites.firstRow(), 2);
+        favourites.selectRow(-1);
+        QCOMPARE(favourites.firstRow(), 2);
     }
 
     void aSelectedRowIsBroughtIntoView()
@@ -83,7 +83,7 @@ private Q_SLOTS:
             many += entryText(QByteArray::number(i), "x");
         m_staged->writeFile(many);
         m_staged->start();
-        m_staged->controller->selection().selectRow(150);
+        m_staged->controller->selectRow(150);
         const QRect row = m_staged->table->visualRect(m_staged->controller->model()->index(150, 0));
         QVERIFY(m_staged->table->viewport()->rect().contains(row.center()));
         QVERIFY(qAbs(row.center().y() - m_staged->table->viewport()->height() / 2) < 2 * row.height());
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(selections.size(), 2);
         m_staged->favourites.undoStack().undo();
         QCOMPARE(counts.size(), 3);
-        QCOMPARE(m_staged->controller->selection().records(), Indexes{1});
+        QCOMPARE(m_staged->controller->selectedRecords(), Indexes{1});
     }
 
     void behindTheLastOneTheNewLastIsSelected()
@@ -165,7 +165,7 @@ private Q_SLOTS:
         m_staged->favourites.remove({0});
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("b"));
         m_staged->favourites.remove({0, 1});
-        QCOMPARE(m_staged->controller->selection().firstRow(), -1);
+        QCOMPARE(m_staged->controller->firstRow(), -1);
     }
 
     void whatIsLeftOfASelectionStaysSelected()
@@ -174,11 +174,11 @@ private Q_SLOTS:
         m_staged->table->selectAll();
         m_staged->favourites.remove({1});
         QCOMPARE(m_staged->shownNames(), (QStringList{"a", "c"}));
-        QCOMPARE(m_staged->controller->selection().records(), (Indexes{1, 0}));
+        QCOMPARE(m_staged->controller->selectedRecords(), (Indexes{1, 0}));
         m_staged->table->selectRow(1);
         m_staged->favourites.remove({1});
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("c"));
-        QCOMPARE(m_staged->controller->selection().records(), Indexes{0});
+        QCOMPARE(m_staged->controller->selectedRecords(), Indexes{0});
     }
 
     void onlyATextThatDiffersIsAnEdit()

@@ -80,7 +80,7 @@ private Q_SLOTS:
         m_staged->table->sortByColumn(1, Qt::AscendingOrder);
         m_staged->table->sortByColumn(1, Qt::DescendingOrder);
         QCOMPARE(m_staged->controller->tableViewSelectionROM2(), QStringLiteral("pong"));
-        QCOMPARE(m_staged->controller->selection().records().size(), std::size_t(1));
+        QCOMPARE(m_staged->controller->selectedRecords().size(), std::size_t(1));
     }
 
     void whatFollowsTheSelectionFollowsANewFirstRow()

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "catalogue/catalogue.h"
+#include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
 #include "support/writestore.h"
 #include "favourites/favourites.h"
 #include "favourites/favouritespath.h"
 #include "favourites/playedgames.h"
-#include "favourites/ui/favouritestable.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "favourites/ui/ucappcontroller.h"
 #include "platform/defaultscontroller.h"
@@ -52,13 +53,13 @@ public:
     }
     void startUnseen()
     {
-        controller = std::make_unique<UCAppController>(FavouritesParts{
-            desktop, controls, favourites, played, catalogue, [this] { return selectedGame; }});
+        controller = std::make_unique<UCAppController>(
+            FavouritesParts{desktop, controls, favourites, played, catalogue, games});
         controller->awakeFromNib();
     }
     void showTable()
     {
-        table = std::make_unique<FavouritesTable>();
+        table = std::make_unique<GameTableView>();
         table->followRowHeight(controls);
         controller->setTable(table.get());
         controller->favorites_tableViewSort();
@@ -88,8 +89,8 @@ public:
     Catalogue catalogue;
     Favourites favourites;
     PlayedGames played;
-    const GameRecord* selectedGame = nullptr;
-    std::unique_ptr<FavouritesTable> table;
+    GameListController games{catalogue, desktop, controls}; ///< follows the catalogue
+    std::unique_ptr<GameTableView> table;
     std::unique_ptr<UCAppController> controller;
 };
 

@@ -8,9 +8,9 @@
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
+#include "catalogue/ui/gametableview.h"
 #include "favourites/favouritespath.h"
 #include "favourites/ui/favouriteeditor.h"
-#include "favourites/ui/favouritestable.h"
 #include "launch/profilecache.h"
 #include "launch/emulatorchoice.h"
 #include "platform/defaultscontroller.h"
@@ -36,8 +36,8 @@ FavouritesDesk::FavouritesDesk(Parts parts, QObject* parent)
     , m_parts(std::move(parts))
     , m_favourites(pathBeside(m_parts.catalogue))
     , m_played(playedPath(m_favourites.path()))
-    , m_controller({m_parts.desktop, m_parts.defaults, m_favourites, m_played, m_parts.catalogue,
-                    [this] { return m_parts.list.selectedRecord(); }})
+    , m_controller(
+          {m_parts.desktop, m_parts.defaults, m_favourites, m_played, m_parts.catalogue, m_parts.list})
     , m_editing(m_favourites, m_controller)
     , m_playing(m_played, m_parts.desktop, m_parts.defaults)
 {
@@ -155,9 +155,9 @@ void FavouritesDesk::awakeFromNib()
 
 void FavouritesDesk::showSelection()
 {
-    const auto first = m_controller.selection().first();
-    const auto count = static_cast<int>(m_controller.selection().records().size());
-    m_window->factsPanel->showRecord(first ? &m_favourites.records()[*first] : nullptr, count);
+    const auto first = m_controller.firstSelected();
+    m_window->factsPanel->showRecord(first ? &m_favourites.records()[*first] : nullptr,
+                                     m_controller.selectedCount());
 }
 
 void FavouritesDesk::showCount()

@@ -59,7 +59,7 @@ void Finding::joinField()
     connect(field, &QLineEdit::returnPressed, m_parts.window.gameTable, &GameTableView::doubleAction);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_parts.window.gameTable->setFocus();
-        if (m_parts.list.selection().firstRow() < 0)
+        if (m_parts.list.firstRow() < 0)
             m_parts.list.selectRow(0);
     });
     connect(m_parts.window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);

@@ -10,7 +10,6 @@
 #include "app/windows.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
-#include "favourites/ui/favouritestable.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
 #include "info/ui/infopage.h"

@@ -8,7 +8,6 @@
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
-#include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/searchfield.h"
 #include "launch/emulatorchoice.h"
 #include "launch/ui/launchcontroller.h"
@@ -37,8 +36,6 @@ MainDesk::MainDesk(const Parts& parts, QObject* parent)
     connect(&m_parts.rebuild, &CatalogueRebuild::runningChanged, this, &MainDesk::offerRebuild);
     connect(&m_parts.rebuild, &CatalogueRebuild::runningChanged, list.model(), &GameTableModel::setLocked);
 
-    connect(window.gameTable, &GameTableView::doubleAction, &list,
-            &GameListController::tableViewDoubleAction);
     connect(window.playButton, &QPushButton::clicked, &list, &GameListController::tableViewDoubleAction);
     connect(window.randomButton, &QToolButton::clicked, &list, &GameListController::gameShuffle);
     connect(window.emptyState, &EmptyState::acted, this, &MainDesk::actOnEmptyList);
@@ -48,8 +45,8 @@ void MainDesk::showSelection()
 {
     FactsPanel& facts = *m_parts.window.factsPanel;
     const GameRecord* record = m_parts.list.selectedRecord();
-    facts.showRecord(record, m_parts.list.selection().count());
-    const auto first = m_parts.list.selection().first();
+    facts.showRecord(record, m_parts.list.selectedCount());
+    const auto first = m_parts.list.firstSelected();
     facts.showHave(first ? m_parts.finding.finder().haveOf(*first) : std::nullopt, record);
 }
 

@@ -3,7 +3,7 @@
 #include "app/windows/emptystate.h"
 #include "app/windows/sidepanel.h"
 #include "catalogue/ui/chipbar.h"
-#include "favourites/ui/favouritestable.h"
+#include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "info/ui/sitechoice.h"
 #include "platform/defaultscontroller.h"
@@ -21,7 +21,7 @@
 namespace tessera {
 
 FavouritesWindow::FavouritesWindow(DefaultsController& defaults)
-    : ListWindow(defaults, new FavouritesTable, kind())
+    : ListWindow(defaults, new GameTableView, kind())
     , favoritesTable(table())
     , siteChoice(new SiteChoice(defaults))
     , m_unsaved(statusLabel("unsavedLabel"))

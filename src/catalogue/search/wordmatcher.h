@@ -1,7 +1,6 @@
 #pragma once
 
 #include "catalogue/search/fieldmarks.h"
-#include "catalogue/search/rank.h"
 #include "catalogue/search/wordclass.h"
 
 #include <array>
@@ -9,6 +8,18 @@
 #include <string_view>
 
 namespace tessera {
+
+/// How well a word fits a record, best first.
+enum class Rank : std::uint8_t {
+    SetName, ///< it is the set name
+    WholeTitle,
+    TitleProper, ///< the title up to its first bracket, which in most titles tells only of the version
+    NameBeginning, ///< of the set name
+    TitleBeginning,
+    WordBeginning,
+    Inside,
+    None = 0xFF, ///< it is nowhere in the record
+};
 
 /// What a place must be for the words to count there.
 enum class WordEnds : std::uint8_t {

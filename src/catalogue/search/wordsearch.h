@@ -1,6 +1,5 @@
 #pragma once
 
-#include "catalogue/search/rank.h"
 #include "catalogue/search/searchtexts.h"
 #include "catalogue/search/wordmatcher.h"
 

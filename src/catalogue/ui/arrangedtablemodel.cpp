@@ -1,7 +1,12 @@
 #include "catalogue/ui/arrangedtablemodel.h"
 
+#include "catalogue/colortransformer.h"
+#include "catalogue/gametypetransformer.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/statusmark.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/fontname.h"
+#include "widgets/theme.h"
 
 #include <algorithm>
 
@@ -18,22 +23,19 @@ constexpr std::array looks{
 
 } // namespace
 
-ArrangedTableModel::ArrangedTableModel(ArrangedList& list, DefaultsController& defaults,
+ArrangedTableModel::ArrangedTableModel(ArrangedList& list, std::span<const TableColumn> columns,
+                                       const ColorTransformer& colors, DefaultsController& defaults,
                                        const Key<QLatin1StringView>& font, QObject* parent)
     : QAbstractTableModel(parent)
     , m_list(list)
+    , m_columns(columns)
+    , m_colors(colors)
     , m_defaults(defaults)
     , m_fontKey(font)
 {
     readFont();
-    connect(&m_list, &ArrangedList::aboutToArrange, this, [this] {
-        if (!m_isChanging)
-            beginResetModel();
-    });
-    connect(&m_list, &ArrangedList::arranged, this, [this] {
-        if (!m_isChanging)
-            endResetModel();
-    });
+    connect(&m_list, &ArrangedList::aboutToArrange, this, &ArrangedTableModel::beginArranging);
+    connect(&m_list, &ArrangedList::arranged, this, &ArrangedTableModel::endArranging);
     connect(&m_defaults, &DefaultsController::changed, this, &ArrangedTableModel::settingChanged);
 }
 
@@ -56,6 +58,71 @@ int ArrangedTableModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(m_list.size());
 }
 
+int ArrangedTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
+}
+
+QVariant ArrangedTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const GameRecord& record = m_list[static_cast<std::size_t>(index.row())];
+    const std::optional<Field> field = column(index).field;
+    switch (role) {
+    case Qt::DisplayRole:
+        if (field == Field::Type)
+            return GameTypeTransformer::transformedValue(record[Field::Type]);
+        [[fallthrough]];
+    case Qt::EditRole:
+        return field ? fieldText(record[*field]) : QVariant();
+    case Qt::FontRole:
+        return m_font;
+    case Qt::DecorationRole:
+        if (field == Field::Name)
+            return theme::mark(fieldText(statusMark(record[Field::Status]).value_or(noStatusMark)));
+        return QVariant();
+    case Qt::ToolTipRole:
+        if (field == Field::Name)
+            return QString(fieldText(record[Field::Name]) + QStringLiteral(" · ")
+                           + fieldText(record[Field::Status]));
+        return QVariant();
+    case Qt::ForegroundRole:
+        if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
+            return *color;
+        return QVariant();
+    default:
+        return QVariant();
+    }
+}
+
+QVariant ArrangedTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return QVariant();
+    if (role == Qt::DisplayRole)
+        return qtTrId(m_columns[static_cast<std::size_t>(section)].heading);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return QVariant();
+}
+
+Qt::ItemFlags ArrangedTableModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    return column(index).isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool ArrangedTableModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable) || data(index, Qt::EditRole) == value)
+        return false;
+    setText(index, value.toString());
+    return true;
+}
+
 void ArrangedTableModel::showEverything(const QList<int>& roles)
 {
     if (const int rows = static_cast<int>(m_list.size()))
@@ -70,36 +137,28 @@ void ArrangedTableModel::showRecord(std::uint32_t record)
     }
 }
 
-void ArrangedTableModel::quietly(const std::function<void()>& change)
+void ArrangedTableModel::beginArranging(ArrangedList::Change change)
 {
-    m_isChanging = true;
-    change();
-    m_isChanging = false;
-}
-
-void ArrangedTableModel::replace(const std::function<void()>& change)
-{
-    beginResetModel();
-    quietly(change);
-    endResetModel();
-}
-
-void ArrangedTableModel::resort(const std::function<void()>& change)
-{
+    if (change != ArrangedList::Change::Order)
+        return beginResetModel();
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    const QModelIndexList before = persistentIndexList();
-    std::vector<std::uint32_t> records;
-    records.reserve(static_cast<std::size_t>(before.size()));
-    for (const QModelIndex& place : before)
-        records.push_back(recordAt(place));
-    quietly(change);
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (qsizetype i = 0; i < before.size(); ++i) {
-        const auto row = m_list.rowOf(records[static_cast<std::size_t>(i)]);
-        after << (row ? index(static_cast<int>(*row), before[i].column()) : QModelIndex());
+    m_places = persistentIndexList();
+    m_recordsThere.clear();
+    for (const QModelIndex& place : m_places)
+        m_recordsThere.push_back(recordAt(place));
+}
+
+void ArrangedTableModel::endArranging(ArrangedList::Change change)
+{
+    if (change != ArrangedList::Change::Order)
+        return endResetModel();
+    QModelIndexList now;
+    now.reserve(m_places.size());
+    for (qsizetype i = 0; i < m_places.size(); ++i) {
+        const auto row = m_list.rowOf(m_recordsThere[static_cast<std::size_t>(i)]);
+        now << (row ? index(static_cast<int>(*row), m_places[i].column()) : QModelIndex());
     }
-    changePersistentIndexList(before, after);
+    changePersistentIndexList(m_places, now);
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 

@@ -8,48 +8,70 @@
 
 namespace tessera {
 
+class ColorTransformer;
 class DefaultsController;
 
-/// What the models over an arranged list share: its rows, their font and colours, and that an arrangement of
-/// the list resets the model.
+/// A column of a list of games, and the field of its records that it shows; nothing where what it shows
+/// stands elsewhere.
+struct TableColumn {
+    const char* heading;
+    std::optional<Field> field;
+    bool isEditable = true;
+};
+
+/// What the models over an arranged list share: texts, marks and colours of its records, made only for the
+/// rows that are drawn, and that other rows reset the model, while the same ones in another order stay
+/// selected.
 class ArrangedTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// An undoable edit of the record.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     /// The rows' colours are others now.
     void recolour() { showEverything({Qt::ForegroundRole}); }
 
 protected:
-    /// `font` is the setting that names the rows' font.
-    ArrangedTableModel(ArrangedList& list, DefaultsController& defaults, const Key<QLatin1StringView>& font,
-                       QObject* parent);
+    /// `font` is the setting that names the rows' font; the columns outlive the model.
+    ArrangedTableModel(ArrangedList& list, std::span<const TableColumn> columns,
+                       const ColorTransformer& colors, DefaultsController& defaults,
+                       const Key<QLatin1StringView>& font, QObject* parent);
 
     ArrangedList& list() const { return m_list; }
-    const QFont& font() const { return m_font; }
+    const TableColumn& column(const QModelIndex& index) const
+    {
+        return m_columns[static_cast<std::size_t>(index.column())];
+    }
+    virtual void setText(const QModelIndex& index, const QString& text) = 0;
     std::uint32_t recordAt(const QModelIndex& index) const
     {
         return m_list.rows()[static_cast<std::size_t>(index.row())];
     }
 
-    /// Other records: nothing stays selected.
-    void replace(const std::function<void()>& change);
-    /// The same records in another order: what is selected stays selected.
-    void resort(const std::function<void()>& change);
     void showEverything(const QList<int>& roles = {});
     void showRecord(std::uint32_t record);
 
 private:
     void readFont();
     void settingChanged(const QString& name);
-    void quietly(const std::function<void()>& change);
+    void beginArranging(ArrangedList::Change change);
+    void endArranging(ArrangedList::Change change);
 
     ArrangedList& m_list;
+    std::span<const TableColumn> m_columns;
+    const ColorTransformer& m_colors;
     DefaultsController& m_defaults;
     const Key<QLatin1StringView>& m_fontKey;
     QFont m_font;
-    bool m_isChanging = false;
+    // While the rows change places: what is kept by its place, and the record in each.
+    QModelIndexList m_places;
+    std::vector<std::uint32_t> m_recordsThere;
 };
 
 } // namespace tessera

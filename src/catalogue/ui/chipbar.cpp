@@ -1,5 +1,6 @@
 #include "catalogue/ui/chipbar.h"
 
+#include "catalogue/recorddictionary.h"
 #include "catalogue/ui/chiplayout.h"
 #include "widgets/theme.h"
 
@@ -88,9 +89,7 @@ ChipBar::ChipBar(QWidget* parent)
     layout->addLayout(row);
     for (const ChipRow& chip : chips) {
         auto* button = new ChipButton(qtTrId(chip.label));
-        button->setObjectName(
-            QStringLiteral("chip_")
-            + QString::fromUtf8(chip.name.data(), static_cast<qsizetype>(chip.name.size())));
+        button->setObjectName(QStringLiteral("chip_") + fieldText(chip.name));
         m_group->addButton(button, static_cast<int>(chip.chip));
         row->addWidget(button);
     }

@@ -211,10 +211,13 @@ void GameFinder::refresh()
 }
 
 // What the user has selected stays so, and where it stands. However many steps it takes, it is told once.
-void GameFinder::rearrange(const std::function<void()>& change)
+void GameFinder::rearrange(auto&& change)
 {
     m_isRearranging = true;
-    m_list.rearrange(change);
+    {
+        const ListController::Rearranging keeping(m_list);
+        change();
+    }
     m_isRearranging = false;
     Q_EMIT changed();
 }
@@ -333,7 +336,7 @@ void GameFinder::toggleFamily(int row)
     if (m_open.erase(name) == 0)
         m_open.insert(name);
     rearrange([this] { applyFamilies(); });
-    m_list.selection().select({record});
+    m_list.selectRecords({record});
 }
 
 void GameFinder::showAll()

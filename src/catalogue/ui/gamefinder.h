@@ -80,7 +80,7 @@ private:
     void showContent();
     void foldTexts(GameSearch& search);
     void refresh();
-    void rearrange(const std::function<void()>& change);
+    void rearrange(auto&& change);
     void find(ArrangedList::Ranking ranking = ArrangedList::Ranking::AsBefore);
     Found found();
     Chip effectiveChip() const;

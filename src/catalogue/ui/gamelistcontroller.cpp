@@ -24,7 +24,7 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
     connect(&catalogue, &Catalogue::recordChanged, &list(),
             [this](std::uint32_t, Field field) { list().forgetOrder(field); });
     connect(&catalogue, &Catalogue::recordChanged, this, [this](std::uint32_t record, Field field) {
-        if (field == Field::Status && selection().first() == record)
+        if (field == Field::Status && firstSelected() == record)
             romStatus();
     });
     if (table != nullptr)
@@ -34,6 +34,7 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
 void GameListController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
+    connect(table, &GameTableView::doubleAction, this, &GameListController::tableViewDoubleAction);
 }
 
 RecordDictionary GameListController::objectDictionary() const
@@ -54,20 +55,13 @@ bool GameListController::selectGame(const QString& name)
 {
     const auto row = list().find(Field::Name, name.toStdString());
     if (row)
-        selection().selectRow(static_cast<qint64>(*row));
+        selectRow(static_cast<int>(*row));
     return row.has_value();
-}
-
-void GameListController::selectRow(int row)
-{
-    const int place = std::min(row, m_model->rowCount() - 1);
-    if (place >= 0)
-        selection().selectRow(place);
 }
 
 void GameListController::selectNeighbour(int step)
 {
-    const int row = selection().firstRow();
+    const int row = firstRow();
     if (row >= 0)
         selectRow(std::max(0, row + step));
 }
@@ -75,7 +69,7 @@ void GameListController::selectNeighbour(int step)
 // The row that took the place of the first one is selected, so that several can be removed in a row.
 void GameListController::takeOut(const std::vector<std::uint32_t>& records)
 {
-    const int row = selection().firstRow();
+    const int row = firstRow();
     setContent(ContentChange::Removed, records);
     selectRow(row);
 }
@@ -83,7 +77,7 @@ void GameListController::takeOut(const std::vector<std::uint32_t>& records)
 void GameListController::putBack(const std::vector<std::uint32_t>& records)
 {
     setContent(ContentChange::PutBack, records);
-    selection().select(records);
+    selectRecords(records);
 }
 
 void GameListController::setContent(ContentChange change, const std::vector<std::uint32_t>& records)

@@ -37,8 +37,6 @@ public:
 
     /// Selects the record with this set name alone and scrolls to it; false where the list does not show it.
     bool selectGame(const QString& name);
-    /// Selects a row alone and scrolls to it; the last one where there are not so many.
-    void selectRow(int row);
     /// The row before or after the first selected one.
     void selectNeighbour(int step);
 

@@ -93,26 +93,33 @@ QList<int> GameTableView::shownColumns() const
     return columns;
 }
 
+// The selection model's own list of rows takes a time that grows with the square of its ranges.
+std::vector<RowRange> GameTableView::selectedRanges() const
+{
+    std::vector<RowRange> ranges;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        if (range.isValid())
+            ranges.push_back({range.top(), range.bottom()});
+    }
+    std::ranges::sort(ranges, {}, &RowRange::first);
+    return ranges;
+}
+
 void GameTableView::copySelection() const
 {
-    QList<int> rows;
-    for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows << row;
-    }
-    if (rows.isEmpty())
-        return;
-    std::ranges::sort(rows);
     const QList<int> columns = shownColumns();
     QString text;
-    for (const int row : rows) {
-        for (const int column : columns) {
-            // A value's own tabs and line ends would be taken for ours.
-            const QString value = model()->index(row, column).data(Qt::EditRole).toString();
-            text += value.simplified() + (column == columns.last() ? u'\n' : u'\t');
+    for (const RowRange& range : selectedRanges()) {
+        for (int row = range.first; row <= range.last; ++row) {
+            for (const int column : columns) {
+                // A value's own tabs and line ends would be taken for ours.
+                const QString value = model()->index(row, column).data(Qt::EditRole).toString();
+                text += value.simplified() + (column == columns.last() ? u'\n' : u'\t');
+            }
         }
     }
-    QGuiApplication::clipboard()->setText(text);
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
 }
 
 void GameTableView::fillColumnsMenu(QMenu& menu)
@@ -166,19 +173,15 @@ void GameTableView::setModel(QAbstractItemModel* model)
 int GameTableView::rowsSelected() const
 {
     int rows = 0;
-    for (const QItemSelectionRange& range : selectionModel()->selection())
-        rows += range.isValid() ? range.height() : 0;
+    for (const RowRange& range : selectedRanges())
+        rows += range.last - range.first + 1;
     return rows;
 }
 
 QModelIndex GameTableView::firstSelected() const
 {
-    QModelIndex first;
-    for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        if (range.isValid() && (!first.isValid() || range.top() < first.row()))
-            first = model()->index(range.top(), 0);
-    }
-    return first;
+    const std::vector<RowRange> selected = selectedRanges();
+    return selected.empty() ? QModelIndex() : model()->index(selected.front().first, 0);
 }
 
 // The toolkit tells of rows only, and of any button: another one's second press is one like the first. Where

@@ -8,6 +8,12 @@ namespace tessera {
 
 class DefaultsController;
 
+/// Rows that stand together.
+struct RowRange {
+    int first;
+    int last;
+};
+
 /// The table of games: whole rows are selected, Return plays, F2 edits the cell.
 class GameTableView : public QTableView
 {
@@ -35,6 +41,8 @@ public:
     void setModel(QAbstractItemModel* model) override;
     /// Whatever keys are held meanwhile.
     void selectRowAlone(int row);
+    /// In the order of the rows.
+    std::vector<RowRange> selectedRanges() const;
 
 Q_SIGNALS:
     /// A double click, on a row or beneath the rows, or Return.

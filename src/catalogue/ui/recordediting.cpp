@@ -60,7 +60,7 @@ void RecordEditing::editRecord()
 // What is selected at the answer is what was selected at the question: the alert is modal.
 void RecordEditing::removeRecord()
 {
-    std::vector<std::uint32_t> records = m_list.selection().records();
+    std::vector<std::uint32_t> records = m_list.selectedRecords();
     if (records.empty() || m_isLocked)
         return;
     m_desktop.beep();
@@ -76,7 +76,7 @@ void RecordEditing::removeRecord()
 void RecordEditing::showSelection()
 {
     if (m_editor)
-        m_editor->show(m_list.selection().first(), m_catalogue.records(), !m_isLocked);
+        m_editor->show(m_list.firstSelected(), m_catalogue.records(), !m_isLocked);
 }
 
 } // namespace tessera

@@ -4,9 +4,12 @@
 
 #include <QObject>
 
+class QToolButton;
+
 namespace tessera {
 
 class AppearancePage;
+class ColorWell;
 class DefaultsController;
 class Desktop;
 
@@ -19,21 +22,12 @@ public:
     RowColors(Desktop& desktop, DefaultsController& defaults, AppearancePage& page,
               QObject* parent = nullptr);
 
-public Q_SLOTS:
-    /// Only to be heard: the colouring itself follows the setting.
-    void coloringAction();
-    void chooseTextColor();
-    void chooseTextColor2();
-    void restoreTextColor();
-    void restoreTextColor2();
-
 private:
-    void choose(const Key<QLatin1StringView>& key, const QString& title, const QColor& shown);
-    void restore(const Key<QLatin1StringView>& key);
+    /// The well chooses the setting's colour, the button gives the first one back.
+    void join(const Key<QLatin1StringView>& key, const char* title, ColorWell* well, QToolButton* initial);
 
     Desktop& m_desktop;
     DefaultsController& m_defaults;
-    AppearancePage& m_page;
 };
 
 } // namespace tessera

@@ -1,5 +1,6 @@
 #include "catalogue/ui/searchfield.h"
 
+#include "catalogue/recorddictionary.h"
 #include "catalogue/search/query.h"
 #include "widgets/theme.h"
 
@@ -34,8 +35,7 @@ SearchField::SearchField(QWidget* parent)
 void SearchField::fillTermsMenu()
 {
     for (const SearchKey& key : searchKeys) {
-        const QString name
-            = QString::fromUtf8(key.name.data(), static_cast<qsizetype>(key.name.size())) + u':';
+        const QString name = fieldText(key.name) + u':';
         QAction* action = m_terms->addAction(name + u'\t' + qtTrId(key.help));
         connect(action, &QAction::triggered, this, [this, name] {
             end(false);

@@ -49,7 +49,7 @@ void FavouriteEditing::showSelection()
 {
     if (!m_editor)
         return;
-    const auto favourite = m_controller.selection().first();
+    const auto favourite = m_controller.firstSelected();
     m_editor->show(favourite, m_favourites);
     if (favourite && m_editor->isVisible())
         Q_EMIT commandWanted(*m_editor, m_favourites.value(*favourite, FavouriteKey::Name));
@@ -59,9 +59,9 @@ void FavouriteEditing::showSelection()
 
 void FavouriteEditing::selectNeighbour(int step)
 {
-    const int row = m_controller.selection().firstRow() + step;
+    const int row = m_controller.firstRow() + step;
     if (row >= 0 && row < m_controller.model()->rowCount())
-        m_controller.selection().selectRow(row);
+        m_controller.selectRow(row);
 }
 
 } // namespace tessera

@@ -4,7 +4,6 @@
 
 #include "core/atomicfile.h"
 #include "core/keptcopy.h"
-#include "favourites/ui/favouritestable.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
 
@@ -40,14 +39,16 @@ void UCAppController::set_favorites()
         // The row is counted in the order of now: at start that of the file, although the stored one was
         // counted in the order that was shown. Nothing stored is the first row.
         const auto stored = m_parts.defaults.stored().value(keys::FavoriteTable.name);
-        selection().selectRow(stored ? stored->toLongLong() : 0);
+        const qint64 row = stored ? stored->toLongLong() : 0;
+        if (row >= 0 && row < static_cast<qint64>(list().size()))
+            selectRow(static_cast<int>(row));
     }
 }
 
 void UCAppController::saveFavorites()
 {
     commitEditing();
-    const int row = selection().firstRow();
+    const int row = firstRow();
     m_parts.defaults.keep(keys::FavoriteTable, row < 0 ? nothingSelected : row);
     m_parts.defaults.flush();
     // Deliberate: an edit alone is not written, a cancelled removal is. Nobody is asked at quit: the log

@@ -5,8 +5,6 @@
 
 namespace tessera {
 
-class ColorTransformer;
-class DefaultsController;
 class PlayedGames;
 
 /// The columns in their first order; the set name is the first and sets the initial sort.
@@ -25,7 +23,7 @@ enum class FavouriteColumn : std::uint8_t {
     Last
 };
 
-/// A thin model over the arranged favourites, and over what was played.
+/// The arranged favourites, one a row, with what was played of them.
 class FavouritesTableModel : public ArrangedTableModel
 {
     Q_OBJECT
@@ -45,12 +43,7 @@ public:
     /// Favourites, by their indexes, whose set is not in the catalogue any more.
     void setGone(RecordSet gone);
 
-    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// An undoable edit of the favourite.
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     void sort(int column, Qt::SortOrder order) override;
 
 private:
@@ -62,14 +55,12 @@ private:
     };
 
     void arrange(const Sort& sort);
-    QVariant shown(std::uint32_t favourite, FavouriteColumn column) const;
-    QString edited(std::uint32_t favourite, FavouriteColumn column) const;
-    QVariant icon(std::uint32_t favourite) const;
-    QVariant toolTip(std::uint32_t favourite) const;
+    QString shown(std::uint32_t favourite, FavouriteColumn column) const;
+    QVariant goneData(std::uint32_t favourite, FavouriteColumn column, int role) const;
+    void setText(const QModelIndex& index, const QString& text) override;
 
     Favourites& m_favourites;
     const PlayedGames& m_played;
-    const ColorTransformer& m_colors;
     RecordSet m_gone;
     std::vector<Sort> m_sorts{{std::nullopt, true}}; ///< each column once, the last one counts first
 };

@@ -15,7 +15,9 @@ struct KnownOption {
     QString description;
 };
 
-/// What the emulator understands. Without `lists` it was not asked, and nothing is said of any option.
+/// What the emulator understands. Without `lists` it was not asked, and nothing is said of any option. That
+/// is no list of names: an emulator takes the opposite of what it lists, too, and names may run into their
+/// descriptions.
 struct KnownOptions {
     QList<KnownOption> options;
     std::function<bool(QStringView option)> lists;

@@ -4,10 +4,12 @@
 #include "catalogue/recorddictionary.h"
 #include "favourites/gonefavourites.h"
 #include "favourites/playedgames.h"
-#include "catalogue/ui/gametableview.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "platform/defaultscontroller.h"
 #include "platform/desktop.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -16,12 +18,13 @@ namespace tessera {
 namespace {
 
 constexpr int recentDays = 30;
+constexpr int headerHeight = 22;
 
 } // namespace
 
-UCAppController::UCAppController(FavouritesParts parts, QObject* parent)
+UCAppController::UCAppController(const FavouritesParts& parts, QObject* parent)
     : ListController(parts.desktop, parts.defaults.stored(), parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
     , m_model(new FavouritesTableModel(m_parts.favourites, list(), m_parts.played, colors(), m_parts.defaults,
                                        this))
 {
@@ -32,7 +35,7 @@ void UCAppController::joinFavourites()
 {
     const Favourites* favourites = &m_parts.favourites;
     connect(favourites, &Favourites::replaced, this, [this] { showAgain({}); });
-    connect(favourites, &Favourites::appended, this, [this] { showAgain(selection().records()); });
+    connect(favourites, &Favourites::appended, this, [this] { showAgain(selectedRecords()); });
     connect(favourites, &Favourites::putBackAt, this,
             [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
     connect(favourites, &Favourites::removed, this, &UCAppController::showAfterRemoval);
@@ -57,6 +60,9 @@ void UCAppController::joinFavourites()
 void UCAppController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
+    table->horizontalHeader()->setFixedHeight(headerHeight);
+    for (const FavouriteColumn column : FavouritesTableModel::hiddenColumns)
+        table->setColumnHidden(static_cast<int>(column), true);
     connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);
 }
 
@@ -71,9 +77,9 @@ void UCAppController::awakeFromNib()
 // selected, so that several can be removed in a row.
 void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 {
-    const int row = selection().firstRow();
+    const int row = firstRow();
     std::vector<std::uint32_t> left;
-    for (const std::uint32_t each : selection().records()) {
+    for (const std::uint32_t each : selectedRecords()) {
         const auto before = std::ranges::lower_bound(gone, each);
         if (before == gone.end() || *before != each)
             left.push_back(each - static_cast<std::uint32_t>(before - gone.begin()));
@@ -84,13 +90,12 @@ void UCAppController::showAfterRemoval(const std::vector<std::uint32_t>& gone)
 // The list as it is now, with these favourites selected, or else a row or the last one.
 void UCAppController::showAgain(const std::vector<std::uint32_t>& selected, int row)
 {
-    quietly([&] {
+    {
+        const QScopedValueRollback quiet(m_isQuiet, true);
         m_model->reload();
-        if (row < 0)
-            selection().select(selected);
-        else
-            selection().selectRow(std::min(row, m_model->rowCount() - 1));
-    });
+        selectRecords(selected);
+        selectRow(row);
+    }
     markGone();
     tableViewSelectionDidChange();
     Q_EMIT countChanged();
@@ -103,7 +108,7 @@ void UCAppController::markGone()
 
 void UCAppController::addFavorite()
 {
-    const GameRecord* game = m_parts.selectedGame();
+    const GameRecord* game = m_parts.games.selectedRecord();
     if (game == nullptr) {
         m_parts.desktop.beep();
         return;
@@ -122,13 +127,13 @@ void UCAppController::addFavoritesTable(const GameRecord& game)
 void UCAppController::removeFavoritesTable()
 {
     commitEditing();
-    removeAfterAsking(selection().records());
+    removeAfterAsking(selectedRecords());
 }
 
 void UCAppController::removeShown()
 {
     commitEditing();
-    const auto shown = selection().first();
+    const auto shown = firstSelected();
     removeAfterAsking(shown ? std::vector{*shown} : std::vector<std::uint32_t>());
 }
 
@@ -183,7 +188,10 @@ void UCAppController::applyRecent()
             return recent.contains(fieldText(record[Field::Name]));
         };
     }
-    rearrange([&] { list().setPredicate(std::move(predicate)); });
+    {
+        const Rearranging keeping(*this);
+        list().setPredicate(std::move(predicate));
+    }
     Q_EMIT countChanged();
 }
 

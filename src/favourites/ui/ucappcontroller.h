@@ -3,8 +3,6 @@
 #include "catalogue/ui/listcontroller.h"
 #include "favourites/favourites.h"
 
-#include <functional>
-
 namespace tessera {
 
 class Catalogue;
@@ -19,8 +17,8 @@ struct FavouritesParts {
     Favourites& favourites;
     PlayedGames& played;
     Catalogue& catalogue;
-    /// The first selected record of the game list, or none.
-    std::function<const GameRecord*()> selectedGame;
+    /// What is added is the game that is selected here.
+    const ListController& games;
 };
 
 /// The favourites' commands.
@@ -29,8 +27,9 @@ class UCAppController : public ListController
     Q_OBJECT
 
 public:
-    explicit UCAppController(FavouritesParts parts, QObject* parent = nullptr);
+    explicit UCAppController(const FavouritesParts& parts, QObject* parent = nullptr);
 
+    /// With a header of its own height; some columns are not among the shown ones at first.
     void setTable(GameTableView* table);
     FavouritesTableModel* model() { return m_model; }
 

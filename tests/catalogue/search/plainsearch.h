@@ -4,7 +4,6 @@
 #include "catalogue/gamerecord.h"
 #include "catalogue/search/folding.h"
 #include "catalogue/search/query.h"
-#include "catalogue/search/rank.h"
 #include "catalogue/search/romaji.h"
 
 #include <QString>

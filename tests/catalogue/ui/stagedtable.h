@@ -38,8 +38,6 @@ struct StagedTable {
     {
         table->resize(900, 400);
         list.setTable(table.get());
-        QObject::connect(table.get(), &GameTableView::doubleAction, &list,
-                         &GameListController::tableViewDoubleAction);
         if (!catalogue.open())
             qFatal("no records");
         list.main_tableViewSort();

@@ -82,7 +82,7 @@ private Q_SLOTS:
     void returnInACellEndsTheEdit()
     {
         QVERIFY(m_list->selectGame("mid"));
-        m_table->setCurrentIndex(m_list->model()->index(m_list->selection().firstRow(), 1));
+        m_table->setCurrentIndex(m_list->model()->index(m_list->firstRow(), 1));
         const QSignalSpy launched(m_list, &GameListController::launchRequested);
         const QSignalSpy typed(m_table, &GameTableView::typed);
         QTest::keyClick(m_table, Qt::Key_F2);
@@ -97,7 +97,7 @@ private Q_SLOTS:
     void anOpenEditorIsTakenOver()
     {
         QVERIFY(m_list->selectGame("mid"));
-        m_table->setCurrentIndex(m_list->model()->index(m_list->selection().firstRow(), 1));
+        m_table->setCurrentIndex(m_list->model()->index(m_list->firstRow(), 1));
         QTest::keyClick(m_table, Qt::Key_F2);
         m_table->viewport()->findChild<QLineEdit*>()->setText("Middle");
         m_list->commitEditing();
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QSignalSpy toggled(m_table, &GameTableView::familyToggled);
         setFamilies(false);
         QVERIFY(m_list->selectGame("abc"));
-        const int row = m_list->selection().firstRow();
+        const int row = m_list->firstRow();
         QTest::keyClick(m_table, Qt::Key_Left);
         QTest::keyClick(m_table, Qt::Key_Right, Qt::ShiftModifier);
         QCOMPARE(toggled.size(), 0);
@@ -185,7 +185,7 @@ private Q_SLOTS:
             m_table->hideColumn(column);
         m_table->horizontalHeader()->moveSection(m_table->horizontalHeader()->visualIndex(3), 0);
         QCOMPARE(m_table->firstColumn(), 3);
-        m_list->selection().select({4, 1, 0});
+        m_list->selectRecords({4, 1, 0});
         m_table->copySelection();
         QCOMPARE(QGuiApplication::clipboard()->text(),
                  QStringLiteral("1980\tZed\tZed\tMaker\n1999\tabc\tabc\tMaker\n1980\tmid\tmid\ta b c\n"));
@@ -240,30 +240,30 @@ private Q_SLOTS:
     void aRowIsSelectedAloneAndInView()
     {
         m_table->resize(300, 60);
-        m_list->selection().select({0, 1, 4});
-        QCOMPARE(m_list->selection().count(), 3);
+        m_list->selectRecords({0, 1, 4});
+        QCOMPARE(m_list->selectedCount(), 3);
         m_list->selectRow(2);
-        QCOMPARE(m_list->selection().count(), 1);
-        QCOMPARE(m_list->selection().firstRow(), 2);
+        QCOMPARE(m_list->selectedCount(), 1);
+        QCOMPARE(m_list->firstRow(), 2);
         m_list->selectRow(99);
-        QCOMPARE(m_list->selection().firstRow(), 4);
+        QCOMPARE(m_list->firstRow(), 4);
         QVERIFY(m_table->viewport()->rect().intersects(m_table->visualRect(m_list->model()->index(4, 0))));
         m_list->selectRow(-1);
-        QCOMPARE(m_list->selection().firstRow(), 4);
+        QCOMPARE(m_list->firstRow(), 4);
         m_list->selectNeighbour(1);
-        QCOMPARE(m_list->selection().firstRow(), 4);
+        QCOMPARE(m_list->firstRow(), 4);
         m_list->selectNeighbour(-1);
-        QCOMPARE(m_list->selection().firstRow(), 3);
+        QCOMPARE(m_list->firstRow(), 3);
         m_list->selectRow(0);
         m_list->selectNeighbour(-1);
-        QCOMPARE(m_list->selection().firstRow(), 0);
+        QCOMPARE(m_list->firstRow(), 0);
         m_list->selectNeighbour(1);
-        QCOMPARE(m_list->selection().firstRow(), 1);
+        QCOMPARE(m_list->firstRow(), 1);
         m_table->clearSelection();
         m_list->selectNeighbour(1);
-        QCOMPARE(m_list->selection().firstRow(), -1);
+        QCOMPARE(m_list->firstRow(), -1);
         QVERIFY(!m_list->selectGame("nothing"));
-        QCOMPARE(m_list->selection().firstRow(), -1);
+        QCOMPARE(m_list->firstRow(), -1);
     }
 
     void aRowThatIsSelectedStandsInTheMiddle()
@@ -284,10 +284,7 @@ private Q_SLOTS:
         m_table->layOut();
         m_table->clearSelection();
         m_table->verticalScrollBar()->setValue(25);
-        m_list->rearrange([this] {
-            m_list->list().setPredicate(
-                [](const GameRecord& record) { return record[Field::Name] != "mid"; });
-        });
+        hideMid();
         QCOMPARE(m_table->verticalScrollBar()->value(), 25);
     }
 
@@ -299,7 +296,7 @@ private Q_SLOTS:
         };
         click(3, {});
         click(1, Qt::ControlModifier);
-        QCOMPARE(m_list->selection().count(), 2);
+        QCOMPARE(m_list->selectedCount(), 2);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("Zed"));
         for (int column = 1; column < 9; ++column)
             m_table->hideColumn(column);
@@ -307,15 +304,15 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Zed\nmid\n"));
         m_table->showColumn(1);
         click(4, Qt::ShiftModifier);
-        QVERIFY(m_list->selection().count() > 1);
+        QVERIFY(m_list->selectedCount() > 1);
         click(0, {});
-        QCOMPARE(m_list->selection().count(), 1);
+        QCOMPARE(m_list->selectedCount(), 1);
     }
 
     void aRandomGameIsSelectedWithItsSound()
     {
         m_list->gameShuffle();
-        QCOMPARE(m_list->selection().count(), 1);
+        QCOMPARE(m_list->selectedCount(), 1);
         QCOMPARE(m_stage->desktop.takeTranscript(), QStringList("sound slot_end"));
         m_list->list().setPredicate([](const GameRecord&) { return false; });
         m_list->gameShuffle();
@@ -338,23 +335,30 @@ private Q_SLOTS:
     // What is selected stays so while the rows become others, and nobody hears of it.
     void aRearrangementKeepsWhatItCan()
     {
-        m_list->selection().select({0, 4});
+        m_list->selectRecords({0, 4});
         QSignalSpy changes(m_list, &GameListController::selectionChanged);
-        m_list->rearrange([this] { m_list->list().setSort(Field::Year, true); });
-        QCOMPARE(m_list->selection().count(), 2);
+        {
+            const ListController::Rearranging keeping(*m_list);
+            m_list->list().setSort(Field::Year, true);
+        }
+        QCOMPARE(m_list->selectedCount(), 2);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("mid"));
         changes.clear();
-        m_list->rearrange([] { });
+        {
+            const ListController::Rearranging keeping(*m_list);
+        }
         QCOMPARE(changes.size(), 0);
-        m_list->rearrange([this] {
-            m_list->list().setPredicate(
-                [](const GameRecord& record) { return record[Field::Name] != "mid"; });
-        });
+        hideMid();
         QCOMPARE(changes.size(), 1);
         QCOMPARE(m_list->tableViewSelectionROM(), QStringLiteral("abc"));
     }
 
 private:
+    void hideMid()
+    {
+        const ListController::Rearranging keeping(*m_list);
+        m_list->list().setPredicate([](const GameRecord& record) { return record[Field::Name] != "mid"; });
+    }
     void setFamilies(bool isOpen)
     {
         RecordSet open(machines.size());

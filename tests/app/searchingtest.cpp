@@ -1,0 +1,283 @@
+#include "stagedfinding.h"
+
+#include "app/windows/emptystate.h"
+#include "catalogue/ui/factspanel.h"
+#include "support/testmain.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QToolButton>
+
+using namespace tessera;
+using namespace tessera::test;
+
+/// Searching as a person does it, over the whole program.
+class SearchingTest : public StagedFinding
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { stage(); }
+    void cleanup() { m_staged.reset(); }
+
+    void everythingIsShownAtFirst()
+    {
+        QCOMPARE(shown(), all);
+        QCOMPARE(count(), QStringLiteral("main_count"));
+        QVERIFY(!window().showAllButton->isVisible());
+    }
+
+    void typingNarrowsTheListAndSelectsTheBest()
+    {
+        QTest::keyClicks(field(), QStringLiteral("gra"));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius"));
+        QTest::keyClicks(field(), QStringLiteral("dius iii"));
+        QCOMPARE(shown(), QStringLiteral("gradius3"));
+        QTest::keyClick(field(), Qt::Key_Escape);
+        QCOMPARE(shown(), all);
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+    }
+
+    void typingInTheListGoesToTheSearchField()
+    {
+        window().gameTable->setFocus();
+        QTest::keyClicks(window().gameTable, QStringLiteral("p"));
+        QCOMPARE(field()->text(), QStringLiteral("p"));
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(field()));
+        QCOMPARE(shown(), QStringLiteral("pacman puckman jp gradius"));
+    }
+
+    void romajiAndKanaFindTheSame()
+    {
+        QTRY_COMPARE((search(QStringLiteral("guradi")), shown()), QStringLiteral("gradius gradius3"));
+        search(QStringLiteral("ぐらでぃうす"));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+    }
+
+    void theBestComesFirstAndAHeaderClickWins()
+    {
+        QHeaderView* header = window().gameTable->horizontalHeader();
+        search(QStringLiteral("man"));
+        QCOMPARE(shown(), QStringLiteral("pacman puckman"));
+        search(QStringLiteral("gradius konami"));
+        QCOMPARE(header->sortIndicatorSection(), -1);
+        clickHeader(0);
+        clickHeader(0);
+        QCOMPARE(shown(), QStringLiteral("gradius3 gradius"));
+        QCOMPARE(header->sortIndicatorSection(), 0);
+        QCOMPARE(header->sortIndicatorOrder(), Qt::DescendingOrder);
+        // The next letter ranks again.
+        QTest::keyClicks(field(), QStringLiteral(" "));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        search(QString());
+        QCOMPARE(header->sortIndicatorSection(), 0);
+        QCOMPARE(shown().section(u' ', 0, 1), QStringLiteral("puckman pacman"));
+    }
+
+    void returnStartsTheBest()
+    {
+        search(QStringLiteral("pac"));
+        QTest::keyClick(field(), Qt::Key_Return);
+        QTRY_VERIFY(window().stopButton->isEnabled());
+        m_staged->app->stopGame();
+        QTRY_VERIFY(!window().stopButton->isEnabled());
+    }
+
+    void theDownArrowGoesIntoTheList()
+    {
+        search(QStringLiteral("gradius"));
+        QTest::keyClick(field(), Qt::Key_Down);
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(window().gameTable));
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius"));
+    }
+
+    void aWrongTermIsShownAsWrong()
+    {
+        search(QStringLiteral("gradius stauts:good"));
+        const auto* complaint = window().chipBar->findChild<QLabel*>(QStringLiteral("complaintLabel"));
+        QVERIFY(complaint->isVisible());
+        QVERIFY(!complaint->text().isEmpty());
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        search(QStringLiteral("gradius status:good"));
+        QVERIFY(!complaint->isVisible());
+        QCOMPARE(shown(), QStringLiteral("gradius"));
+    }
+
+    // Every telling arranges what stands around the list once more.
+    void whatChangesIsToldOnce()
+    {
+        const QSignalSpy told(&finder(), &GameFinder::changed);
+        QTest::keyClick(field(), Qt::Key_G);
+        QCOMPARE(told.size(), 1);
+        QTest::keyClick(field(), Qt::Key_R);
+        QCOMPARE(told.size(), 2);
+        window().chipBar->familiesBox->click();
+        QCOMPARE(told.size(), 3);
+        window().showAllButton->click();
+        QCOMPARE(told.size(), 4);
+        QCOMPARE(shown(), all);
+    }
+
+    void nothingFoundSaysWhatToDo()
+    {
+        search(QStringLiteral("nowhere"));
+        QVERIFY(window().emptyState->isVisible());
+        auto* button = window().emptyState->findChild<QPushButton*>();
+        QVERIFY(button->isVisible());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(shown(), all);
+        QVERIFY(!window().emptyState->isVisible());
+    }
+
+    void anEditIsFoundAtOnce()
+    {
+        search(QStringLiteral("zork"));
+        QCOMPARE(shown(), QString());
+        search(QString());
+        QVERIFY(list().selectGame(QStringLiteral("jp")));
+        m_staged->app->catalogue().setValue(*list().firstSelected(), Field::Title, QStringLiteral("Zork"));
+        search(QStringLiteral("zork"));
+        QCOMPARE(shown(), QStringLiteral("jp"));
+        search(QStringLiteral("jackpot"));
+        QCOMPARE(shown(), QStringLiteral("jp")); // its Japanese title
+        m_staged->app->undo();
+        search(QStringLiteral("zork"));
+        QCOMPARE(shown(), QString());
+    }
+
+    void whatIsRemovedIsNotFoundUntilItIsUndone()
+    {
+        search(QStringLiteral("gradius"));
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 0);
+        m_staged->app->removeRecord();
+        QCOMPARE(shown(), QStringLiteral("gradius3"));
+        m_staged->app->undo();
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+    }
+
+    void aHeaderClickWinsUntilTheNextLetter()
+    {
+        search(QStringLiteral("gradius konami"));
+        clickHeader(0);
+        clickHeader(0);
+        QCOMPARE(shown(), QStringLiteral("gradius3 gradius"));
+        click(Chip::Games);
+        QCOMPARE(shown(), QStringLiteral("gradius3 gradius"));
+        finder().setRules({true, {{Field::Year, Comparison::Contains, QStringLiteral("198")}}});
+        QCOMPARE(shown(), QStringLiteral("gradius3 gradius"));
+        QVERIFY(list().selectGame(QStringLiteral("gradius")));
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 0);
+        m_staged->app->removeRecord();
+        m_staged->app->undo();
+        QCOMPARE(shown(), QStringLiteral("gradius3 gradius"));
+        QCOMPARE(window().gameTable->horizontalHeader()->sortIndicatorSection(), 0);
+        QTest::keyClicks(field(), QStringLiteral(" "));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+    }
+
+    void whatHappensBesideLeavesTheChoiceAlone()
+    {
+        // What the ROM folders hold is asked for, so that their answer searches anew.
+        search(QStringLiteral("konami have:no"));
+        QVERIFY(list().selectGame(QStringLiteral("gradius3")));
+        click(Chip::Games);
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+        finder().setPredicate(QStringLiteral("Konami"));
+        QSignalSpy answered(&finder(), &GameFinder::havesChanged);
+        finder().setRomFolders(std::make_shared<RomFolders>(std::nullopt, QStringList()));
+        QTRY_VERIFY(!answered.isEmpty());
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+        QCOMPARE(list().selectedCount(), 1);
+    }
+
+    void anOpenEditorIsTakenOverBeforeTheRowsChange()
+    {
+        QVERIFY(list().selectGame(QStringLiteral("jp")));
+        const int row = list().firstRow();
+        const QModelIndex title = list().model()->index(row, GameTableModel::columnOf(Field::Title));
+        window().gameTable->edit(title);
+        auto* editor = window().gameTable->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText(QStringLiteral("Edited"));
+        finder().setChip(Chip::Parents);
+        QCOMPARE(shown(), QStringLiteral("cdr gradius3 jp nemesis neogeo puckman"));
+        search(QStringLiteral("edited"));
+        QCOMPARE(shown(), QStringLiteral("jp"));
+    }
+
+    void japaneseTypedInTheListGoesToTheSearchField()
+    {
+        window().gameTable->setFocus();
+        QInputMethodEvent event;
+        event.setCommitString(QStringLiteral("ネメシス"));
+        QCoreApplication::sendEvent(window().gameTable, &event);
+        QCOMPARE(field()->text(), QStringLiteral("ネメシス"));
+        QTRY_COMPARE(shown(), QStringLiteral("nemesis"));
+    }
+
+    void aJapaneseSearchOutlivesRemovalAndUndo()
+    {
+        QTRY_COMPARE((search(QStringLiteral("ぐらでぃうす")), shown()), QStringLiteral("gradius gradius3"));
+        QVERIFY(list().selectGame(QStringLiteral("gradius")));
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 0);
+        m_staged->app->removeRecord();
+        QCOMPARE(shown(), QStringLiteral("gradius3"));
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+        m_staged->app->undo();
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius"));
+    }
+
+    void theFactsStayWithTheSelectionWhenTheRowsChange()
+    {
+        QTest::keyClicks(field(), QStringLiteral("gradius3"));
+        const QStringList told = texts(*window().factsPanel);
+        QVERIFY(told.contains(QStringLiteral("Gradius III (World)")));
+        QTest::keyClick(field(), Qt::Key_Escape);
+        QCOMPARE(shown(), all);
+        QCOMPARE(list().tableViewSelectionROM(), QStringLiteral("gradius3"));
+        QCOMPARE(texts(*window().factsPanel), told);
+    }
+
+    void theFactsMarkFollowsAnEdit()
+    {
+        QVERIFY(list().selectGame(QStringLiteral("jp")));
+        const auto* mark = window().findChild<QLabel*>(QStringLiteral("romMark"));
+        QCOMPARE(mark->property("mark").toString(), QStringLiteral("plovermark_preliminary"));
+        m_staged->app->catalogue().setValue(7, Field::Status, QStringLiteral("good"));
+        QCOMPARE(mark->property("mark").toString(), QStringLiteral("plovermark_good"));
+    }
+
+    void deletingInTheFieldRemovesNoGame()
+    {
+        search(QStringLiteral("gradius konami"));
+        QTest::keyClick(field(), Qt::Key_Backspace, Qt::ControlModifier);
+        QCOMPARE(field()->text(), QStringLiteral("gradius "));
+        QTest::keyClick(field(), Qt::Key_Home);
+        QTest::keyClick(field(), Qt::Key_Delete);
+        QCOMPARE(field()->text(), QStringLiteral("radius "));
+        QVERIFY(m_staged->desktop.takeTranscript().isEmpty());
+        // In the list it asks.
+        window().gameTable->setFocus();
+        m_staged->desktop.answerAlert(QStringLiteral("record_remove_Message"), 1);
+        QTest::keyClick(window().gameTable, Qt::Key_Delete);
+        QCOMPARE(m_staged->desktop.takeTranscript().size(), 2);
+    }
+
+private:
+    static QStringList texts(const QWidget& panel)
+    {
+        QStringList texts;
+        for (const QLabel* label : panel.findChildren<QLabel*>()) {
+            if (!label->isHidden())
+                texts << label->text();
+        }
+        return texts;
+    }
+};
+
+TESSERA_TEST(SearchingTest);
+#include "searchingtest.moc"
