@@ -76,7 +76,6 @@ void Program::joinStatusLine()
     connect(&launches, &LaunchController::statusMessage, &status, say);
     connect(&paths, &PathChooser::statusMessage, &status, say);
     connect(&tableFont, &TableFont::statusMessage, &status, say);
-    connect(&rebuild, &CatalogueRebuild::statusMessage, &status, say);
     connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
 }
 

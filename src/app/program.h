@@ -107,7 +107,7 @@ public:
 
     // Another catalogue.
     CatalogueRebuild rebuild{{catalogue, saving, desktop, settings, *mainWindow.rebuildStrip, emulatorChoice,
-                              paths, favorites.favourites()}};
+                              paths, favorites.favourites(), status}};
     ChangesDesk changes{mainWindow};
     MainDesk mainDesk{
         {mainWindow, catalogue, settings, gameList, finding, launches, emulatorChoice, rebuild}};

@@ -100,7 +100,7 @@ void KeyCommands::redo()
 void KeyCommands::commitCells()
 {
     for (const Row& row : m_rows) {
-        if (row.list != nullptr)
+        if (row.list != nullptr && row.undo == undoStack())
             row.list->commitEditing();
     }
 }

@@ -46,7 +46,6 @@ ArtworkDesk::ArtworkDesk(const Parts& parts, QObject* parent)
     m_main->setHeld(true);
     connect(m_main.get(), &SnapshotController::statusMessage, &m_parts.mainWindow, &MainWindow::showMessage);
     connect(&list, &GameListController::selectionChanged, m_main.get(), &SnapshotController::showSelection);
-    connect(&m_folder, &SnapFolder::picturesChanged, this, &ArtworkDesk::showPictures);
     connect(&m_parts.paths, &PathChooser::chosen, this, &ArtworkDesk::pathChosen);
     connect(&m_parts.preferences, &PreferencesWindow::aboutToShow, this, &ArtworkDesk::addPage);
     connect(&m_preview, &PictureLoader::loaded, this,
@@ -118,14 +117,6 @@ void ArtworkDesk::snap_change()
     m_parts.favorites.controller().tableViewSelectionDidChange();
     if (m_mini)
         m_mini->showSelection();
-}
-
-void ArtworkDesk::showPictures()
-{
-    for (const Snapshot* snapshot : {&m_main, &m_favourites, &m_mini}) {
-        if (*snapshot)
-            (*snapshot)->showSelection();
-    }
 }
 
 void ArtworkDesk::snappreview()

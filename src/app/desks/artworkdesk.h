@@ -100,7 +100,6 @@ private:
     void fillFolders(QMenu& menu);
     void takePanel(DownloadPanel& panel);
     void showDownload();
-    void showPictures();
 
     Parts m_parts;
     SnapFolder m_folder;

@@ -1,5 +1,6 @@
 #include "app/desks/cataloguerebuild.h"
 
+#include "app/statusline.h"
 #include "app/windows/rebuildstrip.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/ui/cataloguesaving.h"
@@ -90,7 +91,7 @@ void CatalogueRebuild::build()
         m_parts.paths.exeSelect();
     const QString emulator = m_parts.emulator.emulatorNow();
     if (emulator.isEmpty()) {
-        Q_EMIT statusMessage(qtTrId("rebuild_no_emulator"));
+        m_parts.status.say(qtTrId("rebuild_no_emulator"));
         return;
     }
     m_identity = identityText(emulator);
@@ -115,7 +116,7 @@ void CatalogueRebuild::cancel()
 void CatalogueRebuild::stand()
 {
     letGo();
-    Q_EMIT statusMessage(qtTrId("rebuild_cancelled"));
+    m_parts.status.say(qtTrId("rebuild_cancelled"));
 }
 
 void CatalogueRebuild::finish(int machines)
@@ -131,7 +132,7 @@ void CatalogueRebuild::finish(int machines)
     m_parts.defaults.setText(keys::BuiltFrom, m_identity);
     if (!changes.isEmpty())
         sentences << changes;
-    Q_EMIT statusMessage(concluded(sentences, kept));
+    m_parts.status.say(concluded(sentences, kept));
 }
 
 // In one message, as the next one takes its place.
@@ -178,7 +179,7 @@ std::optional<QString> CatalogueRebuild::useFile(const QString& path)
     if (!changes.isEmpty())
         sentences << changes;
     QString message = concluded(sentences, placed->kept);
-    Q_EMIT statusMessage(message);
+    m_parts.status.say(message);
     return message;
 }
 
@@ -221,7 +222,7 @@ std::expected<CatalogueRebuild::Placed, Failure> CatalogueRebuild::put(const QSt
 void CatalogueRebuild::fail(const Failure& failure)
 {
     letGo();
-    Q_EMIT statusMessage(qtTrId("rebuild_failed"));
+    m_parts.status.say(qtTrId("rebuild_failed"));
     m_parts.desktop.presentError(failure.text(), QString(), {});
 }
 

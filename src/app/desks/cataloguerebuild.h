@@ -20,6 +20,7 @@ class Favourites;
 class EmulatorChoice;
 class PathChooser;
 class RebuildStrip;
+class StatusLine;
 struct CatalogueComparison;
 
 /// The command that builds the catalogue from the emulator and puts it in place of the present one.
@@ -37,6 +38,7 @@ public:
         EmulatorChoice& emulator; ///< knows the emulator to ask
         PathChooser& paths;
         const Favourites& favourites; ///< of which it is said where they differ
+        StatusLine& status;
     };
     explicit CatalogueRebuild(const Parts& parts, QObject* parent = nullptr);
     ~CatalogueRebuild() override;
@@ -57,7 +59,6 @@ public Q_SLOTS:
     void cancel();
 
 Q_SIGNALS:
-    void statusMessage(const QString& text);
     void runningChanged(bool running);
     /// After a catalogue has taken the place of another.
     void compared(const tessera::CatalogueComparison& comparison);

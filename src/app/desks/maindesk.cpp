@@ -52,9 +52,9 @@ void MainDesk::showSelection()
 
 void MainDesk::showCount()
 {
-    m_parts.window.setRomsMissing(romsMissing());
-    m_parts.window.showCount(m_parts.list.list().size(), m_parts.catalogue.records().size(),
-                             m_parts.finding.finder().reasons());
+    const std::size_t shown = m_parts.list.list().size();
+    m_parts.window.showCount(shown, m_parts.catalogue.records().size(), m_parts.finding.finder().reasons(),
+                             shown == 0 && romsMissing());
 }
 
 void MainDesk::showRunning(bool running)

@@ -104,12 +104,14 @@ void MainWindow::makeStatusLine()
     statusBar()->addPermanentWidget(m_emulator);
 }
 
-void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList& reasons)
+void MainWindow::showCount(std::size_t shown, std::size_t all, const QStringList& reasons, bool romsMissing)
 {
     ListWindow::showCount(shown, all, reasons);
     showAllButton->setVisible(!reasons.isEmpty());
     m_isFiltered = shown == 0 && all > 0;
-    sayWhatToDo(m_isRebuilding);
+    m_romsMissing = romsMissing;
+    if (shown == 0)
+        sayWhatToDo(m_isRebuilding);
 }
 
 void MainWindow::showEmulator(const QString& text)

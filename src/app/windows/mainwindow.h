@@ -34,10 +34,9 @@ public:
     QPushButton* runningStopButton; ///< beside it
     QProgressBar* progressIndicator;
 
-    /// Why a list may be empty, beside that nothing passes its filters: nobody has chosen a ROM folder.
-    void setRomsMissing(bool missing) { m_romsMissing = missing; }
-    /// With what hides the others, each in a few words.
-    void showCount(std::size_t shown, std::size_t all, const QStringList& reasons);
+    /// With what hides the others, each in a few words. Why a list may be empty, beside that nothing passes
+    /// its filters: nobody has chosen a ROM folder.
+    void showCount(std::size_t shown, std::size_t all, const QStringList& reasons, bool romsMissing);
     void showEmulator(const QString& text);
     /// The title names the kind of emulator.
     void Setwindowtitle(const QString& kind);

@@ -26,15 +26,10 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
 {
 }
 
-void PictureLoader::load(const QString& path)
+// By value: what is wanted is another one once it has been told of.
+void PictureLoader::load(QString path) // NOLINT(performance-unnecessary-value-param)
 {
     m_wanted = path;
-    loadWanted();
-}
-
-void PictureLoader::loadWanted()
-{
-    const QString path = m_wanted;
     if (const Kept* kept = m_kept.object(path)) {
         const QFileInfo file(path);
         if (kept->changed == file.lastModified() && kept->length == file.size()) {
@@ -52,7 +47,7 @@ void PictureLoader::setHeld(bool held)
 {
     m_isHeld = held;
     if (!held && !m_wanted.isEmpty())
-        loadWanted();
+        load(m_wanted);
 }
 
 void PictureLoader::read(const QString& path)
@@ -83,7 +78,7 @@ void PictureLoader::takePicture(const QString& path, const QDateTime& changed, q
     if (m_wanted.isEmpty())
         return;
     if (m_wanted != path)
-        return loadWanted();
+        return load(m_wanted);
     m_wanted.clear();
     if (image.isNull())
         Q_EMIT failed(path, reason);

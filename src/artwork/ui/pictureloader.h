@@ -20,7 +20,7 @@ public:
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.
-    void load(const QString& path);
+    void load(QString path);
     /// While it is held, nothing is read; what was asked for last is read at the end.
     void setHeld(bool held);
 
@@ -36,7 +36,6 @@ private:
         QImage image;
     };
 
-    void loadWanted();
     void read(const QString& path);
     void takePicture(const QString& path, const QDateTime& changed, qint64 length, const QImage& image,
                      const QString& reason);

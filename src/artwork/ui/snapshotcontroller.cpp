@@ -30,6 +30,7 @@ SnapshotController::SnapshotController(const SnapshotParts& parts, QObject* pare
     connect(&m_patience, &QTimer::timeout, this, [this] { m_parts.view.setImage(QImage()); });
     connect(&m_loader, &PictureLoader::loaded, this, &SnapshotController::show);
     connect(&m_loader, &PictureLoader::failed, this, &SnapshotController::showBroken);
+    connect(&m_parts.folder, &SnapFolder::picturesChanged, this, &SnapshotController::showSelection);
     connect(&m_parts.view, &AspectView::clicked, this, &SnapshotController::snappreview);
 }
 
