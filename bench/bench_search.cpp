@@ -123,9 +123,9 @@ void comparePreparing(std::span<const GameRecord> content, const SearchTexts& te
     const auto floor = [&] { passWithMemmem(texts.texts().bytes(), "pac"); };
     bench::compare("prepare what is ASCII / memmem pass", [&] { GameSearch search(content); }, floor);
     GameSearch search(content);
-    const SearchBuffer unfolded = search.unfolded();
+    const UnfoldedTexts unfolded = search.unfolded();
     const std::string name
-        = "prepare " + std::to_string(unfolded.records()) + " others by ICU, aside / memmem pass";
+        = "prepare " + std::to_string(unfolded.texts.records()) + " records, aside / memmem pass";
     bench::compare(name, [&] { std::ignore = SearchTexts::fold(unfolded); }, floor, bench::timed, 5);
     const FoldedTexts folded = SearchTexts::fold(unfolded);
     bench::compare("take over what ICU made / memmem pass", [&] { search.take(folded); }, floor);

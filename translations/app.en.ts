@@ -126,7 +126,7 @@
 &lt;p&gt;&lt;b&gt;4. Play.&lt;/b&gt; A double click, or the Return key, starts the selected game.&lt;/p&gt;
 &lt;p&gt;Nothing is sent or fetched over the network unless you ask for it.&lt;/p&gt;</translation></message>
     <message id="help_search"><source></source><translation>&lt;p&gt;Just type: whatever you type in the list goes into the search field (&lt;b&gt;Ctrl+F&lt;/b&gt;). Set name, both titles, maker and year are searched; the words may come in any order. Capitals, accents and full or half width make no difference, hiragana finds katakana, and romaji finds kana: &lt;i&gt;guradi&lt;/i&gt; finds グラディウス.&lt;/p&gt;
-&lt;p&gt;What fits best comes first: the exact set name, then a whole title, then beginnings of words. A click on a column header sorts by that column instead.&lt;/p&gt;
+&lt;p&gt;What fits best comes first: the exact set name, then a title or a part of one, then beginnings of words, and initials (&lt;i&gt;mvc&lt;/i&gt;) last. Punctuation need not be typed: &lt;i&gt;spiderman&lt;/i&gt;, &lt;i&gt;r type 2&lt;/i&gt;. A click on a column header sorts by that column until the field is emptied.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;The chips&lt;/b&gt; above the list show a part of it, with their counts. &lt;b&gt;Families&lt;/b&gt; folds clones beneath their parents; the right and left arrow keys open and close one.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;The filter panel&lt;/b&gt; (&lt;i&gt;View › Filter Panel&lt;/i&gt;) joins several rules, and holds the maker filter.&lt;/p&gt;
 &lt;p&gt;Whatever hides rows is named beside the count, with &lt;b&gt;Show all&lt;/b&gt;.&lt;/p&gt;</translation></message>

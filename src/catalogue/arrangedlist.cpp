@@ -9,17 +9,24 @@ namespace {
 constexpr std::uint32_t hidden = 0xFFFF'FFFF;
 
 // Equal ranks keep their order.
-std::vector<std::uint32_t> byRank(std::span<const std::uint32_t> rows, std::span<const std::uint8_t> ranks)
+std::vector<std::uint32_t> byRank(std::span<const std::uint32_t> rows, std::span<const std::uint32_t> ranks)
 {
-    std::array<std::uint32_t, 257> next{};
-    for (const std::uint32_t record : rows)
-        ++next[ranks[record] + 1U];
-    for (std::size_t rank = 1; rank < next.size(); ++rank)
-        next[rank] += next[rank - 1];
+    constexpr unsigned digitBits = 12;
+    constexpr std::size_t digits = std::size_t{1} << digitBits;
+    std::vector<std::uint32_t> from(rows.begin(), rows.end());
     std::vector<std::uint32_t> ordered(rows.size());
-    for (const std::uint32_t record : rows)
-        ordered[next[ranks[record]]++] = record;
-    return ordered;
+    for (const unsigned shift : {0U, digitBits}) {
+        std::array<std::uint32_t, digits + 1> next{};
+        const auto digit = [&](std::uint32_t record) { return ranks[record] >> shift & (digits - 1); };
+        for (const std::uint32_t record : from)
+            ++next[digit(record) + 1];
+        for (std::size_t rank = 1; rank < next.size(); ++rank)
+            next[rank] += next[rank - 1];
+        for (const std::uint32_t record : from)
+            ordered[next[digit(record)]++] = record;
+        from.swap(ordered);
+    }
+    return from;
 }
 
 std::vector<std::uint32_t> chosenOf(std::span<const std::uint32_t> records, const RecordSet& chosen)

@@ -12,7 +12,7 @@ struct Found {
     RecordSet records;
     /// For each record of the content how well it fits, the least first; it counts for the found ones only.
     /// Empty where nothing ranks them.
-    std::vector<std::uint8_t> ranks;
+    std::vector<std::uint32_t> ranks;
     /// Clones among them are shown, also where families are folded.
     bool opensFamilies = false;
 };

@@ -1,6 +1,6 @@
 #include "catalogue/search/gamesearch.h"
 
-#include "catalogue/search/wordsearch.h"
+#include "catalogue/search/jointranks.h"
 
 #include <algorithm>
 
@@ -35,6 +35,8 @@ public:
     {
     }
 
+    /// Of several words, before they are looked for one by one: written as one, they are found as well.
+    void lookForPhrase(const Query& query);
     void keepWithin(const RecordSet& records);
     void keepChip(Chip chip);
     void keepTerm(const Term& term);
@@ -60,18 +62,26 @@ private:
         keepWhere(negated, [facts = m_facts.all(), test](std::size_t i) { return test(facts[i]); });
     }
 
-    void keepFound(bool negated, std::span<const Rank> ranks)
+    void keepFound(bool negated, std::span<const Score> scores)
     {
-        keepWhere(negated, [ranks](std::size_t i) { return ranks[i] != Rank::None; });
+        keepWhere(negated, [scores](std::size_t i) { return scores[i] != noScore; });
     }
-    std::vector<std::uint8_t> ranks(const Query& query) const;
+    std::vector<std::uint32_t> ranks(const Query& query) const;
+    std::vector<Score> covered(std::span<const SearchedWords* const> words) const;
 
     const SearchTexts& m_texts;
     const ContentFacts& m_facts;
     std::span<const Have> m_haves;
     std::vector<std::uint8_t> m_kept;
-    std::vector<std::vector<Rank>> m_words; // of each word that is not turned round
+    std::vector<Score> m_phrase;
+    std::vector<std::vector<Score>> m_words; // of each word that is not turned round
 };
+
+void Narrowing::lookForPhrase(const Query& query)
+{
+    if (const std::vector<const SearchedWords*> words = query.rankedWords(); words.size() > 1)
+        m_phrase = phraseScores(m_texts, m_facts.size(), words);
+}
 
 void Narrowing::keepWithin(const RecordSet& records)
 {
@@ -91,7 +101,8 @@ void Narrowing::keepTerm(const Term& term)
     case TermKind::Words:
         return keepWords(term);
     case TermKind::Maker:
-        return keepFound(no, wordRanks(m_texts, m_facts.size(), term.words, MakerMark));
+        return keepFound(
+            no, wordScores(m_texts, m_facts.size(), term.words, {.field = MakerMark, .negated = no}));
     case TermKind::Device:
         return keepDevices(term);
     case TermKind::Year:
@@ -115,10 +126,17 @@ void Narrowing::keepTerm(const Term& term)
 
 void Narrowing::keepWords(const Term& term)
 {
-    std::vector<Rank> ranks = wordRanks(m_texts, m_facts.size(), term.words);
-    keepFound(term.negated, ranks);
-    if (!term.negated)
-        m_words.push_back(std::move(ranks));
+    std::vector<Score> scores
+        = wordScores(m_texts, m_facts.size(), term.words, {.field = std::nullopt, .negated = term.negated});
+    if (term.negated)
+        return keepFound(true, scores);
+    if (!m_phrase.empty())
+        keepWhere(false, [phrase = std::span(m_phrase), found = std::span(scores)](std::size_t i) {
+            return found[i] != noScore || phrase[i] != noScore;
+        });
+    else
+        keepFound(false, scores);
+    m_words.push_back(std::move(scores));
 }
 
 // Few values differ: each is looked at once.
@@ -135,21 +153,38 @@ Found Narrowing::found(const Query& query) const
     return {RecordSet::of(m_kept), ranks(query)};
 }
 
-std::vector<std::uint8_t> Narrowing::ranks(const Query& query) const
+// Of the words together, where they make up a part of a title; looked for where they were found. One that was
+// taken out may have kept its number behind the last one.
+std::vector<Score> Narrowing::covered(std::span<const SearchedWords* const> words) const
+{
+    std::vector<std::string> loose;
+    for (const SearchedWords* word : words)
+        loose.push_back(looseWord(word->text));
+    std::erase(loose, std::string());
+    std::vector<Score> scores(m_facts.size(), noScore);
+    m_texts.loose().forEachCovered(
+        loose, [&](std::uint32_t record) { return record < m_kept.size() && m_kept[record] != 0; },
+        [&](std::uint32_t record) { scores[record] = score(Rank::Covered, WordForm::Plain); });
+    return scores;
+}
+
+std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
 {
     if (m_words.empty())
         return {};
-    if (m_words.size() == 1) {
-        std::vector<std::uint8_t> bytes(m_facts.size());
-        std::ranges::transform(m_words.front(), bytes.begin(),
-                               [](Rank rank) { return static_cast<std::uint8_t>(rank); });
-        return bytes;
-    }
     JointRanks joint(m_facts.size());
-    for (const std::vector<Rank>& word : m_words)
+    for (const std::vector<Score>& word : m_words)
         joint.add(word);
-    joint.addPhrase(wordRanks(m_texts, m_facts.size(), {query.phrase()}));
-    return joint.bytes();
+    if (m_words.size() > 1) {
+        const std::vector<const SearchedWords*> words = query.rankedWords();
+        joint.improve(m_phrase);
+        joint.improve(covered(words));
+    }
+    std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);
+    const std::span ties(m_facts.ties());
+    for (std::size_t i = 0; i < ranks.size(); ++i)
+        ranks[i] |= ties[i] << formBits;
+    return ranks;
 }
 
 } // namespace
@@ -160,6 +195,7 @@ Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) c
     narrowing.keepChip(chip);
     if (within != nullptr)
         narrowing.keepWithin(*within);
+    narrowing.lookForPhrase(query);
     for (const Term& term : query.terms()) {
         if (!term.applies)
             continue;

@@ -25,7 +25,7 @@ public:
     }
 
     /// The second step of preparing the texts, as SearchTexts tells it.
-    SearchBuffer unfolded() { return m_texts.unfolded(); }
+    UnfoldedTexts unfolded() { return m_texts.unfolded(); }
     void take(FoldedTexts folded) { m_texts.take(std::move(folded)); }
 
     // A record of the content has been edited, or taken out of it, or put into it at this place.

@@ -18,17 +18,17 @@ bool Query::isEmpty() const
 
 bool Query::ranks() const
 {
-    return !phrase().empty();
+    return !rankedWords().empty();
 }
 
-std::string Query::phrase() const
+std::vector<const SearchedWords*> Query::rankedWords() const
 {
-    std::string phrase;
+    std::vector<const SearchedWords*> words;
     for (const Term& term : m_terms) {
         if (term.kind == TermKind::Words && term.applies && !term.negated)
-            phrase += (phrase.empty() ? "" : " ") + term.words.text;
+            words.push_back(&term.words);
     }
-    return phrase;
+    return words;
 }
 
 } // namespace tessera

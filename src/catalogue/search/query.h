@@ -47,8 +47,8 @@ public:
     bool isEmpty() const;
     /// There are words to rank records by.
     bool ranks() const;
-    /// The words that are not turned round, in sequence; a whole title may be written so.
-    std::string phrase() const;
+    /// The words that are not turned round, in sequence.
+    std::vector<const SearchedWords*> rankedWords() const;
 
 private:
     std::vector<Term> m_terms;

@@ -3,6 +3,7 @@
 #include "catalogue/search/folding.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace tessera {
 
@@ -18,6 +19,39 @@ Kind kindOf(std::string_view value, const std::array<std::string_view, N>& value
 bool isParent(const GameRecord& record)
 {
     return record[Field::Cloneof].empty() || record[Field::Cloneof] == record[Field::Name];
+}
+
+/// The sets of one parent, with it.
+struct Family {
+    std::uint32_t size = 0;
+    std::uint16_t year = unknownYear.first; ///< of the parent
+};
+
+std::unordered_map<std::size_t, Family> familiesOf(std::span<const RecordFacts> records)
+{
+    std::unordered_map<std::size_t, Family> families;
+    families.reserve(records.size());
+    for (const RecordFacts& facts : records) {
+        Family& family = families[facts.family];
+        ++family.size;
+        if (facts.parent)
+            family.year = facts.years.first;
+    }
+    return families;
+}
+
+// From the bits that count most to those that count least.
+std::uint32_t tie(const RecordFacts& facts, const Family& family)
+{
+    constexpr std::uint32_t mostFamily = 7;
+    constexpr int firstYear = 1970;
+    constexpr int lastAge = 31;
+    const auto type = std::min(static_cast<std::uint32_t>(facts.type), std::uint32_t{3});
+    const bool works = facts.status == GameStatus::Good || facts.status == GameStatus::Imperfect;
+    const auto size = std::min(static_cast<std::uint32_t>(std::bit_width(family.size)), mostFamily);
+    const auto age = static_cast<std::uint32_t>(std::clamp((family.year - firstYear) / 2, 0, lastAge));
+    return type << 10 | (facts.parent ? 0U : 1U) << 9 | (works ? 0U : 1U) << 8 | (mostFamily - size) << 5
+        | age;
 }
 
 } // namespace
@@ -37,8 +71,38 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .type = kindOf<GameType>(record[Field::Type], typeValues),
         .status = kindOf<GameStatus>(record[Field::Status], statusValues),
         .parent = isParent(record),
+        .family = std::hash<std::string_view>()(record[isParent(record) ? Field::Name : Field::Cloneof]),
         .favorite = m_favourites.contains(record[Field::Name]),
     };
+}
+
+const std::vector<std::uint32_t>& ContentFacts::ties() const
+{
+    if (!m_ties.empty())
+        return m_ties;
+    const std::unordered_map<std::size_t, Family> families = familiesOf(m_facts);
+    m_ties.reserve(m_facts.size());
+    for (const RecordFacts& facts : m_facts)
+        m_ties.push_back(tie(facts, families.find(facts.family)->second));
+    return m_ties;
+}
+
+void ContentFacts::replace(std::uint32_t record, const GameRecord& now)
+{
+    m_facts[record] = facts(now);
+    m_ties.clear();
+}
+
+void ContentFacts::remove(std::uint32_t record)
+{
+    m_facts.erase(m_facts.begin() + record);
+    m_ties.clear();
+}
+
+void ContentFacts::insert(std::uint32_t record, const GameRecord& added)
+{
+    m_facts.insert(m_facts.begin() + record, facts(added));
+    m_ties.clear();
 }
 
 void ContentFacts::setFavourites(NameSet favorites, std::span<const GameRecord> content)

@@ -26,6 +26,7 @@ struct RecordFacts {
     GameType type = GameType::Other;
     GameStatus status = GameStatus::Other;
     bool parent = false; ///< no clone of another set
+    std::size_t family = 0; ///< the same number for all sets of one parent
     bool favorite = false;
 };
 
@@ -43,21 +44,25 @@ public:
     /// The different values of the field, folded.
     const std::vector<std::string>& devices() const { return m_devices; }
 
+    /// Which of two records comes first that a search fits equally well: a game before anything else, a
+    /// parent before its clones, what works before what does not, then what has more clones, and is older.
+    /// In so many bits, the least is the first.
+    static constexpr unsigned tieBits = 12;
+    const std::vector<std::uint32_t>& ties() const;
+
     /// The user's favourites; `content` is the one that the facts are of.
     void setFavourites(NameSet favorites, std::span<const GameRecord> content);
 
-    void replace(std::uint32_t record, const GameRecord& now) { m_facts[record] = facts(now); }
-    void remove(std::uint32_t record) { m_facts.erase(m_facts.begin() + record); }
-    void insert(std::uint32_t record, const GameRecord& added)
-    {
-        m_facts.insert(m_facts.begin() + record, facts(added));
-    }
+    void replace(std::uint32_t record, const GameRecord& now);
+    void remove(std::uint32_t record);
+    void insert(std::uint32_t record, const GameRecord& added);
 
 private:
     RecordFacts facts(const GameRecord& record);
     std::uint32_t device(std::string_view value);
 
     std::vector<RecordFacts> m_facts;
+    mutable std::vector<std::uint32_t> m_ties; ///< none until they are asked for
     NameSet m_favourites;
     std::vector<std::string> m_devices;
     std::unordered_map<std::string, std::uint32_t> m_deviceNumbers;

@@ -57,17 +57,46 @@ constexpr std::array smallKana{
 // ICU tells ぢ and づ from じ and ず; some people do so too, when they type "di" and "du".
 constexpr std::array plainDi{Spelling{"dj", 2, "d"}, Spelling{"dz", 2, "d"}};
 
+// Most signs begin no row.
 template <std::size_t N>
 std::string respelled(std::string_view latin, const std::array<Spelling, N>& table)
 {
+    std::array<bool, 256> begins{};
+    for (const Spelling& spelling : table)
+        begins[static_cast<unsigned char>(spelling.sight.front())] = true;
     std::string out;
     while (!latin.empty()) {
+        if (!begins[static_cast<unsigned char>(latin.front())]) {
+            out += latin.front();
+            latin.remove_prefix(1);
+            continue;
+        }
         const auto row = std::ranges::find_if(
             table, [&](const Spelling& spelling) { return latin.starts_with(spelling.sight); });
         out += row != table.end() ? row->text : latin.substr(0, 1);
         latin.remove_prefix(row != table.end() ? row->letters : 1);
     }
     return out;
+}
+
+// Of what the text begins with: a vowel with a consonant before it or none, an n, or the first half of a
+// doubled consonant; 0 for anything else.
+std::size_t syllableSize(std::string_view text)
+{
+    constexpr std::array<std::string_view, 4> pairs{"sh", "ch", "ts", "dz"};
+    const auto isVowelAt
+        = [text](std::size_t i) { return i < text.size() && std::string_view("aiueo").contains(text[i]); };
+    const char first = text.front();
+    const char second = text.size() > 1 ? text[1] : '\0';
+    const bool isNasal = (first == 'n' && !isVowelAt(1) && second != 'y')
+        || (first == 'm' && (second == 'b' || second == 'p'));
+    if (isVowelAt(0) || isNasal || first == second || text.starts_with("tch"))
+        return 1;
+    if (!std::string_view("kgsztdnhbpmyrwjfc").contains(first))
+        return 0;
+    std::size_t size = std::ranges::find(pairs, text.substr(0, 2)) != pairs.end() ? 2 : 1;
+    size += size < text.size() && text[size] == 'y' ? 1 : 0;
+    return isVowelAt(size) ? size + 1 : 0;
 }
 
 std::string withLongVowelsOnce(std::string_view latin)
@@ -88,20 +117,23 @@ bool isHiragana(UChar32 c)
 }
 
 // What stands for a character in the text that is transliterated: no letter of the text itself may pass for a
-// reading. A bracket ends a title's first part.
-UChar32 unread(UChar32 c)
+// reading.
+UChar32 unread(UChar32 c, UChar32 before)
 {
-    return u_isalnum(c) != 0 ? UChar32{unreadSign} : c == u'(' ? c : UChar32{' '};
+    if (u_isalnum(c) != 0)
+        return UChar32{unreadSign};
+    return c == u':' || (before == u' ' && (c == u'-' || c == u'~')) ? UChar32{partSign} : UChar32{' '};
 }
 
 UnicodeString kanaOnly(const UnicodeString& text, bool& holdsKana)
 {
     UnicodeString out;
+    UChar32 before = 0;
     for (int32_t i = 0; i < text.length(); i = text.moveIndex32(i, 1)) {
         const UChar32 c = text.char32At(i);
         holdsKana = holdsKana || isHiragana(c);
         if (!isHiragana(c))
-            out.append(unread(c));
+            out.append(unread(c, std::exchange(before, c)));
         else // ICU does not know the small ka and ke
             out.append(c == 0x3095 ? UChar32{0x304B} : c == 0x3096 ? UChar32{0x3051} : c);
     }
@@ -125,7 +157,7 @@ std::string latinOnly(const UnicodeString& text)
     std::string out;
     for (int32_t i = 0; i < text.length(); ++i) {
         const char16_t c = text[i];
-        const bool isLatin = (c >= u'a' && c <= u'z') || std::u16string_view(u"~' (").contains(c);
+        const bool isLatin = (c >= u'a' && c <= u'z') || std::u16string_view(u"~' /").contains(c);
         out += isLatin ? static_cast<char>(c) : unreadSign;
     }
     return out;
@@ -143,12 +175,33 @@ std::string shortRomajiSpelling(std::string_view latin)
     return withLongVowelsOnce(romajiSpelling(latin));
 }
 
+std::string withoutBlanks(std::string_view text)
+{
+    std::string out(text);
+    std::erase(out, ' ');
+    return out;
+}
+
 bool isRomaji(std::string_view folded)
 {
     const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
     return std::ranges::any_of(folded, isLetter) && std::ranges::all_of(folded, [&](char c) {
                return isLetter(c) || c == '\'' || c == '-' || c == ' ';
            });
+}
+
+bool readsLikeJapanese(std::string_view folded)
+{
+    constexpr std::size_t least = 4;
+    if (folded.size() < least)
+        return false;
+    while (!folded.empty()) {
+        const std::size_t size = syllableSize(folded);
+        if (size == 0)
+            return false;
+        folded.remove_prefix(size);
+    }
+    return true;
 }
 
 std::vector<std::string> romajiReadings(std::string_view folded)

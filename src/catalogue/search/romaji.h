@@ -14,11 +14,18 @@ std::string romajiSpelling(std::string_view latin);
 /// form.
 std::string shortRomajiSpelling(std::string_view latin);
 
+std::string withoutBlanks(std::string_view text);
+
 /// True for what may stand for kana when it is typed: letters, and the apostrophe and hyphen between them.
 bool isRomaji(std::string_view folded);
 
 /// Where a reading leaves out kanji, digits, letters: no searched word holds this sign.
-inline constexpr char unreadSign = '\x06';
+inline constexpr char unreadSign = '\x0E';
+/// Where a part of a title begins behind it, in a reading.
+inline constexpr char partSign = '/';
+
+/// True for a word that reads like Japanese from its first to its last letter: four letters and more.
+bool readsLikeJapanese(std::string_view folded);
 
 /// A folded text's kana in romaji, in each spelling that shortRomajiSpelling() of a typed reading may meet.
 /// Nothing where the text holds no kana. Any thread may read.

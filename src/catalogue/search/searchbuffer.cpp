@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t sampled = 16;
 
 // No field mark and no byte of a searched word.
-constexpr char blankByte = '\x07';
+constexpr char blankByte = '\x0F';
 
 } // namespace
 

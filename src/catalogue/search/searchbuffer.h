@@ -30,6 +30,9 @@ public:
     std::size_t records() const { return m_records.size(); }
     std::uint32_t record(std::size_t place) const { return m_records[place]; }
     std::string_view texts(std::size_t place) const;
+    /// Where they begin in bytes(), and where they end.
+    std::size_t begins(std::size_t place) const { return place == 0 ? 0 : m_ends[place - 1]; }
+    std::size_t ends(std::size_t place) const { return m_ends[place]; }
     /// All texts with their marks. Before each text and behind it stands a mark.
     std::string_view bytes() const { return m_bytes; }
 
@@ -50,7 +53,6 @@ public:
     void forEachHit(std::string_view word, Hit&& hit) const;
 
 private:
-    std::size_t begins(std::size_t place) const { return place == 0 ? 0 : m_ends[place - 1]; }
     std::size_t placeOf(std::size_t offset, std::size_t place) const;
     void sample(std::size_t place);
 

@@ -88,21 +88,95 @@ std::string withoutMiddleDots(std::string_view text)
     return joined;
 }
 
-void addReadings(SearchBuffer& buffer, FieldMark mark, std::string_view text)
+// A reading has nothing but letters, blanks and the signs for what is left out.
+LooseForm looseReading(std::string_view reading)
 {
-    for (const std::string& reading : romajiReadings(text))
-        buffer.add(mark, reading);
+    LooseForm form;
+    Edge next = Edge::Part;
+    for (const char c : reading) {
+        if (c == ' ' || c == partSign) {
+            next = std::max(next, c == ' ' ? Edge::Word : Edge::Part);
+            continue;
+        }
+        const bool meets = !form.text.empty() && (c == unreadSign) != (form.text.back() == unreadSign);
+        form.edges.push_back(next == Edge::None && meets ? Edge::Word : next);
+        form.text += c;
+        next = Edge::None;
+    }
+    return form;
 }
 
-void addFolded(FoldedTexts& folded, FieldMark mark, std::string_view text)
+void addReadings(LooseBuffer& romaji, FieldMark mark, std::string_view text)
+{
+    for (const std::string& reading : romajiReadings(text))
+        romaji.add(mark, looseReading(reading));
+}
+
+// Where one of its words reads like Japanese.
+void addRomanised(LooseBuffer& romaji, const LooseForm& title)
+{
+    LooseForm form;
+    bool isJapanese = false;
+    for (std::size_t begin = 0; begin < title.text.size();) {
+        const std::size_t end = title.wordEnd(begin);
+        const std::string_view word = std::string_view(title.text).substr(begin, end - begin);
+        isJapanese = isJapanese || readsLikeJapanese(word);
+        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, title.edges[begin]);
+        begin = end;
+    }
+    if (isJapanese)
+        romaji.add(RomanisedMark, form);
+}
+
+// The maker's first word, which titles of systems begin with.
+LooseForm firstWord(std::string_view maker)
+{
+    return LooseForm(maker.substr(0, maker.find(' ')));
+}
+
+void addTitle(FoldedTexts& out, std::string_view folded, const LooseForm& maker)
+{
+    const std::vector<std::string_view> titles = titlesProper(folded);
+    const FieldMark mark = titles.size() > 1 ? AlternativeMark : TitleMark;
+    for (const std::string_view title : titles) {
+        LooseForm form(title);
+        form.beginPartBehind(maker);
+        out.loose.add(mark, form);
+        addReadings(out.romaji, mark, title);
+        addRomanised(out.romaji, form);
+        for (const std::string& letters : initials(form))
+            out.loose.add(InitialsMark, letters);
+    }
+}
+
+// What of a folded text is searched besides.
+void addVariants(FoldedTexts& out, FieldMark mark, std::string_view folded, const LooseForm& maker)
+{
+    if (mark == TitleMark)
+        return addTitle(out, folded, maker);
+    out.loose.add(mark, LooseForm(folded));
+    addReadings(out.romaji, mark, folded);
+}
+
+void addFolded(FoldedTexts& out, FieldMark mark, std::string_view text, const LooseForm& maker)
 {
     const std::string form = tessera::folded(text);
-    folded.texts.add(mark, form);
-    addReadings(folded.readings, mark, form);
-    if (const std::string joined = withoutMiddleDots(text); joined.size() < text.size()) {
-        const std::string joinedForm = tessera::folded(joined);
-        folded.texts.add(mark, joinedForm);
-        addReadings(folded.readings, mark, joinedForm);
+    out.texts.add(mark, form);
+    addVariants(out, mark, form, maker);
+    if (const std::string joined = withoutMiddleDots(text); joined.size() < text.size())
+        out.texts.add(mark, tessera::folded(joined));
+}
+
+// Calls `visit(mark, text)` for each text of a record.
+template <class Visit>
+void forEachText(std::string_view texts, Visit&& visit)
+{
+    // A blanked record has no mark but the last one.
+    while (isFieldMark(texts.front()) && texts.front() != EndMark) {
+        const auto* const end = std::ranges::find_if(texts.substr(1), isFieldMark);
+        const auto size = static_cast<std::size_t>(end - texts.begin());
+        visit(static_cast<FieldMark>(texts.front()), texts.substr(1, size - 1));
+        texts.remove_prefix(size);
     }
 }
 
@@ -127,44 +201,53 @@ SearchTexts::SearchTexts(std::span<const GameRecord> content)
 }
 
 // What was folded when it is stopped is of no use.
-FoldedTexts SearchTexts::fold(const SearchBuffer& unfolded, const std::stop_token& stop)
+FoldedTexts SearchTexts::fold(const UnfoldedTexts& unfolded, const std::stop_token& stop)
 {
-    FoldedTexts folded;
-    for (std::size_t place = 0; place < unfolded.records() && !stop.stop_requested(); ++place) {
-        folded.texts.begin(unfolded.record(place));
-        folded.readings.begin(unfolded.record(place));
-        std::string_view rest = unfolded.texts(place);
-        // A blanked record has no mark but the last one.
-        while (isFieldMark(rest.front()) && rest.front() != EndMark) {
-            const auto* const end = std::ranges::find_if(rest.substr(1), isFieldMark);
-            const auto size = static_cast<std::size_t>(end - rest.begin());
-            addFolded(folded, static_cast<FieldMark>(rest.front()), rest.substr(1, size - 1));
-            rest.remove_prefix(size);
-        }
-        folded.texts.end();
-        folded.readings.end();
+    FoldedTexts out;
+    for (std::size_t place = 0; place < unfolded.texts.records() && !stop.stop_requested(); ++place) {
+        const std::uint32_t record = unfolded.texts.record(place);
+        const bool isPlain = place < unfolded.plain;
+        out.texts.begin(record);
+        out.loose.begin(record);
+        out.romaji.begin(record);
+        LooseForm maker;
+        forEachText(unfolded.texts.texts(place), [&](FieldMark mark, std::string_view text) {
+            if (mark == MakerMark)
+                maker = firstWord(isPlain ? std::string(text) : tessera::folded(text));
+        });
+        forEachText(unfolded.texts.texts(place), [&](FieldMark mark, std::string_view text) {
+            if (isPlain)
+                addVariants(out, mark, text, maker);
+            else
+                addFolded(out, mark, text, maker);
+        });
+        out.texts.end();
+        out.loose.end();
+        out.romaji.end();
     }
-    return folded;
+    return out;
 }
 
-SearchBuffer SearchTexts::unfolded()
+UnfoldedTexts SearchTexts::unfolded()
 {
     m_edits.clear();
-    return m_texts.part(m_plainRecords, m_foldedEnd);
+    return {m_texts.part(0, m_foldedEnd), m_plainRecords};
 }
 
 void SearchTexts::take(FoldedTexts folded)
 {
     for (const auto& [kind, record] : m_edits) {
         apply(kind, record, folded.texts);
-        apply(kind, record, folded.readings);
+        apply(kind, record, folded.loose);
+        apply(kind, record, folded.romaji);
     }
     const SearchBuffer edited = m_texts.part(m_foldedEnd, m_texts.records());
     m_texts.cut(m_plainRecords, m_texts.records());
     m_texts.append(folded.texts);
     m_foldedEnd = m_texts.records();
     m_texts.append(edited);
-    m_readings.append(folded.readings);
+    m_loose.append(folded.loose);
+    m_romaji.append(folded.romaji);
     m_edits.clear();
 }
 
@@ -188,11 +271,13 @@ void SearchTexts::insert(std::uint32_t record, const GameRecord& added)
 void SearchTexts::edit(Edit kind, std::uint32_t record)
 {
     apply(kind, record, m_texts);
-    apply(kind, record, m_readings);
+    apply(kind, record, m_loose);
+    apply(kind, record, m_romaji);
     m_edits.emplace_back(kind, record);
 }
 
-void SearchTexts::apply(Edit kind, std::uint32_t record, SearchBuffer& buffer)
+template <class Buffer>
+void SearchTexts::apply(Edit kind, std::uint32_t record, Buffer& buffer)
 {
     switch (kind) {
     case Edit::Replaced:
@@ -206,11 +291,12 @@ void SearchTexts::apply(Edit kind, std::uint32_t record, SearchBuffer& buffer)
 
 void SearchTexts::append(std::uint32_t record, const GameRecord& added)
 {
-    SearchBuffer one;
-    addFoldingAscii(one, record, added);
+    UnfoldedTexts one;
+    addFoldingAscii(one.texts, record, added);
     const FoldedTexts folded = fold(one);
     m_texts.append(folded.texts);
-    m_readings.append(folded.readings);
+    m_loose.append(folded.loose);
+    m_romaji.append(folded.romaji);
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/search/fieldmarks.h"
+#include "catalogue/search/rank.h"
 #include "catalogue/search/wordclass.h"
 
 #include <array>
@@ -8,18 +9,6 @@
 #include <string_view>
 
 namespace tessera {
-
-/// How well a word fits a record, best first.
-enum class Rank : std::uint8_t {
-    SetName, ///< it is the set name
-    WholeTitle,
-    TitleProper, ///< the title up to its first bracket, which in most titles tells only of the version
-    NameBeginning, ///< of the set name
-    TitleBeginning,
-    WordBeginning,
-    Inside,
-    None = 0xFF, ///< it is nowhere in the record
-};
 
 /// What a place must be for the words to count there.
 enum class WordEnds : std::uint8_t {
@@ -60,7 +49,7 @@ private:
     static constexpr Rank ranks[4][3] = {
         //               Else                  FieldEnds            BracketOpens
         /* NameBegins  */ {Rank::NameBeginning,  Rank::SetName,       Rank::NameBeginning},
-        /* TitleBegins */ {Rank::TitleBeginning, Rank::WholeTitle,    Rank::TitleProper},
+        /* TitleBegins */ {Rank::TitleBeginning, Rank::TitleProper,   Rank::TitleProper},
         /* WordBegins  */ {Rank::WordBeginning,  Rank::WordBeginning, Rank::WordBeginning},
         /* WordGoesOn  */ {Rank::Inside,         Rank::Inside,        Rank::Inside},
     };
@@ -92,13 +81,5 @@ private:
     WordClass m_last;
     std::array<Before, 256> m_before; // by the byte before the place
 };
-
-/// The mark of the field in which a place lies.
-inline FieldMark fieldAt(std::string_view bytes, std::size_t offset)
-{
-    while (!isFieldMark(bytes[offset - 1]))
-        --offset;
-    return static_cast<FieldMark>(bytes[offset - 1]);
-}
 
 } // namespace tessera

@@ -1,6 +1,8 @@
 #include "catalogue/search/wordsearch.h"
 
+#include "catalogue/search/folding.h"
 #include "catalogue/search/romaji.h"
+#include "core/encodings.h"
 
 #include <algorithm>
 
@@ -8,38 +10,112 @@ namespace tessera {
 
 namespace {
 
-// A joint rank: the worst word's in the upper bits, the sum in the lower ones.
-constexpr unsigned sumBits = 5;
-constexpr std::uint8_t largestSum = (1U << sumBits) - 1;
+// Letters that are read as kana inside of words; fewer would be found in half of all readings.
+constexpr std::size_t leastInside = 4;
 
-void findIn(const SearchBuffer& buffer, const SearchedWords& words, std::optional<FieldMark> field,
-            std::vector<Rank>& best)
+void findLiterally(const SearchBuffer& buffer, const SearchedWords& words, std::optional<FieldMark> field,
+                   std::vector<Score>& best)
 {
     const WordMatcher matcher(words);
     const std::string_view bytes = buffer.bytes();
+    const auto take = [&](std::uint32_t record, std::size_t offset) {
+        const Rank rank = matcher.rank(bytes, offset);
+        if (rank != Rank::None)
+            best[record] = std::min(best[record], score(rank, WordForm::Plain));
+    };
     if (field) {
         buffer.forEachHit(words.text, [&](std::uint32_t record, std::size_t offset) {
             if (fieldAt(bytes, offset) == *field)
-                best[record] = std::min(best[record], matcher.rank(bytes, offset));
+                take(record, offset);
         });
     } else {
-        buffer.forEachHit(words.text, [&](std::uint32_t record, std::size_t offset) {
-            best[record] = std::min(best[record], matcher.rank(bytes, offset));
-        });
+        buffer.forEachHit(words.text, take);
     }
+}
+
+void findLoosely(const LooseBuffer& buffer, std::string_view word, const LooseRules& rules,
+                 std::vector<Score>& best)
+{
+    if (word.empty())
+        return;
+    buffer.forEachRank(word, rules, [&](std::uint32_t record, Rank rank, FieldMark field) {
+        const WordForm form = field == AlternativeMark ? WordForm::Alternative : WordForm::Plain;
+        best[record] = std::min(best[record], score(rank, form));
+    });
+}
+
+// What reads like Japanese is found as well where an English title writes it in Latin letters.
+void findReading(const LooseBuffer& buffer, std::string_view reading, bool isJapanese,
+                 const LooseRules& rules, std::vector<Score>& best)
+{
+    if (reading.empty())
+        return;
+    buffer.forEachRank(reading, rules, [&](std::uint32_t record, Rank rank, FieldMark field) {
+        const bool isRomanised = field == RomanisedMark;
+        if (!isRomanised || (isJapanese && rank != Rank::Inside))
+            best[record]
+                = std::min(best[record], score(rank, isRomanised ? WordForm::Romanised : WordForm::Reading));
+    });
+}
+
+bool isRomanNumeral(std::string_view word)
+{
+    return !isNumeral(word) && isNumeral(looseWord(word));
+}
+
+// What of Latin letters, or of kana, is searched among readings.
+std::string spelling(std::string_view word)
+{
+    if (isRomaji(word))
+        return isRomanNumeral(word) ? std::string() : withoutBlanks(shortRomajiSpelling(word));
+    const std::vector<std::string> readings = romajiReadings(word);
+    if (readings.empty() || readings.front().contains(unreadSign))
+        return {};
+    return withoutBlanks(readings.front());
+}
+
+bool mayBeJapanese(std::string_view word)
+{
+    return !isAscii(word) || readsLikeJapanese(word);
 }
 
 } // namespace
 
-std::vector<Rank> wordRanks(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
-                            std::optional<FieldMark> field)
+std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
+                              const WordRules& rules)
 {
-    std::vector<Rank> best(records, Rank::None);
-    findIn(texts.texts(), words, field, best);
-    if (isRomaji(words.text)) {
-        const SearchedWords reading{shortRomajiSpelling(words.text), words.ends};
-        findIn(texts.readings(), reading, field, best);
+    std::vector<Score> best(records, noScore);
+    findLiterally(texts.texts(), words, rules.field, best);
+    const bool isQuoted = words.ends != WordEnds::Anywhere;
+    const std::string loose = isQuoted ? std::string() : looseWord(words.text);
+    if (!rules.negated || isNumeral(loose))
+        findLoosely(texts.loose(), loose, {.wholeOnly = rules.negated, .field = rules.field}, best);
+    const std::string reading = spelling(words.text);
+    const bool isLong = reading.size() >= leastInside;
+    const LooseRules asReading{.wholeOnly = words.ends == WordEnds::Whole,
+                               .atBeginning = rules.negated || !isLong,
+                               .inside = !isQuoted && isLong && isRomaji(words.text),
+                               .field = rules.field};
+    findReading(texts.romaji(), reading, mayBeJapanese(words.text) && !rules.negated, asReading, best);
+    return best;
+}
+
+std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
+                                std::span<const SearchedWords* const> words)
+{
+    std::vector<Score> best(records, noScore);
+    std::string loose;
+    std::string reading;
+    bool isJapanese = false;
+    for (const SearchedWords* word : words) {
+        const std::string form = looseWord(word->text);
+        const std::string spelt = spelling(word->text);
+        loose += form;
+        reading += spelt.empty() ? form : spelt;
+        isJapanese = isJapanese || mayBeJapanese(word->text);
     }
+    findLoosely(texts.loose(), loose, {}, best);
+    findReading(texts.romaji(), reading, isJapanese, {}, best);
     return best;
 }
 
@@ -49,44 +125,9 @@ bool holdsWords(std::string_view folded, const SearchedWords& words)
     one.begin(0);
     one.add(NameMark, folded);
     one.end();
-    std::vector<Rank> best(1, Rank::None);
-    findIn(one, words, std::nullopt, best);
-    return best.front() != Rank::None;
-}
-
-// All in single bytes, through spans of their own: so the compiler makes vector instructions of it.
-void JointRanks::add(std::span<const Rank> ranks)
-{
-    constexpr std::uint8_t most = 1 << 3; // of one word, also where it is nowhere
-    const std::span worst(m_worst);
-    const std::span sums(m_sum);
-    for (std::size_t i = 0; i < ranks.size(); ++i) {
-        const auto rank = static_cast<std::uint8_t>(ranks[i]);
-        const auto sum = static_cast<std::uint8_t>(sums[i] + std::min(rank, most));
-        worst[i] = std::max(worst[i], rank);
-        sums[i] = std::min(sum, largestSum);
-    }
-}
-
-void JointRanks::addPhrase(std::span<const Rank> ranks)
-{
-    const std::span worst(m_worst);
-    const std::span sums(m_sum);
-    for (std::size_t i = 0; i < ranks.size(); ++i) {
-        const auto rank = static_cast<std::uint8_t>(ranks[i]);
-        const bool better = (int{ranks[i] <= Rank::TitleBeginning} & int{rank <= worst[i]}) != 0;
-        worst[i] = better ? rank : worst[i];
-        sums[i] = better ? std::uint8_t{0} : sums[i];
-    }
-}
-
-std::vector<std::uint8_t> JointRanks::bytes() const
-{
-    std::vector<std::uint8_t> bytes(m_worst.size());
-    std::ranges::transform(m_worst, m_sum, bytes.begin(), [](std::uint8_t worst, std::uint8_t sum) {
-        return static_cast<std::uint8_t>((worst << sumBits) | sum);
-    });
-    return bytes;
+    std::vector<Score> best(1, noScore);
+    findLiterally(one, words, std::nullopt, best);
+    return best.front() != noScore;
 }
 
 } // namespace tessera

@@ -9,34 +9,47 @@
 
 namespace tessera {
 
-/// For each of `records` records how well the words fit it, at best. With `field` they must stand in that
-/// field.
-std::vector<Rank> wordRanks(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
-                            std::optional<FieldMark> field = std::nullopt);
+/// In which form words were found. Of two that fit equally well, the first one comes first.
+enum class WordForm : std::uint8_t {
+    Plain, ///< with or without punctuation
+    Alternative, ///< one of several titles
+    Reading,
+    Romanised,
+};
+
+/// How well words fit a record: by rank, then by form; the least is the best.
+using Score = std::uint8_t;
+inline constexpr unsigned formBits = 2;
+inline constexpr Score noScore = 0xFF;
+
+constexpr Score score(Rank rank, WordForm form)
+{
+    return static_cast<Score>(static_cast<unsigned>(rank) << formBits | static_cast<unsigned>(form));
+}
+
+constexpr Rank rankOf(Score score)
+{
+    return score == noScore ? Rank::None : static_cast<Rank>(score >> formBits);
+}
+
+/// Where words are looked for, and in which forms.
+struct WordRules {
+    std::optional<FieldMark> field; ///< only there
+    /// The records are to be left out: only what is certain counts, but a numeral is every numeral.
+    bool negated = false;
+    bool literally = false; ///< in no other form
+};
+
+/// For each of `records` records how well the words fit it, at best.
+std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
+                              const WordRules& rules = {});
+
+/// Several words in sequence, written apart or as one, where they begin a name or a part of a title, or are
+/// initials.
+std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
+                                std::span<const SearchedWords* const> words);
 
 /// Whether the words stand in a text of their own, which is folded.
 bool holdsWords(std::string_view folded, const SearchedWords& words);
-
-/// How well several words fit each record together: one byte, the least is the best. The worst of them
-/// counts, then their sum; but words that are in sequence a whole title are so in the first place.
-class JointRanks
-{
-public:
-    explicit JointRanks(std::size_t records)
-        : m_worst(records)
-        , m_sum(records)
-    {
-    }
-
-    void add(std::span<const Rank> ranks);
-    /// Of the words in sequence.
-    void addPhrase(std::span<const Rank> ranks);
-
-    std::vector<std::uint8_t> bytes() const;
-
-private:
-    std::vector<std::uint8_t> m_worst;
-    std::vector<std::uint8_t> m_sum;
-};
 
 } // namespace tessera

@@ -179,21 +179,22 @@ std::vector<std::uint32_t> GameFinder::suggestions(const QString& text, std::siz
     std::vector<std::uint32_t> records = found.records.records();
     const auto end = records.begin() + static_cast<std::ptrdiff_t>(std::min(most, records.size()));
     const auto fits = [&](std::uint32_t record) {
-        return std::pair(found.ranks.empty() ? 0 : int{found.ranks[record]}, record);
+        return std::pair(found.ranks.empty() ? 0U : found.ranks[record], record);
     };
     std::ranges::partial_sort(records, end, {}, fits);
     records.erase(end, records.end());
     return records;
 }
 
-// The best is selected while it is typed.
+// The best is first, and is selected while it is typed. Once the user has sorted it stays so until another
+// search begins.
 void GameFinder::setQuery(const QString& text)
 {
     const bool wasEmpty = m_query.isEmpty();
     m_query = Query(text);
     if (m_query.isEmpty() && wasEmpty)
         return;
-    rearrange([this] { find(ArrangedList::Ranking::Anew); });
+    rearrange([&] { find(wasEmpty ? ArrangedList::Ranking::Anew : ArrangedList::Ranking::AsBefore); });
     if (m_list.list().isRanked())
         m_list.selectRow(0);
 }
@@ -230,7 +231,7 @@ Chip GameFinder::effectiveChip() const
 
 const std::optional<RecordSet>& GameFinder::filtered()
 {
-    if (m_filtered)
+    if (m_filtered || (!m_maker && m_rules.isEmpty()))
         return m_filtered;
     const Predicate rules = predicateOf(m_rules);
     const Predicate maker = m_maker ? makerIs(*m_maker) : Predicate();

@@ -200,20 +200,20 @@ private Q_SLOTS:
         const auto row = [](const char* query, const char* found) {
             QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(found);
         };
-        row("pong", "pong whole proper maker begins inside");
-        row("PONG", "pong whole proper maker begins inside");
-        row("\"pong\"", "pong whole proper maker begins");
+        row("pong", "pong proper whole maker begins inside");
+        row("PONG", "pong proper whole maker begins inside");
+        row("\"pong\"", "pong proper whole maker begins");
         row("ong", "inside maker begins proper whole pong");
-        row("ポン", "whole proper begins inside");
-        row("ﾎﾟﾝ", "whole proper begins inside");
-        row("ぽん", "whole proper begins inside");
-        row("\"ポン\"", "whole proper begins");
+        row("ポン", "proper whole begins inside");
+        row("ﾎﾟﾝ", "proper whole begins inside");
+        row("ぽん", "proper whole begins inside");
+        row("\"ポン\"", "proper whole begins");
         // The reading of a title is a title too.
-        row("pon", "whole proper pong maker begins inside");
+        row("pon", "proper whole pong maker begins inside");
         row("atari", "inside begins proper whole pong");
         // Only words rank.
         row("year:1972 -tennis", "inside begins proper whole pong");
-        row("year:1972 -tennis pong", "pong whole proper begins inside");
+        row("year:1972 -tennis pong", "pong proper whole begins inside");
     }
 
     void theBestFitComesFirst()
@@ -230,13 +230,13 @@ private Q_SLOTS:
         const auto row = [](const char* query, const char* found) {
             QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(found);
         };
-        row("super pong", "whole proper longer super after spong");
-        row("pong super", "after super longer proper whole spong");
-        row("\"super pong\"", "whole proper");
-        row("スーパー ポン", "whole proper longer after spong");
-        row("ポン スーパー", "after longer proper whole spong");
-        row("suupaa pon", "whole proper longer after spong");
-        row("super ポン", "after longer proper whole spong");
+        row("super pong", "proper whole after longer super spong");
+        row("pong super", "after proper whole super longer spong");
+        row("\"super pong\"", "proper whole");
+        row("スーパー ポン", "proper whole after longer spong");
+        row("ポン スーパー", "after proper whole longer spong");
+        row("suupaa pon", "proper whole longer after spong");
+        row("super ポン", "longer after proper whole spong");
     }
 
     void theWorstOfSeveralWordsCounts()
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QFETCH(int, stepsBefore);
         const SampleRecords sample = sampleGames();
         GameSearch search(sample.store.records);
-        SearchBuffer unfolded;
+        UnfoldedTexts unfolded;
         for (int step = 0; step < 3; ++step) {
             if (step == stepsBefore) {
                 GameRecord edited = sample.store.records[3];
@@ -312,7 +312,7 @@ private Q_SLOTS:
             GameSearch search(records);
             const int asked = random.number(30);
             const int taken = asked + random.number(10);
-            SearchBuffer unfolded;
+            UnfoldedTexts unfolded;
             for (int edit = 0; edit < 50; ++edit) {
                 if (edit == asked)
                     unfolded = search.unfolded();
@@ -453,12 +453,13 @@ private Q_SLOTS:
             const QString text = randomQuery(random);
             const Query query(text);
             const Found found = search.find(query);
-            std::vector<std::pair<std::pair<int, int>, std::uint8_t>> ranks;
+            std::vector<std::pair<Order, std::uint32_t>> ranks;
             for (std::uint32_t record = 0; record < records.size(); ++record) {
                 QVERIFY2(found.records.contains(record) == plain[record].finds(query, haves[record]),
                          qPrintable(text + u" | " + line(records[record])));
                 if (found.records.contains(record) && query.ranks())
-                    ranks.emplace_back(plain[record].rank(query), found.ranks[record]);
+                    ranks.emplace_back(order(plain[record].rank(query), plain[record].tie(records)),
+                                       found.ranks[record]);
             }
             hits += ranks.size();
             std::ranges::sort(ranks);
@@ -471,6 +472,13 @@ private Q_SLOTS:
     }
 
 private:
+    /// Rank and sum, what decides between equal ones, and the form.
+    using Order = std::tuple<int, int, std::array<int, 5>, int>;
+    static Order order(const std::array<int, 3>& rank, const std::array<int, 5>& tie)
+    {
+        return {rank[0], rank[1], tie, rank[2]};
+    }
+
     static SampleRecords randomGames()
     {
         static constexpr std::array pieces{

@@ -4,11 +4,16 @@
 #include "catalogue/gamerecord.h"
 #include "catalogue/search/folding.h"
 #include "catalogue/search/query.h"
+#include "catalogue/search/looseform.h"
 #include "catalogue/search/romaji.h"
+#include "catalogue/search/wordsearch.h"
 
 #include <QString>
 
 #include <algorithm>
+#include <array>
+#include <cctype>
+#include <span>
 
 namespace tessera::test {
 
@@ -19,59 +24,146 @@ public:
     explicit PlainSearch(const GameRecord& record)
         : m_record(record)
     {
-        addTexts(Field::Name, 'n');
-        addTexts(Field::Title, 't');
-        addTexts(Field::Titlejp, 't');
-        addTexts(Field::Maker, 'm');
-        addTexts(Field::Year, 'y');
+        addTexts(Field::Name, NameMark);
+        addTexts(Field::Title, TitleMark);
+        if (record[Field::Titlejp] != record[Field::Title])
+            addTexts(Field::Titlejp, TitleMark);
+        addTexts(Field::Maker, MakerMark);
+        addTexts(Field::Year, YearMark);
     }
 
     bool finds(const Query& query, Have have) const
     {
+        const bool isPhrase = phrase(query) != noScore;
         return std::ranges::all_of(query.terms(), [&](const Term& term) {
-            return !term.applies || holds(term, have) != term.negated;
+            if (!term.applies)
+                return true;
+            const bool isWord = term.kind == TermKind::Words && !term.negated;
+            return (isWord && isPhrase) || holds(term, have) != term.negated;
         });
     }
 
-    /// Comparable ranks of a record that is found.
-    std::pair<int, int> rank(const Query& query) const
+    /// Comparable ranks of a record that is found, but for what decides between equal ones: rank, sum, form.
+    std::array<int, 3> rank(const Query& query) const
     {
         int worst = 0;
         int sum = 0;
-        int words = 0;
-        for (const Term& term : query.terms()) {
-            if (term.kind != TermKind::Words || !term.applies || term.negated)
-                continue;
-            const int rank = int(best(term.words, false));
-            worst = std::max(worst, rank);
-            sum = std::min(sum + rank, 31);
-            ++words;
+        const std::vector<const SearchedWords*> words = query.rankedWords();
+        for (const SearchedWords* word : words) {
+            const int score = best(*word, {}, false);
+            worst = std::max(worst, score);
+            sum = std::min(sum + std::min(score >> 2, 15), 31);
         }
-        const Rank phrase = best({query.phrase(), WordEnds::Anywhere}, false);
-        if (words > 1 && phrase <= Rank::TitleBeginning && int(phrase) <= worst)
-            return {int(phrase), 0};
-        return {worst, sum};
+        for (const int together :
+             {int{phrase(query)}, isCovered(words) ? int{score(Rank::Covered, WordForm::Plain)} : 255}) {
+            if (words.size() > 1 && together <= worst) {
+                worst = together;
+                sum = 0;
+            }
+        }
+        return {worst >> 2, sum, worst & 3};
+    }
+
+    /// What decides between two that fit equally well; `content` is all records.
+    std::array<int, 5> tie(std::span<const GameRecord> content) const
+    {
+        const auto head = [](const GameRecord& record) {
+            return record[Field::Cloneof].empty() ? record[Field::Name] : record[Field::Cloneof];
+        };
+        int family = 0;
+        int year = unknownYear.first;
+        for (const GameRecord& each : content) {
+            if (head(each) != head(m_record))
+                continue;
+            ++family;
+            if (each[Field::Name] == head(each))
+                year = recordedYear(each[Field::Year]).value_or(unknownYear).first;
+        }
+        int logarithm = 0;
+        for (int size = family; size > 0; size /= 2)
+            ++logarithm;
+        const auto type = std::ranges::find(typeValues, m_record[Field::Type]) - typeValues.begin();
+        const bool works = m_record[Field::Status] == "good" || m_record[Field::Status] == "imperfect";
+        return {std::min(int(type), 3), head(m_record) == m_record[Field::Name] ? 0 : 1, works ? 0 : 1,
+                -std::min(logarithm, 7), std::clamp((year - 1970) / 2, 0, 31)};
     }
 
 private:
     struct Text {
-        char field;
-        bool reading;
+        FieldMark field;
         QString text;
     };
+    struct Form {
+        FieldMark field;
+        LooseForm form;
+    };
 
-    void addTexts(Field field, char kind)
+    void addTexts(Field field, FieldMark mark)
     {
         QString value = QString::fromUtf8(m_record[field].data(), qsizetype(m_record[field].size()));
-        QStringList forms{value};
+        const std::string whole = folded(value.toStdString());
+        m_texts.push_back({mark, QString::fromStdString(whole)});
         if (value.contains(u'・') || value.contains(u'･'))
-            forms << value.remove(u'・').remove(u'･');
-        for (const QString& form : forms) {
-            const std::string fold = folded(form.toStdString());
-            m_texts.push_back({kind, false, QString::fromStdString(fold)});
-            for (const std::string& reading : romajiReadings(fold))
-                m_texts.push_back({kind, true, QString::fromStdString(reading)});
+            m_texts.push_back(
+                {mark, QString::fromStdString(folded(value.remove(u'・').remove(u'･').toStdString()))});
+        if (mark == TitleMark)
+            return addTitles(whole);
+        add(m_loose, mark, LooseForm(whole));
+        addReadings(mark, whole);
+    }
+
+    void addTitles(const std::string& whole)
+    {
+        const std::string maker = folded(m_record[Field::Maker]);
+        const auto titles = titlesProper(whole);
+        const FieldMark mark = titles.size() > 1 ? AlternativeMark : TitleMark;
+        for (const std::string_view title : titles) {
+            LooseForm form(title);
+            form.beginPartBehind(LooseForm(std::string_view(maker).substr(0, maker.find(' '))));
+            add(m_loose, mark, form);
+            for (const std::string& letters : initials(form)) {
+                LooseForm one;
+                one.append(letters, Edge::Part);
+                add(m_loose, InitialsMark, one);
+            }
+            addReadings(mark, title);
+            LooseForm romanised;
+            bool isJapanese = false;
+            for (std::size_t i = 0; i < form.text.size(); i = form.wordEnd(i)) {
+                const std::string word = form.text.substr(i, form.wordEnd(i) - i);
+                isJapanese = isJapanese || readsLikeJapanese(word);
+                romanised.append(isRomaji(word) ? shortRomajiSpelling(word) : word, form.edges[i]);
+            }
+            if (isJapanese)
+                add(m_romaji, RomanisedMark, romanised);
         }
+    }
+
+    void addReadings(FieldMark mark, std::string_view text)
+    {
+        for (const std::string& reading : romajiReadings(text)) {
+            LooseForm form;
+            Edge edge = Edge::Part;
+            char before = 0;
+            for (const char c : reading) {
+                if (c == ' ' || c == partSign) {
+                    edge = c == partSign ? Edge::Part : std::max(edge, Edge::Word);
+                    continue;
+                }
+                if (edge == Edge::None && (c == unreadSign) != (before == unreadSign))
+                    edge = Edge::Word;
+                form.append(std::string(1, c), edge);
+                edge = Edge::None;
+                before = c;
+            }
+            add(m_romaji, mark, form);
+        }
+    }
+
+    static void add(std::vector<Form>& forms, FieldMark mark, const LooseForm& form)
+    {
+        if (!form.text.empty())
+            forms.push_back({mark, form});
     }
 
     static int classOf(QStringView text, qsizetype at)
@@ -106,30 +198,186 @@ private:
         if (ends == WordEnds::Whole && end < all.size() && classOf(all, end) != 0
             && classOf(all, end) == classOf(all, end - 1))
             return Rank::None;
-        if (at == 0 && end == all.size() && text.field == 'n')
+        if (at == 0 && end == all.size() && text.field == NameMark)
             return Rank::SetName;
-        if (at == 0 && end == all.size() && text.field == 't')
-            return Rank::WholeTitle;
-        if (at == 0 && all.sliced(end).startsWith(u" (") && text.field == 't')
+        if (at == 0 && (end == all.size() || all.sliced(end).startsWith(u" (")) && text.field == TitleMark)
             return Rank::TitleProper;
-        if (at == 0 && text.field != 'm' && text.field != 'y')
-            return text.field == 'n' ? Rank::NameBeginning : Rank::TitleBeginning;
+        if (at == 0 && text.field != MakerMark && text.field != YearMark)
+            return text.field == NameMark ? Rank::NameBeginning : Rank::TitleBeginning;
         return begins ? Rank::WordBeginning : Rank::Inside;
     }
 
-    Rank best(const SearchedWords& words, bool inMaker) const
+    static Rank looseRankAt(const Form& form, std::size_t at, std::size_t size, const LooseRules& rules)
     {
-        Rank best = Rank::None;
-        const QString word = QString::fromStdString(words.text);
-        const QString spelling = QString::fromStdString(shortRomajiSpelling(words.text));
-        for (const Text& text : m_texts) {
-            if ((inMaker && text.field != 'm') || (text.reading && !isRomaji(words.text)))
-                continue;
-            const QString& sought = text.reading ? spelling : word;
-            for (auto at = text.text.indexOf(sought); at >= 0; at = text.text.indexOf(sought, at + 1))
-                best = std::min(best, rankAt(text, sought, words.ends, at));
+        const std::string& text = form.form.text;
+        const std::vector<Edge>& edges = form.form.edges;
+        const std::size_t end = at + size;
+        const Edge behind = end == text.size() ? Edge::Part : edges[end];
+        bool crosses = false;
+        for (std::size_t i = at + 1; i < end; ++i)
+            crosses = crosses || edges[i] == Edge::Word || edges[i] == Edge::Part;
+        if (edges[at] == Edge::None)
+            return rules.inside && !crosses ? Rank::Inside : Rank::None;
+        if (behind == Edge::None) {
+            const bool splitsNumber = std::isdigit(text[end - 1]) != 0 && std::isdigit(text[end]) != 0;
+            if (rules.wholeOnly || splitsNumber || (crosses && size < 6))
+                return Rank::None;
         }
+        if (rules.atBeginning && at != 0)
+            return Rank::None;
+        switch (form.field) {
+        case InitialsMark:
+            return at == 0 && (end == text.size() || std::isdigit(text[end - 1]) != 0) ? Rank::Initials
+                                                                                       : Rank::None;
+        case NameMark:
+            return at != 0 ? Rank::WordBeginning : end == text.size() ? Rank::SetName : Rank::NameBeginning;
+        case MakerMark:
+        case YearMark:
+            return Rank::WordBeginning;
+        default:
+            break;
+        }
+        if (at == 0)
+            return behind == Edge::Part ? Rank::TitleProper : Rank::TitleBeginning;
+        if (edges[at] == Edge::Part)
+            return behind == Edge::Part ? Rank::PartProper : Rank::PartBeginning;
+        return Rank::WordBeginning;
+    }
+
+    static void improve(int& best, Rank rank, WordForm form)
+    {
+        if (rank != Rank::None)
+            best = std::min(best, int{score(rank, form)});
+    }
+
+    static void improveLoosely(int& best, const std::vector<Form>& forms, std::string_view word,
+                               bool romanised, bool reading, const LooseRules& rules)
+    {
+        for (const Form& form : forms) {
+            if (word.empty() || rules.field.value_or(form.field) != form.field)
+                continue;
+            for (auto at = form.form.text.find(word); at != std::string::npos;
+                 at = form.form.text.find(word, at + 1)) {
+                const Rank rank = looseRankAt(form, at, word.size(), rules);
+                if (form.field == RomanisedMark && (!romanised || rank == Rank::Inside))
+                    continue;
+                improve(best, rank,
+                        form.field == RomanisedMark         ? WordForm::Romanised
+                            : reading                       ? WordForm::Reading
+                            : form.field == AlternativeMark ? WordForm::Alternative
+                                                            : WordForm::Plain);
+            }
+        }
+    }
+
+    static bool isJapanese(const std::string& word)
+    {
+        return readsLikeJapanese(word) || std::ranges::any_of(word, [](char c) { return (c & 0x80) != 0; });
+    }
+
+    static bool isRoman(const std::string& word)
+    {
+        return looseWord(word) != word && isNumeral(looseWord(word));
+    }
+
+    static std::string reading(const std::string& word)
+    {
+        std::string text;
+        if (isRomaji(word))
+            text = isRoman(word) ? std::string() : shortRomajiSpelling(word);
+        else if (const auto readings = romajiReadings(word); !readings.empty())
+            text = readings.front().contains(unreadSign) ? std::string() : readings.front();
+        std::erase(text, ' ');
+        return text;
+    }
+
+    int best(const SearchedWords& words, std::optional<FieldMark> field, bool negated) const
+    {
+        int best = noScore;
+        const QString word = QString::fromStdString(words.text);
+        for (const Text& text : m_texts) {
+            if (field.value_or(text.field) != text.field)
+                continue;
+            for (auto at = text.text.indexOf(word); at >= 0; at = text.text.indexOf(word, at + 1))
+                improve(best, rankAt(text, word, words.ends, at), WordForm::Plain);
+        }
+        const bool isQuoted = words.ends != WordEnds::Anywhere;
+        const std::string loose = looseWord(words.text);
+        if (!isQuoted && (!negated || isNumeral(loose)))
+            improveLoosely(best, m_loose, loose, false, false, {.wholeOnly = negated, .field = field});
+        const std::string read = reading(words.text);
+        improveLoosely(best, m_romaji, read, isJapanese(words.text) && !negated, true,
+                       {.wholeOnly = words.ends == WordEnds::Whole,
+                        .atBeginning = negated || read.size() < 4,
+                        .inside = !isQuoted && read.size() >= 4 && isRomaji(words.text),
+                        .field = field});
         return best;
+    }
+
+    Score phrase(const Query& query) const
+    {
+        int best = noScore;
+        std::string loose;
+        std::string read;
+        bool japanese = false;
+        const std::vector<const SearchedWords*> words = query.rankedWords();
+        if (words.size() < 2)
+            return noScore;
+        for (const SearchedWords* word : words) {
+            loose += looseWord(word->text);
+            read += reading(word->text).empty() ? looseWord(word->text) : reading(word->text);
+            japanese = japanese || isJapanese(word->text);
+        }
+        improveLoosely(best, m_loose, loose, false, false, {});
+        improveLoosely(best, m_romaji, read, japanese, true, {});
+        return static_cast<Score>(best);
+    }
+
+    bool isInMakerOrYear(const std::string& word) const
+    {
+        return std::ranges::any_of(m_loose, [&](const Form& form) {
+            if (form.field != MakerMark && form.field != YearMark)
+                return false;
+            for (auto at = form.form.text.find(word); at != std::string::npos;
+                 at = form.form.text.find(word, at + 1)) {
+                if (form.form.edges[at] != Edge::None)
+                    return true;
+            }
+            return false;
+        });
+    }
+
+    bool isCovered(const std::vector<const SearchedWords*>& searched) const
+    {
+        std::vector<std::string> words;
+        for (const SearchedWords* word : searched)
+            words.push_back(looseWord(word->text));
+        std::erase(words, std::string());
+        for (const Form& form : m_loose) {
+            if (form.field != TitleMark && form.field != AlternativeMark)
+                continue;
+            for (std::size_t i = 0; i < form.form.text.size(); ++i) {
+                if (form.form.edges[i] == Edge::Part && covers(form.form, i, words))
+                    return true;
+            }
+        }
+        return false;
+    }
+
+    bool covers(const LooseForm& form, std::size_t at, std::vector<std::string> words) const
+    {
+        const auto edgeAt = [&](std::size_t i) { return i == form.text.size() ? Edge::Part : form.edges[i]; };
+        do {
+            const auto fits = std::ranges::find_if(words, [&](const std::string& word) {
+                return form.text.compare(at, word.size(), word) == 0
+                    && edgeAt(at + word.size()) != Edge::None;
+            });
+            if (fits == words.end())
+                return false;
+            at += fits->size();
+            words.erase(fits);
+        } while (edgeAt(at) != Edge::Part);
+        return std::ranges::all_of(words, [&](const std::string& word) { return isInMakerOrYear(word); });
     }
 
     bool holds(const Term& term, Have have) const
@@ -137,11 +385,11 @@ private:
         const auto value = [&](Field field) { return m_record[field]; };
         switch (term.kind) {
         case TermKind::Words:
-            return best(term.words, false) != Rank::None;
+            return best(term.words, {}, term.negated) != noScore;
         case TermKind::Maker:
-            return best(term.words, true) != Rank::None;
+            return best(term.words, MakerMark, term.negated) != noScore;
         case TermKind::Device: {
-            const Text text{'d', false, QString::fromStdString(folded(value(Field::Device)))};
+            const Text text{YearMark, QString::fromStdString(folded(value(Field::Device)))};
             const QString sought = QString::fromStdString(term.words.text);
             for (auto at = text.text.indexOf(sought); at >= 0; at = text.text.indexOf(sought, at + 1)) {
                 if (rankAt(text, sought, term.words.ends, at) != Rank::None)
@@ -174,6 +422,8 @@ private:
 
     const GameRecord& m_record;
     std::vector<Text> m_texts;
+    std::vector<Form> m_loose;
+    std::vector<Form> m_romaji;
 };
 
 } // namespace tessera::test

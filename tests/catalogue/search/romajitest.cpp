@@ -136,7 +136,7 @@ private Q_SLOTS:
     {
         QCOMPARE(
             romajiReadings(folded("グラディウスII -伝説へ (session 2)")),
-            std::vector<std::string>{"guradiusu\x06\x06  \x06\x06he (\x06\x06\x06\x06\x06\x06\x06 \x06 "});
+            std::vector<std::string>{"guradiusu\x0E\x0E /\x0E\x0Ehe  \x0E\x0E\x0E\x0E\x0E\x0E\x0E \x0E "});
         QVERIFY(!finds(QStringLiteral("session"), QString::fromUtf8("グラディウス session")));
         QVERIFY(!finds(QStringLiteral("ii"), QString::fromUtf8("グラデ II")));
     }

@@ -1,0 +1,49 @@
+#include "catalogue/search/jointranks.h"
+
+#include <algorithm>
+
+namespace tessera {
+
+namespace {
+
+constexpr unsigned sumBits = 5;
+constexpr unsigned forms = (1U << formBits) - 1;
+constexpr std::uint8_t largestSum = (1U << sumBits) - 1;
+
+} // namespace
+
+// All in single bytes, through spans of their own: so the compiler makes vector instructions of it.
+void JointRanks::add(std::span<const Score> scores)
+{
+    constexpr std::uint8_t most = 15; // of one word, also where it is nowhere
+    const std::span worst(m_worst);
+    const std::span sums(m_sum);
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+        const auto sum
+            = static_cast<std::uint8_t>(sums[i] + std::min<std::uint8_t>(scores[i] >> formBits, most));
+        worst[i] = std::max(worst[i], scores[i]);
+        sums[i] = std::min(sum, largestSum);
+    }
+}
+
+void JointRanks::improve(std::span<const Score> scores)
+{
+    const std::span worst(m_worst);
+    const std::span sums(m_sum);
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+        const bool better = scores[i] <= worst[i];
+        worst[i] = better ? scores[i] : worst[i];
+        sums[i] = better ? std::uint8_t{0} : sums[i];
+    }
+}
+
+std::vector<std::uint32_t> JointRanks::ranks(unsigned free) const
+{
+    std::vector<std::uint32_t> ranks(m_worst.size());
+    std::ranges::transform(m_worst, m_sum, ranks.begin(), [free](std::uint32_t worst, std::uint32_t sum) {
+        return ((worst >> formBits) << sumBits | sum) << (free + formBits) | (worst & forms);
+    });
+    return ranks;
+}
+
+} // namespace tessera

@@ -1,0 +1,236 @@
+#include "catalogue/search/looseform.h"
+
+#include "catalogue/search/wordclass.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+struct Substitute {
+    std::string_view sight;
+    std::string_view text;
+};
+
+// Up to fifteen; a single letter is more often one of a name.
+constexpr std::array numerals{
+    Substitute{"ii", "2"},   Substitute{"iii", "3"},   Substitute{"iv", "4"},   Substitute{"vi", "6"},
+    Substitute{"vii", "7"},  Substitute{"viii", "8"},  Substitute{"ix", "9"},   Substitute{"xi", "11"},
+    Substitute{"xii", "12"}, Substitute{"xiii", "13"}, Substitute{"xiv", "14"}, Substitute{"xv", "15"},
+    Substitute{"二", "2"},   Substitute{"三", "3"},    Substitute{"四", "4"},   Substitute{"五", "5"},
+    Substitute{"六", "6"},   Substitute{"七", "7"},    Substitute{"八", "8"},   Substitute{"九", "9"},
+};
+
+// What sounds alike in the Japanese of today, or is written for the same foreign sound. The first row that
+// fits counts.
+constexpr std::array kanaSpellings{
+    Substitute{"ゔぁ", "ば"}, Substitute{"ゔぃ", "び"}, Substitute{"ゔぇ", "べ"}, Substitute{"ゔぉ", "ぼ"},
+    Substitute{"ゔ", "ぶ"},   Substitute{"てぃ", "ち"}, Substitute{"でぃ", "じ"}, Substitute{"とぅ", "つ"},
+    Substitute{"どぅ", "ず"}, Substitute{"ぢ", "じ"},   Substitute{"づ", "ず"},   Substitute{"ぁ", "あ"},
+    Substitute{"ぃ", "い"},   Substitute{"ぅ", "う"},   Substitute{"ぇ", "え"},   Substitute{"ぉ", "お"},
+    Substitute{"ゎ", "わ"},   Substitute{"ゐ", "い"},   Substitute{"ゑ", "え"},   Substitute{"を", "お"},
+};
+
+constexpr std::string_view again = "々";
+
+std::size_t characterSize(std::string_view text)
+{
+    const auto lead = static_cast<unsigned char>(text.front());
+    const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    return std::min(size, text.size());
+}
+
+WordClass classAt(std::string_view text, std::size_t at)
+{
+    const char c = text[at];
+    return static_cast<unsigned char>(c) < 0x80 ? asciiClass(c) : firstClass(text.substr(at));
+}
+
+// The characters of one class that the text begins with.
+std::string_view firstRun(std::string_view text, WordClass wordClass)
+{
+    std::size_t end = 0;
+    while (end < text.size() && classAt(text, end) == wordClass)
+        end += characterSize(text.substr(end));
+    return text.substr(0, end);
+}
+
+void appendKana(std::string& out, std::string_view run)
+{
+    while (!run.empty()) {
+        const auto* const row = std::ranges::find_if(
+            kanaSpellings, [&](const Substitute& each) { return run.starts_with(each.sight); });
+        const std::size_t size = row != kanaSpellings.end() ? row->sight.size() : characterSize(run);
+        out += row != kanaSpellings.end() ? row->text : run.substr(0, size);
+        run.remove_prefix(size);
+    }
+}
+
+void appendIdeographs(std::string& out, std::string_view run)
+{
+    std::string_view before;
+    while (!run.empty()) {
+        const std::string_view sign = run.substr(0, characterSize(run));
+        if (sign != again)
+            before = sign;
+        out += before;
+        run.remove_prefix(sign.size());
+    }
+}
+
+std::string spelt(std::string_view run, WordClass wordClass)
+{
+    std::string out;
+    constexpr std::size_t longest = 4;
+    const auto* const numeral
+        = run.size() <= longest ? std::ranges::find(numerals, run, &Substitute::sight) : numerals.end();
+    if (numeral != numerals.end())
+        out += numeral->text;
+    else if (wordClass == WordClass::Kana)
+        appendKana(out, run);
+    else if (wordClass == WordClass::Ideographs)
+        appendIdeographs(out, run);
+    else
+        out += run;
+    return out;
+}
+
+// What punctuation makes of the place behind it.
+Edge edgeBehind(char sign, bool afterBlank)
+{
+    if (sign == ' ')
+        return Edge::Word;
+    if (sign == ':' || sign == '/' || (afterBlank && (sign == '-' || sign == '~')))
+        return Edge::Part;
+    return Edge::Piece;
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isLetter(char c)
+{
+    return c >= 'a' && c <= 'z';
+}
+
+} // namespace
+
+LooseForm::LooseForm(std::string_view folded)
+{
+    Edge next = Edge::Part;
+    bool afterBlank = false;
+    const auto take = [&](std::string_view run, WordClass wordClass) {
+        const bool isThe = next == Edge::Part && run == "the";
+        append(spelt(run, wordClass), next == Edge::None ? Edge::Word : next);
+        next = isThe ? Edge::Part : Edge::None;
+    };
+    text.reserve(folded.size());
+    while (!folded.empty()) {
+        const WordClass wordClass = classAt(folded, 0);
+        const std::size_t size = characterSize(folded);
+        if (wordClass != WordClass::None) {
+            const std::string_view run = firstRun(folded, wordClass);
+            take(run, wordClass);
+            folded.remove_prefix(run.size());
+        } else {
+            if (folded.front() == '&') {
+                next = std::max(next, Edge::Word);
+                take("and", WordClass::Letters);
+            } else {
+                next = std::max(next, edgeBehind(folded.front(), afterBlank));
+            }
+            afterBlank = folded.front() == ' ';
+            folded.remove_prefix(size);
+            continue;
+        }
+        afterBlank = false;
+    }
+}
+
+void LooseForm::append(std::string_view word, Edge before)
+{
+    const std::size_t begin = text.size();
+    text += word;
+    edges.resize(text.size(), Edge::None);
+    if (begin < text.size())
+        edges[begin] = before;
+}
+
+void LooseForm::beginPartBehind(const LooseForm& words)
+{
+    const std::size_t size = words.text.size();
+    if (size > 0 && size < text.size() && text.starts_with(words.text) && edges[size] != Edge::None)
+        edges[size] = Edge::Part;
+}
+
+std::size_t LooseForm::wordEnd(std::size_t place) const
+{
+    const auto end = std::find_if(edges.begin() + static_cast<std::ptrdiff_t>(place) + 1, edges.end(),
+                                  [](Edge edge) { return edge != Edge::None; });
+    return static_cast<std::size_t>(end - edges.begin());
+}
+
+std::string looseWord(std::string_view folded)
+{
+    return LooseForm(folded).text;
+}
+
+bool isNumeral(std::string_view loose)
+{
+    return !loose.empty() && std::ranges::all_of(loose, isDigit);
+}
+
+std::vector<std::string_view> titlesProper(std::string_view folded)
+{
+    constexpr std::string_view between = " / ";
+    std::vector<std::string_view> titles;
+    if (const auto bracket = folded.find('(', 1); bracket != std::string_view::npos)
+        folded = folded.substr(0, bracket);
+    while (true) {
+        const auto end = folded.find(between);
+        titles.push_back(folded.substr(0, end));
+        if (end == std::string_view::npos)
+            return titles;
+        folded.remove_prefix(end + between.size());
+    }
+}
+
+std::vector<std::string> initials(const LooseForm& title)
+{
+    std::vector<std::string> found;
+    std::string all;
+    std::string part;
+    const auto take = [&](std::string& letters) {
+        if (letters.size() >= 2 && std::ranges::find(found, letters) == found.end())
+            found.push_back(letters);
+        letters.clear();
+    };
+    bool inNumber = false;
+    for (std::size_t i = 0; i < title.text.size(); ++i) {
+        const Edge edge = title.edges[i];
+        const char c = title.text[i];
+        if (edge == Edge::Part)
+            take(part);
+        inNumber = isDigit(c) && (inNumber || edge != Edge::None);
+        if (inNumber || (edge != Edge::None && isLetter(c))) {
+            part += c;
+            all += c;
+        }
+    }
+    take(part);
+    take(all);
+    return found;
+}
+
+bool mayBeInitials(std::string_view loose)
+{
+    const auto letters = static_cast<std::size_t>(std::ranges::find_if_not(loose, isLetter) - loose.begin());
+    const std::string_view number = loose.substr(letters);
+    return std::ranges::all_of(number, isDigit) && letters + (number.empty() ? 0 : 1) >= 3 && letters <= 6;
+}
+
+} // namespace tessera

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+/// What begins at a byte of a loose form, or behind its last one.
+enum class Edge : std::uint8_t {
+    None,
+    Piece, ///< behind punctuation within a word
+    Word, ///< behind a blank, or where kana, ideographs and letters meet
+    Part, ///< of a title: behind ": " or " - ", or behind a "The" that begins one
+};
+
+/// A text in the form in which punctuation, blanks and spellings that people confuse make no difference:
+/// "R-Type II", "r type 2" and "RType 2" are all "rtype2". Ampersands are "and", Roman numerals and the
+/// Japanese ones are digits; kana that sound alike are one.
+struct LooseForm {
+    std::string text;
+    std::vector<Edge> edges; ///< one a byte of the text
+
+    LooseForm() = default;
+    /// `folded` is a folded text.
+    explicit LooseForm(std::string_view folded);
+
+    void append(std::string_view word, Edge before);
+    /// Makes a part of what stands behind these words, where the text begins with them.
+    void beginPartBehind(const LooseForm& words);
+    /// Where the word that stands at a place ends.
+    std::size_t wordEnd(std::size_t place) const;
+};
+
+/// What is searched for a word in loose forms; empty where it holds nothing but punctuation.
+std::string looseWord(std::string_view folded);
+
+/// True for a word that is a numeral, in loose form only digits.
+bool isNumeral(std::string_view loose);
+
+/// A title's alternatives, as " / " parts them, each up to its first bracket, which in most titles tells only
+/// of the version.
+std::vector<std::string_view> titlesProper(std::string_view folded);
+
+/// The first letters of the words of each part of a title, and of all of it, with its numbers: "mvc2". Those
+/// that have fewer than two are left out.
+std::vector<std::string> initials(const LooseForm& title);
+
+/// True for what may be typed for initials: three letters and more, or two and a number.
+bool mayBeInitials(std::string_view loose);
+
+} // namespace tessera
