@@ -78,7 +78,8 @@ Rank LooseBuffer::rankAt(std::size_t offset, std::size_t size, FieldMark field, 
         return Rank::None;
     switch (field) {
     case InitialsMark:
-        return beginsField && (endsField || isDigit(all[end - 1])) ? Rank::Initials : Rank::None;
+        return rules.asInitials && beginsField && (endsField || isDigit(all[end - 1])) ? Rank::Initials
+                                                                                       : Rank::None;
     case NameMark:
         return !beginsField ? Rank::WordBeginning : endsField ? Rank::SetName : Rank::NameBeginning;
     case MakerMark:

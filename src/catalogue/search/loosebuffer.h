@@ -14,6 +14,7 @@ struct LooseRules {
     bool wholeOnly = false; ///< where whole words stand
     bool atBeginning = false; ///< of a name or a title
     bool inside = false; ///< also within a word
+    bool asInitials = false; ///< also as the initials of a title
     std::optional<FieldMark> field = std::nullopt; ///< only there
 };
 

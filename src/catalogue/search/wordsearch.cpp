@@ -89,7 +89,9 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
     const bool isQuoted = words.ends != WordEnds::Anywhere;
     const std::string loose = isQuoted ? std::string() : looseWord(words.text);
     if (!rules.negated || isNumeral(loose))
-        findLoosely(texts.loose(), loose, {.wholeOnly = rules.negated, .field = rules.field}, best);
+        findLoosely(texts.loose(), loose,
+                    {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .field = rules.field},
+                    best);
     const std::string reading = spelling(words.text);
     const bool isLong = reading.size() >= leastInside;
     const LooseRules asReading{.wholeOnly = words.ends == WordEnds::Whole,
@@ -114,7 +116,7 @@ std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
         reading += spelt.empty() ? form : spelt;
         isJapanese = isJapanese || mayBeJapanese(word->text);
     }
-    findLoosely(texts.loose(), loose, {}, best);
+    findLoosely(texts.loose(), loose, {.asInitials = mayBeInitials(loose)}, best);
     findReading(texts.romaji(), reading, isJapanese, {}, best);
     return best;
 }

@@ -227,8 +227,9 @@ private:
             return Rank::None;
         switch (form.field) {
         case InitialsMark:
-            return at == 0 && (end == text.size() || std::isdigit(text[end - 1]) != 0) ? Rank::Initials
-                                                                                       : Rank::None;
+            return rules.asInitials && at == 0 && (end == text.size() || std::isdigit(text[end - 1]) != 0)
+                ? Rank::Initials
+                : Rank::None;
         case NameMark:
             return at != 0 ? Rank::WordBeginning : end == text.size() ? Rank::SetName : Rank::NameBeginning;
         case MakerMark:
@@ -304,7 +305,8 @@ private:
         const bool isQuoted = words.ends != WordEnds::Anywhere;
         const std::string loose = looseWord(words.text);
         if (!isQuoted && (!negated || isNumeral(loose)))
-            improveLoosely(best, m_loose, loose, false, false, {.wholeOnly = negated, .field = field});
+            improveLoosely(best, m_loose, loose, false, false,
+                           {.wholeOnly = negated, .asInitials = mayBeInitials(loose), .field = field});
         const std::string read = reading(words.text);
         improveLoosely(best, m_romaji, read, isJapanese(words.text) && !negated, true,
                        {.wholeOnly = words.ends == WordEnds::Whole,
@@ -328,7 +330,7 @@ private:
             read += reading(word->text).empty() ? looseWord(word->text) : reading(word->text);
             japanese = japanese || isJapanese(word->text);
         }
-        improveLoosely(best, m_loose, loose, false, false, {});
+        improveLoosely(best, m_loose, loose, false, false, {.asInitials = mayBeInitials(loose)});
         improveLoosely(best, m_romaji, read, japanese, true, {});
         return static_cast<Score>(best);
     }

@@ -181,12 +181,21 @@ private Q_SLOTS:
             << QStringLiteral("darius -ra") << QStringLiteral("darius2 darius");
         QTest::newRow("quotes are literal") << QStringLiteral("\"darius 2\"") << QString();
         QTest::newRow("few letters do not cross words") << QStringLiteral("iusi") << QString();
-        QTest::newRow("two letters are no initials") << QStringLiteral("dh") << QString();
         QTest::newRow("a reading of three letters begins one")
             << QStringLiteral("ius") << QStringLiteral("darius2 darius");
         QTest::newRow("nor its middle") << QStringLiteral("asu") << QString();
         QTest::newRow("but longer ones do") << QStringLiteral("raiasu") << QStringLiteral("darius2 darius");
     }
+    void initialsHaveThreeLettersOrANumber()
+    {
+        const Machines machines{
+            {"hero", "Dark Hero"}, {"hero2", "Dark Hero II"}, {"rises", "Dark Hero Rises"}};
+        QCOMPARE(ranked(machines, QStringLiteral("dh")), QString());
+        QCOMPARE(ranked(machines, QStringLiteral("dh2")), QStringLiteral("hero2"));
+        QCOMPARE(ranked(machines, QStringLiteral("dhr")), QStringLiteral("rises"));
+        QCOMPARE(ranked(machines, QStringLiteral("-dhr")), QStringLiteral("hero hero2 rises"));
+    }
+
     void onlyTheseAreFound()
     {
         QFETCH(QString, query);
