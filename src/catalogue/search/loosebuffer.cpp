@@ -69,12 +69,10 @@ Rank LooseBuffer::rankAt(std::size_t offset, std::size_t size, FieldMark field, 
     const Edge behind = m_edges[end];
     const bool endsWord = behind != Edge::None;
     if (before == Edge::None)
-        return rules.inside && !crossesBlank(offset, end) ? Rank::Inside : Rank::None;
+        return crossesBlank(offset, end) ? Rank::None : Rank::Inside;
     if (!endsWord
         && (rules.wholeOnly || (isDigit(all[end - 1]) && isDigit(all[end]))
             || (size < longEnough && crossesBlank(offset, end))))
-        return Rank::None;
-    if (rules.atBeginning && !beginsField)
         return Rank::None;
     switch (field) {
     case InitialsMark:

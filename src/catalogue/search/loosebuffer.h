@@ -44,6 +44,10 @@ public:
     void forEachRank(std::string_view word, const LooseRules& rules, Hit&& hit) const
     {
         m_forms.forEachHit(word, [&](std::uint32_t record, std::size_t offset) {
+            // Most places are within words; which field they lie in need not be known.
+            if ((m_edges[offset] == Edge::None && !rules.inside)
+                || (rules.atBeginning && !isFieldMark(bytes()[offset - 1])))
+                return;
             const FieldMark field = fieldAt(bytes(), offset);
             const Rank rank = rules.field.value_or(field) == field ? rankAt(offset, word.size(), field, rules)
                                                                    : Rank::None;

@@ -57,14 +57,22 @@ constexpr std::array smallKana{
 // ICU tells ぢ and づ from じ and ず; some people do so too, when they type "di" and "du".
 constexpr std::array plainDi{Spelling{"dj", 2, "d"}, Spelling{"dz", 2, "d"}};
 
-// Most signs begin no row.
+// Which signs begin a row: most do not.
 template <std::size_t N>
-std::string respelled(std::string_view latin, const std::array<Spelling, N>& table)
+constexpr std::array<bool, 256> beginningsOf(const std::array<Spelling, N>& table)
 {
     std::array<bool, 256> begins{};
     for (const Spelling& spelling : table)
         begins[static_cast<unsigned char>(spelling.sight.front())] = true;
+    return begins;
+}
+
+template <const auto& table>
+std::string respelled(std::string_view latin)
+{
+    static constexpr std::array<bool, 256> begins = beginningsOf(table);
     std::string out;
+    out.reserve(latin.size() + 4);
     while (!latin.empty()) {
         if (!begins[static_cast<unsigned char>(latin.front())]) {
             out += latin.front();
@@ -167,7 +175,7 @@ std::string latinOnly(const UnicodeString& text)
 
 std::string romajiSpelling(std::string_view latin)
 {
-    return respelled(latin, spellings);
+    return respelled<spellings>(latin);
 }
 
 std::string shortRomajiSpelling(std::string_view latin)
@@ -214,11 +222,11 @@ std::vector<std::string> romajiReadings(std::string_view folded)
     if (!holdsKana)
         return {};
     hiraganaToLatin()->transliterate(units);
-    std::string latin = respelled(latinOnly(units), smallKana);
+    std::string latin = respelled<smallKana>(latinOnly(units));
     std::erase(latin, '~');
 
     std::vector<std::string> readings;
-    for (const std::string& variant : {latin, respelled(latin, plainDi)}) {
+    for (const std::string& variant : {latin, respelled<plainDi>(latin)}) {
         const std::string spelling = romajiSpelling(variant);
         for (const std::string& reading : {withLongVowelsOnce(spelling), spelling}) {
             if (std::ranges::find(readings, reading) == readings.end())

@@ -115,17 +115,19 @@ void addReadings(LooseBuffer& romaji, FieldMark mark, std::string_view text)
 // Where one of its words reads like Japanese.
 void addRomanised(LooseBuffer& romaji, const LooseForm& title)
 {
-    LooseForm form;
+    const std::string_view text = title.text;
+    const auto wordAt = [&](std::size_t begin) { return text.substr(begin, title.wordEnd(begin) - begin); };
     bool isJapanese = false;
-    for (std::size_t begin = 0; begin < title.text.size();) {
-        const std::size_t end = title.wordEnd(begin);
-        const std::string_view word = std::string_view(title.text).substr(begin, end - begin);
-        isJapanese = isJapanese || readsLikeJapanese(word);
-        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, title.edges[begin]);
-        begin = end;
+    for (std::size_t at = 0; at < text.size() && !isJapanese; at = title.wordEnd(at))
+        isJapanese = readsLikeJapanese(wordAt(at));
+    if (!isJapanese)
+        return;
+    LooseForm form;
+    for (std::size_t at = 0; at < text.size(); at = title.wordEnd(at)) {
+        const std::string_view word = wordAt(at);
+        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, title.edges[at]);
     }
-    if (isJapanese)
-        romaji.add(RomanisedMark, form);
+    romaji.add(RomanisedMark, form);
 }
 
 // The maker's first word, which titles of systems begin with.

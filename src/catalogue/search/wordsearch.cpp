@@ -88,7 +88,8 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
     findLiterally(texts.texts(), words, rules.field, best);
     const bool isQuoted = words.ends != WordEnds::Anywhere;
     const std::string loose = isQuoted ? std::string() : looseWord(words.text);
-    if (!rules.negated || isNumeral(loose))
+    // A single letter is found as it stands.
+    if (isNumeral(loose) || (!rules.negated && loose.size() > 1))
         findLoosely(texts.loose(), loose,
                     {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .field = rules.field},
                     best);

@@ -304,7 +304,7 @@ private:
         }
         const bool isQuoted = words.ends != WordEnds::Anywhere;
         const std::string loose = looseWord(words.text);
-        if (!isQuoted && (!negated || isNumeral(loose)))
+        if (!isQuoted && (isNumeral(loose) || (!negated && loose.size() > 1)))
             improveLoosely(best, m_loose, loose, false, false,
                            {.wholeOnly = negated, .asInitials = mayBeInitials(loose), .field = field});
         const std::string read = reading(words.text);
