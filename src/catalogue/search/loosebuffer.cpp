@@ -94,50 +94,50 @@ Rank LooseBuffer::rankAt(std::size_t offset, std::size_t size, FieldMark field, 
     return Rank::WordBeginning;
 }
 
-// Part by part: the words stand one behind the other from its beginning to its end.
 bool LooseBuffer::isCovered(std::size_t begin, std::size_t end, std::span<const std::string> words) const
 {
-    const std::string_view all = bytes();
     // A blanked record holds no mark but the last one.
-    if (!isFieldMark(all[begin]))
+    if (!isFieldMark(bytes()[begin]))
         return false;
-    std::vector<bool> used(words.size());
-    const auto takeWord = [&](std::size_t at) {
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            if (!used[i] && all.substr(at).starts_with(words[i])
-                && m_edges[at + words[i].size()] != Edge::None) {
-                used[i] = true;
-                return words[i].size();
-            }
-        }
-        return std::size_t{0};
-    };
-    const auto isElsewhere = [&](std::string_view word) {
-        for (std::size_t at = begin; (at = all.substr(0, end).find(word, at)) != std::string_view::npos;
-             ++at) {
-            const FieldMark field = fieldAt(all, at);
-            if ((field == MakerMark || field == YearMark) && m_edges[at] != Edge::None)
-                return true;
-        }
-        return false;
-    };
-    for (std::size_t at = begin; at < end; ++at) {
-        if (m_edges[at] != Edge::Part || isFieldMark(all[at])
-            || (fieldAt(all, at) != TitleMark && fieldAt(all, at) != AlternativeMark))
-            continue;
-        used.assign(words.size(), false);
-        std::size_t place = at;
-        std::size_t size = 0;
-        do {
-            size = takeWord(place);
-            place += size;
-        } while (size != 0 && m_edges[place] != Edge::Part);
-        if (size == 0)
-            continue;
-        bool isComplete = true;
-        for (std::size_t i = 0; i < words.size() && isComplete; ++i)
-            isComplete = used[i] || isElsewhere(words[i]);
-        if (isComplete)
+    for (std::size_t place = begin; place < end; ++place) {
+        if (m_edges[place] == Edge::Part && isOfTitle(place) && isCoveredFrom(place, begin, end, words))
+            return true;
+    }
+    return false;
+}
+
+bool LooseBuffer::isOfTitle(std::size_t place) const
+{
+    const std::string_view all = bytes();
+    return !isFieldMark(all[place])
+        && (fieldAt(all, place) == TitleMark || fieldAt(all, place) == AlternativeMark);
+}
+
+// The words stand one behind the other from a part's beginning to its end; what is left of them stands in the
+// record's maker or year.
+bool LooseBuffer::isCoveredFrom(std::size_t place, std::size_t begin, std::size_t end,
+                                std::span<const std::string> words) const
+{
+    std::vector<std::string_view> left(words.begin(), words.end());
+    do {
+        const auto here = std::ranges::find_if(left, [&](std::string_view word) {
+            return bytes().substr(place).starts_with(word) && m_edges[place + word.size()] != Edge::None;
+        });
+        if (here == left.end())
+            return false;
+        place += here->size();
+        left.erase(here);
+    } while (m_edges[place] != Edge::Part);
+    return std::ranges::all_of(left,
+                               [&](std::string_view word) { return isOfMakerOrYear(word, begin, end); });
+}
+
+bool LooseBuffer::isOfMakerOrYear(std::string_view word, std::size_t begin, std::size_t end) const
+{
+    const std::string_view all = bytes().substr(0, end);
+    for (std::size_t at = all.find(word, begin); at != std::string_view::npos; at = all.find(word, at + 1)) {
+        const FieldMark field = fieldAt(all, at);
+        if ((field == MakerMark || field == YearMark) && m_edges[at] != Edge::None)
             return true;
     }
     return false;

@@ -72,6 +72,10 @@ private:
     Rank rankAt(std::size_t offset, std::size_t size, FieldMark field, const LooseRules& rules) const;
     bool isCovered(std::size_t begin, std::size_t end, std::span<const std::string> words) const;
     bool crossesBlank(std::size_t begin, std::size_t end) const;
+    bool isOfTitle(std::size_t place) const;
+    bool isCoveredFrom(std::size_t place, std::size_t begin, std::size_t end,
+                       std::span<const std::string> words) const;
+    bool isOfMakerOrYear(std::string_view word, std::size_t begin, std::size_t end) const;
 
     SearchBuffer m_forms;
     std::vector<Edge> m_edges; // one a byte

@@ -80,12 +80,18 @@ void appendIdeographs(std::string& out, std::string_view run)
     }
 }
 
+// Most runs are words of letters, and no numerals.
+bool isSpeltAsItIs(std::string_view run, WordClass wordClass)
+{
+    constexpr std::size_t longestNumeral = 4;
+    return wordClass == WordClass::Letters
+        && (run.size() > longestNumeral || !std::string_view("ivx").contains(run.front()));
+}
+
 std::string spelt(std::string_view run, WordClass wordClass)
 {
     std::string out;
-    constexpr std::size_t longest = 4;
-    const auto* const numeral
-        = run.size() <= longest ? std::ranges::find(numerals, run, &Substitute::sight) : numerals.end();
+    const auto* const numeral = std::ranges::find(numerals, run, &Substitute::sight);
     if (numeral != numerals.end())
         out += numeral->text;
     else if (wordClass == WordClass::Kana)
@@ -100,7 +106,7 @@ std::string spelt(std::string_view run, WordClass wordClass)
 // What punctuation makes of the place behind it.
 Edge edgeBehind(char sign, bool afterBlank)
 {
-    if (sign == ' ')
+    if (sign == ' ' || sign == '&')
         return Edge::Word;
     if (sign == ':' || sign == '/' || (afterBlank && (sign == '-' || sign == '~')))
         return Edge::Part;
@@ -125,29 +131,27 @@ LooseForm::LooseForm(std::string_view folded)
     bool afterBlank = false;
     const auto take = [&](std::string_view run, WordClass wordClass) {
         const bool isThe = next == Edge::Part && run == "the";
-        append(spelt(run, wordClass), next == Edge::None ? Edge::Word : next);
+        const Edge before = next == Edge::None ? Edge::Word : next;
+        if (isSpeltAsItIs(run, wordClass))
+            append(run, before);
+        else
+            append(spelt(run, wordClass), before);
         next = isThe ? Edge::Part : Edge::None;
     };
     text.reserve(folded.size());
+    edges.reserve(folded.size());
     while (!folded.empty()) {
         const WordClass wordClass = classAt(folded, 0);
-        const std::size_t size = characterSize(folded);
-        if (wordClass != WordClass::None) {
-            const std::string_view run = firstRun(folded, wordClass);
+        const std::string_view run = wordClass == WordClass::None ? folded.substr(0, characterSize(folded))
+                                                                  : firstRun(folded, wordClass);
+        if (wordClass == WordClass::None)
+            next = std::max(next, edgeBehind(run.front(), afterBlank));
+        else
             take(run, wordClass);
-            folded.remove_prefix(run.size());
-        } else {
-            if (folded.front() == '&') {
-                next = std::max(next, Edge::Word);
-                take("and", WordClass::Letters);
-            } else {
-                next = std::max(next, edgeBehind(folded.front(), afterBlank));
-            }
-            afterBlank = folded.front() == ' ';
-            folded.remove_prefix(size);
-            continue;
-        }
-        afterBlank = false;
+        if (run == "&")
+            take("and", WordClass::Letters);
+        afterBlank = run == " ";
+        folded.remove_prefix(run.size());
     }
 }
 
