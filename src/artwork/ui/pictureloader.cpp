@@ -26,9 +26,10 @@ PictureLoader::PictureLoader(QSize most, QObject* parent)
 {
 }
 
-// By value: what is wanted is another one once it has been told of.
-void PictureLoader::load(QString path) // NOLINT(performance-unnecessary-value-param)
+void PictureLoader::load(const QString& wanted)
 {
+    // What is wanted is nothing any more once it has been told of.
+    const QString path = wanted;
     m_wanted = path;
     if (const Kept* kept = m_kept.object(path)) {
         const QFileInfo file(path);

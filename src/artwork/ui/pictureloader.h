@@ -20,7 +20,7 @@ public:
 
     /// One of the two signals follows, unless another picture is asked for before; at once where the picture
     /// is kept and its file is the same.
-    void load(QString path);
+    void load(const QString& wanted);
     /// While it is held, nothing is read; what was asked for last is read at the end.
     void setHeld(bool held);
 
