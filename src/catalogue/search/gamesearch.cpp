@@ -79,7 +79,11 @@ private:
 
 void Narrowing::lookForPhrase(const Query& query)
 {
-    if (const std::vector<const SearchedWords*> words = query.rankedWords(); words.size() > 1)
+    const std::vector<const SearchedWords*> words = query.rankedWords();
+    // What stands in quotation marks is found as it is written and in no other way.
+    const bool isQuoted = std::ranges::any_of(
+        words, [](const SearchedWords* word) { return word->ends != WordEnds::Anywhere; });
+    if (words.size() > 1 && !isQuoted)
         m_phrase = phraseScores(m_texts, m_facts.size(), words);
 }
 
@@ -177,7 +181,8 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
         joint.add(word);
     if (m_words.size() > 1) {
         const std::vector<const SearchedWords*> words = query.rankedWords();
-        joint.improve(m_phrase);
+        if (!m_phrase.empty())
+            joint.improve(m_phrase);
         joint.improve(covered(words));
     }
     std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);

@@ -323,7 +323,9 @@ private:
         std::string read;
         bool japanese = false;
         const std::vector<const SearchedWords*> words = query.rankedWords();
-        if (words.size() < 2)
+        if (words.size() < 2 || std::ranges::any_of(words, [](const SearchedWords* word) {
+                return word->ends != WordEnds::Anywhere;
+            }))
             return noScore;
         for (const SearchedWords* word : words) {
             loose += looseWord(word->text);

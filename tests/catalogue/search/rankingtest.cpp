@@ -180,6 +180,7 @@ private Q_SLOTS:
         QTest::newRow("what is left out is certain")
             << QStringLiteral("darius -ra") << QStringLiteral("darius2 darius");
         QTest::newRow("quotes are literal") << QStringLiteral("\"darius 2\"") << QString();
+        QTest::newRow("quotes are literal beside another word") << QStringLiteral("\"dari\" us") << QString();
         QTest::newRow("few letters do not cross words") << QStringLiteral("iusi") << QString();
         QTest::newRow("a reading of three letters begins one")
             << QStringLiteral("ius") << QStringLiteral("darius2 darius");
