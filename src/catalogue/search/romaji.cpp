@@ -1,20 +1,11 @@
 #include "catalogue/search/romaji.h"
 
-#include "core/encodings.h"
-
-#include <unicode/translit.h>
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
-
 #include <algorithm>
 #include <array>
-#include <memory>
 
 namespace tessera {
 
 namespace {
-
-using icu::UnicodeString;
 
 // At `sight`, the first so many letters are written as `text`. The first row that fits counts.
 struct Spelling {
@@ -42,50 +33,15 @@ constexpr std::array spellings{
     Spelling{"mb", 1, "n"}, Spelling{"mp", 1, "n"}, Spelling{"mm", 1, "n"},
     Spelling{"'", 1, ""}, Spelling{"-", 1, ""},
 };
-
-// How ICU writes small kana behind others, and what people write.
-constexpr std::array smallKana{
-    Spelling{"vu~a", 4, "va"}, Spelling{"vu~i", 4, "vi"}, Spelling{"vu~e", 4, "ve"}, Spelling{"vu~o", 4, "vo"},
-    Spelling{"tsu~", 4, "ts"}, Spelling{"~tsu", 4, ""},
-    Spelling{"to~u", 4, "tu"}, Spelling{"do~u", 4, "du"},
-    Spelling{"de~yu", 5, "dyu"}, Spelling{"te~yu", 5, "tyu"}, Spelling{"fu~yu", 5, "fyu"},
-    Spelling{"su~i", 4, "si"}, Spelling{"zu~i", 4, "zi"}, Spelling{"ku~", 3, "ku"}, Spelling{"gu~", 3, "gu"},
-    Spelling{"u~i", 3, "wi"}, Spelling{"u~e", 3, "we"}, Spelling{"u~o", 3, "wo"}, Spelling{"i~e", 3, "ye"},
-};
 // clang-format on
 
-// ICU tells ぢ and づ from じ and ず; some people do so too, when they type "di" and "du".
-constexpr std::array plainDi{Spelling{"dj", 2, "d"}, Spelling{"dz", 2, "d"}};
-
 // Which signs begin a row: most do not.
-template <std::size_t N>
-constexpr std::array<bool, 256> beginningsOf(const std::array<Spelling, N>& table)
-{
+constexpr std::array<bool, 256> beginsRow = [] {
     std::array<bool, 256> begins{};
-    for (const Spelling& spelling : table)
+    for (const Spelling& spelling : spellings)
         begins[static_cast<unsigned char>(spelling.sight.front())] = true;
     return begins;
-}
-
-template <const auto& table>
-std::string respelled(std::string_view latin)
-{
-    static constexpr std::array<bool, 256> begins = beginningsOf(table);
-    std::string out;
-    out.reserve(latin.size() + 4);
-    while (!latin.empty()) {
-        if (!begins[static_cast<unsigned char>(latin.front())]) {
-            out += latin.front();
-            latin.remove_prefix(1);
-            continue;
-        }
-        const auto row = std::ranges::find_if(
-            table, [&](const Spelling& spelling) { return latin.starts_with(spelling.sight); });
-        out += row != table.end() ? row->text : latin.substr(0, 1);
-        latin.remove_prefix(row != table.end() ? row->letters : 1);
-    }
-    return out;
-}
+}();
 
 // Of what the text begins with: a vowel with a consonant before it or none, an n, or the first half of a
 // doubled consonant; 0 for anything else.
@@ -107,6 +63,26 @@ std::size_t syllableSize(std::string_view text)
     return isVowelAt(size) ? size + 1 : 0;
 }
 
+} // namespace
+
+std::string romajiSpelling(std::string_view latin)
+{
+    std::string out;
+    out.reserve(latin.size() + 4);
+    while (!latin.empty()) {
+        if (!beginsRow[static_cast<unsigned char>(latin.front())]) {
+            out += latin.front();
+            latin.remove_prefix(1);
+            continue;
+        }
+        const auto* const row = std::ranges::find_if(
+            spellings, [&](const Spelling& spelling) { return latin.starts_with(spelling.sight); });
+        out += row != spellings.end() ? row->text : latin.substr(0, 1);
+        latin.remove_prefix(row != spellings.end() ? row->letters : 1);
+    }
+    return out;
+}
+
 std::string withLongVowelsOnce(std::string_view latin)
 {
     std::string out;
@@ -117,65 +93,6 @@ std::string withLongVowelsOnce(std::string_view latin)
             out += c;
     }
     return out;
-}
-
-bool isHiragana(UChar32 c)
-{
-    return (c >= 0x3041 && c <= 0x3096) || c == 0x309F;
-}
-
-// What stands for a character in the text that is transliterated: no letter of the text itself may pass for a
-// reading.
-UChar32 unread(UChar32 c, UChar32 before)
-{
-    if (u_isalnum(c) != 0)
-        return UChar32{unreadSign};
-    return c == u':' || (before == u' ' && (c == u'-' || c == u'~')) ? UChar32{partSign} : UChar32{' '};
-}
-
-UnicodeString kanaOnly(const UnicodeString& text, bool& holdsKana)
-{
-    UnicodeString out;
-    UChar32 before = 0;
-    for (int32_t i = 0; i < text.length(); i = text.moveIndex32(i, 1)) {
-        const UChar32 c = text.char32At(i);
-        holdsKana = holdsKana || isHiragana(c);
-        if (!isHiragana(c))
-            out.append(unread(c, std::exchange(before, c)));
-        else // ICU does not know the small ka and ke
-            out.append(c == 0x3095 ? UChar32{0x304B} : c == 0x3096 ? UChar32{0x3051} : c);
-    }
-    return out;
-}
-
-// Making it takes some 20 ms, using it a few microseconds. It never changes.
-const icu::Transliterator* hiraganaToLatin()
-{
-    static const std::unique_ptr<const icu::Transliterator> made = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        return std::unique_ptr<const icu::Transliterator>(
-            icu::Transliterator::createInstance("Hiragana-Latin", UTRANS_FORWARD, status));
-    }();
-    return made.get();
-}
-
-// What ICU leaves as it is (an iteration mark, say) counts as unread.
-std::string latinOnly(const UnicodeString& text)
-{
-    std::string out;
-    for (int32_t i = 0; i < text.length(); ++i) {
-        const char16_t c = text[i];
-        const bool isLatin = (c >= u'a' && c <= u'z') || std::u16string_view(u"~' /").contains(c);
-        out += isLatin ? static_cast<char>(c) : unreadSign;
-    }
-    return out;
-}
-
-} // namespace
-
-std::string romajiSpelling(std::string_view latin)
-{
-    return respelled<spellings>(latin);
 }
 
 std::string shortRomajiSpelling(std::string_view latin)
@@ -210,30 +127,6 @@ bool readsLikeJapanese(std::string_view folded)
         folded.remove_prefix(size);
     }
     return true;
-}
-
-std::vector<std::string> romajiReadings(std::string_view folded)
-{
-    if (isAscii(folded) || hiraganaToLatin() == nullptr)
-        return {};
-    bool holdsKana = false;
-    UnicodeString units
-        = kanaOnly(UnicodeString::fromUTF8({folded.data(), static_cast<int32_t>(folded.size())}), holdsKana);
-    if (!holdsKana)
-        return {};
-    hiraganaToLatin()->transliterate(units);
-    std::string latin = respelled<smallKana>(latinOnly(units));
-    std::erase(latin, '~');
-
-    std::vector<std::string> readings;
-    for (const std::string& variant : {latin, respelled<plainDi>(latin)}) {
-        const std::string spelling = romajiSpelling(variant);
-        for (const std::string& reading : {withLongVowelsOnce(spelling), spelling}) {
-            if (std::ranges::find(readings, reading) == readings.end())
-                readings.push_back(reading);
-        }
-    }
-    return readings;
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 #include "catalogue/search/searchtexts.h"
 
 #include "catalogue/search/folding.h"
+#include "catalogue/search/kanareading.h"
 #include "catalogue/search/romaji.h"
 
 #include <algorithm>

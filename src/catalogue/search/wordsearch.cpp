@@ -1,6 +1,7 @@
 #include "catalogue/search/wordsearch.h"
 
 #include "catalogue/search/folding.h"
+#include "catalogue/search/kanareading.h"
 #include "catalogue/search/romaji.h"
 #include "core/encodings.h"
 

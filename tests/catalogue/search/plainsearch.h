@@ -5,6 +5,7 @@
 #include "catalogue/search/folding.h"
 #include "catalogue/search/query.h"
 #include "catalogue/search/looseform.h"
+#include "catalogue/search/kanareading.h"
 #include "catalogue/search/romaji.h"
 #include "catalogue/search/wordsearch.h"
 

@@ -1,6 +1,7 @@
 #include "catalogue/search/romaji.h"
 
 #include "catalogue/search/folding.h"
+#include "catalogue/search/kanareading.h"
 #include "support/testmain.h"
 
 #include <algorithm>

@@ -1,0 +1,201 @@
+#include "catalogue/search/kanareading.h"
+
+#include "catalogue/search/romaji.h"
+#include "core/encodings.h"
+
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
+#include <algorithm>
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+constexpr char32_t firstKana = U'ぁ';
+constexpr char32_t nasal = U'ん';
+constexpr char32_t smallTsu = U'っ';
+
+// From the first kana on, as romajiSpelling() spells. A transliterator of a library reads the same, but takes
+// twenty milliseconds to be made and six times as long to read; what is made of ten thousand titles is waited
+// for.
+// clang-format off
+constexpr std::array<std::string_view, 86> kana{
+    "a", "a", "i", "i", "u", "u", "e", "e", "o", "o",
+    "ka", "ga", "ki", "gi", "ku", "gu", "ke", "ge", "ko", "go",
+    "sa", "za", "si", "zi", "su", "zu", "se", "ze", "so", "zo",
+    "ta", "da", "ti", "zi", "", "tu", "zu", "te", "de", "to", "do",
+    "na", "ni", "nu", "ne", "no",
+    "ha", "ba", "pa", "hi", "bi", "pi", "hu", "bu", "pu", "he", "be", "pe", "ho", "bo", "po",
+    "ma", "mi", "mu", "me", "mo",
+    "ya", "ya", "yu", "yu", "yo", "yo",
+    "ra", "ri", "ru", "re", "ro",
+    "wa", "wa", "wi", "we", "o", "n", "bu", "ka", "ke",
+};
+
+/// Two kana that are read otherwise than one behind the other.
+struct Pair {
+    std::u32string_view kana;
+    std::string_view reading;
+};
+
+constexpr std::array pairs{
+    Pair{U"いぇ", "ye"},  Pair{U"うぃ", "wi"},  Pair{U"うぇ", "we"},  Pair{U"うぉ", "o"},
+    Pair{U"すぃ", "si"},  Pair{U"ずぃ", "zi"},
+    Pair{U"つぁ", "ta"},  Pair{U"つぃ", "ti"},  Pair{U"つぇ", "te"},  Pair{U"つぉ", "to"},
+    Pair{U"てぃ", "ti"},  Pair{U"てゅ", "tyu"}, Pair{U"でぃ", "di"},  Pair{U"でゅ", "dyu"},
+    Pair{U"とぅ", "tu"},  Pair{U"どぅ", "du"},
+    Pair{U"ゔぁ", "ba"},  Pair{U"ゔぃ", "bi"},  Pair{U"ゔぇ", "be"},  Pair{U"ゔぉ", "bo"},
+};
+// clang-format on
+
+bool isKana(char32_t c)
+{
+    return c - firstKana < kana.size();
+}
+
+// ぢ and づ are じ and ず; some people tell them apart when they type.
+std::string_view readingOf(char32_t c, bool tellsDi)
+{
+    if (tellsDi && (c == U'ぢ' || c == U'づ'))
+        return c == U'ぢ' ? "di" : "du";
+    return kana[c - firstKana];
+}
+
+bool isSmallY(char32_t c)
+{
+    return c == U'ゃ' || c == U'ゅ' || c == U'ょ';
+}
+
+bool isSmallVowel(char32_t c)
+{
+    return c <= U'ぉ' && c % 2 == U'ぁ' % 2;
+}
+
+/// Reads a text's kana from its first to its last one.
+class Reading
+{
+public:
+    explicit Reading(bool tellsDi)
+        : m_tellsDi(tellsDi)
+    {
+    }
+
+    void add(char32_t c)
+    {
+        if (c == smallTsu)
+            m_doubles = true;
+        else if (!endsPair(c))
+            append(readingOf(c, m_tellsDi));
+        m_before = c;
+    }
+
+    void addUnread(char sign)
+    {
+        m_latin += sign;
+        m_before = 0;
+        m_doubles = false;
+    }
+
+    std::string take() { return std::move(m_latin); }
+
+private:
+    // Where this kana and the one before it are read as one, its end is written anew.
+    bool endsPair(char32_t c)
+    {
+        if (!isSmallY(c) && !isSmallVowel(c))
+            return false;
+        const std::array both{m_before, c};
+        const auto* const pair
+            = std::ranges::find(pairs, std::u32string_view(both.data(), both.size()), &Pair::kana);
+        if (pair != pairs.end()) {
+            m_latin.resize(m_begin);
+            append(pair->reading);
+            return true;
+        }
+        const bool follows = isKana(m_before) && m_latin.size() - m_begin > 1 && m_latin.back() == 'i';
+        if (!follows || !(isSmallY(c) || c == U'ぇ'))
+            return false; // read on its own
+        m_latin.pop_back();
+        m_latin += c == U'ぇ' ? "ye" : readingOf(c, m_tellsDi);
+        return true;
+    }
+
+    // A doubled m is written as it is before b and p.
+    void append(std::string_view reading)
+    {
+        constexpr std::string_view vowels = "aiueo";
+        if (m_doubles && !reading.empty() && !vowels.contains(reading.front()))
+            m_latin += reading.front() == 'm' ? 'n' : reading.front();
+        m_doubles = false;
+        m_begin = m_latin.size();
+        m_latin += reading;
+    }
+
+    std::string m_latin;
+    std::size_t m_begin = 0; // of the last kana's reading
+    char32_t m_before = 0;
+    bool m_doubles = false; // a small tsu stands before
+    bool m_tellsDi;
+};
+
+// What stands for a character that is no kana: no letter of the text itself may pass for a reading.
+char unread(UChar32 c, UChar32 before)
+{
+    if (u_isalnum(c) != 0)
+        return unreadSign;
+    return c == ':' || (before == ' ' && (c == '-' || c == '~')) ? partSign : ' ';
+}
+
+std::string read(std::string_view folded, bool tellsDi)
+{
+    Reading reading(tellsDi);
+    const auto size = static_cast<int32_t>(folded.size());
+    UChar32 before = 0;
+    for (int32_t i = 0; i < size;) {
+        UChar32 c = 0;
+        U8_NEXT(folded.data(), i, size, c);
+        if (isKana(static_cast<char32_t>(c)))
+            reading.add(static_cast<char32_t>(c));
+        else
+            reading.addUnread(unread(c, before));
+        before = c;
+    }
+    return reading.take();
+}
+
+bool holdsKana(std::string_view folded)
+{
+    const auto size = static_cast<int32_t>(folded.size());
+    for (int32_t i = 0; i < size;) {
+        UChar32 c = 0;
+        U8_NEXT(folded.data(), i, size, c);
+        if (isKana(static_cast<char32_t>(c)))
+            return true;
+    }
+    return false;
+}
+
+void addSpellings(std::vector<std::string>& readings, const std::string& latin)
+{
+    for (std::string spelling : {withLongVowelsOnce(latin), latin}) {
+        if (std::ranges::find(readings, spelling) == readings.end())
+            readings.push_back(std::move(spelling));
+    }
+}
+
+} // namespace
+
+std::vector<std::string> romajiReadings(std::string_view folded)
+{
+    if (isAscii(folded) || !holdsKana(folded))
+        return {};
+    std::vector<std::string> readings;
+    addSpellings(readings, read(folded, false));
+    if (folded.contains("ぢ") || folded.contains("づ"))
+        addSpellings(readings, read(folded, true));
+    return readings;
+}
+
+} // namespace tessera
