@@ -52,6 +52,13 @@ constexpr UChar32 toHiragana(UChar32 c)
     return katakana ? c - 0x60 : c;
 }
 
+// What most texts are made of: it is no mark, has none on it but what belongs to it, and stands for itself.
+constexpr bool isOrdinary(UChar32 c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || (c >= 0x3041 && c <= 0x3096)
+        || (c >= 0x30A1 && c <= 0x30F6) || (c >= 0x4E00 && c <= 0x9FFF);
+}
+
 bool isMark(UChar32 c)
 {
     return (U_MASK(u_charType(c)) & (U_GC_MN_MASK | U_GC_ME_MASK)) != 0;
@@ -73,6 +80,10 @@ UnicodeString foldedSigns(const UnicodeString& decomposed)
     UChar32 before = 0; // the last sign that was kept, but for voiced marks
     for (int32_t i = 0; i < decomposed.length(); i = decomposed.moveIndex32(i, 1)) {
         const UChar32 c = decomposed.char32At(i);
+        if (isOrdinary(c)) {
+            out.append(toHiragana(before = c));
+            continue;
+        }
         const bool voiced = c == voicedMark || c == halfVoicedMark;
         if (c == longVowelMark
             || (isKana(before) && std::ranges::find(longVowelLikes, c) != longVowelLikes.end()))
@@ -100,6 +111,14 @@ UnicodeString withoutLoneVoicedMarks(UnicodeString text)
     return text;
 }
 
+// Nor to put together again: that takes most of the time.
+bool hasNothingToTakeApart(const UnicodeString& caseless)
+{
+    const std::u16string_view units(caseless.getBuffer(), static_cast<std::size_t>(caseless.length()));
+    return std::ranges::all_of(
+        units, [](char16_t c) { return c < 0x80 || isOrdinary(c) || c == longVowelMark || c == u'・'; });
+}
+
 void appendFoldedByIcu(std::string& out, std::string_view text)
 {
     static const Normalizers normalizers;
@@ -109,6 +128,10 @@ void appendFoldedByIcu(std::string& out, std::string_view text)
     const UnicodeString units
         = withoutLoneVoicedMarks(UnicodeString::fromUTF8({text.data(), static_cast<int32_t>(text.size())}));
     const UnicodeString caseless = normalizers.caseless->normalize(units, status);
+    if (hasNothingToTakeApart(caseless)) {
+        foldedSigns(caseless).toUTF8String(out);
+        return;
+    }
     const UnicodeString signs = foldedSigns(normalizers.decomposing->normalize(caseless, status));
     normalizers.composing->normalize(signs, status).toUTF8String(out);
 }

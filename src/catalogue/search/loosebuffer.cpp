@@ -40,6 +40,15 @@ void LooseBuffer::add(FieldMark mark, std::string_view letters)
     add(mark, form);
 }
 
+void LooseBuffer::repeat(Range forms)
+{
+    m_forms.repeat(forms.begin, forms.end);
+    const std::size_t size = m_edges.size();
+    m_edges.resize(size + forms.end - forms.begin);
+    std::copy_n(m_edges.begin() + static_cast<std::ptrdiff_t>(forms.begin), forms.end - forms.begin,
+                m_edges.begin() + static_cast<std::ptrdiff_t>(size));
+}
+
 void LooseBuffer::end()
 {
     m_forms.end();

@@ -27,6 +27,12 @@ public:
     void add(FieldMark mark, const LooseForm& form);
     /// Letters that are no words.
     void add(FieldMark mark, std::string_view letters);
+    /// Bytes of forms that were added before, which are added once more.
+    struct Range {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+    };
+    void repeat(Range forms);
     void end();
 
     void append(const LooseBuffer& other);
@@ -35,6 +41,8 @@ public:
     void remove(std::uint32_t record) { m_forms.remove(record); }
     void makeRoom(std::uint32_t record) { m_forms.makeRoom(record); }
 
+    /// In bytes.
+    std::size_t size() const { return m_edges.size(); }
     std::string_view bytes() const { return m_forms.bytes(); }
     const SearchBuffer& forms() const { return m_forms; }
     Edge edgeAt(std::size_t offset) const { return m_edges[offset]; }

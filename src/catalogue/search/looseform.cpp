@@ -57,13 +57,33 @@ std::string_view firstRun(std::string_view text, WordClass wordClass)
     return text.substr(0, end);
 }
 
+// Of a kana of three bytes, what its last two tell.
+constexpr std::size_t kanaNumber(std::string_view kana)
+{
+    return (static_cast<unsigned char>(kana[1]) & 0x3FU) << 6U
+        | (static_cast<unsigned char>(kana[2]) & 0x3FU);
+}
+
+// Most kana begin no row.
+constexpr std::array<bool, 1U << 12U> beginsSpelling = [] {
+    std::array<bool, 1U << 12U> begins{};
+    for (const Substitute& row : kanaSpellings)
+        begins[kanaNumber(row.sight)] = true;
+    return begins;
+}();
+
 void appendKana(std::string& out, std::string_view run)
 {
     while (!run.empty()) {
-        const auto* const row = std::ranges::find_if(
-            kanaSpellings, [&](const Substitute& each) { return run.starts_with(each.sight); });
-        const std::size_t size = row != kanaSpellings.end() ? row->sight.size() : characterSize(run);
-        out += row != kanaSpellings.end() ? row->text : run.substr(0, size);
+        std::size_t size = characterSize(run);
+        std::string_view text = run.substr(0, size);
+        if (size == 3 && beginsSpelling[kanaNumber(run)]) {
+            const auto* const row = std::ranges::find_if(
+                kanaSpellings, [&](const Substitute& each) { return run.starts_with(each.sight); });
+            size = row != kanaSpellings.end() ? row->sight.size() : size;
+            text = row != kanaSpellings.end() ? row->text : text;
+        }
+        out += text;
         run.remove_prefix(size);
     }
 }
@@ -125,8 +145,10 @@ bool isLetter(char c)
 
 } // namespace
 
-LooseForm::LooseForm(std::string_view folded)
+void LooseForm::set(std::string_view folded)
 {
+    text.clear();
+    edges.clear();
     Edge next = Edge::Part;
     bool afterBlank = false;
     const auto take = [&](std::string_view run, WordClass wordClass) {
@@ -188,12 +210,16 @@ bool isNumeral(std::string_view loose)
     return !loose.empty() && std::ranges::all_of(loose, isDigit);
 }
 
+std::string_view withoutVersion(std::string_view folded)
+{
+    return folded.substr(0, folded.find('(', 1));
+}
+
 std::vector<std::string_view> titlesProper(std::string_view folded)
 {
     constexpr std::string_view between = " / ";
     std::vector<std::string_view> titles;
-    if (const auto bracket = folded.find('(', 1); bracket != std::string_view::npos)
-        folded = folded.substr(0, bracket);
+    folded = withoutVersion(folded);
     while (true) {
         const auto end = folded.find(between);
         titles.push_back(folded.substr(0, end));

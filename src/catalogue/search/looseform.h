@@ -24,7 +24,8 @@ struct LooseForm {
 
     LooseForm() = default;
     /// `folded` is a folded text.
-    explicit LooseForm(std::string_view folded);
+    explicit LooseForm(std::string_view folded) { set(folded); }
+    void set(std::string_view folded);
 
     void append(std::string_view word, Edge before);
     /// Makes a part of what stands behind these words, where the text begins with them.
@@ -39,8 +40,10 @@ std::string looseWord(std::string_view folded);
 /// True for a word that is a numeral, in loose form only digits.
 bool isNumeral(std::string_view loose);
 
-/// A title's alternatives, as " / " parts them, each up to its first bracket, which in most titles tells only
-/// of the version.
+/// A title up to its first bracket, which in most titles tells only of the version.
+std::string_view withoutVersion(std::string_view folded);
+
+/// A title's alternatives, as " / " parts them, without version.
 std::vector<std::string_view> titlesProper(std::string_view folded);
 
 /// The first letters of the words of each part of a title, and of all of it, with its numbers: "mvc2". Those

@@ -21,6 +21,8 @@ public:
     void add(FieldMark mark, std::string_view folded);
     /// Folds the text on the way, as far as it is ASCII.
     void addFoldingAscii(FieldMark mark, std::string_view text);
+    /// Marks and texts that stand in bytes() already.
+    void repeat(std::size_t begin, std::size_t end) { m_bytes.append(m_bytes, begin, end - begin); }
     /// A record to which nothing was added has no place.
     void end();
     void removeLast();

@@ -1,8 +1,8 @@
 #include "catalogue/search/searchtexts.h"
 
 #include "catalogue/search/folding.h"
-#include "catalogue/search/kanareading.h"
-#include "catalogue/search/romaji.h"
+#include "catalogue/search/variantmaker.h"
+#include "core/encodings.h"
 
 #include <algorithm>
 #include <array>
@@ -78,98 +78,6 @@ std::size_t searchedBytes(std::span<const GameRecord> content)
     return bytes + content.size();
 }
 
-// Words of katakana are often parted by a dot, and as often not.
-std::string withoutMiddleDots(std::string_view text)
-{
-    std::string joined(text);
-    for (const std::string_view dot : {"・", "･"}) {
-        for (auto at = joined.find(dot); at != std::string::npos; at = joined.find(dot, at))
-            joined.erase(at, dot.size());
-    }
-    return joined;
-}
-
-// A reading has nothing but letters, blanks and the signs for what is left out.
-LooseForm looseReading(std::string_view reading)
-{
-    LooseForm form;
-    Edge next = Edge::Part;
-    for (const char c : reading) {
-        if (c == ' ' || c == partSign) {
-            next = std::max(next, c == ' ' ? Edge::Word : Edge::Part);
-            continue;
-        }
-        const bool meets = !form.text.empty() && (c == unreadSign) != (form.text.back() == unreadSign);
-        form.edges.push_back(next == Edge::None && meets ? Edge::Word : next);
-        form.text += c;
-        next = Edge::None;
-    }
-    return form;
-}
-
-void addReadings(LooseBuffer& romaji, FieldMark mark, std::string_view text)
-{
-    for (const std::string& reading : romajiReadings(text))
-        romaji.add(mark, looseReading(reading));
-}
-
-// Where one of its words reads like Japanese.
-void addRomanised(LooseBuffer& romaji, const LooseForm& title)
-{
-    const std::string_view text = title.text;
-    const auto wordAt = [&](std::size_t begin) { return text.substr(begin, title.wordEnd(begin) - begin); };
-    bool isJapanese = false;
-    for (std::size_t at = 0; at < text.size() && !isJapanese; at = title.wordEnd(at))
-        isJapanese = readsLikeJapanese(wordAt(at));
-    if (!isJapanese)
-        return;
-    LooseForm form;
-    for (std::size_t at = 0; at < text.size(); at = title.wordEnd(at)) {
-        const std::string_view word = wordAt(at);
-        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, title.edges[at]);
-    }
-    romaji.add(RomanisedMark, form);
-}
-
-// The maker's first word, which titles of systems begin with.
-LooseForm firstWord(std::string_view maker)
-{
-    return LooseForm(maker.substr(0, maker.find(' ')));
-}
-
-void addTitle(FoldedTexts& out, std::string_view folded, const LooseForm& maker)
-{
-    const std::vector<std::string_view> titles = titlesProper(folded);
-    const FieldMark mark = titles.size() > 1 ? AlternativeMark : TitleMark;
-    for (const std::string_view title : titles) {
-        LooseForm form(title);
-        form.beginPartBehind(maker);
-        out.loose.add(mark, form);
-        addReadings(out.romaji, mark, title);
-        addRomanised(out.romaji, form);
-        for (const std::string& letters : initials(form))
-            out.loose.add(InitialsMark, letters);
-    }
-}
-
-// What of a folded text is searched besides.
-void addVariants(FoldedTexts& out, FieldMark mark, std::string_view folded, const LooseForm& maker)
-{
-    if (mark == TitleMark)
-        return addTitle(out, folded, maker);
-    out.loose.add(mark, LooseForm(folded));
-    addReadings(out.romaji, mark, folded);
-}
-
-void addFolded(FoldedTexts& out, FieldMark mark, std::string_view text, const LooseForm& maker)
-{
-    const std::string form = tessera::folded(text);
-    out.texts.add(mark, form);
-    addVariants(out, mark, form, maker);
-    if (const std::string joined = withoutMiddleDots(text); joined.size() < text.size())
-        out.texts.add(mark, tessera::folded(joined));
-}
-
 // Calls `visit(mark, text)` for each text of a record.
 template <class Visit>
 void forEachText(std::string_view texts, Visit&& visit)
@@ -181,6 +89,51 @@ void forEachText(std::string_view texts, Visit&& visit)
         visit(static_cast<FieldMark>(texts.front()), texts.substr(1, size - 1));
         texts.remove_prefix(size);
     }
+}
+
+std::string_view makerOf(std::string_view texts)
+{
+    const std::size_t mark = texts.find(MakerMark);
+    if (mark == std::string_view::npos)
+        return {};
+    const std::string_view behind = texts.substr(mark + 1);
+    const auto* const end = std::ranges::find_if(behind, isFieldMark);
+    return behind.substr(0, static_cast<std::size_t>(end - behind.begin()));
+}
+
+// With their marks.
+void foldTexts(std::string& folded, std::string_view texts)
+{
+    folded.clear();
+    forEachText(texts, [&](FieldMark mark, std::string_view text) {
+        folded += static_cast<char>(mark);
+        appendFolded(folded, text);
+    });
+    folded += static_cast<char>(EndMark);
+}
+
+// Words of katakana are often parted by a dot, and as often not.
+std::string withoutMiddleDots(std::string_view text)
+{
+    std::string joined(text);
+    for (const std::string_view dot : {"・", "･"}) {
+        for (auto at = joined.find(dot); at != std::string::npos; at = joined.find(dot, at))
+            joined.erase(at, dot.size());
+    }
+    return joined;
+}
+
+void addFolded(SearchBuffer& buffer, std::uint32_t record, std::string_view folded, std::string_view unfolded)
+{
+    buffer.begin(record);
+    forEachText(folded, [&](FieldMark mark, std::string_view text) { buffer.add(mark, text); });
+    forEachText(unfolded, [&](FieldMark mark, std::string_view text) {
+        if (isAscii(text))
+            return;
+        if (const std::string joined = withoutMiddleDots(text); joined.size() < text.size())
+            buffer.add(mark, tessera::folded(joined));
+    });
+    buffer.end();
 }
 
 } // namespace
@@ -207,26 +160,19 @@ SearchTexts::SearchTexts(std::span<const GameRecord> content)
 FoldedTexts SearchTexts::fold(const UnfoldedTexts& unfolded, const std::stop_token& stop)
 {
     FoldedTexts out;
+    VariantMaker variants(out.loose, out.romaji);
+    std::string folded;
     for (std::size_t place = 0; place < unfolded.texts.records() && !stop.stop_requested(); ++place) {
         const std::uint32_t record = unfolded.texts.record(place);
-        const bool isPlain = place < unfolded.plain;
-        out.texts.begin(record);
-        out.loose.begin(record);
-        out.romaji.begin(record);
-        LooseForm maker;
-        forEachText(unfolded.texts.texts(place), [&](FieldMark mark, std::string_view text) {
-            if (mark == MakerMark)
-                maker = firstWord(isPlain ? std::string(text) : tessera::folded(text));
-        });
-        forEachText(unfolded.texts.texts(place), [&](FieldMark mark, std::string_view text) {
-            if (isPlain)
-                addVariants(out, mark, text, maker);
-            else
-                addFolded(out, mark, text, maker);
-        });
-        out.texts.end();
-        out.loose.end();
-        out.romaji.end();
+        std::string_view texts = unfolded.texts.texts(place);
+        if (place >= unfolded.plain) {
+            foldTexts(folded, texts);
+            addFolded(out.texts, record, folded, texts);
+            texts = folded;
+        }
+        variants.begin(record, makerOf(texts));
+        forEachText(texts, [&](FieldMark mark, std::string_view text) { variants.add(mark, text); });
+        variants.end();
     }
     return out;
 }

@@ -1,8 +1,9 @@
 #include "catalogue/search/folding.h"
 
+#include "catalogue/samplerecords.h"
 #include "support/testmain.h"
 
-#include "catalogue/samplerecords.h"
+#include <array>
 
 using namespace tessera;
 
@@ -11,6 +12,21 @@ class FoldingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // Texts of ordinary signs take a short way, which an accent closes.
+    void bothWaysOfFoldingAgree()
+    {
+        constexpr std::array<std::pair<char32_t, char32_t>, 4> ranges{
+            {{U' ', U'~'}, {U'ぁ', U'ヿ'}, {U'一', U'乿'}, {U'鿀', U'鿿'}}};
+        for (const auto& [first, last] : ranges) {
+            for (char32_t c = first; c <= last; ++c) {
+                const std::u32string signs{U'か', c, U'-', c, U'ー', U'x'};
+                const std::string text
+                    = QString::fromUcs4(signs.data(), static_cast<qsizetype>(signs.size())).toStdString();
+                QCOMPARE(folded(text) + " e", folded(text + " é"));
+            }
+        }
+    }
+
     void whatPeopleTakeForTheSameTextFoldsAlike_data()
     {
         QTest::addColumn<QString>("one");

@@ -187,6 +187,15 @@ private Q_SLOTS:
         QTest::newRow("nor its middle") << QStringLiteral("asu") << QString();
         QTest::newRow("but longer ones do") << QStringLiteral("raiasu") << QStringLiteral("darius2 darius");
     }
+    // What was made of a title is used for the next record that has it.
+    void theSameTitleOfAnotherMakerHasPartsOfItsOwn()
+    {
+        const Machines machines{{.name = "other", .title = "Sony Station (v1)", .maker = "Acme"},
+                                {.name = "console", .title = "Sony Station (v2)", .maker = "Sony"},
+                                {.name = "third", .title = "Sony Station (v3)", .maker = "Acme"}};
+        QCOMPARE(ranked(machines, QStringLiteral("station")), QStringLiteral("console other third"));
+    }
+
     void initialsHaveThreeLettersOrANumber()
     {
         const Machines machines{
