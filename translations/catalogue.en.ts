@@ -29,6 +29,7 @@
     <message id="search_help_status"><source></source><translation>How well the emulator runs it: status:good, status:imperfect, status:preliminary</translation></message>
     <message id="search_help_type"><source></source><translation>The kind of machine: type:game, type:bios, type:mechanical, type:device</translation></message>
     <message id="search_help_year"><source></source><translation>Released in this year or span: year:1985, year:1985-1989, year:1985-, year:-1989</translation></message>
+    <message id="search_nearest"><source></source><translation>Nothing has these letters. Nearest:</translation></message>
     <message id="search_no_value"><source></source><translation>“%1” lacks a value.</translation></message>
     <message id="search_no_words"><source></source><translation>“%1” holds nothing to search for.</translation></message>
     <message id="search_open_quote"><source></source><translation>The closing quotation mark is missing.</translation></message>

@@ -29,6 +29,7 @@
     <message id="search_help_status"><source></source><translation>エミュレーターでの動作状況: status:good、status:imperfect、status:preliminary</translation></message>
     <message id="search_help_type"><source></source><translation>機械の種類: type:game、type:bios、type:mechanical、type:device</translation></message>
     <message id="search_help_year"><source></source><translation>発売年またはその範囲: year:1985、year:1985-1989、year:1985-、year:-1989</translation></message>
+    <message id="search_nearest"><source></source><translation>この文字を含むものはありません。近いもの：</translation></message>
     <message id="search_no_value"><source></source><translation>“%1”に値がありません。</translation></message>
     <message id="search_no_words"><source></source><translation>“%1”には検索できる文字がありません。</translation></message>
     <message id="search_open_quote"><source></source><translation>閉じる引用符がありません。</translation></message>

@@ -46,6 +46,7 @@
     <message id="appearance_note"><source></source><translation>An archive is looked for under the set name in the ROM folder: pong.zip.</translation></message>
     <message id="search_placeholder"><source></source><translation>Search title, set, maker, year</translation></message>
     <message id="search_field"><source></source><translation>Search</translation></message>
+    <message id="search_return_again"><source></source><translation>This is only the nearest. Return starts “%1” when it is pressed again.</translation></message>
     <message id="search_terms"><source></source><translation>Search terms</translation></message>
     <message id="chips_families"><source></source><translation>Families</translation></message>
     <message id="chips_families_help"><source></source><translation>Fold clones beneath their parents</translation></message>

@@ -46,6 +46,7 @@
     <message id="appearance_note"><source></source><translation>アーカイブは ROM フォルダの中をセット名で探します（例: pong.zip）。</translation></message>
     <message id="search_placeholder"><source></source><translation>タイトル・セット・メーカー・年を検索</translation></message>
     <message id="search_field"><source></source><translation>検索</translation></message>
+    <message id="search_return_again"><source></source><translation>近いものを表示しています。もう一度リターンを押すと“%1”を起動します。</translation></message>
     <message id="search_terms"><source></source><translation>検索条件</translation></message>
     <message id="chips_families"><source></source><translation>ファミリー</translation></message>
     <message id="chips_families_help"><source></source><translation>クローンを親セットの下にまとめる</translation></message>

@@ -76,6 +76,7 @@ void Program::joinStatusLine()
     connect(&launches, &LaunchController::statusMessage, &status, say);
     connect(&paths, &PathChooser::statusMessage, &status, say);
     connect(&tableFont, &TableFont::statusMessage, &status, say);
+    connect(&gameList, &GameListController::statusMessage, &status, say);
     connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
 }
 

@@ -67,6 +67,8 @@ public:
     bool ascending() const { return m_ascending; }
     /// The best ranked come first.
     bool isRanked() const { return m_ranks && m_found && !m_found->ranks.empty(); }
+    /// Nothing was found: the rows are the nearest.
+    bool isNearest() const { return m_found && m_found->isNearest; }
     /// How many clones belong to a row, shown or folded.
     std::uint32_t clones(std::size_t row) const { return m_clones.empty() ? 0 : m_clones[row]; }
 

@@ -15,6 +15,8 @@ struct Found {
     std::vector<std::uint32_t> ranks;
     /// Clones among them are shown, also where families are folded.
     bool opensFamilies = false;
+    /// Nothing was found: these are the nearest.
+    bool isNearest = false;
 };
 
 } // namespace tessera

@@ -108,6 +108,63 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("gradius"));
     }
 
+    void whatIsNearestStandsUnderASentence()
+    {
+        const auto* complaint = window().chipBar->findChild<QLabel*>(QStringLiteral("complaintLabel"));
+        QTRY_COMPARE((search(QStringLiteral("gradisu")), shown()), QStringLiteral("gradius gradius3"));
+        QVERIFY(complaint->isVisible());
+        QCOMPARE(complaint->text(), QStringLiteral("search_nearest"));
+        QVERIFY(!window().emptyState->isVisible());
+        click(Chip::Working);
+        QCOMPARE(shown(), QStringLiteral("gradius"));
+        click(Chip::Bios);
+        QVERIFY(window().emptyState->isVisible());
+        QVERIFY(!complaint->isVisible());
+        click(Chip::All);
+        QVERIFY(complaint->isVisible());
+        // What has the letters stands alone.
+        search(QStringLiteral("gradius"));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        QVERIFY(!complaint->isVisible());
+        search(QStringLiteral("gradisu"));
+        search(QString());
+        QVERIFY(!complaint->isVisible());
+        QCOMPARE(shown(), all);
+    }
+
+    void returnStartsWhatIsOnlyNearTheSecondTime_data()
+    {
+        QTest::addColumn<bool>("inTable");
+        QTest::newRow("in the field") << false;
+        QTest::newRow("in the table") << true;
+    }
+
+    void returnStartsWhatIsOnlyNearTheSecondTime()
+    {
+        QFETCH(bool, inTable);
+        QTRY_COMPARE((search(QStringLiteral("gradisu")), shown()), QStringLiteral("gradius gradius3"));
+        QWidget* focus = inTable ? static_cast<QWidget*>(window().gameTable) : field();
+        focus->setFocus();
+        const QSignalSpy asked(&list(), &GameListController::statusMessage);
+        const QSignalSpy started(&list(), &GameListController::launchRequested);
+        QTest::keyClick(focus, Qt::Key_Return);
+        QCOMPARE(asked.size(), 1);
+        QVERIFY(asked[0][0].toString().startsWith(QStringLiteral("search_return_again")));
+        // Another row is asked about anew, and so is the same one once other letters were typed.
+        QVERIFY(list().selectGame(QStringLiteral("gradius3")));
+        QTest::keyClick(focus, Qt::Key_Return);
+        QCOMPARE(asked.size(), 2);
+        search(QStringLiteral("gradiuss"));
+        QVERIFY(list().selectGame(QStringLiteral("gradius3")));
+        QTest::keyClick(focus, Qt::Key_Return);
+        QCOMPARE(asked.size(), 3);
+        QCOMPARE(started.size(), 0);
+        QTest::keyClick(focus, Qt::Key_Return);
+        QCOMPARE(asked.size(), 3);
+        QCOMPARE(started.size(), 1);
+        QCOMPARE(started[0][0].toString(), QStringLiteral("gradius3"));
+    }
+
     // Every telling arranges what stands around the list once more.
     void whatChangesIsToldOnce()
     {

@@ -56,7 +56,8 @@ void Finding::joinField()
     connect(field, &QLineEdit::textChanged, &m_finder, &GameFinder::setQuery);
     connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
     connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
-    connect(field, &QLineEdit::returnPressed, m_parts.window.gameTable, &GameTableView::doubleAction);
+    connect(&m_finder, &GameFinder::changed, this, &Finding::complain);
+    connect(field, &QLineEdit::returnPressed, &m_parts.list, &GameListController::startByReturn);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_parts.window.gameTable->setFocus();
         if (m_parts.list.firstRow() < 0)
@@ -80,15 +81,23 @@ FilterPanel& Finding::panel()
     return *m_panel;
 }
 
-// What is wrong stands beside the chips; a term that is half typed is no complaint.
 void Finding::showQuery()
 {
     m_parts.window.searchField->markTerms(m_finder.query());
+    complain();
+}
+
+// What is wrong stands beside the chips; a term that is half typed is no complaint.
+void Finding::complain()
+{
     QStringList wrong;
     for (const Term& term : m_finder.query().terms()) {
         if (term.state == Term::State::Wrong && term.why)
             wrong << term.why->text();
     }
+    const ArrangedList& list = m_parts.list.list();
+    if (list.isNearest() && list.size() > 0)
+        wrong << qtTrId("search_nearest");
     m_parts.window.chipBar->complain(wrong.join(u' '));
 }
 

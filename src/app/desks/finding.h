@@ -50,6 +50,7 @@ public Q_SLOTS:
 private:
     void joinField();
     void showQuery();
+    void complain();
     void showSort();
     void takeProfile(const QString& executable, const ProfileAnswer& answer);
     void readRomFolders();

@@ -127,7 +127,15 @@ Found found(std::span<const GameRecord> records, const Query& query)
         search.setHaves(
             RomFolders(folder ? std::optional(folder->toString()) : std::nullopt, folders).haves(records));
     }
-    return search.find(query);
+    Found found = search.find(query);
+    if (found.records.count() == 0) {
+        if (auto nearest = search.findNearest(query)) {
+            const Message sentence{"search_nearest", {}};
+            std::fprintf(stderr, "%s\n", qUtf8Printable(sentence.text()));
+            return std::move(*nearest);
+        }
+    }
+    return found;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "catalogue/search/gamesearch.h"
 
 #include "catalogue/search/jointranks.h"
+#include "catalogue/search/nearest.h"
 
 #include <algorithm>
 
@@ -40,6 +41,8 @@ public:
     void keepWithin(const RecordSet& records);
     void keepChip(Chip chip);
     void keepTerm(const Term& term);
+    /// Of those that are left the nearest ones.
+    std::optional<Found> nearest(std::span<const SearchedWords* const> words) const;
     Found found(const Query& query) const;
     bool isEmpty() const { return std::ranges::find(m_kept, std::uint8_t{1}) == m_kept.end(); }
 
@@ -157,6 +160,30 @@ Found Narrowing::found(const Query& query) const
     return {RecordSet::of(m_kept), ranks(query)};
 }
 
+std::optional<Found> Narrowing::nearest(std::span<const SearchedWords* const> words) const
+{
+    // What costs more than the nearest one and another half typed word is another game.
+    constexpr unsigned mostMore = 1;
+    std::vector<Distance> distances = tessera::distances(m_texts, m_facts.size(), words);
+    unsigned least = costOf(tooFar);
+    for (std::size_t i = 0; i < distances.size(); ++i) {
+        distances[i] = m_kept[i] != 0 ? distances[i] : tooFar;
+        least = std::min(least, costOf(distances[i]));
+    }
+    if (least == costOf(tooFar))
+        return std::nullopt;
+    Found found{RecordSet(m_facts.size()), std::vector<std::uint32_t>(m_facts.size())};
+    const std::span ties(m_facts.ties());
+    for (std::uint32_t i = 0; i < distances.size(); ++i) {
+        if (distances[i] == tooFar || costOf(distances[i]) > least + mostMore)
+            continue;
+        found.records.insert(i);
+        found.ranks[i] = std::uint32_t{distances[i]} << ContentFacts::tieBits | ties[i];
+    }
+    found.isNearest = true;
+    return found;
+}
+
 // Of the words together, where they make up a part of a title; looked for where they were found. One that was
 // taken out may have kept its number behind the last one.
 std::vector<Score> Narrowing::covered(std::span<const SearchedWords* const> words) const
@@ -210,6 +237,22 @@ Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) c
             return {RecordSet(m_facts.size()), {}};
     }
     return narrowing.found(query);
+}
+
+std::optional<Found> GameSearch::findNearest(const Query& query) const
+{
+    const std::vector<const SearchedWords*> words = query.rankedWords();
+    if (words.empty())
+        return std::nullopt;
+    Narrowing byWords(m_texts, m_facts, m_haves);
+    Narrowing byOthers(m_texts, m_facts, m_haves);
+    byWords.lookForPhrase(query);
+    for (const Term& term : query.terms()) {
+        const bool isWords = term.kind == TermKind::Words && !term.negated;
+        if (term.applies)
+            (isWords ? byWords : byOthers).keepTerm(term);
+    }
+    return byWords.isEmpty() ? byOthers.nearest(words) : std::nullopt;
 }
 
 void GameSearch::keep(Chip chip, RecordSet& records) const

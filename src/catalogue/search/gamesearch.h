@@ -43,6 +43,9 @@ public:
 
     /// What the chip and all terms let through, and `within` holds.
     Found find(const Query& query, Chip chip = Chip::All, const RecordSet* within = nullptr) const;
+    /// Where no record has the query's words: those whose titles are nearest to them, of what the other terms
+    /// let through. Nothing where these alone hide all that has the words.
+    std::optional<Found> findNearest(const Query& query) const;
     /// Takes out what a chip does not let through.
     void keep(Chip chip, RecordSet& records) const;
     ChipCounts chipCounts(const RecordSet* within = nullptr) const

@@ -64,8 +64,9 @@ bool isRomanNumeral(std::string_view word)
     return !isNumeral(word) && isNumeral(looseWord(word));
 }
 
-// What of Latin letters, or of kana, is searched among readings.
-std::string spelling(std::string_view word)
+} // namespace
+
+std::string readingOf(std::string_view word)
 {
     if (isRomaji(word))
         return isRomanNumeral(word) ? std::string() : withoutBlanks(shortRomajiSpelling(word));
@@ -80,8 +81,6 @@ bool mayBeJapanese(std::string_view word)
     return !isAscii(word) || readsLikeJapanese(word);
 }
 
-} // namespace
-
 std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
                               const WordRules& rules)
 {
@@ -94,7 +93,7 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
         findLoosely(texts.loose(), loose,
                     {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .field = rules.field},
                     best);
-    const std::string reading = spelling(words.text);
+    const std::string reading = readingOf(words.text);
     const bool isLong = reading.size() >= leastInside;
     const LooseRules asReading{.wholeOnly = words.ends == WordEnds::Whole,
                                .atBeginning = rules.negated || !isLong,
@@ -113,7 +112,7 @@ std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
     bool isJapanese = false;
     for (const SearchedWords* word : words) {
         const std::string form = looseWord(word->text);
-        const std::string spelt = spelling(word->text);
+        const std::string spelt = readingOf(word->text);
         loose += form;
         reading += spelt.empty() ? form : spelt;
         isJapanese = isJapanese || mayBeJapanese(word->text);

@@ -49,6 +49,11 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
 std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
                                 std::span<const SearchedWords* const> words);
 
+/// What of Latin letters, or of kana, is searched among readings; empty where there is none.
+std::string readingOf(std::string_view word);
+/// Kana, and Latin letters that read like Japanese.
+bool mayBeJapanese(std::string_view word);
+
 /// Whether the words stand in a text of their own, which is folded.
 bool holdsWords(std::string_view folded, const SearchedWords& words);
 

@@ -82,8 +82,11 @@ void GameFinder::foldTexts(GameSearch& search)
                     if (generation != m_generation || !m_search)
                         return;
                     m_search->take(std::move(*folded));
-                    if (!m_query.isEmpty())
-                        refresh();
+                    if (m_query.isEmpty())
+                        return;
+                    refresh();
+                    if (m_list.list().isRanked() && m_list.firstRow() < 0)
+                        m_list.selectRow(0);
                 },
                 Qt::QueuedConnection);
         });
@@ -247,6 +250,10 @@ const std::optional<RecordSet>& GameFinder::filtered()
 Found GameFinder::found()
 {
     Found found = search().find(m_query);
+    if (found.records.count() == 0) {
+        if (auto nearest = search().findNearest(m_query))
+            found = std::move(*nearest);
+    }
     if (const auto& filter = filtered())
         found.records.keep(*filter);
     found.opensFamilies = !m_query.isEmpty();

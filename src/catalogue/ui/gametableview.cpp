@@ -201,7 +201,7 @@ void GameTableView::keyPressEvent(QKeyEvent* event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isEditing = state() == EditingState;
     if (enter && !isEditing && event->modifiers() == Qt::NoModifier)
-        Q_EMIT doubleAction();
+        Q_EMIT returnAction();
     else if (!isEditing && isFamilyKey(event))
         Q_EMIT familyToggled(currentIndex().row());
     else if (!isEditing && isTyped(event))

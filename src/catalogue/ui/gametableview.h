@@ -45,8 +45,10 @@ public:
     std::vector<RowRange> selectedRanges() const;
 
 Q_SIGNALS:
-    /// A double click, on a row or beneath the rows, or Return.
+    /// A double click, on a row or beneath the rows.
     void doubleAction();
+    /// The Return key.
+    void returnAction();
     /// Other rows are selected, or another one of them is the first.
     void selectionDidChange();
     /// Letters that belong into the search field.

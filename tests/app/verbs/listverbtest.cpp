@@ -78,6 +78,27 @@ private Q_SLOTS:
         QTEST(names.join(' '), "names");
     }
 
+    void whatIsNearestIsPrintedAndSaidBeside()
+    {
+        const GameRecord records[]{
+            {{"game", "alien", "alien", "Alien", "Alien", "1980", "Sega", "good", ""}},
+            {{"game", "pong", "pong", "Pong", "Pong", "1972", "Atari", "good", ""}},
+        };
+        QVERIFY(writeStore(path(QStringLiteral("store.xml")), records));
+        const auto list = [&](const QString& query) {
+            return tessera({QStringLiteral("list"), QStringLiteral("--catalogue"),
+                            path(QStringLiteral("store.xml")), query});
+        };
+        const Outcome near = list(QStringLiteral("ailen"));
+        QCOMPARE(near.status, 0);
+        QCOMPARE(near.out, QByteArray("game\talien\talien\tAlien\tAlien\t1980\tSega\tgood\t\n"));
+        QCOMPARE(near.err, QByteArray("Nothing has these letters. Nearest:\n"));
+        const Outcome none = list(QStringLiteral("zzzzz"));
+        QCOMPARE(none.status, 0);
+        QCOMPARE(none.out + none.err, QByteArray());
+        QCOMPARE(list(QStringLiteral("alien")).err, QByteArray());
+    }
+
     void wrongTermsAreNamedOneByOne()
     {
         QVERIFY(writeStore(path(QStringLiteral("store.xml")), {}));
