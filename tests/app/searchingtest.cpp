@@ -1,6 +1,8 @@
 #include "stagedfinding.h"
 
 #include "app/windows/emptystate.h"
+#include "catalogue/recorddictionary.h"
+#include "catalogue/search/matches.h"
 #include "catalogue/ui/factspanel.h"
 #include "support/testmain.h"
 
@@ -130,6 +132,40 @@ private Q_SLOTS:
         search(QString());
         QVERIFY(!complaint->isVisible());
         QCOMPARE(shown(), all);
+    }
+
+    void whatWasFoundIsMarkedInTheRows_data()
+    {
+        QTest::addColumn<QString>("query");
+        QTest::addColumn<QStringList>("marked");
+        const auto row = [](const char* query, const QStringList& marked) {
+            QTest::newRow(query) << QString::fromUtf8(query) << marked;
+        };
+        row("gradius", {QStringLiteral("name"), QStringLiteral("title")});
+        row("グラ", {QStringLiteral("titlejp")});
+        row("konami", {QStringLiteral("maker")});
+        row("year:1985", {});
+        row("gradisu", {}); // only near
+    }
+
+    void whatWasFoundIsMarkedInTheRows()
+    {
+        QFETCH(QString, query);
+        QFETCH(QStringList, marked);
+        QTRY_VERIFY((search(query), list().list().size() > 0));
+        GameTableView& table = *window().gameTable;
+        const QImage withMarks = table.viewport()->grab().toImage();
+        table.showMatches(Matches());
+        const QImage without = table.viewport()->grab().toImage();
+        QStringList differing;
+        for (const Field field : {Field::Name, Field::Title, Field::Titlejp, Field::Maker, Field::Cloneof}) {
+            const int column = GameTableModel::columnOf(field);
+            const QRect cell(table.columnViewportPosition(column), 0, table.columnWidth(column),
+                             table.rowHeight(0));
+            if (withMarks.copy(cell) != without.copy(cell))
+                differing << fieldText(fieldName(field));
+        }
+        QCOMPARE(differing, marked);
     }
 
     void returnStartsWhatIsOnlyNearTheSecondTime_data()

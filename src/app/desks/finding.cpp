@@ -2,6 +2,7 @@
 
 #include "app/windows/mainwindow.h"
 #include "app/windows.h"
+#include "catalogue/search/matches.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -57,6 +58,7 @@ void Finding::joinField()
     connect(field, &QLineEdit::textChanged, this, &Finding::showQuery);
     connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
     connect(&m_finder, &GameFinder::changed, this, &Finding::complain);
+    connect(&m_finder, &GameFinder::changed, this, &Finding::showMatches);
     connect(field, &QLineEdit::returnPressed, &m_parts.list, &GameListController::startByReturn);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_parts.window.gameTable->setFocus();
@@ -99,6 +101,13 @@ void Finding::complain()
     if (list.isNearest() && list.size() > 0)
         wrong << qtTrId("search_nearest");
     m_parts.window.chipBar->complain(wrong.join(u' '));
+}
+
+void Finding::showMatches()
+{
+    // What is only near has other letters.
+    const bool isNearest = m_parts.list.list().isNearest();
+    m_parts.window.gameTable->showMatches(isNearest ? Matches() : Matches(m_finder.query()));
 }
 
 void Finding::showSort()

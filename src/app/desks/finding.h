@@ -51,6 +51,7 @@ private:
     void joinField();
     void showQuery();
     void complain();
+    void showMatches();
     void showSort();
     void takeProfile(const QString& executable, const ProfileAnswer& answer);
     void readRomFolders();

@@ -98,6 +98,7 @@ public:
         m_doubles = false;
     }
 
+    const std::string& latin() const { return m_latin; }
     std::string take() { return std::move(m_latin); }
 
 private:
@@ -148,20 +149,29 @@ char unread(UChar32 c, UChar32 before)
     return c == ':' || (before == ' ' && (c == '-' || c == '~')) ? partSign : ' ';
 }
 
-std::string read(std::string_view folded, bool tellsDi)
+// Calls `read(begin, end)` behind each character, with its bytes.
+template <class Read>
+void readAll(Reading& reading, std::string_view folded, Read&& read)
 {
-    Reading reading(tellsDi);
     const auto size = static_cast<int32_t>(folded.size());
     UChar32 before = 0;
-    for (int32_t i = 0; i < size;) {
+    for (int32_t end = 0; end < size;) {
+        const int32_t begin = end;
         UChar32 c = 0;
-        U8_NEXT(folded.data(), i, size, c);
+        U8_NEXT(folded.data(), end, size, c);
         if (isKana(static_cast<char32_t>(c)))
             reading.add(static_cast<char32_t>(c));
         else
             reading.addUnread(unread(c, before));
         before = c;
+        read(static_cast<std::size_t>(begin), static_cast<std::size_t>(end));
     }
+}
+
+std::string read(std::string_view folded, bool tellsDi)
+{
+    Reading reading(tellsDi);
+    readAll(reading, folded, [](std::size_t, std::size_t) { });
     return reading.take();
 }
 
@@ -186,6 +196,34 @@ void addSpellings(std::vector<std::string>& readings, const std::string& latin)
 }
 
 } // namespace
+
+// A kana may change what was read before it, but for the first letters of that.
+PlacedReading placedReading(std::string_view folded)
+{
+    PlacedReading out;
+    if (isAscii(folded) || !holdsKana(folded))
+        return out;
+    Reading reading(false);
+    std::string before;
+    std::vector<PlacedReading::Place> places;
+    readAll(reading, folded, [&](std::size_t begin, std::size_t end) {
+        const std::string& latin = reading.latin();
+        const auto same = static_cast<std::size_t>(std::ranges::mismatch(before, latin).in1 - before.begin());
+        places.resize(same);
+        places.resize(latin.size(), {begin, end});
+        before = latin;
+    });
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        const std::string longer = out.latin + before[i];
+        if (withLongVowelsOnce(longer) == out.latin) {
+            out.places.back().end = places[i].end;
+            continue;
+        }
+        out.latin = longer;
+        out.places.push_back(places[i]);
+    }
+    return out;
+}
 
 std::vector<std::string> romajiReadings(std::string_view folded)
 {

@@ -15,4 +15,17 @@ inline constexpr char partSign = '/';
 /// Nothing where the text holds no kana. Any thread may read.
 std::vector<std::string> romajiReadings(std::string_view folded);
 
+/// A reading with long vowels written once, and of which bytes of the folded text each letter is read.
+struct PlacedReading {
+    struct Place {
+        std::size_t begin;
+        std::size_t end;
+    };
+
+    std::string latin;
+    std::vector<Place> places; // one a letter
+};
+/// Empty where the text holds no kana.
+PlacedReading placedReading(std::string_view folded);
+
 } // namespace tessera

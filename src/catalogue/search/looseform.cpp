@@ -143,25 +143,17 @@ bool isLetter(char c)
     return c >= 'a' && c <= 'z';
 }
 
-} // namespace
-
-void LooseForm::set(std::string_view folded)
+// Calls `visit(source, word, wordClass, before)` for each word, which most often is its source.
+template <class Visit>
+void forEachWord(std::string_view folded, Visit&& visit)
 {
-    text.clear();
-    edges.clear();
     Edge next = Edge::Part;
     bool afterBlank = false;
-    const auto take = [&](std::string_view run, WordClass wordClass) {
-        const bool isThe = next == Edge::Part && run == "the";
-        const Edge before = next == Edge::None ? Edge::Word : next;
-        if (isSpeltAsItIs(run, wordClass))
-            append(run, before);
-        else
-            append(spelt(run, wordClass), before);
+    const auto take = [&](std::string_view source, std::string_view word, WordClass wordClass) {
+        const bool isThe = next == Edge::Part && word == "the";
+        visit(source, word, wordClass, next == Edge::None ? Edge::Word : next);
         next = isThe ? Edge::Part : Edge::None;
     };
-    text.reserve(folded.size());
-    edges.reserve(folded.size());
     while (!folded.empty()) {
         const WordClass wordClass = classAt(folded, 0);
         const std::string_view run = wordClass == WordClass::None ? folded.substr(0, characterSize(folded))
@@ -169,12 +161,38 @@ void LooseForm::set(std::string_view folded)
         if (wordClass == WordClass::None)
             next = std::max(next, edgeBehind(run.front(), afterBlank));
         else
-            take(run, wordClass);
+            take(run, run, wordClass);
         if (run == "&")
-            take("and", WordClass::Letters);
+            take(run, "and", WordClass::Letters);
         afterBlank = run == " ";
         folded.remove_prefix(run.size());
     }
+}
+
+} // namespace
+
+void LooseForm::set(std::string_view folded)
+{
+    text.clear();
+    edges.clear();
+    text.reserve(folded.size());
+    edges.reserve(folded.size());
+    forEachWord(folded, [this](std::string_view, std::string_view word, WordClass wordClass, Edge before) {
+        if (isSpeltAsItIs(word, wordClass))
+            append(word, before);
+        else
+            append(spelt(word, wordClass), before);
+    });
+}
+
+std::vector<LooseWord> looseWords(std::string_view folded)
+{
+    std::vector<LooseWord> words;
+    forEachWord(folded,
+                [&](std::string_view source, std::string_view word, WordClass wordClass, Edge before) {
+                    words.push_back({source, spelt(word, wordClass), before});
+                });
+    return words;
 }
 
 void LooseForm::append(std::string_view word, Edge before)

@@ -34,6 +34,14 @@ struct LooseForm {
     std::size_t wordEnd(std::size_t place) const;
 };
 
+/// A word of a loose form, and what it is made of in the folded text.
+struct LooseWord {
+    std::string_view source;
+    std::string text;
+    Edge before;
+};
+std::vector<LooseWord> looseWords(std::string_view folded);
+
 /// What is searched for a word in loose forms; empty where it holds nothing but punctuation.
 std::string looseWord(std::string_view folded);
 

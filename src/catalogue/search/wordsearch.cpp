@@ -76,6 +76,11 @@ std::string readingOf(std::string_view word)
     return withoutBlanks(readings.front());
 }
 
+bool mayStandInside(std::string_view word, std::string_view reading)
+{
+    return reading.size() >= leastInside && isRomaji(word);
+}
+
 bool mayBeJapanese(std::string_view word)
 {
     return !isAscii(word) || readsLikeJapanese(word);

@@ -51,6 +51,8 @@ std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
 
 /// What of Latin letters, or of kana, is searched among readings; empty where there is none.
 std::string readingOf(std::string_view word);
+/// Whether its reading counts inside of a text's words, too.
+bool mayStandInside(std::string_view word, std::string_view reading);
 /// Kana, and Latin letters that read like Japanese.
 bool mayBeJapanese(std::string_view word);
 

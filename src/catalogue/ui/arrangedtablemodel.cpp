@@ -4,6 +4,7 @@
 #include "catalogue/gametypetransformer.h"
 #include "catalogue/recorddictionary.h"
 #include "catalogue/statusmark.h"
+#include "catalogue/ui/matchdelegate.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/fontname.h"
 #include "widgets/theme.h"
@@ -87,6 +88,8 @@ QVariant ArrangedTableModel::data(const QModelIndex& index, int role) const
             return QString(fieldText(record[Field::Name]) + QStringLiteral(" · ")
                            + fieldText(record[Field::Status]));
         return QVariant();
+    case MatchDelegate::FieldRole:
+        return field ? QVariant(static_cast<int>(*field)) : QVariant();
     case Qt::ForegroundRole:
         if (const auto color = m_colors.transformedValue(fieldText(record[Field::Name])))
             return *color;

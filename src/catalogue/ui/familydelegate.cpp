@@ -45,7 +45,7 @@ void FamilyDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
                                            : isOther ? "otherrow"
                                                      : "base"));
     }
-    QStyledItemDelegate::paint(painter, inner, index);
+    MatchDelegate::paint(painter, inner, index);
     if (text.isEmpty())
         return;
     painter->save();

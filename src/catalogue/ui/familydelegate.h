@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "catalogue/ui/matchdelegate.h"
 
 namespace tessera {
 
 /// Draws the first column of a list with families: a parent with the number of its clones, a clone further
 /// in.
-class FamilyDelegate : public QStyledItemDelegate
+class FamilyDelegate : public MatchDelegate
 {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     /// What a model says of a row besides its texts.
     enum Role { ClonesRole = Qt::UserRole, IsOpenRole, IsCloneRole };
 
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using MatchDelegate::MatchDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

@@ -30,6 +30,8 @@ bool isTyped(const QKeyEvent* event)
 
 GameTableView::GameTableView(QWidget* parent)
     : QTableView(parent)
+    , m_texts(new MatchDelegate(this))
+    , m_families(new FamilyDelegate(this))
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -53,9 +55,9 @@ GameTableView::GameTableView(QWidget* parent)
     horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &GameTableView::showColumnsMenu);
-    auto* families = new FamilyDelegate(this);
-    setItemDelegateForColumn(0, families);
-    connect(families, &FamilyDelegate::toggled, this, &GameTableView::familyToggled);
+    setItemDelegate(m_texts);
+    setItemDelegateForColumn(0, m_families);
+    connect(m_families, &FamilyDelegate::toggled, this, &GameTableView::familyToggled);
     // Of the left button only: see mouseDoubleClickEvent().
     connect(this, &QTableView::doubleClicked, this, &GameTableView::doubleAction);
 }
@@ -70,6 +72,13 @@ void GameTableView::followRowHeight(const DefaultsController& defaults)
     };
     apply();
     connect(&defaults, &DefaultsController::changed, this, apply);
+}
+
+void GameTableView::showMatches(const Matches& matches)
+{
+    m_texts->setMatches(matches);
+    m_families->setMatches(matches);
+    viewport()->update();
 }
 
 void GameTableView::commitOpenEditor()

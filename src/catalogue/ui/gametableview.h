@@ -6,6 +6,10 @@ class QMenu;
 
 namespace tessera {
 
+class FamilyDelegate;
+class MatchDelegate;
+class Matches;
+
 class DefaultsController;
 
 /// Rows that stand together.
@@ -32,6 +36,8 @@ public:
     void copySelection() const;
     /// At once, so that the scroll bars fit the rows.
     void layOut() { executeDelayedItemsLayout(); }
+    /// Marks in the rows what they were found by.
+    void showMatches(const Matches& matches);
     /// A tick for each column; the last one that is shown stays.
     void fillColumnsMenu(QMenu& menu);
 
@@ -74,6 +80,8 @@ private:
     QModelIndex firstSelected() const;
     int rowsSelected() const;
 
+    MatchDelegate* m_texts;
+    FamilyDelegate* m_families;
     bool m_selectsAlone = false;
     // While the rows change places.
     QPersistentModelIndex m_firstSelected;

@@ -24,6 +24,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/recordeditor.h"
+#include "catalogue/ui/searchfield.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "info/ui/historyobject.h"
 #include "info/ui/historywindow.h"
@@ -115,6 +116,19 @@ void stage(test::StagedApp& staged, const QString& catalogue)
     staged.defaults.setValue(keys::HistoryPath.name, staged.path(QStringLiteral("history.dat")));
 }
 
+// What a search marks, and what is only near.
+void takeSearches(test::App& app, Album& album)
+{
+    SearchField& field = *app.mainWindow().searchField;
+    for (const auto& [text, name] :
+         {std::pair(u"rtype", "search-punctuation"), std::pair(u"guradi", "search-romaji"),
+          std::pair(u"gradious", "search-nearest")}) {
+        field.setText(QString::fromUtf16(text));
+        album.take(app.mainWindow(), QLatin1String(name));
+    }
+    field.clear();
+}
+
 void takeViews(test::App& app, Album& album)
 {
     album.take(app.mainWindow(), QStringLiteral("main"));
@@ -127,6 +141,7 @@ void takeViews(test::App& app, Album& album)
         album.take(app.mainWindow(), QStringLiteral("main-%1").arg(width));
     }
     app.mainWindow().resize(usual);
+    takeSearches(app, album);
     for (const char* set : {"pong", "qix", "galaga"}) {
         if (app.gameList().selectGame(QLatin1String(set)))
             app.addFavorite();

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "catalogue/gamerecord.h"
+#include "catalogue/search/query.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace tessera {
+
+/// Finds in the texts of found records what a query was found by, to be shown there.
+class Matches
+{
+public:
+    /// Places in a text, in QChars.
+    struct Range {
+        qsizetype begin;
+        qsizetype end;
+
+        bool operator==(const Range&) const = default;
+    };
+
+    Matches() = default;
+    explicit Matches(const Query& query);
+
+    bool isEmpty() const { return m_words.empty() && m_makers.empty(); }
+    /// In sequence, and parted from each other.
+    std::vector<Range> in(const QString& text, Field field) const;
+
+private:
+    std::vector<SearchedWords> m_words;
+    std::vector<SearchedWords> m_makers;
+};
+
+} // namespace tessera
