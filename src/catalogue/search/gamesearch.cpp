@@ -212,6 +212,7 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
             joint.improve(m_phrase);
         joint.improve(covered(words));
     }
+    joint.lower([this](std::size_t i) { return m_facts[i].type == GameType::Device; });
     std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);
     const std::span ties(m_facts.ties());
     for (std::size_t i = 0; i < ranks.size(); ++i)

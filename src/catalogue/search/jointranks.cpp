@@ -37,6 +37,12 @@ void JointRanks::improve(std::span<const Score> scores)
     }
 }
 
+Score JointRanks::lowered(Score score)
+{
+    constexpr unsigned steps = static_cast<unsigned>(Rank::Initials) - static_cast<unsigned>(Rank::Covered);
+    return static_cast<Score>(score + (steps << formBits));
+}
+
 std::vector<std::uint32_t> JointRanks::ranks(unsigned free) const
 {
     std::vector<std::uint32_t> ranks(m_worst.size());

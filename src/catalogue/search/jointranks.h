@@ -19,10 +19,24 @@ public:
     /// Of the words together, where that is better than the worst of them.
     void improve(std::span<const Score> scores);
 
+    /// What is not meant unless it is named in full comes behind all others: a cartridge whose title begins
+    /// with the name of its system.
+    template <class Test>
+    void lower(Test test)
+    {
+        for (std::size_t i = 0; i < m_worst.size(); ++i) {
+            const Rank rank = rankOf(m_worst[i]);
+            if (rank > Rank::Covered && rank != Rank::None && test(i))
+                m_worst[i] = lowered(m_worst[i]);
+        }
+    }
+
     /// One a record: rank, sum, so many free bits, form.
     std::vector<std::uint32_t> ranks(unsigned free) const;
 
 private:
+    static Score lowered(Score score);
+
     std::vector<Score> m_worst;
     std::vector<std::uint8_t> m_sum;
 };

@@ -62,7 +62,9 @@ public:
                 sum = 0;
             }
         }
-        return {worst >> 2, sum, worst & 3};
+        const int rank = worst >> 2;
+        const bool isLowered = m_record[Field::Type] == "device" && rank > static_cast<int>(Rank::Covered);
+        return {isLowered ? rank + 6 : rank, sum, worst & 3};
     }
 
     /// What decides between two that fit equally well; `content` is all records.

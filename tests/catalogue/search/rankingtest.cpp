@@ -104,6 +104,21 @@ private Q_SLOTS:
                  QStringLiteral("one two"));
     }
 
+    void aDeviceIsMeantOnlyWhereItIsNamedInFull()
+    {
+        const Machine device{.name = "card", .title = "Zoom Card", .type = "device"};
+        QCOMPARE(ranked({device, {"game", "Vegas (Zoom Edition)"}}, QStringLiteral("zoom")),
+                 QStringLiteral("game card"));
+        QCOMPARE(ranked({device, {"zcard", "The Oom (Zoom Card)"}}, QStringLiteral("zoom card")),
+                 QStringLiteral("card zcard"));
+        QCOMPARE(ranked({device, {"cardz", "Cardinal"}}, QStringLiteral("card")),
+                 QStringLiteral("card cardz"));
+        // Among themselves as all others.
+        QCOMPARE(
+            ranked({{.name = "in", .title = "Razoomer", .type = "device"}, device}, QStringLiteral("zoom")),
+            QStringLiteral("card in"));
+    }
+
     void aQueryFindsFirst_data()
     {
         QTest::addColumn<QString>("query");
