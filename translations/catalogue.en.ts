@@ -26,9 +26,13 @@
     <message id="search_help_device"><source></source><translation>Its first media device: device:cdrom, device:cassette</translation></message>
     <message id="search_help_have"><source></source><translation>Its ROMs are in your folders: have:yes, have:no; have:own for an archive of its own, have:parent where only the parent’s is there</translation></message>
     <message id="search_help_maker"><source></source><translation>The maker’s name holds this text: maker:konami, maker:&quot;taito corporation&quot;</translation></message>
-    <message id="search_help_status"><source></source><translation>How well the emulator runs it: status:good, status:imperfect, status:preliminary</translation></message>
+    <message id="search_help_name"><source></source><translation>Its set name holds this text: name:sf2</translation></message>
+    <message id="search_help_parent"><source></source><translation>The set of this name and its clones: parent:puckman</translation></message>
+    <message id="search_help_status"><source></source><translation>How well the emulator runs it: status:good, status:imperfect, status:preliminary; status:working is good or imperfect</translation></message>
+    <message id="search_help_title"><source></source><translation>One of its titles holds this: title:gradius, title:&quot;road fighter&quot;</translation></message>
     <message id="search_help_type"><source></source><translation>The kind of machine: type:game, type:bios, type:mechanical, type:device</translation></message>
-    <message id="search_help_year"><source></source><translation>Released in this year or span: year:1985, year:1985-1989, year:1985-, year:-1989</translation></message>
+    <message id="search_help_year"><source></source><translation>Released in this year or span: year:1985, year:85, year:80s, year:1985-1989, year:1985-, year:-1989</translation></message>
+    <message id="search_near_key"><source></source><translation>“%1” is not a search term. Did you mean “%3:”? The terms are: %2. Quotation marks search for the text itself.</translation></message>
     <message id="search_nearest"><source></source><translation>Nothing has these letters. Nearest:</translation></message>
     <message id="search_no_value"><source></source><translation>“%1” lacks a value.</translation></message>
     <message id="search_no_words"><source></source><translation>“%1” holds nothing to search for.</translation></message>
@@ -36,7 +40,7 @@
     <message id="search_reversed_years"><source></source><translation>“%1” ends before it begins.</translation></message>
     <message id="search_wrong_key"><source></source><translation>“%1” is not a search term. The terms are: %2. Quotation marks search for the text itself.</translation></message>
     <message id="search_wrong_value"><source></source><translation>“%1” is not a value for “%2”. Its values are: %3.</translation></message>
-    <message id="search_wrong_year"><source></source><translation>“%1” is not a year or a span of years such as 1985, 1985-1989, 1985- or -1989.</translation></message>
+    <message id="search_wrong_year"><source></source><translation>“%1” is not a year or a span of years such as 1985, 85, 80s, 1985-1989, 1985- or -1989.</translation></message>
     <message id="undo_edit_record"><source></source><translation>Edit Record</translation></message>
     <message id="undo_remove_records"><source></source><translation>Remove Machines</translation></message>
     <message id="compare_is"><source></source><translation>is</translation></message>

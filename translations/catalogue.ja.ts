@@ -26,9 +26,13 @@
     <message id="search_help_device"><source></source><translation>最初のメディア装置: device:cdrom、device:cassette</translation></message>
     <message id="search_help_have"><source></source><translation>ROMがフォルダーにあるかどうか: have:yes、have:no。have:ownは自身のアーカイブがあるもの、have:parentは親のアーカイブだけがあるもの</translation></message>
     <message id="search_help_maker"><source></source><translation>メーカー名にこの文字を含むもの: maker:konami、maker:&quot;taito corporation&quot;</translation></message>
-    <message id="search_help_status"><source></source><translation>エミュレーターでの動作状況: status:good、status:imperfect、status:preliminary</translation></message>
+    <message id="search_help_name"><source></source><translation>セット名にこの文字を含むもの: name:sf2</translation></message>
+    <message id="search_help_parent"><source></source><translation>この名前のセットとそのクローン: parent:puckman</translation></message>
+    <message id="search_help_status"><source></source><translation>エミュレーターでの動作状況: status:good、status:imperfect、status:preliminary。status:workingはgoodとimperfectの両方</translation></message>
+    <message id="search_help_title"><source></source><translation>タイトルにこの言葉を含むもの: title:gradius、title:&quot;road fighter&quot;</translation></message>
     <message id="search_help_type"><source></source><translation>機械の種類: type:game、type:bios、type:mechanical、type:device</translation></message>
-    <message id="search_help_year"><source></source><translation>発売年またはその範囲: year:1985、year:1985-1989、year:1985-、year:-1989</translation></message>
+    <message id="search_help_year"><source></source><translation>発売年またはその範囲: year:1985、year:85、year:80s、year:1985-1989、year:1985-、year:-1989</translation></message>
+    <message id="search_near_key"><source></source><translation>“%1”という検索条件はありません。“%3:”のことですか？ 使える条件: %2。文字そのものを探すには引用符で囲んでください。</translation></message>
     <message id="search_nearest"><source></source><translation>この文字を含むものはありません。近いもの：</translation></message>
     <message id="search_no_value"><source></source><translation>“%1”に値がありません。</translation></message>
     <message id="search_no_words"><source></source><translation>“%1”には検索できる文字がありません。</translation></message>
@@ -36,7 +40,7 @@
     <message id="search_reversed_years"><source></source><translation>“%1”は終わりが始まりより前です。</translation></message>
     <message id="search_wrong_key"><source></source><translation>“%1”という検索条件はありません。使える条件: %2。文字そのものを探すには引用符で囲んでください。</translation></message>
     <message id="search_wrong_value"><source></source><translation>“%1”は“%2”の値ではありません。使える値: %3。</translation></message>
-    <message id="search_wrong_year"><source></source><translation>“%1”は年でも年の範囲でもありません。例: 1985、1985-1989、1985-、-1989。</translation></message>
+    <message id="search_wrong_year"><source></source><translation>“%1”は年でも年の範囲でもありません。例: 1985、85、80s、1985-1989、1985-、-1989。</translation></message>
     <message id="undo_edit_record"><source></source><translation>レコードの編集</translation></message>
     <message id="undo_remove_records"><source></source><translation>マシンの削除</translation></message>
     <message id="compare_is"><source></source><translation>が次と等しい</translation></message>

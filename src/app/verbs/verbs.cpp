@@ -48,7 +48,7 @@ constexpr std::array table{
          &runLaunch},
     Verb{"list", "[--catalogue FILE] [--format tsv|json] [QUERY]... [-- -WORD...]",
          "Print the catalogue's records that a query finds, the best fit first: words, \"exact words\", "
-         "maker: year: status: type: clone: have: device:, and -WORD behind \"--\".",
+         "title: name: maker: year: status: type: parent: clone: have: device:, and -WORD behind \"--\".",
          &runList},
     Verb{"picture", "NAME --folder DIR [--parent NAME] [--no-parent]",
          "Print the path of the picture that a folder has of a set: NAME/0000.png, or NAME.png, or the same "

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace tessera {
@@ -18,6 +19,19 @@ enum FieldMark : char {
     YearMark,
     EndMark
 };
+
+/// Some of the fields, one bit each.
+using FieldSet = std::uint16_t;
+inline constexpr FieldSet everyField = 0xFFFF;
+
+constexpr FieldSet setOf(FieldMark mark)
+{
+    return static_cast<FieldSet>(1U << static_cast<unsigned>(mark));
+}
+
+/// All that is made of the titles.
+inline constexpr FieldSet titleFields
+    = setOf(TitleMark) | setOf(AlternativeMark) | setOf(RomanisedMark) | setOf(InitialsMark);
 
 constexpr bool isFieldMark(char c)
 {

@@ -24,6 +24,21 @@ bool hasAsked(Have have, HaveValue asked)
     return false;
 }
 
+bool isOfStatus(GameStatus status, AskedStatus asked)
+{
+    switch (asked) {
+    case AskedStatus::Good:
+        return status == GameStatus::Good;
+    case AskedStatus::Imperfect:
+        return status == GameStatus::Imperfect;
+    case AskedStatus::Preliminary:
+        return status == GameStatus::Preliminary;
+    case AskedStatus::Working:
+        return status == GameStatus::Good || status == GameStatus::Imperfect;
+    }
+    return false;
+}
+
 /// One search: a byte for each record that stays non-zero while everything lets it through.
 class Narrowing
 {
@@ -49,6 +64,8 @@ public:
 private:
     Have have(std::size_t record) const { return m_haves.empty() ? Have::Missing : m_haves[record]; }
     void keepWords(const Term& term);
+    void keepField(const Term& term, FieldSet fields);
+    void keepFamily(const Term& term);
     void keepDevices(const Term& term);
     // A test holds what it needs by value: behind a reference it would be looked up again for each record.
     template <class Test>
@@ -70,6 +87,10 @@ private:
         keepWhere(negated, [scores](std::size_t i) { return scores[i] != noScore; });
     }
     std::vector<std::uint32_t> ranks(const Query& query) const;
+    std::vector<Score> scores(const Term& term, FieldSet fields) const
+    {
+        return wordScores(m_texts, m_facts.size(), term.words, {.fields = fields, .negated = term.negated});
+    }
     std::vector<Score> covered(std::span<const SearchedWords* const> words) const;
 
     const SearchTexts& m_texts;
@@ -78,6 +99,7 @@ private:
     std::vector<std::uint8_t> m_kept;
     std::vector<Score> m_phrase;
     std::vector<std::vector<Score>> m_words; // of each word that is not turned round
+    std::vector<std::vector<Score>> m_fields; // the same of words of one field
 };
 
 void Narrowing::lookForPhrase(const Query& query)
@@ -107,21 +129,26 @@ void Narrowing::keepTerm(const Term& term)
     switch (term.kind) {
     case TermKind::Words:
         return keepWords(term);
+    case TermKind::Title:
+        return keepField(term, titleFields);
+    case TermKind::Name:
+        return keepField(term, setOf(NameMark));
     case TermKind::Maker:
-        return keepFound(
-            no, wordScores(m_texts, m_facts.size(), term.words, {.field = MakerMark, .negated = no}));
+        return keepFound(no, scores(term, setOf(MakerMark)));
     case TermKind::Device:
         return keepDevices(term);
     case TermKind::Year:
         return keepFacts(no,
                          [years = term.years](const RecordFacts& facts) { return years.holds(facts.years); });
     case TermKind::Status:
-        return keepFacts(no, [status = GameStatus{term.value}](const RecordFacts& facts) {
-            return facts.status == status;
+        return keepFacts(no, [asked = AskedStatus{term.value}](const RecordFacts& facts) {
+            return isOfStatus(facts.status, asked);
         });
     case TermKind::Type:
         return keepFacts(
             no, [type = GameType{term.value}](const RecordFacts& facts) { return facts.type == type; });
+    case TermKind::Parent:
+        return keepFamily(term);
     case TermKind::Clone:
         return keepFacts(no, [parent = YesNo{term.value} == YesNo::No](const RecordFacts& facts) {
             return facts.parent == parent;
@@ -133,17 +160,42 @@ void Narrowing::keepTerm(const Term& term)
 
 void Narrowing::keepWords(const Term& term)
 {
-    std::vector<Score> scores
-        = wordScores(m_texts, m_facts.size(), term.words, {.field = std::nullopt, .negated = term.negated});
+    std::vector<Score> words = scores(term, everyField);
     if (term.negated)
-        return keepFound(true, scores);
+        return keepFound(true, words);
     if (!m_phrase.empty())
-        keepWhere(false, [phrase = std::span(m_phrase), found = std::span(scores)](std::size_t i) {
+        keepWhere(false, [phrase = std::span(m_phrase), found = std::span(words)](std::size_t i) {
             return found[i] != noScore || phrase[i] != noScore;
         });
     else
-        keepFound(false, scores);
-    m_words.push_back(std::move(scores));
+        keepFound(false, words);
+    m_words.push_back(std::move(words));
+}
+
+// Words of one field rank like those of any.
+void Narrowing::keepField(const Term& term, FieldSet fields)
+{
+    std::vector<Score> words = scores(term, fields);
+    keepFound(term.negated, words);
+    if (!term.negated)
+        m_fields.push_back(std::move(words));
+}
+
+// The set of that name, and its clones, also where it is missing itself.
+void Narrowing::keepFamily(const Term& term)
+{
+    const std::vector<Score> names
+        = wordScores(m_texts, m_facts.size(), term.words, {.fields = setOf(NameMark), .literally = true});
+    std::vector<std::size_t> families{ContentFacts::familyOf(term.words.text)};
+    std::vector<std::uint8_t> isNamed(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        isNamed[i] = rankOf(names[i]) == Rank::SetName ? 1 : 0;
+        if (isNamed[i] != 0 && m_facts[i].parent)
+            families.push_back(m_facts[i].family);
+    }
+    keepWhere(term.negated, [&](std::size_t i) {
+        return isNamed[i] != 0 || std::ranges::find(families, m_facts[i].family) != families.end();
+    });
 }
 
 // Few values differ: each is looked at once.
@@ -201,7 +253,7 @@ std::vector<Score> Narrowing::covered(std::span<const SearchedWords* const> word
 
 std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
 {
-    if (m_words.empty())
+    if (m_words.empty() && m_fields.empty())
         return {};
     JointRanks joint(m_facts.size());
     for (const std::vector<Score>& word : m_words)
@@ -212,6 +264,8 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
             joint.improve(m_phrase);
         joint.improve(covered(words));
     }
+    for (const std::vector<Score>& word : m_fields)
+        joint.add(word);
     joint.lower([this](std::size_t i) { return m_facts[i].type == GameType::Device; });
     std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);
     const std::span ties(m_facts.ties());

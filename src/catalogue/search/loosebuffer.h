@@ -4,7 +4,6 @@
 #include "catalogue/search/rank.h"
 #include "catalogue/search/searchbuffer.h"
 
-#include <optional>
 #include <span>
 
 namespace tessera {
@@ -15,7 +14,7 @@ struct LooseRules {
     bool atBeginning = false; ///< of a name or a title
     bool inside = false; ///< also within a word
     bool asInitials = false; ///< also as the initials of a title
-    std::optional<FieldMark> field = std::nullopt; ///< only there
+    FieldSet fields = everyField; ///< only there
 };
 
 /// The loose forms of many records in one run of bytes.
@@ -57,8 +56,8 @@ public:
                 || (rules.atBeginning && !isFieldMark(bytes()[offset - 1])))
                 return;
             const FieldMark field = fieldAt(bytes(), offset);
-            const Rank rank = rules.field.value_or(field) == field ? rankAt(offset, word.size(), field, rules)
-                                                                   : Rank::None;
+            const bool isThere = (rules.fields & setOf(field)) != 0;
+            const Rank rank = isThere ? rankAt(offset, word.size(), field, rules) : Rank::None;
             if (rank != Rank::None)
                 hit(record, rank, field);
         });

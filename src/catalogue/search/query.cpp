@@ -6,6 +6,15 @@
 
 namespace tessera {
 
+namespace {
+
+bool hasRanks(TermKind kind)
+{
+    return kind == TermKind::Words || kind == TermKind::Title || kind == TermKind::Name;
+}
+
+} // namespace
+
 Query::Query(QStringView text)
     : m_terms(QueryParser(text).terms())
 {
@@ -18,7 +27,8 @@ bool Query::isEmpty() const
 
 bool Query::ranks() const
 {
-    return !rankedWords().empty();
+    return std::ranges::any_of(
+        m_terms, [](const Term& term) { return term.applies && !term.negated && hasRanks(term.kind); });
 }
 
 std::vector<const SearchedWords*> Query::rankedWords() const

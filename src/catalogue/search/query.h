@@ -25,7 +25,7 @@ struct Term {
     qsizetype size = 0;
     TermKind kind = TermKind::Words;
     bool negated = false;
-    SearchedWords words; ///< Words, Maker, Device
+    SearchedWords words; ///< Words, Title, Name, Maker, Parent, Device
     YearRange years; ///< Year
     std::uint8_t value = 0; ///< the others: place among the key's values
     State state = State::Good;
@@ -45,9 +45,9 @@ public:
     std::span<const Term> terms() const { return m_terms; }
     /// Nothing in it applies: every record is let through.
     bool isEmpty() const;
-    /// There are words to rank records by.
+    /// There are words to rank records by, of any field, of a title or of a set name.
     bool ranks() const;
-    /// The words that are not turned round, in sequence.
+    /// The words of no key that are not turned round, in sequence.
     std::vector<const SearchedWords*> rankedWords() const;
 
 private:

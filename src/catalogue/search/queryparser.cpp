@@ -53,6 +53,20 @@ QString keyNames()
     return joined(names);
 }
 
+// In a sentence for the user; whole pages can be pasted.
+QString shown(QStringView text)
+{
+    constexpr qsizetype most = 40;
+    return text.size() > most ? QString(text.first(most) + u'…') : text.toString();
+}
+
+Failure unknownKey(QStringView name)
+{
+    if (const SearchKey* nearest = nearestKey(foldedText(name)))
+        return Failure{"search_near_key", {shown(name), keyNames(), fieldText(nearest->name)}};
+    return Failure{"search_wrong_key", {shown(name), keyNames()}};
+}
+
 // The first digits of years may be all that is typed so far.
 bool mayBecomeYears(std::string_view value)
 {
@@ -64,14 +78,20 @@ bool mayBecomeYears(std::string_view value)
     if (dash == std::string_view::npos)
         return mayBecomeYear(value);
     const std::string_view first = value.substr(0, dash);
-    return (first.empty() || yearRange(first)) && mayBecomeYear(value.substr(dash + 1));
+    return (first.empty() || askedYear(first)) && mayBecomeYear(value.substr(dash + 1));
 }
 
-// In a sentence for the user; whole pages can be pasted.
-QString shown(QStringView text)
+// The ten years from the last one on may be meant, and would be in order.
+bool mayBecomeDecade(YearRange reversed, std::string_view last)
 {
-    constexpr qsizetype most = 40;
-    return text.size() > most ? QString(text.first(most) + u'…') : text.toString();
+    const auto decade = askedYear(std::string(last) + 's');
+    return decade && reversed.first <= decade->last;
+}
+
+// The last year of a span, or the only one.
+std::string_view lastYear(std::string_view value)
+{
+    return value.substr(value.rfind('-') + 1);
 }
 
 // "1985", "1985-1989", "1985-" or "-1989".
@@ -80,12 +100,12 @@ std::optional<YearRange> askedYears(std::string_view value)
     const auto dash = value.find('-');
     const std::string_view first = value.substr(0, dash);
     if (dash == std::string_view::npos)
-        return yearRange(first);
+        return askedYear(first);
     const std::string_view last = value.substr(dash + 1);
     if (first.empty() && last.empty())
         return std::nullopt;
-    const auto from = first.empty() ? YearRange() : yearRange(first);
-    const auto to = last.empty() ? YearRange() : yearRange(last);
+    const auto from = first.empty() ? YearRange() : askedYear(first);
+    const auto to = last.empty() ? YearRange() : askedYear(last);
     if (!from || !to)
         return std::nullopt;
     return YearRange{from->first, to->last};
@@ -122,7 +142,7 @@ Term QueryParser::term()
     } else if (!name.isEmpty() && !blankFollows(m_at + name.size() + 1)) {
         m_at += name.size() + 1;
         value();
-        refuse(term, Failure{"search_wrong_key", {shown(name), keyNames()}}, false);
+        refuse(term, unknownKey(name), false);
     } else if (isMinus(m_text[m_at]) && m_at + 1 == m_text.size()) {
         ++m_at;
         refuse(term, Failure{"search_no_words", {QStringLiteral("-")}}, true);
@@ -192,10 +212,13 @@ void QueryParser::readYears(Term& term, QStringView value)
     std::string years = foldedText(value.toString().replace(u'ー', u'-'));
     std::ranges::replace(years, '~', '-');
     const auto range = askedYears(years);
-    if (!range)
-        refuse(term, Failure{"search_wrong_year", {shown(value)}}, mayBecomeYears(years));
+    const std::string_view last = lastYear(years);
+    // Four digits begin so; behind a blank it is 2019.
+    const bool isCentury = atEnd() && (last == "19" || last == "20");
+    if (!range || isCentury)
+        refuse(term, Failure{"search_wrong_year", {shown(value)}}, isCentury || mayBecomeYears(years));
     else if (range->first > range->last)
-        refuse(term, Failure{"search_reversed_years", {shown(value)}}, false);
+        refuse(term, Failure{"search_reversed_years", {shown(value)}}, mayBecomeDecade(*range, last));
     else
         term.years = *range;
 }

@@ -71,7 +71,7 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .type = kindOf<GameType>(record[Field::Type], typeValues),
         .status = kindOf<GameStatus>(record[Field::Status], statusValues),
         .parent = isParent(record),
-        .family = std::hash<std::string_view>()(record[isParent(record) ? Field::Name : Field::Cloneof]),
+        .family = familyOf(record[isParent(record) ? Field::Name : Field::Cloneof]),
         .favorite = m_favourites.contains(record[Field::Name]),
     };
 }

@@ -5,6 +5,7 @@
 #include "catalogue/search/yearrange.h"
 
 #include <array>
+#include <functional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -40,6 +41,9 @@ public:
     std::size_t size() const { return m_facts.size(); }
     const RecordFacts& operator[](std::size_t record) const { return m_facts[record]; }
     std::span<const RecordFacts> all() const { return m_facts; }
+
+    /// The number of all sets of this parent.
+    static std::size_t familyOf(std::string_view parent) { return std::hash<std::string_view>()(parent); }
 
     /// The different values of the field, folded.
     const std::vector<std::string>& devices() const { return m_devices; }

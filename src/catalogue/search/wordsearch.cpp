@@ -14,7 +14,7 @@ namespace {
 // Letters that are read as kana inside of words; fewer would be found in half of all readings.
 constexpr std::size_t leastInside = 4;
 
-void findLiterally(const SearchBuffer& buffer, const SearchedWords& words, std::optional<FieldMark> field,
+void findLiterally(const SearchBuffer& buffer, const SearchedWords& words, FieldSet fields,
                    std::vector<Score>& best)
 {
     const WordMatcher matcher(words);
@@ -24,9 +24,9 @@ void findLiterally(const SearchBuffer& buffer, const SearchedWords& words, std::
         if (rank != Rank::None)
             best[record] = std::min(best[record], score(rank, WordForm::Plain));
     };
-    if (field) {
+    if (fields != everyField) {
         buffer.forEachHit(words.text, [&](std::uint32_t record, std::size_t offset) {
-            if (fieldAt(bytes, offset) == *field)
+            if ((fields & setOf(fieldAt(bytes, offset))) != 0)
                 take(record, offset);
         });
     } else {
@@ -90,20 +90,22 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
                               const WordRules& rules)
 {
     std::vector<Score> best(records, noScore);
-    findLiterally(texts.texts(), words, rules.field, best);
+    findLiterally(texts.texts(), words, rules.fields, best);
+    if (rules.literally)
+        return best;
     const bool isQuoted = words.ends != WordEnds::Anywhere;
     const std::string loose = isQuoted ? std::string() : looseWord(words.text);
     // A single letter is found as it stands.
     if (isNumeral(loose) || (!rules.negated && loose.size() > 1))
         findLoosely(texts.loose(), loose,
-                    {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .field = rules.field},
+                    {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .fields = rules.fields},
                     best);
     const std::string reading = readingOf(words.text);
     const bool isLong = reading.size() >= leastInside;
     const LooseRules asReading{.wholeOnly = words.ends == WordEnds::Whole,
                                .atBeginning = rules.negated || !isLong,
                                .inside = !isQuoted && isLong && isRomaji(words.text),
-                               .field = rules.field};
+                               .fields = rules.fields};
     findReading(texts.romaji(), reading, mayBeJapanese(words.text) && !rules.negated, asReading, best);
     return best;
 }
@@ -134,7 +136,7 @@ bool holdsWords(std::string_view folded, const SearchedWords& words)
     one.add(NameMark, folded);
     one.end();
     std::vector<Score> best(1, noScore);
-    findLiterally(one, words, std::nullopt, best);
+    findLiterally(one, words, everyField, best);
     return best.front() != noScore;
 }
 

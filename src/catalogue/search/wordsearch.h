@@ -3,7 +3,6 @@
 #include "catalogue/search/searchtexts.h"
 #include "catalogue/search/wordmatcher.h"
 
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -34,7 +33,7 @@ constexpr Rank rankOf(Score score)
 
 /// Where words are looked for, and in which forms.
 struct WordRules {
-    std::optional<FieldMark> field; ///< only there
+    FieldSet fields = everyField; ///< only there
     /// The records are to be left out: only what is certain counts, but a numeral is every numeral.
     bool negated = false;
     bool literally = false; ///< in no other form

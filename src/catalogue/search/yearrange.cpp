@@ -1,10 +1,14 @@
 #include "catalogue/search/yearrange.h"
 
+#include <string>
+
 namespace tessera {
 
 namespace {
 
 constexpr std::size_t yearDigits = 4;
+constexpr std::size_t shortDigits = 2;
+constexpr char firstDecade = '7'; // of those in which there were machines
 
 } // namespace
 
@@ -24,6 +28,23 @@ std::optional<YearRange> yearRange(std::string_view fourDigits)
         last = last * 10 + (digit ? static_cast<unsigned>(c - '0') : 9);
     }
     return YearRange{static_cast<std::uint16_t>(first), static_cast<std::uint16_t>(last)};
+}
+
+std::optional<YearRange> askedYear(std::string_view value)
+{
+    const bool isDecade = value.size() > shortDigits && value.ends_with("0s");
+    if (isDecade)
+        value.remove_suffix(1);
+    if (value.size() != shortDigits && value.size() != yearDigits)
+        return std::nullopt;
+    std::string year(value);
+    if (year.size() == shortDigits)
+        year.insert(0, year.front() < firstDecade ? "20" : "19");
+    auto range = value.size() == shortDigits && value.find('?') != std::string_view::npos ? std::nullopt
+                                                                                          : yearRange(year);
+    if (range && isDecade)
+        range->last = static_cast<std::uint16_t>(range->first + 9);
+    return range;
 }
 
 std::optional<YearRange> recordedYear(std::string_view value)

@@ -21,6 +21,10 @@ inline constexpr YearRange unknownYear{0, 0xFFFF};
 /// Four digits, of which the last ones may be question marks. Nothing where no digit is known.
 std::optional<YearRange> yearRange(std::string_view fourDigits);
 
+/// As people write it: "1985", "198?", "85", and the ten years "80s" or "1980s". Two digits from 70 on are of
+/// the last century.
+std::optional<YearRange> askedYear(std::string_view value);
+
 /// A record's year: whatever stands behind the four digits is left alone, as in "1995?".
 std::optional<YearRange> recordedYear(std::string_view value);
 

@@ -137,7 +137,35 @@ private Q_SLOTS:
         row("maker:\"general comp\"", "");
         row("maker:\"general comp", "mspacman");
         row("maker:gradius", "");
+        row("title:gradius", "gradius gradius3");
+        row("title:グラディウス", "gradius gradius3");
+        row("title:guradi", "gradius gradius3");
+        row("title:\"road fighter\"", "roadfu");
+        row("title:\"road fight\"", "");
+        row("title:roadfighter", "roadfu");
+        row("title:3", "gradius3");
+        row("title:konami", "");
+        row("title:puckman", "puckman");
+        row("-title:pac maker:midway", "");
+        row("-title:gradius konami", "nemesis roadfu");
+        row("name:gradius", "gradius gradius3");
+        row("name:RADIUS", "gradius gradius3");
+        row("name:fu", "roadfu");
+        row("name:fighter", "");
+        row("name:puck", "puckman");
+        row("-name:pac title:pac", "");
+        row("name:\"gradius\"", "gradius");
+        row("parent:puckman", "pacman puckman pacmanb");
+        row("parent:PuckMan", "pacman puckman pacmanb");
+        row("parent:\"puckman\"", "pacman puckman pacmanb");
+        row("parent:pacman", "pacman");
+        row("parent:nemesis", "gradius nemesis");
+        row("parent:puck", "");
+        row("-parent:puckman namco", "");
+        row("-parent:nemesis konami", "gradius3 roadfu");
         row("year:1985", "gradius nemesis");
+        row("year:85", "gradius nemesis");
+        row("year:80s -pac", "puckman gradius nemesis gradius3 jp robo roadfu");
         row("year:1985-1989", "gradius nemesis gradius3");
         row("year:1989-", "gradius3 neogeo");
         row("year:-1980", "pacman puckman");
@@ -147,6 +175,8 @@ private Q_SLOTS:
         row("-year:1000-", "cdr");
         row("status:good", "pacman puckman mspacman gradius neogeo pacmanb robo roadfu");
         row("status:imperfect", "nemesis");
+        row("status:working konami", "gradius nemesis roadfu");
+        row("-status:working", "gradius3 jp cdr");
         row("status:preliminary", "gradius3 jp");
         row("type:bios", "neogeo");
         row("type:device", "cdr");
@@ -185,6 +215,14 @@ private Q_SLOTS:
         QTEST(found(sample, search, query), "names");
     }
 
+    void aParentThatIsMissingStillHasItsClones()
+    {
+        SampleRecords sample;
+        sample.add({"game", "orphan", "gone", "Orphan", "Orphan", "1985", "Atari", "good", ""});
+        sample.add({"game", "gone2", "gone2", "Gone", "Gone", "1985", "Atari", "good", ""});
+        QCOMPARE(found(sample, prepared(sample), QStringLiteral("parent:gone")), QStringLiteral("orphan"));
+    }
+
     void anEmptyQueryFindsEverything()
     {
         const SampleRecords sample = sampleGames();
@@ -214,6 +252,13 @@ private Q_SLOTS:
         // Only words rank.
         row("year:1972 -tennis", "inside begins proper whole pong");
         row("year:1972 -tennis pong", "pong proper whole begins inside");
+        // A text of one field ranks like a word.
+        row("title:pong", "proper whole begins inside");
+        row("title:ポン", "proper whole begins inside");
+        row("name:pong", "pong");
+        row("name:in", "inside begins");
+        row("title:pong super", "begins");
+        row("title:pong atari", "proper whole begins inside");
     }
 
     void theBestFitComesFirst()
@@ -538,6 +583,16 @@ private:
                                            "have:own",
                                            "type:game",
                                            "status:good",
+                                           "status:working",
+                                           "title:pac",
+                                           "title:マン",
+                                           "title:\"pac man\"",
+                                           "title:aa",
+                                           "name:man",
+                                           "name:a",
+                                           "parent:pac",
+                                           "parent:other",
+                                           "year:80s",
                                            "device:man",
                                            "\"pac",
                                            "\"man\"",

@@ -51,7 +51,7 @@ public:
         int sum = 0;
         const std::vector<const SearchedWords*> words = query.rankedWords();
         for (const SearchedWords* word : words) {
-            const int score = best(*word, {}, false);
+            const int score = best(*word, everyField, false);
             worst = std::max(worst, score);
             sum = std::min(sum + std::min(score >> 2, 15), 31);
         }
@@ -60,6 +60,14 @@ public:
             if (words.size() > 1 && together <= worst) {
                 worst = together;
                 sum = 0;
+            }
+        }
+        for (const Term& term : query.terms()) {
+            const bool isOfField = term.kind == TermKind::Title || term.kind == TermKind::Name;
+            if (isOfField && term.applies && !term.negated) {
+                const int score = best(term.words, fieldsOf(term.kind), false);
+                worst = std::max(worst, score);
+                sum = std::min(sum + std::min(score >> 2, 15), 31);
             }
         }
         const int rank = worst >> 2;
@@ -258,7 +266,7 @@ private:
                                bool romanised, bool reading, const LooseRules& rules)
     {
         for (const Form& form : forms) {
-            if (word.empty() || rules.field.value_or(form.field) != form.field)
+            if (word.empty() || (rules.fields & setOf(form.field)) == 0)
                 continue;
             for (auto at = form.form.text.find(word); at != std::string::npos;
                  at = form.form.text.find(word, at + 1)) {
@@ -295,12 +303,26 @@ private:
         return text;
     }
 
-    int best(const SearchedWords& words, std::optional<FieldMark> field, bool negated) const
+    static FieldSet fieldsOf(TermKind kind)
+    {
+        switch (kind) {
+        case TermKind::Title:
+            return setOf(TitleMark) | setOf(AlternativeMark) | setOf(RomanisedMark) | setOf(InitialsMark);
+        case TermKind::Name:
+            return setOf(NameMark);
+        case TermKind::Maker:
+            return setOf(MakerMark);
+        default:
+            return everyField;
+        }
+    }
+
+    int best(const SearchedWords& words, FieldSet fields, bool negated) const
     {
         int best = noScore;
         const QString word = QString::fromStdString(words.text);
         for (const Text& text : m_texts) {
-            if (field.value_or(text.field) != text.field)
+            if ((fields & setOf(text.field)) == 0)
                 continue;
             for (auto at = text.text.indexOf(word); at >= 0; at = text.text.indexOf(word, at + 1))
                 improve(best, rankAt(text, word, words.ends, at), WordForm::Plain);
@@ -309,13 +331,13 @@ private:
         const std::string loose = looseWord(words.text);
         if (!isQuoted && (isNumeral(loose) || (!negated && loose.size() > 1)))
             improveLoosely(best, m_loose, loose, false, false,
-                           {.wholeOnly = negated, .asInitials = mayBeInitials(loose), .field = field});
+                           {.wholeOnly = negated, .asInitials = mayBeInitials(loose), .fields = fields});
         const std::string read = reading(words.text);
         improveLoosely(best, m_romaji, read, isJapanese(words.text) && !negated, true,
                        {.wholeOnly = words.ends == WordEnds::Whole,
                         .atBeginning = negated || read.size() < 4,
                         .inside = !isQuoted && read.size() >= 4 && isRomaji(words.text),
-                        .field = field});
+                        .fields = fields});
         return best;
     }
 
@@ -392,9 +414,14 @@ private:
         const auto value = [&](Field field) { return m_record[field]; };
         switch (term.kind) {
         case TermKind::Words:
-            return best(term.words, {}, term.negated) != noScore;
+            return best(term.words, everyField, term.negated) != noScore;
+        case TermKind::Title:
+        case TermKind::Name:
         case TermKind::Maker:
-            return best(term.words, MakerMark, term.negated) != noScore;
+            return best(term.words, fieldsOf(term.kind), term.negated) != noScore;
+        case TermKind::Parent:
+            return folded(value(Field::Name)) == term.words.text
+                || folded(value(Field::Cloneof)) == term.words.text;
         case TermKind::Device: {
             const Text text{YearMark, QString::fromStdString(folded(value(Field::Device)))};
             const QString sought = QString::fromStdString(term.words.text);
@@ -409,7 +436,9 @@ private:
             return year && term.years.first <= year->first && year->last <= term.years.last;
         }
         case TermKind::Status:
-            return value(Field::Status) == statusValues[term.value];
+            if (askedStatuses[term.value] == "working")
+                return value(Field::Status) == "good" || value(Field::Status) == "imperfect";
+            return value(Field::Status) == askedStatuses[term.value];
         case TermKind::Type:
             return value(Field::Type) == typeValues[term.value];
         case TermKind::Clone: {

@@ -22,6 +22,9 @@ QString valueText(const Term& term)
     static constexpr std::array ends{"", "^", "="};
     switch (term.kind) {
     case TermKind::Words:
+    case TermKind::Title:
+    case TermKind::Name:
+    case TermKind::Parent:
     case TermKind::Maker:
     case TermKind::Device:
         return QLatin1String(ends[static_cast<std::size_t>(term.words.ends)])
@@ -94,8 +97,26 @@ private Q_SLOTS:
         row("year:１９８５ー", "0+10 year 1985..9999");
         row("year:1985–1989", "0+14 year 1985..1989");
         row("-year:1985", "0+10 not year 1985..1985");
+        row("year:85", "0+7 year 1985..1985");
+        row("year:70 year:69 year:00", "0+7 year 1970..1970\n8+7 year 2069..2069\n16+7 year 2000..2000");
+        row("year:19 x", "0+7 year 2019..2019\n8+1 words x");
+        row("year:80s", "0+8 year 1980..1989");
+        row("year:90S", "0+8 year 1990..1999");
+        row("year:00s", "0+8 year 2000..2009");
+        row("year:1980s", "0+10 year 1980..1989");
+        row("year:85-89", "0+10 year 1985..1989");
+        row("year:1985-89", "0+12 year 1985..1989");
+        row("year:99-03", "0+10 year 1999..2003");
+        row("year:80s-90s", "0+12 year 1980..1999");
+        row("year:19-", "0+8 year 2019..9999");
+        row("year:-85", "0+8 year 0..1985");
+        row("year:８０ｓ", "0+8 year 1980..1989");
         row("status:good", "0+11 status 0");
         row("status:PRELIMINARY", "0+18 status 2");
+        row("status:working", "0+14 status 3");
+        row("title:gradius -title:\"Gradius II\"", "0+13 title gradius\n14+19 not title =gradius ii");
+        row("name:Gradius", "0+12 name gradius");
+        row("parent:Nemesis -parent:pong", "0+14 parent nemesis\n15+12 not parent pong");
         row("type:game", "0+9 type 0");
         row("type:device", "0+11 type 3");
         row("clone:no", "0+8 clone 0");
@@ -127,7 +148,8 @@ private Q_SLOTS:
         const auto row = [](const char* query, const char* terms) {
             QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(terms);
         };
-        row("pac marker:konami x", "0+3 words pac\n4+13 words WRONG search_wrong_key\n18+1 words x");
+        row("pac marker:konami x", "0+3 words pac\n4+13 words WRONG search_near_key\n18+1 words x");
+        row("pac manufacturer:konami x", "0+3 words pac\n4+19 words WRONG search_wrong_key\n24+1 words x");
         row("メーカー:コナミ", "0+8 words WRONG search_wrong_key");
         row("-foo:\"a b\" c", "0+10 not words WRONG search_wrong_key\n11+1 words c");
         row("status:bad x", "0+10 status WRONG search_wrong_value\n11+1 words x");
@@ -138,7 +160,11 @@ private Q_SLOTS:
         row("year:19855", "0+10 year WRONG search_wrong_year");
         row("year:1985-1989-", "0+15 year WRONG search_wrong_year");
         row("year:19?5", "0+9 year unfinished search_wrong_year");
-        row("year:85 x", "0+7 year WRONG search_wrong_year\n8+1 words x");
+        row("year:8 x", "0+6 year WRONG search_wrong_year\n7+1 words x");
+        row("year:85s", "0+8 year WRONG search_wrong_year");
+        row("year:198s", "0+9 year WRONG search_wrong_year");
+        row("year:1985-80", "0+12 year unfinished search_reversed_years"); // the eighties
+        row("year:1985-75", "0+12 year WRONG search_reversed_years");
         row("year:1989-1985", "0+14 year WRONG search_reversed_years");
         row("maker: konami", "0+6 maker WRONG search_no_value\n7+6 words konami");
         row("maker:ー", "0+7 maker unfinished search_no_words");
@@ -157,10 +183,17 @@ private Q_SLOTS:
     void halfTypedTermsAreUnfinished_data()
     {
         QTest::addColumn<QString>("query");
-        for (const char* query :
-             {"maker:konami", "year:1985-1989", "year:-1989", "year:198?", "status:imperfect",
-              "type:mechanical", "clone:no", "have:parent", "device:cdrom", "-bootleg", "\"exact words\"",
-              "maker:\"taito corporation\"", "-maker:\"a b\"", "street -fighter: year:1985"})
+        for (const char* query : {"maker:konami",     "year:1985-1989",
+                                  "year:-1989",       "year:198?",
+                                  "status:imperfect", "type:mechanical",
+                                  "clone:no",         "year:80s",
+                                  "year:1980s",       "year:85-89",
+                                  "year:1985-80s",    "status:working",
+                                  "title:gradius",    "name:gradius",
+                                  "parent:nemesis",   "have:parent",
+                                  "device:cdrom",     "-bootleg",
+                                  "\"exact words\"",  "maker:\"taito corporation\"",
+                                  "-maker:\"a b\"",   "street -fighter: year:1985"})
             QTest::newRow(query) << QString::fromUtf8(query);
     }
 
@@ -186,6 +219,12 @@ private Q_SLOTS:
         };
         row("maker:", "0+6 maker unfinished search_no_value");
         row("year:19", "0+7 year unfinished search_wrong_year");
+        row("year:8", "0+6 year unfinished search_wrong_year");
+        row("year:1985-2", "0+11 year unfinished search_wrong_year");
+        row("year:20", "0+7 year unfinished search_wrong_year");
+        row("title:", "0+6 title unfinished search_no_value");
+        row("title:\"road fi", "0+14 title ^road fi unfinished search_open_quote");
+        row("status:w", "0+8 status unfinished search_wrong_value");
         row("year:1985-19", "0+12 year unfinished search_wrong_year");
         row("year:-", "0+6 year unfinished search_wrong_year");
         row("status:go", "0+9 status unfinished search_wrong_value");
@@ -208,10 +247,52 @@ private Q_SLOTS:
         const Query query(u"status:bad foo:bar");
         QCOMPARE(query.terms()[0].why->arguments,
                  (QStringList{QStringLiteral("bad"), QStringLiteral("status"),
-                              QStringLiteral("good, imperfect, preliminary")}));
+                              QStringLiteral("good, imperfect, preliminary, working")}));
         QCOMPARE(query.terms()[1].why->arguments,
                  (QStringList{QStringLiteral("foo"),
-                              QStringLiteral("maker, year, status, type, clone, have, device")}));
+                              QStringLiteral("title, name, maker, year, status, type, parent, clone, have, "
+                                             "device")}));
+    }
+
+    void anUnknownKeyNamesTheNearest_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("nearest"); // none where it is empty
+        const auto row = [](const char* key, const char* nearest) {
+            QTest::newRow(key) << QString::fromUtf8(key) << QString::fromUtf8(nearest);
+        };
+        row("makr", "maker");
+        row("MARKER", "maker");
+        row("mkaer", "maker");
+        row("makers", "maker");
+        row("tilte", "title");
+        row("nme", "name");
+        row("yaer", "year");
+        row("years", "year");
+        row("stauts", "status");
+        row("typ", "type");
+        row("parnet", "parent");
+        row("clones", "clone");
+        row("divice", "device");
+        row("manufacturer", "");
+        row("genre", "");
+        row("foo", "");
+        row("at", "");
+        row("x", "");
+        row("メーカー", "");
+    }
+
+    void anUnknownKeyNamesTheNearest()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, nearest);
+        const Query query(QString(key + u":x"));
+        QCOMPARE(query.terms()[0].state, Term::State::Wrong);
+        const Failure& why = query.terms()[0].why.value();
+        QCOMPARE(QLatin1String(why.key),
+                 nearest.isEmpty() ? QLatin1String("search_wrong_key") : QLatin1String("search_near_key"));
+        QCOMPARE(why.arguments.front(), key);
+        QCOMPARE(why.arguments.value(2), nearest);
     }
 
     void onlyWordsRank()
@@ -222,6 +303,10 @@ private Q_SLOTS:
         QVERIFY(!Query(u"maker:x").isEmpty());
         QVERIFY(!Query(u"maker:x -y").ranks());
         QVERIFY(Query(u"maker:x y").ranks());
+        QVERIFY(Query(u"title:x").ranks());
+        QVERIFY(Query(u"name:x").ranks());
+        QVERIFY(!Query(u"-title:x").ranks());
+        QVERIFY(!Query(u"parent:x").ranks());
         const Query query(u"Street maker:x -no \"Fighter II\"");
         std::vector<std::string> words;
         for (const SearchedWords* word : query.rankedWords())

@@ -273,11 +273,12 @@ private Q_SLOTS:
         QStringList items;
         for (const QAction* action : terms->actions())
             items << action->text();
-        QCOMPARE(items,
-                 QStringList({"maker:\tsearch_help_maker", "year:\tsearch_help_year",
-                              "status:\tsearch_help_status", "type:\tsearch_help_type",
-                              "clone:\tsearch_help_clone", "have:\tsearch_help_have",
-                              "device:\tsearch_help_device"}));
+        QCOMPARE(
+            items,
+            QStringList({"title:\tsearch_help_title", "name:\tsearch_help_name", "maker:\tsearch_help_maker",
+                         "year:\tsearch_help_year", "status:\tsearch_help_status", "type:\tsearch_help_type",
+                         "parent:\tsearch_help_parent", "clone:\tsearch_help_clone",
+                         "have:\tsearch_help_have", "device:\tsearch_help_device"}));
         QVERIFY(field.isClearButtonEnabled());
     }
 };

@@ -70,11 +70,11 @@ private Q_SLOTS:
         m_field->clearFocus();
         menu()->actions().constFirst()->trigger();
         QVERIFY(m_field->hasFocus());
-        QCOMPARE(m_field->text(), QStringLiteral("pac maker:"));
+        QCOMPARE(m_field->text(), QStringLiteral("pac title:"));
         m_field->clearFocus();
         m_field->beginWith(QStringLiteral("x"));
         QVERIFY(m_field->hasFocus());
-        QCOMPARE(m_field->text(), QStringLiteral("pac maker:x"));
+        QCOMPARE(m_field->text(), QStringLiteral("pac title:x"));
     }
 
     void whatWasTypedInTheListGoesOnHere()
