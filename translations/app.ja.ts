@@ -147,7 +147,7 @@
 &lt;p&gt;&lt;b&gt;Ctrl+3&lt;/b&gt;は小さなランチャーだけを残します。セット名を入力するか、サイコロにまかせて、Returnキーを押してください。ほかのウインドウより手前に置いておけます。&lt;/p&gt;
 &lt;p&gt;遊んだ回数と最後に遊んだ日時は、お気に入りの横のファイルに残ります。「ゲーム」メニューで切ることも、消去することもできます。&lt;/p&gt;</translation></message>
     <message id="help_terms_before"><source></source><translation>&lt;p&gt;検索欄には、語のほかに条件を書けます。キー、コロン、値の順に書きます。いくつも書くと、すべてに合うものだけが残ります。&lt;/p&gt;</translation></message>
-    <message id="help_terms_after"><source></source><translation>&lt;p&gt;語や条件の前にマイナスを付けると、当てはまるものを除きます: &lt;b&gt;-bootleg&lt;/b&gt;。引用符で囲むと、そのままの並びで探します: &lt;b&gt;"street fighter"&lt;/b&gt;。誤った条件には下線が付き、理由がチップの横に出ます。&lt;/p&gt;&lt;p&gt;組み合わせの例: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
+    <message id="help_terms_after"><source></source><translation>&lt;p&gt;語や条件の前にマイナスを付けると、当てはまるものを除きます: &lt;b&gt;-bootleg&lt;/b&gt;。引用符か「」で囲むと、そのままの並びで探します: &lt;b&gt;"street fighter"&lt;/b&gt;。誤った条件には下線が付き、理由がチップの横に出ます。&lt;/p&gt;&lt;p&gt;組み合わせの例: &lt;b&gt;maker:konami year:1985-1989 status:good -bootleg&lt;/b&gt;&lt;/p&gt;</translation></message>
     <message id="help_keys_list"><source></source><translation>&lt;h2&gt;一覧で&lt;/h2&gt;&lt;p&gt;&lt;b&gt;Return&lt;/b&gt;で選択したゲームを起動します。&lt;b&gt;F2&lt;/b&gt;で欄を編集します。文字は検索欄に入り、そこから&lt;b&gt;下矢印&lt;/b&gt;で一覧に移ります。&lt;b&gt;右&lt;/b&gt;と&lt;b&gt;左&lt;/b&gt;でファミリーを開閉します。&lt;b&gt;Esc&lt;/b&gt;はほかのウインドウを閉じ、検索欄を空にします。&lt;/p&gt;</translation></message>
     <message id="menu_notesplayed"><source></source><translation>プレイ履歴を残す(&amp;N)</translation></message>
     <message id="menu_audit"><source></source><translation>クイック検査(&amp;A)</translation></message>

@@ -4,6 +4,7 @@
 #include "catalogue/search/folding.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tessera {
 
@@ -19,9 +20,24 @@ bool isColon(QChar c)
     return c == u':' || c == u'：';
 }
 
-bool isQuote(QChar c)
+/// Marks around words: any of those that begin a quotation, and any of those that end it.
+struct Quotes {
+    QStringView opening;
+    QStringView closing;
+};
+
+constexpr std::array quotes{
+    Quotes{u"\"“”„＂", u"\"“”„＂"},
+    Quotes{u"「｢", u"」｣"},
+    Quotes{u"『", u"』"},
+};
+
+// What ends a quotation that begins with this, or nothing where none does.
+QStringView closingQuotes(QChar c)
 {
-    return c == u'"' || c == u'“' || c == u'”' || c == u'„' || c == u'＂';
+    const auto* const row
+        = std::ranges::find_if(quotes, [c](const Quotes& each) { return each.opening.contains(c); });
+    return row != quotes.end() ? row->closing : QStringView();
 }
 
 std::string foldedText(QStringView text)
@@ -167,11 +183,12 @@ QStringView QueryParser::key() const
 QueryParser::Value QueryParser::value()
 {
     Value value;
-    value.quoted = !atEnd() && isQuote(m_text[m_at]);
+    const QStringView closing = atEnd() ? QStringView() : closingQuotes(m_text[m_at]);
+    value.quoted = !closing.isEmpty();
     if (value.quoted)
         ++m_at;
     const qsizetype begin = m_at;
-    while (!atEnd() && !(value.quoted ? isQuote(m_text[m_at]) : m_text[m_at].isSpace()))
+    while (!atEnd() && !(value.quoted ? closing.contains(m_text[m_at]) : m_text[m_at].isSpace()))
         ++m_at;
     value.text = m_text.sliced(begin, m_at - begin);
     value.open = value.quoted && atEnd();

@@ -215,6 +215,31 @@ private Q_SLOTS:
         QTEST(found(sample, search, query), "names");
     }
 
+    // Titles are written with it, with a blank, and as one.
+    void aDotBetweenWordsPartsOrJoinsThem_data()
+    {
+        QTest::addColumn<QString>("query");
+        for (const char* query : {"ディグ・ダグ", "ディグ･ダグ", "ディグダグ", "ディグ ダグ", "ﾃﾞｨｸﾞ･ﾀﾞｸﾞ",
+                                  "でぃぐ・だぐ", "title:ディグ・ダグ"})
+            QTest::newRow(query) << QString::fromUtf8(query);
+    }
+
+    void aDotBetweenWordsPartsOrJoinsThem()
+    {
+        QFETCH(QString, query);
+        SampleRecords sample;
+        const auto add = [&](const char* name, const char* titlejp) {
+            sample.add({"game", name, name, "Excavator", titlejp, "1982", "Namco", "good", ""});
+        };
+        add("dotted", "ディグ・ダグ");
+        add("joined", "ディグダグ");
+        add("parted", "ディグ ダグ");
+        add("longer", "スーパーディグ・ダグ");
+        add("other", "ディグ");
+        QCOMPARE(found(sample, prepared(sample), query), QStringLiteral("dotted joined parted longer"));
+        QVERIFY(ranked(sample, prepared(sample), query).endsWith(QStringLiteral("longer")));
+    }
+
     void aParentThatIsMissingStillHasItsClones()
     {
         SampleRecords sample;

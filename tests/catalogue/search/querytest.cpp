@@ -80,6 +80,16 @@ private Q_SLOTS:
         row("\"exact words\"", "0+13 words =exact words");
         row("“Exact  Words”", "0+14 words =exact words");
         row("-\"exact words\" x", "0+14 not words =exact words\n15+1 words x");
+        row("「ロード ファイター」 x", "0+11 words =ろど ふぁいた\n12+1 words x");
+        row("『a b』", "0+5 words =a b");
+        row("｢a b｣", "0+5 words =a b");
+        row("-「a b」 x", "0+6 not words =a b\n7+1 words x");
+        row("maker:「a b」", "0+11 maker =a b");
+        // Others within them belong to the text.
+        row("「a \"b\" 『c』」", "0+11 words =a \"b\" 『c』");
+        row("\"a「b」\"", "0+6 words =a「b」");
+        row("a「b」", "0+4 words a「b」");
+        row("」a", "0+2 words 」a");
         row("14\" screen", "0+3 words 14\"\n4+6 words screen");
         row("\"a\"b", "0+3 words =a\n3+1 words b");
         row("maker:konami", "0+12 maker konami");
@@ -232,6 +242,7 @@ private Q_SLOTS:
         row("\"", "0+1 words unfinished search_no_words");
         // An open quotation mark searches for what is there already.
         row("\"exact wo", "0+9 words ^exact wo unfinished search_open_quote");
+        row("「exact wo", "0+9 words ^exact wo unfinished search_open_quote");
         row("maker:\"taito co", "0+15 maker ^taito co unfinished search_open_quote");
     }
 
