@@ -33,6 +33,7 @@
     <message id="main_log"><source></source><translation>Log</translation></message>
     <message id="main_tools"><source></source><translation>Catalogue tools</translation></message>
     <message id="main_preferences"><source></source><translation>Preferences</translation></message>
+    <message id="search_hidden_set"><source></source><translation>“%1” (%3) is hidden by “%2”.</translation></message>
     <message id="main_count"><source></source><translation>%1 machines</translation></message>
     <message id="main_count_some"><source></source><translation>%1 of %2 machines</translation></message>
     <message id="main_progress"><source></source><translation>Working</translation></message>

@@ -33,6 +33,7 @@
     <message id="main_log"><source></source><translation>ログ</translation></message>
     <message id="main_tools"><source></source><translation>カタログツール</translation></message>
     <message id="main_preferences"><source></source><translation>環境設定</translation></message>
+    <message id="search_hidden_set"><source></source><translation>“%1”（%3）は“%2”によって隠れています。</translation></message>
     <message id="main_count"><source></source><translation>%1 台</translation></message>
     <message id="main_count_some"><source></source><translation>%2 台中 %1 台</translation></message>
     <message id="main_progress"><source></source><translation>処理中</translation></message>

@@ -77,6 +77,8 @@ void Program::joinStatusLine()
     connect(&paths, &PathChooser::statusMessage, &status, say);
     connect(&tableFont, &TableFont::statusMessage, &status, say);
     connect(&gameList, &GameListController::statusMessage, &status, say);
+    connect(&finding, &Finding::statusMessage, &status, say);
+    connect(&finding, &Finding::statusWithdrawn, &status, &StatusLine::takeBack);
     connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
 }
 

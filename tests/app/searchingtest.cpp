@@ -4,6 +4,7 @@
 #include "catalogue/recorddictionary.h"
 #include "catalogue/search/matches.h"
 #include "catalogue/ui/factspanel.h"
+#include "support/argumenttexts.h"
 #include "support/testmain.h"
 
 #include <QCheckBox>
@@ -199,6 +200,23 @@ private Q_SLOTS:
         QCOMPARE(asked.size(), 3);
         QCOMPARE(started.size(), 1);
         QCOMPARE(started[0][0].toString(), QStringLiteral("gradius3"));
+    }
+
+    void aTypedSetNameThatAMinusHidesIsTold()
+    {
+        const auto* message = window().findChild<QLabel*>(QStringLiteral("messageLabel"));
+        const ArgumentTexts arguments;
+        search(QStringLiteral("gradius -jap"));
+        QCOMPARE(message->text(), QStringLiteral("search_hidden_set (gradius, -jap)"));
+        search(QStringLiteral("gradius -japan"));
+        QCOMPARE(message->text(), QStringLiteral("search_hidden_set (gradius, -japan)"));
+        search(QStringLiteral("gradius -world"));
+        QCOMPARE(message->text(), QString());
+        // What somebody else said stays.
+        search(QStringLiteral("gradius -japan"));
+        window().showMessage(QStringLiteral("Another one."));
+        search(QStringLiteral("gradius"));
+        QCOMPARE(message->text(), QStringLiteral("Another one."));
     }
 
     // Every telling arranges what stands around the list once more.

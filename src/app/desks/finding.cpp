@@ -2,6 +2,8 @@
 
 #include "app/windows/mainwindow.h"
 #include "app/windows.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/recorddictionary.h"
 #include "catalogue/search/matches.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/filterpanel.h"
@@ -21,6 +23,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QToolButton>
+
+#include <utility>
 
 namespace tessera {
 
@@ -87,6 +91,7 @@ void Finding::showQuery()
 {
     m_parts.window.searchField->markTerms(m_finder.query());
     complain();
+    sayHidden();
 }
 
 // What is wrong stands beside the chips; a term that is half typed is no complaint.
@@ -108,6 +113,27 @@ void Finding::showMatches()
     // What is only near has other letters.
     const bool isNearest = m_parts.list.list().isNearest();
     m_parts.window.gameTable->showMatches(isNearest ? Matches() : Matches(m_finder.query()));
+}
+
+void Finding::sayHidden()
+{
+    const QString sentence = hidden();
+    if (sentence == m_said)
+        return;
+    Q_EMIT statusWithdrawn(std::exchange(m_said, sentence));
+    if (!sentence.isEmpty())
+        Q_EMIT statusMessage(sentence);
+}
+
+QString Finding::hidden()
+{
+    const std::optional<HiddenSet> set = m_finder.hidden();
+    if (!set)
+        return {};
+    const GameRecord& record = m_parts.catalogue.records()[set->record];
+    const QString by = m_parts.window.searchField->text().sliced(set->by->begin, set->by->size);
+    return Message{"search_hidden_set", {fieldText(record[Field::Name]), by, fieldText(record[Field::Title])}}
+        .text();
 }
 
 void Finding::showSort()

@@ -47,11 +47,18 @@ public Q_SLOTS:
     void focusSearch();
     void showAll();
 
+Q_SIGNALS:
+    void statusMessage(const QString& sentence);
+    /// It holds no more.
+    void statusWithdrawn(const QString& sentence);
+
 private:
     void joinField();
     void showQuery();
     void complain();
     void showMatches();
+    void sayHidden();
+    QString hidden();
     void showSort();
     void takeProfile(const QString& executable, const ProfileAnswer& answer);
     void readRomFolders();
@@ -59,6 +66,7 @@ private:
     Parts m_parts;
     QStringList m_emulatorFolders;
     bool m_isPrepared = false;
+    QString m_said; // of what is hidden
     GameFinder m_finder;
     std::unique_ptr<FilterPanel> m_panel;
     RomWatcher m_roms;

@@ -39,6 +39,18 @@ bool isOfStatus(GameStatus status, AskedStatus asked)
     return false;
 }
 
+std::vector<std::uint32_t> named(const SearchTexts& texts, std::size_t records, const std::string& name)
+{
+    const std::vector<Score> scores
+        = wordScores(texts, records, {name}, {.fields = setOf(NameMark), .literally = true});
+    std::vector<std::uint32_t> named;
+    for (std::uint32_t record = 0; record < records; ++record) {
+        if (rankOf(scores[record]) == Rank::SetName)
+            named.push_back(record);
+    }
+    return named;
+}
+
 /// One search: a byte for each record that stays non-zero while everything lets it through.
 class Narrowing
 {
@@ -184,14 +196,12 @@ void Narrowing::keepField(const Term& term, FieldSet fields)
 // The set of that name, and its clones, also where it is missing itself.
 void Narrowing::keepFamily(const Term& term)
 {
-    const std::vector<Score> names
-        = wordScores(m_texts, m_facts.size(), term.words, {.fields = setOf(NameMark), .literally = true});
     std::vector<std::size_t> families{ContentFacts::familyOf(term.words.text)};
-    std::vector<std::uint8_t> isNamed(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        isNamed[i] = rankOf(names[i]) == Rank::SetName ? 1 : 0;
-        if (isNamed[i] != 0 && m_facts[i].parent)
-            families.push_back(m_facts[i].family);
+    std::vector<std::uint8_t> isNamed(m_facts.size());
+    for (const std::uint32_t record : named(m_texts, m_facts.size(), term.words.text)) {
+        isNamed[record] = 1;
+        if (m_facts[record].parent)
+            families.push_back(m_facts[record].family);
     }
     keepWhere(term.negated, [&](std::size_t i) {
         return isNamed[i] != 0 || std::ranges::find(families, m_facts[i].family) != families.end();
@@ -308,6 +318,11 @@ std::optional<Found> GameSearch::findNearest(const Query& query) const
             (isWords ? byWords : byOthers).keepTerm(term);
     }
     return byWords.isEmpty() ? byOthers.nearest(words) : std::nullopt;
+}
+
+std::vector<std::uint32_t> GameSearch::named(const std::string& name) const
+{
+    return tessera::named(m_texts, m_facts.size(), name);
 }
 
 void GameSearch::keep(Chip chip, RecordSet& records) const

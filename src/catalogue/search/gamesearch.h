@@ -8,6 +8,7 @@
 #include "catalogue/search/searchtexts.h"
 
 #include <span>
+#include <string>
 #include <vector>
 
 namespace tessera {
@@ -46,6 +47,8 @@ public:
     /// Where no record has the query's words: those whose titles are nearest to them, of what the other terms
     /// let through. Nothing where these alone hide all that has the words.
     std::optional<Found> findNearest(const Query& query) const;
+    /// Those with exactly this set name, which is folded.
+    std::vector<std::uint32_t> named(const std::string& name) const;
     /// Takes out what a chip does not let through.
     void keep(Chip chip, RecordSet& records) const;
     ChipCounts chipCounts(const RecordSet* within = nullptr) const

@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -41,6 +42,10 @@ class Query
 public:
     Query() = default;
     explicit Query(QStringView text);
+    explicit Query(std::vector<Term> terms)
+        : m_terms(std::move(terms))
+    {
+    }
 
     std::span<const Term> terms() const { return m_terms; }
     /// Nothing in it applies: every record is let through.

@@ -3,6 +3,7 @@
 #include "catalogue/arrangedlist.h"
 #include "catalogue/filterrules.h"
 #include "catalogue/search/gamesearch.h"
+#include "catalogue/search/hiddenset.h"
 #include "catalogue/romfolders.h"
 
 #include <QObject>
@@ -40,6 +41,8 @@ public:
     bool showsFamilies() const { return m_foldsFamilies; }
     const std::optional<QString>& maker() const { return m_maker; }
 
+    /// The machine that is typed, but hidden by another term.
+    std::optional<HiddenSet> hidden() { return hiddenSet(search(), m_query); }
     /// Some records may be hidden; what hides them, each in a few words.
     QStringList reasons() const;
     /// What the ROM folders hold of a record; nothing while they are not known.
