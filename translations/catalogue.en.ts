@@ -9,6 +9,7 @@
     <message id="chip_games"><source></source><translation>Games</translation></message>
     <message id="chip_have_rom"><source></source><translation>Have ROM</translation></message>
     <message id="chip_parents"><source></source><translation>Parents</translation></message>
+    <message id="chip_playable"><source></source><translation>Playable</translation></message>
     <message id="chip_working"><source></source><translation>Working</translation></message>
     <message id="failure_store_binary"><source></source><translation>“%1” is not a catalogue: it holds binary data.</translation></message>
     <message id="failure_store_empty"><source></source><translation>“%1” is empty.</translation></message>

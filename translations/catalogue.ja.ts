@@ -9,6 +9,7 @@
     <message id="chip_games"><source></source><translation>ゲーム</translation></message>
     <message id="chip_have_rom"><source></source><translation>ROMあり</translation></message>
     <message id="chip_parents"><source></source><translation>親</translation></message>
+    <message id="chip_playable"><source></source><translation>プレイ可</translation></message>
     <message id="chip_working"><source></source><translation>動作可</translation></message>
     <message id="failure_store_binary"><source></source><translation>“%1”はカタログではありません。バイナリデータが含まれています。</translation></message>
     <message id="failure_store_empty"><source></source><translation>“%1”は空のファイルです。</translation></message>

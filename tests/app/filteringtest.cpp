@@ -59,6 +59,8 @@ private Q_SLOTS:
         QTest::newRow("games") << Chip::Games << QStringLiteral("gradius gradius3 nemesis pacman puckman");
         QTest::newRow("have") << Chip::HaveRom << QString();
         QTest::newRow("working") << Chip::Working << QStringLiteral("gradius neogeo pacman puckman");
+        QTest::newRow("playable") << Chip::Playable
+                                  << QStringLiteral("gradius nemesis neogeo pacman puckman");
         QTest::newRow("BIOS") << Chip::Bios << QStringLiteral("neogeo");
     }
     void eachChipShowsItsRecords()

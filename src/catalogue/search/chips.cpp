@@ -13,6 +13,8 @@ bool letsThrough(Chip chip, const RecordFacts& facts, Have have)
         return have != Have::Missing;
     case Chip::Working:
         return facts.status == GameStatus::Good;
+    case Chip::Playable:
+        return facts.works();
     case Chip::Parents:
         return facts.parent;
     case Chip::Bios:

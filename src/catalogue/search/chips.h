@@ -13,7 +13,7 @@
 namespace tessera {
 
 /// A filter over the list that one click sets.
-enum class Chip : std::uint8_t { All, Games, HaveRom, Working, Parents, Bios, Favorites };
+enum class Chip : std::uint8_t { All, Games, HaveRom, Working, Playable, Parents, Bios, Favorites };
 
 struct ChipRow {
     Chip chip;
@@ -27,6 +27,7 @@ inline constexpr std::array chips{
     ChipRow{Chip::Games,   "games",   textKey("chip_games")},
     ChipRow{Chip::HaveRom, "haverom", textKey("chip_have_rom")},
     ChipRow{Chip::Working, "working", textKey("chip_working")},
+    ChipRow{Chip::Playable, "playable", textKey("chip_playable")},
     ChipRow{Chip::Parents, "parents", textKey("chip_parents")},
     ChipRow{Chip::Bios,    "bios",    textKey("chip_bios")},
     ChipRow{Chip::Favorites, "favorites", textKey("chip_favorites")},

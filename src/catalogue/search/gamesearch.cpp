@@ -24,17 +24,17 @@ bool hasAsked(Have have, HaveValue asked)
     return false;
 }
 
-bool isOfStatus(GameStatus status, AskedStatus asked)
+bool isOfStatus(const RecordFacts& facts, AskedStatus asked)
 {
     switch (asked) {
     case AskedStatus::Good:
-        return status == GameStatus::Good;
+        return facts.status == GameStatus::Good;
     case AskedStatus::Imperfect:
-        return status == GameStatus::Imperfect;
+        return facts.status == GameStatus::Imperfect;
     case AskedStatus::Preliminary:
-        return status == GameStatus::Preliminary;
+        return facts.status == GameStatus::Preliminary;
     case AskedStatus::Working:
-        return status == GameStatus::Good || status == GameStatus::Imperfect;
+        return facts.works();
     }
     return false;
 }
@@ -154,7 +154,7 @@ void Narrowing::keepTerm(const Term& term)
                          [years = term.years](const RecordFacts& facts) { return years.holds(facts.years); });
     case TermKind::Status:
         return keepFacts(no, [asked = AskedStatus{term.value}](const RecordFacts& facts) {
-            return isOfStatus(facts.status, asked);
+            return isOfStatus(facts, asked);
         });
     case TermKind::Type:
         return keepFacts(

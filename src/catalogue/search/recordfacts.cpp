@@ -47,11 +47,10 @@ std::uint32_t tie(const RecordFacts& facts, const Family& family)
     constexpr int firstYear = 1970;
     constexpr int lastAge = 31;
     const auto type = std::min(static_cast<std::uint32_t>(facts.type), std::uint32_t{3});
-    const bool works = facts.status == GameStatus::Good || facts.status == GameStatus::Imperfect;
     const auto size = std::min(static_cast<std::uint32_t>(std::bit_width(family.size)), mostFamily);
     const auto age = static_cast<std::uint32_t>(std::clamp((family.year - firstYear) / 2, 0, lastAge));
-    return type << 10 | (facts.parent ? 0U : 1U) << 9 | (works ? 0U : 1U) << 8 | (mostFamily - size) << 5
-        | age;
+    return type << 10 | (facts.parent ? 0U : 1U) << 9 | (facts.works() ? 0U : 1U) << 8
+        | (mostFamily - size) << 5 | age;
 }
 
 } // namespace

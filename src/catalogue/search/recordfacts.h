@@ -29,6 +29,9 @@ struct RecordFacts {
     bool parent = false; ///< no clone of another set
     std::size_t family = 0; ///< the same number for all sets of one parent
     bool favorite = false;
+
+    /// Well enough to be played.
+    bool works() const { return status == GameStatus::Good || status == GameStatus::Imperfect; }
 };
 
 /// The facts of a content's records, gathered once.

@@ -448,6 +448,8 @@ private Q_SLOTS:
                  QStringLiteral("pacman puckman mspacman gradius nemesis gradius3 pacmanb robo roadfu"));
         QCOMPARE(shown(Chip::Working),
                  QStringLiteral("pacman puckman mspacman gradius neogeo pacmanb robo roadfu"));
+        QCOMPARE(shown(Chip::Playable),
+                 QStringLiteral("pacman puckman mspacman gradius nemesis neogeo pacmanb robo roadfu"));
         QCOMPARE(shown(Chip::Parents),
                  QStringLiteral("puckman mspacman nemesis gradius3 neogeo jp cdr robo roadfu"));
         QCOMPARE(shown(Chip::Bios), QStringLiteral("neogeo"));
@@ -456,7 +458,7 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < chips.size(); ++i)
             QCOMPARE(counts[i], search.find({}, chips[i].chip).records.count());
         const RecordSet konami = search.find(Query(u"maker:konami")).records;
-        QCOMPARE(search.chipCounts(&konami), (ChipCounts{4, 4, 1, 2, 3, 0, 0}));
+        QCOMPARE(search.chipCounts(&konami), (ChipCounts{4, 4, 1, 2, 3, 3, 0, 0}));
     }
 
     void theFavouritesChipFollowsTheirNames()

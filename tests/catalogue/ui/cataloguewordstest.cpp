@@ -251,16 +251,17 @@ private Q_SLOTS:
         ChipBar bar;
         QCOMPARE(test::wordsOf(bar),
                  QStringList({"chip_all: chip_all", "chip_games: chip_games", "chip_haverom: chip_have_rom",
-                              "chip_working: chip_working", "chip_parents: chip_parents",
-                              "chip_bios: chip_bios", "chip_favorites: chip_favorites",
+                              "chip_working: chip_working", "chip_playable: chip_playable",
+                              "chip_parents: chip_parents", "chip_bios: chip_bios",
+                              "chip_favorites: chip_favorites",
                               "familiesBox: chips_families / tip chips_families_help"}));
-        bar.setCounts({1, 2, 3, 4, 5, 6, 1234});
+        bar.setCounts({1, 2, 3, 4, 5, 6, 7, 1234});
         QStringList names;
         for (const auto* chip : bar.findChildren<ChipButton*>())
             names << chip->accessibleName();
         QCOMPARE(names,
                  QStringList({"chip_all 1", "chip_games 2", "chip_have_rom 3", "chip_working 4",
-                              "chip_parents 5", "chip_bios 6", "chip_favorites 1,234"}));
+                              "chip_playable 5", "chip_parents 6", "chip_bios 7", "chip_favorites 1,234"}));
     }
 
     void theSearchFieldSaysWhatCanBeSearched()
