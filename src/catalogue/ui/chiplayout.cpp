@@ -68,11 +68,14 @@ void ChipLayout::setGeometry(const QRect& rect)
 std::vector<QRect> ChipLayout::places(int width) const
 {
     const QSize row = sizeHint();
-    const bool hasRoom = row.width() <= width;
+    int left = width + spacing(); // of one row, or nothing
+    for (const auto& item : m_items)
+        left -= item->minimumSize().width() + spacing();
     std::vector<QRect> all;
     QPoint at;
     for (const auto& item : m_items) {
-        const QSize size = hasRoom ? item->sizeHint() : item->minimumSize();
+        left -= item->sizeHint().width() - item->minimumSize().width();
+        const QSize size = left >= 0 ? item->sizeHint() : item->minimumSize();
         if (at.x() > 0 && at.x() + size.width() > width)
             at = QPoint(0, at.y() + row.height() + spacing());
         if (item == m_items.back())

@@ -7,8 +7,9 @@
 
 namespace tessera {
 
-/// What stands over the list: one row where everything has the room that it would like, else as many rows as
-/// are needed, with the least room for each. The last one stands at the right. Nothing ever overlaps.
+/// What stands over the list: one row where everything has the room that it would like, or the first ones
+/// have; else as many rows as are needed, with the least room for each. The last one stands at the right.
+/// Nothing ever overlaps.
 class ChipLayout : public QLayout
 {
     Q_OBJECT

@@ -51,15 +51,17 @@ private Q_SLOTS:
         QVERIFY(m_layout->takeAt(0) == nullptr);
     }
 
-    // With room for all of it the last one stands at the right; else each takes its least, and a row of its
-    // own where it has to.
+    // With room for all of it the last one stands at the right; with less the last ones take their least,
+    // then all, and a row of its own where one has to.
     void chipsStandInRows_data()
     {
         QTest::addColumn<int>("width");
         QTest::addColumn<QString>("places");
         QTest::newRow("more than enough") << 200 << "0,0 50 | 56,0 40 | 170,0 30";
         QTest::newRow("just enough") << 132 << "0,0 50 | 56,0 40 | 102,0 30";
-        QTest::newRow("a little less") << 131 << "0,0 20 | 26,0 20 | 111,0 20";
+        QTest::newRow("a little less") << 131 << "0,0 50 | 56,0 40 | 111,0 20";
+        QTest::newRow("enough for the first one") << 121 << "0,0 50 | 56,0 20 | 101,0 20";
+        QTest::newRow("not for it") << 101 << "0,0 20 | 26,0 20 | 81,0 20";
         QTest::newRow("just enough for the least") << 72 << "0,0 20 | 26,0 20 | 52,0 20";
         QTest::newRow("two rows") << 71 << "0,0 20 | 26,0 20 | 51,30 20";
         QTest::newRow("just two in a row") << 46 << "0,0 20 | 26,0 20 | 26,30 20";
