@@ -6,6 +6,8 @@
     <message id="column_name"><source></source><translation>Set</translation></message>
     <message id="column_title"><source></source><translation>Title</translation></message>
     <message id="column_titlejp"><source></source><translation>Japanese title</translation></message>
+    <message id="column_second_down"><source></source><translation>Equal ones are in this column’s order, descending.</translation></message>
+    <message id="column_second_up"><source></source><translation>Equal ones are in this column’s order, ascending.</translation></message>
     <message id="column_year"><source></source><translation>Year</translation></message>
     <message id="column_maker"><source></source><translation>Maker</translation></message>
     <message id="column_cloneof"><source></source><translation>Parent</translation></message>

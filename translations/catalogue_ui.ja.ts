@@ -6,6 +6,8 @@
     <message id="column_name"><source></source><translation>セット</translation></message>
     <message id="column_title"><source></source><translation>タイトル</translation></message>
     <message id="column_titlejp"><source></source><translation>日本語タイトル</translation></message>
+    <message id="column_second_down"><source></source><translation>同じものはこの列の降順に並びます。</translation></message>
+    <message id="column_second_up"><source></source><translation>同じものはこの列の昇順に並びます。</translation></message>
     <message id="column_year"><source></source><translation>年</translation></message>
     <message id="column_maker"><source></source><translation>メーカー</translation></message>
     <message id="column_cloneof"><source></source><translation>親セット</translation></message>

@@ -63,6 +63,7 @@ void ArrangedList::setContent(std::span<const GameRecord> content, std::optional
     m_sorted = {};
     m_sorted[static_cast<std::size_t>(Field::Name)] = std::move(byName);
     m_order.reset();
+    m_isOverRanks = false;
     m_ascending = m_sorts.back().ascending;
     // As when each of the sorts were asked for again.
     m_before.clear();
@@ -92,6 +93,7 @@ void ArrangedList::setSort(Field field, bool ascending)
     if (field == sortField() && ascending == m_ascending && !isRanked() && !m_order)
         return;
     keepShownOrder();
+    m_isOverRanks = isRanked() || (m_isOverRanks && field == sortField());
     std::erase_if(m_sorts, [field](const Sort& sort) { return sort.field == field; });
     m_sorts.push_back({field, ascending});
     m_order.reset();
@@ -103,6 +105,13 @@ void ArrangedList::setSort(SortedRecords order, bool ascending)
     keepShownOrder();
     m_order = std::move(order);
     sortBy(ascending);
+}
+
+std::optional<ArrangedList::Sort> ArrangedList::secondSort() const
+{
+    if (m_order || isRanked() || m_isOverRanks || m_sorts.size() < 2)
+        return std::nullopt;
+    return m_sorts[m_sorts.size() - 2];
 }
 
 void ArrangedList::forgetOrder(Field field)

@@ -27,6 +27,11 @@ class ArrangedList : public QObject
     Q_OBJECT
 
 public:
+    struct Sort {
+        Field field;
+        bool ascending;
+    };
+
     /// Which records belong together, by the index of each one's head, and the heads whose clones are shown.
     struct Families {
         std::vector<std::uint32_t> heads;
@@ -65,6 +70,8 @@ public:
 
     Field sortField() const { return m_sorts.back().field; }
     bool ascending() const { return m_ascending; }
+    /// What decides among those that are equal by it; nothing where that is no field, or ranks are shown.
+    std::optional<Sort> secondSort() const;
     /// The best ranked come first.
     bool isRanked() const { return m_ranks && m_found && !m_found->ranks.empty(); }
     /// Nothing was found: the rows are the nearest.
@@ -93,11 +100,6 @@ Q_SIGNALS:
     void arranged(tessera::ArrangedList::Change change);
 
 private:
-    struct Sort {
-        Field field;
-        bool ascending;
-    };
-
     void arrange(Change change);
     void keepShownOrder();
     void sortBy(bool ascending);
@@ -112,6 +114,7 @@ private:
     std::optional<Families> m_families;
     std::vector<Sort> m_sorts{{Field::Name, true}}; // each field once, the last one counts first
     bool m_ascending = true;
+    bool m_isOverRanks = false; ///< equal ones stand as they were ranked before the last sort
     std::array<std::optional<SortedRecords>, fieldCount> m_sorted;
     std::optional<SortedRecords> m_order; // goes before the fields
     // Of all records, shown or not: how they stood before the last sort (nothing: as the content has them),

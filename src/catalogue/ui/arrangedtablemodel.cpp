@@ -5,8 +5,10 @@
 #include "catalogue/recorddictionary.h"
 #include "catalogue/statusmark.h"
 #include "catalogue/ui/matchdelegate.h"
+#include "core/message.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/fontname.h"
+#include "widgets/sortheader.h"
 #include "widgets/theme.h"
 
 #include <algorithm>
@@ -107,7 +109,23 @@ QVariant ArrangedTableModel::headerData(int section, Qt::Orientation orientation
         return qtTrId(m_columns[static_cast<std::size_t>(section)].heading);
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    if (!m_secondSort || m_secondSort->column != section)
+        return QVariant();
+    const bool ascending = m_secondSort->ascending;
+    if (role == SortHeader::SecondSortRole)
+        return int{ascending ? Qt::AscendingOrder : Qt::DescendingOrder};
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole)
+        return qtTrId(ascending ? textKey("column_second_up") : textKey("column_second_down"));
     return QVariant();
+}
+
+void ArrangedTableModel::showSecondSort()
+{
+    const std::optional<ColumnSort> now = secondSort();
+    if (now == m_secondSort)
+        return;
+    m_secondSort = now;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 Qt::ItemFlags ArrangedTableModel::flags(const QModelIndex& index) const
@@ -153,8 +171,10 @@ void ArrangedTableModel::beginArranging(ArrangedList::Change change)
 
 void ArrangedTableModel::endArranging(ArrangedList::Change change)
 {
-    if (change != ArrangedList::Change::Order)
-        return endResetModel();
+    if (change != ArrangedList::Change::Order) {
+        endResetModel();
+        return showSecondSort();
+    }
     QModelIndexList now;
     now.reserve(m_places.size());
     for (qsizetype i = 0; i < m_places.size(); ++i) {
@@ -163,6 +183,7 @@ void ArrangedTableModel::endArranging(ArrangedList::Change change)
     }
     changePersistentIndexList(m_places, now);
     Q_EMIT layoutChanged({}, VerticalSortHint);
+    showSecondSort();
 }
 
 } // namespace tessera

@@ -19,6 +19,14 @@ struct TableColumn {
     bool isEditable = true;
 };
 
+/// A column that the rows are sorted by.
+struct ColumnSort {
+    int column;
+    bool ascending;
+
+    bool operator==(const ColumnSort&) const = default;
+};
+
 /// What the models over an arranged list share: texts, marks and colours of its records, made only for the
 /// rows that are drawn, and that other rows reset the model, while the same ones in another order stay
 /// selected.
@@ -48,6 +56,10 @@ protected:
     {
         return m_columns[static_cast<std::size_t>(index.column())];
     }
+    /// What decides among rows that are equal by the sorted column, if that is a column.
+    virtual std::optional<ColumnSort> secondSort() const = 0;
+    /// After each sort, also one that leaves the rows as they are.
+    void showSecondSort();
     virtual void setText(const QModelIndex& index, const QString& text) = 0;
     std::uint32_t recordAt(const QModelIndex& index) const
     {
@@ -69,6 +81,7 @@ private:
     DefaultsController& m_defaults;
     const Key<QLatin1StringView>& m_fontKey;
     QFont m_font;
+    std::optional<ColumnSort> m_secondSort; // as the header shows it
     // While the rows change places: what is kept by its place, and the record in each.
     QModelIndexList m_places;
     std::vector<std::uint32_t> m_recordsThere;

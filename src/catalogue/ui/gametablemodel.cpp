@@ -92,6 +92,13 @@ void GameTableModel::sort(int column, Qt::SortOrder order)
         return;
     if (const auto field = columns[static_cast<std::size_t>(column)].field)
         list().setSort(*field, order == Qt::AscendingOrder);
+    showSecondSort();
+}
+
+std::optional<ColumnSort> GameTableModel::secondSort() const
+{
+    const auto sort = list().secondSort();
+    return sort ? std::optional(ColumnSort{columnOf(sort->field), sort->ascending}) : std::nullopt;
 }
 
 } // namespace tessera

@@ -31,6 +31,7 @@ public Q_SLOTS:
     QStringList mimeTypes() const override;
 
 private:
+    std::optional<ColumnSort> secondSort() const override;
     void setText(const QModelIndex& index, const QString& text) override;
     QString description(std::size_t row) const;
 

@@ -3,6 +3,7 @@
 #include "catalogue/ui/familydelegate.h"
 #include "platform/defaultscontroller.h"
 #include "widgets/myscrollers.h"
+#include "widgets/sortheader.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -39,7 +40,6 @@ GameTableView::GameTableView(QWidget* parent)
     setAlternatingRowColors(true);
     setShowGrid(false);
     setWordWrap(false);
-    setSortingEnabled(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollBar(new MyScrollers(Qt::Vertical));
@@ -50,9 +50,11 @@ GameTableView::GameTableView(QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(8);
     verticalHeader()->hide();
+    setHorizontalHeader(new SortHeader);
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
+    setSortingEnabled(true);
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, &GameTableView::showColumnsMenu);
     setItemDelegate(m_texts);

@@ -155,6 +155,15 @@ void FavouritesTableModel::sort(int column, Qt::SortOrder order)
     std::erase_if(m_sorts, [&](const Sort& each) { return each.column == sort.column; });
     m_sorts.push_back(sort);
     arrange(sort);
+    showSecondSort();
+}
+
+std::optional<ColumnSort> FavouritesTableModel::secondSort() const
+{
+    const Sort* second = m_sorts.size() < 2 ? nullptr : &m_sorts[m_sorts.size() - 2];
+    return second != nullptr && second->column
+        ? std::optional(ColumnSort{static_cast<int>(*second->column), second->ascending})
+        : std::nullopt;
 }
 
 } // namespace tessera

@@ -56,6 +56,7 @@ private:
 
     void arrange(const Sort& sort);
     QString shown(std::uint32_t favourite, FavouriteColumn column) const;
+    std::optional<ColumnSort> secondSort() const override;
     QVariant goneData(std::uint32_t favourite, FavouriteColumn column, int role) const;
     void setText(const QModelIndex& index, const QString& text) override;
 

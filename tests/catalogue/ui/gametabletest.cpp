@@ -1,6 +1,7 @@
 #include "catalogue/ui/familydelegate.h"
 #include "stagedtable.h"
 #include "support/testmain.h"
+#include "widgets/sortheader.h"
 
 #include <QHeaderView>
 #include <QSignalSpy>
@@ -50,6 +51,48 @@ private Q_SLOTS:
         QTEST(names(), "names");
         QCOMPARE(header->sortIndicatorSection(), std::max(0, moved));
         QCOMPARE(header->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
+
+    // It decides among equal ones.
+    void theColumnThatWasSortedBeforeIsMarked()
+    {
+        const QSignalSpy told(m_table->model(), &QAbstractItemModel::headerDataChanged);
+        QCOMPARE(second(), QString());
+        clickHeader(3);
+        QCOMPARE(second(), QStringLiteral("0 column_second_up"));
+        QCOMPARE(told.size(), 1);
+        clickHeader(3);
+        QCOMPARE(second(), QStringLiteral("0 column_second_up"));
+        QCOMPARE(told.size(), 1);
+        clickHeader(4);
+        QCOMPARE(second(), QStringLiteral("3 column_second_down"));
+        clickHeader(0);
+        QCOMPARE(second(), QStringLiteral("4 column_second_up"));
+    }
+
+    // Rows stay where they are, as all have one maker.
+    void aSortThatChangesNoRowMarksToo()
+    {
+        clickHeader(4);
+        QCOMPARE(second(), QStringLiteral("0 column_second_up"));
+    }
+
+    void noColumnIsMarkedWhereRanksDecide()
+    {
+        clickHeader(3);
+        ArrangedList& list = m_list->list();
+        Found found{RecordSet::all(5), {4, 3, 2, 1, 0}};
+        list.setFound(found);
+        QCOMPARE(second(), QString());
+        clickHeader(4); // all are equal
+        QCOMPARE(names(), (QStringList{"mid", "", "zed", "Zed", "abc"}));
+        QCOMPARE(second(), QString());
+        clickHeader(4);
+        QCOMPARE(second(), QString());
+        list.setFound(std::nullopt);
+        QCOMPARE(second(), QString());
+        clickHeader(0);
+        QCOMPARE(second(), QStringLiteral("4 column_second_down"));
     }
 
     void equalOnesKeepTheOrderThatWasShown()
@@ -258,6 +301,25 @@ private:
             }
         }
         return {first, last};
+    }
+
+    // The column that is marked, and what is said of it.
+    QString second() const
+    {
+        const QAbstractItemModel* model = m_table->model();
+        QStringList marked;
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const auto data = [&](int role) { return model->headerData(column, Qt::Horizontal, role); };
+            const QString said = data(Qt::ToolTipRole).toString();
+            const bool isUpwards = said.endsWith(QStringLiteral("up"));
+            const QVariant order = data(SortHeader::SecondSortRole);
+            if (order.isValid() != !said.isEmpty() || data(Qt::AccessibleDescriptionRole).toString() != said
+                || (order.isValid() && (order.toInt() == Qt::AscendingOrder) != isUpwards))
+                marked << QStringLiteral("odd");
+            if (order.isValid())
+                marked << QString::number(column) + u' ' + said;
+        }
+        return marked.join(u' ');
     }
 
     QStringList names() const
