@@ -94,6 +94,7 @@
     <message id="favorites_window"><source></source><translation>Tessera  |  Favourites</translation></message>
     <message id="favorites_list"><source></source><translation>Favourites</translation></message>
     <message id="favorites_empty"><source></source><translation>No favourites yet. Ctrl+D adds the selected game of the list.</translation></message>
+    <message id="favorites_none_found"><source></source><translation>No favourite fits the search.</translation></message>
     <message id="favorites_none_recent"><source></source><translation>None of the favourites was played lately.</translation></message>
     <message id="favorites_edit"><source></source><translation>Edit the selected favourite</translation></message>
     <message id="favorites_remove"><source></source><translation>Remove the selected favourites</translation></message>
@@ -143,7 +144,7 @@
 &lt;li&gt;&lt;b&gt;Old favourites&lt;/b&gt; turns a favourites file of the older form into the present one, and keeps the one before.&lt;/li&gt;
 &lt;li&gt;&lt;b&gt;Launch script&lt;/b&gt; saves a small script that starts the selected game without Tessera.&lt;/li&gt;&lt;/ul&gt;
 &lt;p&gt;Each job can be cancelled. Most of them can also be run without windows: &lt;i&gt;tessera --help&lt;/i&gt; in a terminal names the commands.&lt;/p&gt;</translation></message>
-    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt; adds the selected game to the favourites; &lt;b&gt;Ctrl+2&lt;/b&gt; shows them in the same place, &lt;b&gt;Ctrl+1&lt;/b&gt; goes back. Each favourite may have options of its own; &lt;i&gt;Edit record&lt;/i&gt; completes them from what your MAME lists, and shows the whole command line.&lt;/p&gt;
+    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt; adds the selected game to the favourites; &lt;b&gt;Ctrl+2&lt;/b&gt; shows them in the same place, &lt;b&gt;Ctrl+1&lt;/b&gt; goes back. Each favourite may have options of its own; &lt;i&gt;Edit record&lt;/i&gt; completes them from what your MAME lists, and shows the whole command line. &lt;b&gt;Ctrl+F&lt;/b&gt; searches them like the game list; they keep their order.&lt;/p&gt;
 &lt;p&gt;Favourites that were added or removed are saved when you quit. An edit alone is saved by &lt;b&gt;Ctrl+S&lt;/b&gt; in the favourites window, which also says when something is not saved yet.&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+3&lt;/b&gt; leaves a small launcher: type a set name, or let the dice choose, and press Return. It can stay above all other windows.&lt;/p&gt;
 &lt;p&gt;What you played, how often and when last, is kept beside the favourites. The &lt;i&gt;Game&lt;/i&gt; menu switches it off, and clears it.&lt;/p&gt;</translation></message>

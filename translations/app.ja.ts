@@ -94,6 +94,7 @@
     <message id="favorites_window"><source></source><translation>Tessera  |  お気に入り</translation></message>
     <message id="favorites_list"><source></source><translation>お気に入り</translation></message>
     <message id="favorites_empty"><source></source><translation>お気に入りはまだありません。リストで選択したゲームを Ctrl+D で追加します。</translation></message>
+    <message id="favorites_none_found"><source></source><translation>検索に合うお気に入りはありません。</translation></message>
     <message id="favorites_none_recent"><source></source><translation>最近プレイしたお気に入りはありません。</translation></message>
     <message id="favorites_edit"><source></source><translation>選択したお気に入りを編集</translation></message>
     <message id="favorites_remove"><source></source><translation>選択したお気に入りを削除</translation></message>
@@ -143,7 +144,7 @@
 &lt;li&gt;&lt;b&gt;旧お気に入り&lt;/b&gt;は、古い形式のお気に入りを今の形式に変換し、それまでのものを残します。&lt;/li&gt;
 &lt;li&gt;&lt;b&gt;起動スクリプト&lt;/b&gt;は、選択したゲームをTesseraなしで起動する小さなスクリプトを保存します。&lt;/li&gt;&lt;/ul&gt;
 &lt;p&gt;どの作業も取り消せます。多くはウインドウなしでも実行できます。ターミナルで「tessera --help」と入力すると、コマンドの一覧が出ます。&lt;/p&gt;</translation></message>
-    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt;で、選択したゲームがお気に入りに加わります。&lt;b&gt;Ctrl+2&lt;/b&gt;で同じ場所にお気に入りが開き、&lt;b&gt;Ctrl+1&lt;/b&gt;で戻ります。お気に入りにはそれぞれ独自のオプションを付けられます。「項目を編集」では、お使いのMAMEのオプションが補完され、コマンドライン全体が見られます。&lt;/p&gt;
+    <message id="help_favorites"><source></source><translation>&lt;p&gt;&lt;b&gt;Ctrl+D&lt;/b&gt;で、選択したゲームがお気に入りに加わります。&lt;b&gt;Ctrl+2&lt;/b&gt;で同じ場所にお気に入りが開き、&lt;b&gt;Ctrl+1&lt;/b&gt;で戻ります。お気に入りにはそれぞれ独自のオプションを付けられます。「項目を編集」では、お使いのMAMEのオプションが補完され、コマンドライン全体が見られます。&lt;b&gt;Ctrl+F&lt;/b&gt;で、一覧と同じように検索できます。並び順は変わりません。&lt;/p&gt;
 &lt;p&gt;追加や削除は終了時に保存されます。編集だけのときは、お気に入りウインドウで&lt;b&gt;Ctrl+S&lt;/b&gt;を押すと保存されます。保存していない変更があるときは、そこに表示されます。&lt;/p&gt;
 &lt;p&gt;&lt;b&gt;Ctrl+3&lt;/b&gt;は小さなランチャーだけを残します。セット名を入力するか、サイコロにまかせて、Returnキーを押してください。ほかのウインドウより手前に置いておけます。&lt;/p&gt;
 &lt;p&gt;遊んだ回数と最後に遊んだ日時は、お気に入りの横のファイルに残ります。「ゲーム」メニューで切ることも、消去することもできます。&lt;/p&gt;</translation></message>

@@ -57,6 +57,7 @@ std::vector<KeyCommands::Row> Program::keyTable()
             switching.windowMain();
         finding.focusSearch();
     };
+    const Command find2 = [this] { favorites.focusSearch(); };
     const Command findText = [this] { info.window().findField->setFocus(Qt::ShortcutFocusReason); };
     const Command bigger = [this] { tableFont.makeTextBigger(); };
     const Command smaller = [this] { tableFont.makeTextSmaller(); };
@@ -69,7 +70,7 @@ std::vector<KeyCommands::Row> Program::keyTable()
     return {
         {Kind::Main,             random,  top,               bottom,              games,      remove,  save,  edit,  find,     bigger,  smaller,  games,      undo},
         {Kind::Mini,             random3, nullptr,           nullptr,             typed,      nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
-        {Kind::Favourites,       random2, top2,              bottom2,             favourites, remove2, save2, edit2, find,     bigger,  smaller,  favourites, undo2},
+        {Kind::Favourites,       random2, top2,              bottom2,             favourites, remove2, save2, edit2, find2,    bigger,  smaller,  favourites, undo2},
         {Kind::Log,              nullptr, page(log, up),     page(log, down),     nullptr,    nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},
         {Kind::History,          nullptr, page(history, up), page(history, down), nullptr,    nullptr, save,  edit,  findText, bigger2, smaller2, nullptr,    undo},
         {Kind::Editor,           nullptr, nullptr,           nullptr,             games,      nullptr, save,  edit,  find,     bigger,  smaller,  nullptr,    undo},

@@ -2,6 +2,8 @@
 
 #include "catalogue/families.h"
 
+#include <algorithm>
+
 namespace tessera {
 
 namespace {
@@ -219,6 +221,14 @@ std::optional<std::size_t> ArrangedList::rowOf(std::uint32_t record) const
     if (record >= m_rowOf.size() || m_rowOf[record] == hidden)
         return std::nullopt;
     return m_rowOf[record];
+}
+
+std::optional<std::uint32_t> ArrangedList::firstOf(Field field, std::string_view value) const
+{
+    const auto first = std::ranges::find_if(m_ordered, [&](std::uint32_t record) {
+        return m_content[record].has(field) && m_content[record][field] == value;
+    });
+    return first == m_ordered.end() ? std::nullopt : std::optional(*first);
 }
 
 std::optional<std::size_t> ArrangedList::find(Field field, std::string_view value) const

@@ -90,6 +90,8 @@ public:
     std::optional<std::size_t> rowOf(std::uint32_t record) const;
     /// The first row whose field is exactly `value`.
     std::optional<std::size_t> find(Field field, std::string_view value) const;
+    /// The first record whose field is exactly `value`, as they are sorted, shown or not.
+    std::optional<std::uint32_t> firstOf(Field field, std::string_view value) const;
 
     /// What was asked for: another content, other ones of its records, or another order of the same ones.
     enum class Change : std::uint8_t { Content, Rows, Order };

@@ -13,7 +13,7 @@ namespace tessera {
 class DeletionFocusRing
 {
 public:
-    /// Six of them are no controls of ours: what they did needs none here, or stands in a menu.
+    /// Five of them are no controls of ours: what they did needs none here, or stands in a menu.
     static constexpr std::array controls{
         QLatin1StringView("titleSearchField"),  QLatin1StringView("buttonShot"),
         QLatin1StringView("setnameTextField2"), QLatin1StringView("editSetname"),

@@ -1,7 +1,9 @@
 #include "stagedwindows.h"
 
 #include "app/desks/finding.h"
+#include "app/windows/emptystate.h"
 #include "catalogue/ui/recordediting.h"
+#include "catalogue/ui/searchfield.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "launch/ui/launchcontroller.h"
 #include "launch/ui/logwindow.h"
@@ -81,6 +83,57 @@ private Q_SLOTS:
         m_staged->app->saveFavouritesNow();
         QCOMPARE(main().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
                  QStringLiteral("favourites_saved"));
+    }
+
+    void ctrlFSearchesTheFavouritesThemselves()
+    {
+        add("pong");
+        add("qix");
+        m_staged->app->windowFavorites();
+        FavouritesWindow& window = favorites();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.favoritesTable->setFocus();
+        m_staged->desktop.takeTranscript();
+        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(window.searchField->hasFocus());
+        QVERIFY(window.isVisible() && !main().isVisible());
+        QTest::keyClicks(window.searchField, QStringLiteral("qi"));
+        const QAbstractItemModel* rows = window.favoritesTable->model();
+        QCOMPARE(rows->rowCount(), 1);
+        QCOMPARE(window.findChild<QLabel*>(QStringLiteral("favoritesCount"))->text(),
+                 QStringLiteral("favorites_count_some"));
+        QCOMPARE(m_staged->app->gameList().list().size(), std::size_t(4));
+        // Deletes a letter, and no favourite.
+        QTest::keyClick(window.searchField, Qt::Key_Home);
+        QTest::keyClick(window.searchField, Qt::Key_Delete);
+        QCOMPARE(window.searchField->text(), QStringLiteral("i"));
+        QVERIFY(m_staged->desktop.takeTranscript().isEmpty());
+        QTest::keyClick(window.searchField, Qt::Key_Down);
+        QVERIFY(window.favoritesTable->hasFocus());
+        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClick(window.searchField, Qt::Key_Escape);
+        QCOMPARE(rows->rowCount(), 2);
+        QVERIFY(window.searchField->hasFocus());
+        QTest::keyClick(window.searchField, Qt::Key_Escape);
+        QVERIFY(window.favoritesTable->hasFocus());
+        QVERIFY(window.isVisible());
+    }
+
+    void aFavouritesSearchThatFindsNothingShowsAllAgain()
+    {
+        add("pong");
+        m_staged->app->windowFavorites();
+        FavouritesWindow& window = favorites();
+        auto* message = window.findChild<QLabel*>(QStringLiteral("messageLabel"));
+        window.searchField->setText(QStringLiteral("nowhere stauts:good"));
+        QVERIFY(window.emptyState->isVisible());
+        QCOMPARE(window.emptyState->findChild<QLabel*>()->text(), QStringLiteral("favorites_none_found"));
+        QCOMPARE(message->text(), QStringLiteral("search_near_key"));
+        auto* button = window.emptyState->findChild<QPushButton*>();
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(window.favoritesTable->model()->rowCount(), 1);
+        QVERIFY(window.searchField->text().isEmpty());
+        QVERIFY(message->text().isEmpty());
     }
 
     void aDroppedFileIsOpened_data()
@@ -266,6 +319,12 @@ private Q_SLOTS:
             = main().menuBar()->findChild<QMenu*>(QStringLiteral("menu_view"))->actions().constLast();
         Q_EMIT columns->menu()->aboutToShow();
         QCOMPARE(columns->menu()->actions().size(), favorites().favoritesTable->model()->columnCount());
+        m_staged->app->focusSearch();
+        QVERIFY(favorites().searchField->hasFocus());
+        QVERIFY(!main().isVisible());
+        // From any other window it is the game list that is searched.
+        m_staged->app->showLogWindow();
+        becomeKey(m_staged->app->logWindow());
         m_staged->app->focusSearch();
         QVERIFY(main().isVisible());
         QVERIFY(!favorites().isVisible());

@@ -9,6 +9,7 @@
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
 #include "favourites/favouritespath.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "launch/profilecache.h"
@@ -18,6 +19,8 @@
 #include <QFileInfo>
 #include <QPushButton>
 #include <QToolButton>
+
+#include <utility>
 
 namespace tessera {
 
@@ -47,7 +50,10 @@ FavouritesDesk::FavouritesDesk(Parts parts, QObject* parent)
     connect(&m_favourites, &Favourites::putBackAt, this, &FavouritesDesk::tellNames);
     connect(&m_favourites, &Favourites::valueChanged, this, &FavouritesDesk::tellNames);
     const RomWatcher& roms = m_parts.finding.roms();
-    connect(&roms, &RomWatcher::changed, this, [this, &roms] { m_controller.setRomFolders(roms.folders()); });
+    connect(&roms, &RomWatcher::changed, this, [this, &roms] {
+        m_controller.setRomFolders(roms.folders());
+        m_controller.finder().setRomFolders(roms.folders());
+    });
     joinEditor();
 }
 
@@ -145,6 +151,43 @@ void FavouritesDesk::joinWindow()
     connect(window.mainButton, &QToolButton::clicked, this, &FavouritesDesk::mainWanted);
     connect(window.miniButton, &QToolButton::clicked, this, &FavouritesDesk::miniWanted);
     connect(&window, &FavouritesWindow::closeRequested, this, &FavouritesDesk::mainWanted);
+    joinField();
+}
+
+void FavouritesDesk::joinField()
+{
+    SearchField* field = m_window->searchField;
+    connect(field, &QLineEdit::textChanged, this, &FavouritesDesk::search);
+    connect(field, &QLineEdit::returnPressed, &m_controller, &UCAppController::tableViewDoubleAction2);
+    connect(field, &SearchField::leftDownwards, this, [this] {
+        m_window->favoritesTable->setFocus();
+        if (m_controller.firstRow() < 0)
+            m_controller.selectRow(0);
+    });
+}
+
+// What is wrong is said in the status line; a term that is half typed is no complaint.
+void FavouritesDesk::search(const QString& text)
+{
+    m_window->setSearching(!text.isEmpty());
+    m_controller.search(text);
+    const Query& query = m_controller.finder().query();
+    m_window->searchField->markTerms(query);
+    QStringList wrong;
+    for (const Term& term : query.terms()) {
+        if (term.state == Term::State::Wrong && term.why)
+            wrong << term.why->text();
+    }
+    m_window->takeBack(std::exchange(m_complaint, wrong.join(u' ')));
+    if (!m_complaint.isEmpty())
+        m_window->showMessage(m_complaint);
+}
+
+void FavouritesDesk::focusSearch()
+{
+    window().activateWindow();
+    window().searchField->setFocus(Qt::ShortcutFocusReason);
+    window().searchField->selectAll();
 }
 
 void FavouritesDesk::awakeFromNib()
@@ -165,13 +208,15 @@ void FavouritesDesk::showCount()
     m_window->showCount(m_controller.list().size(), m_favourites.records().size());
 }
 
-// Without favourites some are found in the game list; without recently played ones all are shown.
+// Without favourites some are found in the game list; where others are hidden all are shown.
 void FavouritesDesk::actOnEmptyList()
 {
     if (m_favourites.records().empty())
         Q_EMIT mainWanted();
-    else
+    else {
+        m_window->searchField->clear();
         showRecentlyPlayed(false);
+    }
 }
 
 void FavouritesDesk::showRecentlyPlayed(bool only)

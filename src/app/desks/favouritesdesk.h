@@ -51,6 +51,7 @@ public:
     PlayedController& played() { return m_playing; }
     Favourites& favourites() { return m_favourites; }
 
+    void focusSearch();
     /// Reads both files.
     void awakeFromNib();
 
@@ -69,6 +70,8 @@ private:
     void showCount();
     void actOnEmptyList();
     void showRecentlyPlayed(bool only);
+    void joinField();
+    void search(const QString& text);
 
     Parts m_parts;
     Favourites m_favourites;
@@ -77,6 +80,7 @@ private:
     FavouriteEditing m_editing;
     PlayedController m_playing;
     std::unique_ptr<FavouritesWindow> m_window;
+    QString m_complaint; ///< of what is searched
 };
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include "app/windows/sidepanel.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/searchfield.h"
 #include "favourites/ui/favouritestablemodel.h"
 #include "info/ui/sitechoice.h"
 #include "platform/defaultscontroller.h"
@@ -11,6 +12,7 @@
 #include "widgets/toolbutton.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,6 +21,13 @@
 #include <QToolButton>
 
 namespace tessera {
+
+namespace {
+
+constexpr int leastField = 110;
+constexpr int mostField = 420;
+
+} // namespace
 
 FavouritesWindow::FavouritesWindow(DefaultsController& defaults)
     : ListWindow(defaults, new GameTableView, kind())
@@ -68,6 +77,10 @@ Bar* FavouritesWindow::makeButtons()
     recentChip = new ChipButton(qtTrId("favorites_recent"));
     recentChip->setObjectName(QStringLiteral("recentChip"));
     recentChip->setAccessibleName(recentChip->text());
+    searchField = new SearchField;
+    searchField->setObjectName(QStringLiteral("titleSearchField2"));
+    searchField->setMinimumWidth(leastField);
+    searchField->setMaximumWidth(mostField);
     miniButton = toolButton(QStringLiteral("mini"), qtTrId("favorites_mini"));
     mainButton = toolButton(QStringLiteral("list"), qtTrId("mini_main"));
 
@@ -77,6 +90,7 @@ Bar* FavouritesWindow::makeButtons()
     layout->addSpacing(8);
     layout->addWidget(recentChip);
     layout->addStretch(1);
+    layout->addWidget(searchField, 2);
     layout->addWidget(miniButton);
     layout->addWidget(mainButton);
     return bar;
@@ -103,8 +117,19 @@ void FavouritesWindow::takeMenus(const QMenuBar& from)
 void FavouritesWindow::showCount(std::size_t shown, std::size_t all)
 {
     ListWindow::showCount(shown, all);
-    emptyState->showReason(qtTrId(all == 0 ? textKey("favorites_empty") : textKey("favorites_none_recent")),
+    emptyState->showReason(qtTrId(all == 0            ? textKey("favorites_empty")
+                                      : m_isSearching ? textKey("favorites_none_found")
+                                                      : textKey("favorites_none_recent")),
                            all == 0 ? qtTrId("mini_main") : qtTrId("main_showall"));
+}
+
+// What an empty search field does not take: back to the list.
+void FavouritesWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && searchField->hasFocus())
+        favoritesTable->setFocus();
+    else
+        ListWindow::keyPressEvent(event);
 }
 
 void FavouritesWindow::showUnsaved(bool unsaved)

@@ -7,6 +7,7 @@ class QMenuBar;
 namespace tessera {
 
 class ChipButton;
+class SearchField;
 class SiteChoice;
 
 /// The favourites. It takes the main window's place.
@@ -23,13 +24,19 @@ public:
     QToolButton* removeButton;
     QToolButton* mainButton;
     QToolButton* miniButton;
+    SearchField* searchField;
     ChipButton* recentChip; ///< only what was played in the last days
     QPushButton* saveButton; ///< shown while something is not saved
 
     /// The same menus as in the main window.
     void takeMenus(const QMenuBar& from);
     void showCount(std::size_t shown, std::size_t all);
+    /// Why the list may be empty where there are favourites.
+    void setSearching(bool searching) { m_isSearching = searching; }
     void showUnsaved(bool unsaved);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     static const Kind& kind();
@@ -37,6 +44,7 @@ private:
     void makeStatusLine();
 
     QLabel* m_unsaved;
+    bool m_isSearching = false;
 };
 
 } // namespace tessera

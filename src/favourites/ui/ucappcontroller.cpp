@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace tessera {
 
@@ -25,6 +26,7 @@ constexpr int headerHeight = 22;
 UCAppController::UCAppController(const FavouritesParts& parts, QObject* parent)
     : ListController(parts.desktop, parts.defaults.stored(), parent)
     , m_parts(parts)
+    , m_finder(parts.favourites)
     , m_model(new FavouritesTableModel(m_parts.favourites, list(), m_parts.played, colors(), m_parts.defaults,
                                        this))
 {
@@ -39,7 +41,11 @@ void UCAppController::joinFavourites()
     connect(favourites, &Favourites::putBackAt, this,
             [this](const std::vector<std::uint32_t>& places) { showAgain(places); });
     connect(favourites, &Favourites::removed, this, &UCAppController::showAfterRemoval);
-    connect(favourites, &Favourites::valueChanged, this, &UCAppController::tableViewSelectionDidChange);
+    connect(favourites, &Favourites::valueChanged, this, [this] {
+        // Rows stay until something else is searched.
+        m_finder.forget();
+        tableViewSelectionDidChange();
+    });
     connect(&m_parts.favourites.undoStack(), &QUndoStack::cleanChanged, this,
             [this](bool clean) { Q_EMIT unsavedChanged(!clean); });
 
@@ -93,7 +99,9 @@ void UCAppController::showAgain(const std::vector<std::uint32_t>& selected, int 
 {
     {
         const QScopedValueRollback quiet(m_isQuiet, true);
+        m_finder.forget();
         m_model->reload();
+        showFound();
         selectRecords(selected);
         selectRow(row);
     }
@@ -172,6 +180,30 @@ void UCAppController::favorites_tableViewSort()
         m_model->sort(0, Qt::AscendingOrder);
 }
 
+void UCAppController::search(const QString& text)
+{
+    m_finder.setQuery(text);
+    std::vector<std::uint32_t> ranks;
+    {
+        const Rearranging keeping(*this);
+        ranks = showFound();
+    }
+    const std::span<const std::uint32_t> rows = list().rows();
+    if (!ranks.empty() && !rows.empty())
+        selectRecords(
+            {*std::ranges::min_element(rows, {}, [&](std::uint32_t favourite) { return ranks[favourite]; })});
+    Q_EMIT countChanged();
+}
+
+// Gives how well each fits; the rows keep their order all the same.
+std::vector<std::uint32_t> UCAppController::showFound()
+{
+    std::optional<Found> found = m_finder.find();
+    std::vector<std::uint32_t> ranks = found ? std::exchange(found->ranks, {}) : std::vector<std::uint32_t>();
+    list().setFound(std::move(found));
+    return ranks;
+}
+
 void UCAppController::showRecentlyPlayed(bool only)
 {
     if (m_onlyRecent == only)
@@ -198,18 +230,9 @@ void UCAppController::applyRecent()
 
 QString UCAppController::search_priorityOption(const QString& name) const
 {
-    const std::string set = name.toStdString();
-    if (const auto row = list().find(Field::Name, set))
-        return m_parts.favourites.value(list().rows()[*row], FavouriteKey::Option);
-    // The chip hides a favourite from the list, not its options from a launch.
-    const auto& records = m_parts.favourites.records();
-    const auto hidden = m_onlyRecent
-        ? std::ranges::find_if(records, [&](const GameRecord& each) { return each[Field::Name] == set; })
-        : records.end();
-    return hidden == records.end()
-        ? QString()
-        : m_parts.favourites.value(static_cast<std::uint32_t>(hidden - records.begin()),
-                                   FavouriteKey::Option);
+    // What the list does not show has its options all the same.
+    const auto first = list().firstOf(Field::Name, name.toStdString());
+    return first ? m_parts.favourites.value(*first, FavouriteKey::Option) : QString();
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalogue/ui/listcontroller.h"
+#include "favourites/favouritefinder.h"
 #include "favourites/favourites.h"
 
 namespace tessera {
@@ -54,6 +55,10 @@ public:
     /// empty one where everything is saved.
     std::expected<QString, Failure> keepUnsaved();
     void addFavoritesTable(const GameRecord& game);
+    /// Only those that a search finds, in the order that the list has; of them the best is selected. Empty
+    /// finds everything.
+    void search(const QString& text);
+    FavouriteFinder& finder() { return m_finder; }
     /// Only what was played in the last days, or everything.
     void showRecentlyPlayed(bool only);
 
@@ -89,9 +94,11 @@ private:
     void showAfterRemoval(const std::vector<std::uint32_t>& gone);
     void markGone();
     void applyRecent();
+    std::vector<std::uint32_t> showFound();
     std::expected<void, Failure> writeFile();
 
     FavouritesParts m_parts;
+    FavouriteFinder m_finder;
     FavouritesTableModel* m_model;
     bool m_favoritesUpdate = false;
     bool m_onlyRecent = false;

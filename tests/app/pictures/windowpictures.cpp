@@ -24,6 +24,7 @@
 #include "catalogue/ui/gametableview.h"
 #include "catalogue/ui/recordediting.h"
 #include "catalogue/ui/recordeditor.h"
+#include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/searchfield.h"
 #include "favourites/ui/favouriteeditor.h"
 #include "info/ui/historyobject.h"
@@ -142,6 +143,9 @@ void takeViews(test::App& app, Album& album)
     }
     app.mainWindow().resize(usual);
     takeSearches(app, album);
+    app.mainWindow().gameTable->sortByColumn(GameTableModel::columnOf(Field::Maker), Qt::DescendingOrder);
+    app.mainWindow().gameTable->sortByColumn(GameTableModel::columnOf(Field::Year), Qt::AscendingOrder);
+    album.take(app.mainWindow(), QStringLiteral("main-sorted-twice"));
     for (const char* set : {"pong", "qix", "galaga"}) {
         if (app.gameList().selectGame(QLatin1String(set)))
             app.addFavorite();
@@ -152,6 +156,14 @@ void takeViews(test::App& app, Album& album)
     QComboBox& sites = *app.favorites().window().siteChoice->infositePop2;
     sites.setCurrentIndex(sites.count() - 1);
     album.take(app.favorites().window(), QStringLiteral("favourites-own-site"));
+    FavouritesWindow& favourites = app.favorites().window();
+    favourites.searchField->setText(QStringLiteral("pon"));
+    album.take(favourites, QStringLiteral("favourites-searched"));
+    favourites.searchField->setText(QStringLiteral("nowhere"));
+    favourites.resize(favourites.minimumSizeHint().width(), usual.height());
+    album.take(favourites, QStringLiteral("favourites-nothing-found"));
+    favourites.searchField->clear();
+    favourites.resize(usual);
     app.windowMini();
     app.mini().setGame(QStringLiteral("pong"));
     album.take(app.mini().window(), QStringLiteral("mini"));
