@@ -272,7 +272,7 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
         const std::vector<const SearchedWords*> words = query.rankedWords();
         if (!m_phrase.empty())
             joint.improve(m_phrase);
-        joint.improve(covered(words));
+        joint.improve(covered(words), JointRanks::Sum::Kept);
     }
     for (const std::vector<Score>& word : m_fields)
         joint.add(word);

@@ -26,14 +26,14 @@ void JointRanks::add(std::span<const Score> scores)
     }
 }
 
-void JointRanks::improve(std::span<const Score> scores)
+void JointRanks::improve(std::span<const Score> scores, Sum sum)
 {
     const std::span worst(m_worst);
     const std::span sums(m_sum);
     for (std::size_t i = 0; i < scores.size(); ++i) {
         const bool better = scores[i] <= worst[i];
         worst[i] = better ? scores[i] : worst[i];
-        sums[i] = better ? std::uint8_t{0} : sums[i];
+        sums[i] = better && sum == Sum::Forgotten ? std::uint8_t{0} : sums[i];
     }
 }
 

@@ -16,8 +16,10 @@ public:
     }
 
     void add(std::span<const Score> scores);
-    /// Of the words together, where that is better than the worst of them.
-    void improve(std::span<const Score> scores);
+    /// Of the words together, where that is better than the worst of them; their sum may tell some apart that
+    /// are equal as a whole.
+    enum class Sum : std::uint8_t { Forgotten, Kept };
+    void improve(std::span<const Score> scores, Sum sum = Sum::Forgotten);
 
     /// What is not meant unless it is named in full comes behind all others: a cartridge whose title begins
     /// with the name of its system.

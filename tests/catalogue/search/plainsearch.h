@@ -55,13 +55,13 @@ public:
             worst = std::max(worst, score);
             sum = std::min(sum + std::min(score >> 2, 15), 31);
         }
-        for (const int together :
-             {int{phrase(query)}, isCovered(words) ? int{score(Rank::Covered, WordForm::Plain)} : 255}) {
-            if (words.size() > 1 && together <= worst) {
-                worst = together;
-                sum = 0;
-            }
+        if (const int together = phrase(query); words.size() > 1 && together <= worst) {
+            worst = together;
+            sum = 0;
         }
+        // Whose set name is one of the words comes first, by their sum.
+        if (words.size() > 1 && isCovered(words))
+            worst = std::min(worst, int{score(Rank::Covered, WordForm::Plain)});
         for (const Term& term : query.terms()) {
             const bool isOfField = term.kind == TermKind::Title || term.kind == TermKind::Name;
             if (isOfField && term.applies && !term.negated) {

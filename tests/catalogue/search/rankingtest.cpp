@@ -134,6 +134,9 @@ private Q_SLOTS:
         row("warrior", {"sf", "Fighter II: The Warrior (World)"}, {"wof", "Fate (Warrior 921031)"});
         row("station", {.name = "console", .title = "Sony Station", .maker = "Sony"},
             {.name = "card", .title = "Station 2 Memory Card"});
+        // The set name among the words.
+        row("slug 1985", {.name = "slug", .title = "Slug (World)", .cloneof = "other"},
+            {"kslug", "Slug (handheld)"});
         // Punctuation.
         row("ms pacman", {"mspac", "Ms. Pac-Man"}, {"pac", "Pac-Man (Ms edition)"});
         row("r type", {"rtype", "R-Type (World)"}, {"typer", "R. Type Writer"});
