@@ -72,6 +72,7 @@ void Program::joinStatusLine()
 {
     const auto say = &StatusLine::say;
     connect(&saving, &CatalogueSaving::statusMessage, &status, say);
+    connect(&finding.searches(), &SearchKeeping::statusMessage, &status, say);
     connect(&runs, &RunController::statusMessage, &status, say);
     connect(&launches, &LaunchController::statusMessage, &status, say);
     connect(&paths, &PathChooser::statusMessage, &status, say);

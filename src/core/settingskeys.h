@@ -190,6 +190,8 @@ TESSERA_CHOSEN(MainWindowSplit);
 TESSERA_CHOSEN(MainWindowSplit2);
 TESSERA_CHOSEN(GameListChip);
 TESSERA_CHOSEN(GameListFamilies);
+TESSERA_CHOSEN(KeptSearches);
+TESSERA_CHOSEN(LastSearches);
 TESSERA_CHOSEN(FavoritesWindowColumns);
 TESSERA_CHOSEN(FavoritesWindowSplit);
 TESSERA_CHOSEN(FavoritesWindowSplit2);

@@ -8,7 +8,10 @@
 #include "support/testmain.h"
 
 #include <QCheckBox>
+#include <QContextMenuEvent>
+#include <QDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -89,6 +92,49 @@ private Q_SLOTS:
         QTRY_VERIFY(window().stopButton->isEnabled());
         m_staged->app->stopGame();
         QTRY_VERIFY(!window().stopButton->isEnabled());
+    }
+
+    void whatLedToSomethingIsAmongTheLastSearches()
+    {
+        search(QStringLiteral("gradius"));
+        QTest::keyClick(field(), Qt::Key_Down);
+        search(QStringLiteral("gradiuz"));
+        field()->setFocus();
+        QTest::keyClick(field(), Qt::Key_Down);
+        search(QStringLiteral("pac"));
+        field()->setFocus();
+        window().gameTable->setFocus();
+        QCOMPARE(m_staged->defaults.value(keys::LastSearches.name)->toStringList(),
+                 (QStringList{QStringLiteral("pac"), QStringLiteral("gradius")}));
+    }
+
+    void aKeptSearchIsBackAfterAStart()
+    {
+        search(QStringLiteral("gradius"));
+        m_staged->app->finding().searches().keepSearch();
+        auto* panel = window().findChild<QDialog*>(QStringLiteral("searchNamePanel"));
+        QTest::keyClick(panel, Qt::Key_Return);
+        search(QString());
+        start();
+        auto* chip = window().chipBar->findChild<QAbstractButton*>(QStringLiteral("keptChip_0"));
+        QTest::mouseClick(chip, Qt::LeftButton);
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        QTest::mouseClick(chip, Qt::LeftButton);
+        QCOMPARE(shown(), all);
+    }
+
+    void whatWasRemovedIsSaid()
+    {
+        search(QStringLiteral("gradius"));
+        m_staged->app->finding().searches().keepSearch();
+        QTest::keyClick(window().findChild<QDialog*>(QStringLiteral("searchNamePanel")), Qt::Key_Return);
+        auto* chip = window().chipBar->findChild<QAbstractButton*>(QStringLiteral("keptChip_0"));
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(3, 3), chip->mapToGlobal(QPoint(3, 3)));
+        QCoreApplication::sendEvent(chip, &asked);
+        auto* menu = window().chipBar->findChild<QMenu*>();
+        menu->actions().at(1)->trigger();
+        QCOMPARE(window().findChild<QLabel*>(QStringLiteral("messageLabel"))->text(),
+                 QStringLiteral("kept_removed"));
     }
 
     void theDownArrowGoesIntoTheList()

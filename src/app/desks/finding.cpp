@@ -32,6 +32,7 @@ Finding::Finding(const Parts& parts, QObject* parent)
     : QObject(parent)
     , m_parts(parts)
     , m_finder(parts.catalogue, parts.list, parts.defaults)
+    , m_searches(*parts.window.searchField, *parts.window.chipBar, parts.defaults)
 {
     MainWindow& window = m_parts.window;
     joinField();
@@ -63,6 +64,11 @@ void Finding::joinField()
     connect(&m_finder, &GameFinder::changed, this, &Finding::showSort);
     connect(&m_finder, &GameFinder::changed, this, &Finding::complain);
     connect(&m_finder, &GameFinder::changed, this, &Finding::showMatches);
+    // One that found nothing is not worth coming back to.
+    connect(field, &SearchField::searched, &m_searches, [this] {
+        if (const ArrangedList& found = m_parts.list.list(); !found.rows().empty() && !found.isNearest())
+            m_searches.noteSearch();
+    });
     connect(field, &QLineEdit::returnPressed, &m_parts.list, &GameListController::startByReturn);
     connect(field, &SearchField::leftDownwards, this, [this] {
         m_parts.window.gameTable->setFocus();

@@ -2,6 +2,7 @@
 
 #include "catalogue/ui/gamefinder.h"
 #include "catalogue/ui/romwatcher.h"
+#include "catalogue/ui/searchkeeping.h"
 
 #include <QObject>
 
@@ -39,6 +40,7 @@ public:
     /// Made when it is first asked for.
     FilterPanel& panel();
     RomWatcher& roms() { return m_roms; }
+    SearchKeeping& searches() { return m_searches; }
     /// After the first paint: what a search needs, and the ROM folders.
     void prepare();
 
@@ -68,6 +70,7 @@ private:
     bool m_isPrepared = false;
     QString m_said; // of what is hidden
     GameFinder m_finder;
+    SearchKeeping m_searches;
     std::unique_ptr<FilterPanel> m_panel;
     RomWatcher m_roms;
 };

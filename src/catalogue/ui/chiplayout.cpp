@@ -13,6 +13,23 @@ void ChipLayout::addItem(QLayoutItem* item)
     m_items.emplace_back(item);
 }
 
+void ChipLayout::insertItem(int index, QLayoutItem* item)
+{
+    m_items.emplace(m_items.begin() + index, item);
+    invalidate();
+}
+
+void ChipLayout::insert(int index, QWidget* widget)
+{
+    addChildWidget(widget);
+    insertItem(index, new QWidgetItem(widget));
+}
+
+void ChipLayout::insertGap(int index, int width)
+{
+    insertItem(index, new QSpacerItem(width, 0));
+}
+
 QLayoutItem* ChipLayout::itemAt(int index) const
 {
     return index >= 0 && index < count() ? m_items[static_cast<std::size_t>(index)].get() : nullptr;
@@ -75,6 +92,11 @@ std::vector<QRect> ChipLayout::places(int width) const
     QPoint at;
     for (const auto& item : m_items) {
         left -= item->sizeHint().width() - item->minimumSize().width();
+        // At a row's begin a gap would be an indent.
+        if (item->spacerItem() != nullptr && at.x() == 0) {
+            all.emplace_back(at, QSize());
+            continue;
+        }
         const QSize size = left >= 0 ? item->sizeHint() : item->minimumSize();
         if (at.x() > 0 && at.x() + size.width() > width)
             at = QPoint(0, at.y() + row.height() + spacing());

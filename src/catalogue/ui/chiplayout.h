@@ -19,6 +19,9 @@ public:
     ~ChipLayout() override;
 
     void addItem(QLayoutItem* item) override;
+    void insert(int index, QWidget* widget);
+    /// More room before what follows in the same row.
+    void insertGap(int index, int width);
     int count() const override { return static_cast<int>(m_items.size()); }
     QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override;
@@ -31,6 +34,7 @@ public:
     void setGeometry(const QRect& rect) override;
 
 private:
+    void insertItem(int index, QLayoutItem* item);
     std::vector<QRect> places(int width) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> m_items;

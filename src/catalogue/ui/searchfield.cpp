@@ -5,6 +5,7 @@
 #include "widgets/theme.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -12,9 +13,23 @@
 
 namespace tessera {
 
+namespace {
+
+// As it was typed: no letter of it is to be pressed, and a page that was pasted has no room.
+QString asMenuText(const QString& search)
+{
+    constexpr qsizetype most = 60;
+    QString text = search.size() > most ? QString(search.left(most) + u'…') : search;
+    return text.replace(u'&', QLatin1String("&&"));
+}
+
+} // namespace
+
 SearchField::SearchField(QWidget* parent)
     : QLineEdit(parent)
     , m_terms(new QMenu(this))
+    , m_last(new QMenu(this))
+    , m_keep(new QAction(qtTrId("search_keep"), this))
 {
     setObjectName(QStringLiteral("titleSearchField"));
     setPlaceholderText(qtTrId("search_placeholder"));
@@ -22,13 +37,53 @@ SearchField::SearchField(QWidget* parent)
     setClearButtonEnabled(true);
     setMinimumWidth(200);
     addAction(theme::icon(QStringLiteral("search"), "faint"), LeadingPosition);
-    QAction* terms = addAction(theme::icon(QStringLiteral("terms"), "dim"), TrailingPosition);
-    terms->setToolTip(qtTrId("search_terms"));
-    terms->setText(qtTrId("search_terms"));
     m_terms->setToolTipsVisible(true);
     fillTermsMenu();
-    connect(terms, &QAction::triggered, this,
-            [this] { m_terms->popup(mapToGlobal(QPoint(width() - m_terms->sizeHint().width(), height()))); });
+    connect(addMenu("terms", qtTrId("search_terms")), &QAction::triggered, this,
+            [this] { openBeneath(*m_terms); });
+    connect(addMenu("last", qtTrId("search_last")), &QAction::triggered, this,
+            &SearchField::openLastSearches);
+    connect(this, &QLineEdit::textChanged, m_keep,
+            [this](const QString& text) { m_keep->setEnabled(!text.simplified().isEmpty()); });
+    connect(this, &QLineEdit::returnPressed, this, &SearchField::searched);
+    setLastSearches({});
+}
+
+QAction* SearchField::addMenu(const char* icon, const QString& name)
+{
+    QAction* action = addAction(theme::icon(QLatin1StringView(icon), "dim"), TrailingPosition);
+    action->setToolTip(name);
+    action->setText(name);
+    return action;
+}
+
+void SearchField::openBeneath(QMenu& menu)
+{
+    menu.popup(mapToGlobal(QPoint(width() - menu.sizeHint().width(), height())));
+}
+
+void SearchField::setLastSearches(const QStringList& searches)
+{
+    m_last->clear();
+    for (const QString& search : searches) {
+        QAction* action = m_last->addAction(asMenuText(search));
+        connect(action, &QAction::triggered, this, [this, search] {
+            setText(search);
+            setFocus();
+        });
+    }
+    if (searches.isEmpty()) {
+        m_last->addAction(qtTrId("search_last_none"))->setEnabled(false);
+    } else {
+        m_last->addSeparator();
+        connect(m_last->addAction(qtTrId("search_last_forget")), &QAction::triggered, this,
+                &SearchField::forgetWanted);
+    }
+}
+
+void SearchField::openLastSearches()
+{
+    openBeneath(*m_last);
 }
 
 // Each puts its key into the field, where the value is typed behind it.
@@ -44,6 +99,10 @@ void SearchField::fillTermsMenu()
             setFocus();
         });
     }
+    m_terms->addSeparator();
+    m_terms->addAction(m_keep);
+    m_keep->setEnabled(false);
+    connect(m_keep, &QAction::triggered, this, &SearchField::keepWanted);
 }
 
 void SearchField::markTerms(const Query& query)
@@ -98,13 +157,35 @@ void SearchField::beginWith(const QString& typed)
 
 void SearchField::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Down) {
+    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
+        openLastSearches();
+    } else if (event->key() == Qt::Key_Down) {
+        Q_EMIT searched();
         Q_EMIT leftDownwards();
     } else if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
         clear();
     } else {
         QLineEdit::keyPressEvent(event);
     }
+}
+
+// Who looks into a menu or at another program has not left it.
+void SearchField::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    const Qt::FocusReason why = event->reason();
+    if (why != Qt::PopupFocusReason && why != Qt::MenuBarFocusReason && why != Qt::ActiveWindowFocusReason)
+        Q_EMIT searched();
+}
+
+void SearchField::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSeparator();
+    menu->addAction(m_keep);
+    menu->addAction(qtTrId("search_last"), this, &SearchField::openLastSearches);
+    menu->popup(event->globalPos());
 }
 
 } // namespace tessera

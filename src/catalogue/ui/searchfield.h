@@ -23,16 +23,30 @@ public:
     /// The same for what an input method sent to the list.
     void composeOn(QInputMethodEvent* event);
 
+    /// Newest first.
+    void setLastSearches(const QStringList& searches);
+    /// Beneath the field.
+    void openLastSearches();
+
 Q_SIGNALS:
+    /// The user goes on from what was searched for: by Return, into the list or to something else.
+    void searched();
+    void keepWanted();
+    /// The last searches are to be forgotten.
+    void forgetWanted();
     /// The down arrow: on to what was found.
     void leftDownwards();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void fillTermsMenu();
+    QAction* addMenu(const char* icon, const QString& name);
+    void openBeneath(QMenu& menu);
 
     struct Mark {
         int begin;
@@ -41,6 +55,8 @@ private:
     };
 
     QMenu* m_terms;
+    QMenu* m_last;
+    QAction* m_keep;
     std::vector<Mark> m_marks;
     bool m_isComposing = false; ///< an input method shows a text that is not the field's yet
 };

@@ -19,6 +19,7 @@
 #include "app/windows/supportpage.h"
 #include "artwork/ui/imagewindow.h"
 #include "bios/ui/biospanel.h"
+#include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/filterpanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametableview.h"
@@ -41,7 +42,9 @@
 #include <QComboBox>
 #include <QDir>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
+#include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -71,6 +74,13 @@ public:
         const QString path = QStringLiteral("%1/%2-%3.png").arg(m_folder, number, name);
         if (!window.grab().save(path))
             qFatal("%s cannot be written", qPrintable(path));
+    }
+
+    /// One that is open already, and closes afterwards.
+    void takeOpen(QWidget& popup, const QString& name)
+    {
+        take(popup, name);
+        popup.close();
     }
 
 private:
@@ -170,6 +180,32 @@ void takeViews(test::App& app, Album& album)
     app.windowMain();
 }
 
+// Searches that come back, and what the field opens.
+void takeSearches(test::App& app, Album& album)
+{
+    MainWindow& window = app.mainWindow();
+    for (const char* name : {"maker:namco -bootleg", "status:good year:1981", "パックマン"}) {
+        window.searchField->setText(QString::fromUtf8(name));
+        app.finding().searches().noteSearch();
+        app.finding().searches().keepSearch();
+        auto* panel = window.findChild<QDialog*>(QStringLiteral("searchNamePanel"));
+        album.take(*panel, QStringLiteral("search-name"));
+        panel->findChild<QPushButton*>(QStringLiteral("searchNameButton"))->click();
+        QTest::qWait(settled);
+    }
+    window.searchField->setText(QStringLiteral("maker:namco -bootleg"));
+    album.take(window, QStringLiteral("kept-searches"));
+    auto* chip = window.chipBar->findChild<QAbstractButton*>(QStringLiteral("keptChip_1"));
+    Q_EMIT chip->customContextMenuRequested(chip->rect().bottomLeft());
+    album.takeOpen(*window.chipBar->findChild<QMenu*>(), QStringLiteral("kept-search-menu"));
+    window.searchField->openLastSearches();
+    for (auto* menu : window.searchField->findChildren<QMenu*>()) {
+        if (menu->isVisible())
+            album.takeOpen(*menu, QStringLiteral("last-searches"));
+    }
+    window.searchField->clear();
+}
+
 void takePanels(test::App& app, Album& album)
 {
     app.gameList().selectGame(QStringLiteral("pong"));
@@ -231,6 +267,7 @@ int main(int argc, char* argv[])
     staged.start();
     Album album(arguments[1]);
     takeViews(*staged.app, album);
+    takeSearches(*staged.app, album);
     takePanels(*staged.app, album);
     takePages(*staged.app, album);
     staged.desktop.takeTranscript();

@@ -88,8 +88,9 @@ private Q_SLOTS:
 
     void everyTermIsInTheMenu()
     {
-        QCOMPARE(menu()->actions().size(), qsizetype(std::size(searchKeys)));
-        for (QAction* action : menu()->actions())
+        const QList<QAction*> terms = menu()->actions().mid(0, qsizetype(std::size(searchKeys)));
+        QCOMPARE(terms.size(), qsizetype(std::size(searchKeys)));
+        for (QAction* action : terms)
             QVERIFY(action->text().contains(u":\t"));
     }
 
