@@ -50,6 +50,7 @@
     <message id="search_field"><source></source><translation>Search</translation></message>
     <message id="search_return_again"><source></source><translation>This is only the nearest. Return starts “%1” when it is pressed again.</translation></message>
     <message id="search_terms"><source></source><translation>Search terms</translation></message>
+    <message id="makers_popup"><source></source><translation>Makers</translation></message>
     <message id="search_keep"><source></source><translation>Keep This Search…</translation></message>
     <message id="search_last"><source></source><translation>Last searches</translation></message>
     <message id="search_last_none"><source></source><translation>Nothing has been searched for yet</translation></message>

@@ -50,6 +50,7 @@
     <message id="search_field"><source></source><translation>検索</translation></message>
     <message id="search_return_again"><source></source><translation>近いものを表示しています。もう一度リターンを押すと“%1”を起動します。</translation></message>
     <message id="search_terms"><source></source><translation>検索条件</translation></message>
+    <message id="makers_popup"><source></source><translation>メーカー</translation></message>
     <message id="search_keep"><source></source><translation>この検索を保存…</translation></message>
     <message id="search_last"><source></source><translation>最近の検索</translation></message>
     <message id="search_last_none"><source></source><translation>まだ検索していません</translation></message>

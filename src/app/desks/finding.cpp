@@ -10,6 +10,7 @@
 #include "catalogue/ui/gamelistcontroller.h"
 #include "catalogue/ui/gametablemodel.h"
 #include "catalogue/ui/gametableview.h"
+#include "catalogue/ui/makercompletion.h"
 #include "catalogue/ui/searchfield.h"
 #include "launch/profilecache.h"
 #include "launch/emulatorchoice.h"
@@ -36,6 +37,7 @@ Finding::Finding(const Parts& parts, QObject* parent)
 {
     MainWindow& window = m_parts.window;
     joinField();
+    completeMakers();
     connect(&m_finder, &GameFinder::countsChanged, window.chipBar, &ChipBar::setCounts);
     connect(window.chipBar, &ChipBar::chosen, &m_finder, &GameFinder::setChip);
     connect(window.chipBar->familiesBox, &QCheckBox::clicked, &m_finder, &GameFinder::setFamilies);
@@ -79,6 +81,22 @@ void Finding::joinField()
     connect(m_parts.window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
 
+void Finding::completeMakers()
+{
+    connect(&m_parts.list, &GameListController::contentChanged, this, [this] { m_makers.reset(); });
+    connect(&m_parts.catalogue, &Catalogue::recordChanged, this, [this] { m_makers.reset(); });
+    new MakerCompletion(*m_parts.window.searchField, MakerCompletion::Holds::Search,
+                        [this](const QString& begun) { return makers(begun); });
+}
+
+QStringList Finding::makers(const QString& begun)
+{
+    constexpr qsizetype most = 10;
+    if (!m_makers)
+        m_makers.emplace(m_parts.catalogue.records());
+    return m_makers->beginningWith(begun, most);
+}
+
 FilterPanel& Finding::panel()
 {
     if (m_panel)
@@ -89,6 +107,8 @@ FilterPanel& Finding::panel()
     connect(m_panel.get(), &FilterPanel::makerCleared, &m_finder, &GameFinder::clearPredicate);
     connect(&m_finder, &GameFinder::changed, this, [this] { m_panel->showMaker(m_finder.maker()); });
     m_panel->showMaker(m_finder.maker());
+    new MakerCompletion(*m_panel->filterTextView, MakerCompletion::Holds::Maker,
+                        [this](const QString& begun) { return makers(begun); });
     m_parts.windows.places().keep(*m_panel, keys::FilterPanelGeometry);
     return *m_panel;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/search/makernames.h"
 #include "catalogue/ui/gamefinder.h"
 #include "catalogue/ui/romwatcher.h"
 #include "catalogue/ui/searchkeeping.h"
@@ -56,6 +57,8 @@ Q_SIGNALS:
 
 private:
     void joinField();
+    void completeMakers();
+    QStringList makers(const QString& begun);
     void showQuery();
     void complain();
     void showMatches();
@@ -71,6 +74,7 @@ private:
     QString m_said; // of what is hidden
     GameFinder m_finder;
     SearchKeeping m_searches;
+    std::optional<MakerNames> m_makers; ///< of what the list holds, once one was typed
     std::unique_ptr<FilterPanel> m_panel;
     RomWatcher m_roms;
 };
