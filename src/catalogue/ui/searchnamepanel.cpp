@@ -1,5 +1,6 @@
 #include "catalogue/ui/searchnamepanel.h"
 
+#include "core/message.h"
 #include "widgets/named.h"
 
 #include <QLabel>
@@ -43,7 +44,8 @@ SearchNamePanel::SearchNamePanel(Purpose purpose, const KeptSearch& search, std:
 {
     setObjectName(QStringLiteral("searchNamePanel"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(qtTrId(purpose == Purpose::Keep ? "searchname_keep_title" : "searchname_rename_title"));
+    setWindowTitle(qtTrId(purpose == Purpose::Keep ? textKey("searchname_keep_title")
+                                                   : textKey("searchname_rename_title")));
     nameField->setMaxLength(mostLetters);
     nameField->setText(search.name);
     nameField->selectAll();
@@ -91,9 +93,9 @@ void SearchNamePanel::judgeName()
                           ? qtTrId("searchname_taken").arg(other->name)
                           : qtTrId("searchname_replaces").arg(other->name, shortened(other->query)));
     m_notice->setVisible(isTaken);
-    acceptButton->setText(qtTrId(renames       ? "searchname_rename"
-                                     : isTaken ? "searchname_replace"
-                                               : "searchname_keep"));
+    acceptButton->setText(qtTrId(renames       ? textKey("searchname_rename")
+                                     : isTaken ? textKey("searchname_replace")
+                                               : textKey("searchname_keep")));
     acceptButton->setEnabled(!name().isEmpty() && !(renames && isTaken));
 }
 
