@@ -10,6 +10,7 @@
 #include "widgets/colorwell.h"
 #include "widgets/myscrollers.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -229,10 +230,14 @@ private Q_SLOTS:
         QVERIFY(qobject_cast<const MyScrollers*>(at.table->horizontalScrollBar()) != nullptr);
     }
 
-    void theSearchFieldHasItsTwoSigns()
+    void theSearchFieldHasItsThreeSigns()
     {
         const SearchField field;
-        QCOMPARE(field.actions().size(), 2);
+        QStringList signs;
+        for (const QAction* action : field.actions())
+            signs << action->text();
+        QCOMPARE(signs,
+                 (QStringList{QString(), QStringLiteral("search_terms"), QStringLiteral("search_last")}));
     }
 };
 
