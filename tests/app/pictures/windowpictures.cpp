@@ -128,7 +128,7 @@ void stage(test::StagedApp& staged, const QString& catalogue)
 }
 
 // What a search marks, and what is only near.
-void takeSearches(test::App& app, Album& album)
+void takeFound(test::App& app, Album& album)
 {
     SearchField& field = *app.mainWindow().searchField;
     for (const auto& [text, name] :
@@ -152,7 +152,7 @@ void takeViews(test::App& app, Album& album)
         album.take(app.mainWindow(), QStringLiteral("main-%1").arg(width));
     }
     app.mainWindow().resize(usual);
-    takeSearches(app, album);
+    takeFound(app, album);
     app.mainWindow().gameTable->sortByColumn(GameTableModel::columnOf(Field::Maker), Qt::DescendingOrder);
     app.mainWindow().gameTable->sortByColumn(GameTableModel::columnOf(Field::Year), Qt::AscendingOrder);
     album.take(app.mainWindow(), QStringLiteral("main-sorted-twice"));
@@ -203,6 +203,11 @@ void takeSearches(test::App& app, Album& album)
         if (menu->isVisible())
             album.takeOpen(*menu, QStringLiteral("last-searches"));
     }
+    window.searchField->clear();
+    window.searchField->setFocus();
+    QTest::keyClicks(window.searchField, QStringLiteral("maker:n"));
+    if (QWidget* makers = QApplication::activePopupWidget())
+        album.takeOpen(*makers, QStringLiteral("makers"));
     window.searchField->clear();
 }
 
