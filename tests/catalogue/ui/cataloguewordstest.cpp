@@ -269,7 +269,7 @@ private Q_SLOTS:
         SearchField field;
         QCOMPARE(test::wordsOf(field),
                  QStringList({"titleSearchField: hint search_placeholder / named search_field",
-                              ": search_terms / tip search_terms"}));
+                              ": search_terms / tip search_terms", ": search_last / tip search_last"}));
         const auto* terms = field.findChild<QMenu*>();
         QStringList items;
         for (const QAction* action : terms->actions())
@@ -279,7 +279,7 @@ private Q_SLOTS:
             QStringList({"title:\tsearch_help_title", "name:\tsearch_help_name", "maker:\tsearch_help_maker",
                          "year:\tsearch_help_year", "status:\tsearch_help_status", "type:\tsearch_help_type",
                          "parent:\tsearch_help_parent", "clone:\tsearch_help_clone",
-                         "have:\tsearch_help_have", "device:\tsearch_help_device"}));
+                         "have:\tsearch_help_have", "device:\tsearch_help_device", "", "search_keep"}));
         QVERIFY(field.isClearButtonEnabled());
     }
 };
