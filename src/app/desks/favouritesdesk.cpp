@@ -5,6 +5,7 @@
 #include "app/desks/finding.h"
 #include "app/windows.h"
 #include "catalogue/catalogue.h"
+#include "catalogue/search/matches.h"
 #include "catalogue/ui/chipbar.h"
 #include "catalogue/ui/factspanel.h"
 #include "catalogue/ui/gamelistcontroller.h"
@@ -173,6 +174,7 @@ void FavouritesDesk::search(const QString& text)
     m_controller.search(text);
     const Query& query = m_controller.finder().query();
     m_window->searchField->markTerms(query);
+    m_window->favoritesTable->showMatches(Matches(query));
     QStringList wrong;
     for (const Term& term : query.terms()) {
         if (term.state == Term::State::Wrong && term.why)

@@ -244,6 +244,18 @@ std::vector<Matches::Range> Marking::take()
     return apart;
 }
 
+bool isSearched(Field field, TermKind kind)
+{
+    switch (kind) {
+    case TermKind::Title:
+        return field == Field::Title || field == Field::Titlejp;
+    case TermKind::Name:
+        return field == Field::Name;
+    default:
+        return field == Field::Maker;
+    }
+}
+
 } // namespace
 
 Matches::Matches(const Query& query)
@@ -253,8 +265,8 @@ Matches::Matches(const Query& query)
             continue;
         if (term.kind == TermKind::Words)
             m_words.push_back(term.words);
-        else if (term.kind == TermKind::Maker)
-            m_makers.push_back(term.words);
+        else if (term.kind == TermKind::Title || term.kind == TermKind::Name || term.kind == TermKind::Maker)
+            m_keyed.push_back(term);
     }
 }
 
@@ -269,8 +281,10 @@ std::vector<Matches::Range> Matches::in(const QString& text, Field field) const
         marking.markTogether(m_words);
     if (marking.isEmpty())
         std::ranges::for_each(m_words, [&](const SearchedWords& words) { marking.mark(words); });
-    if (field == Field::Maker)
-        std::ranges::for_each(m_makers, [&](const SearchedWords& words) { marking.mark(words); });
+    for (const Term& term : m_keyed) {
+        if (isSearched(field, term.kind))
+            marking.mark(term.words);
+    }
     return marking.take();
 }
 

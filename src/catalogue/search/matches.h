@@ -24,13 +24,13 @@ public:
     Matches() = default;
     explicit Matches(const Query& query);
 
-    bool isEmpty() const { return m_words.empty() && m_makers.empty(); }
+    bool isEmpty() const { return m_words.empty() && m_keyed.empty(); }
     /// In sequence, and parted from each other.
     std::vector<Range> in(const QString& text, Field field) const;
 
 private:
     std::vector<SearchedWords> m_words;
-    std::vector<SearchedWords> m_makers;
+    std::vector<Term> m_keyed; // to be found in one field only
 };
 
 } // namespace tessera

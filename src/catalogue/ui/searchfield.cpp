@@ -41,11 +41,20 @@ SearchField::SearchField(QWidget* parent)
     fillTermsMenu();
     connect(addMenu("terms", qtTrId("search_terms")), &QAction::triggered, this,
             [this] { openBeneath(*m_terms); });
+    connect(this, &QLineEdit::returnPressed, this, &SearchField::searched);
+}
+
+void SearchField::offerSearches()
+{
+    m_offersSearches = true;
     connect(addMenu("last", qtTrId("search_last")), &QAction::triggered, this,
             &SearchField::openLastSearches);
+    m_terms->addSeparator();
+    m_terms->addAction(m_keep);
+    m_keep->setEnabled(false);
+    connect(m_keep, &QAction::triggered, this, &SearchField::keepWanted);
     connect(this, &QLineEdit::textChanged, m_keep,
             [this](const QString& text) { m_keep->setEnabled(!text.simplified().isEmpty()); });
-    connect(this, &QLineEdit::returnPressed, this, &SearchField::searched);
     setLastSearches({});
 }
 
@@ -99,10 +108,6 @@ void SearchField::fillTermsMenu()
             setFocus();
         });
     }
-    m_terms->addSeparator();
-    m_terms->addAction(m_keep);
-    m_keep->setEnabled(false);
-    connect(m_keep, &QAction::triggered, this, &SearchField::keepWanted);
 }
 
 void SearchField::markTerms(const Query& query)
@@ -157,7 +162,7 @@ void SearchField::beginWith(const QString& typed)
 
 void SearchField::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier)) {
+    if (event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier) && m_offersSearches) {
         openLastSearches();
     } else if (event->key() == Qt::Key_Down) {
         Q_EMIT searched();
@@ -182,9 +187,11 @@ void SearchField::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addSeparator();
-    menu->addAction(m_keep);
-    menu->addAction(qtTrId("search_last"), this, &SearchField::openLastSearches);
+    if (m_offersSearches) {
+        menu->addSeparator();
+        menu->addAction(m_keep);
+        menu->addAction(qtTrId("search_last"), this, &SearchField::openLastSearches);
+    }
     menu->popup(event->globalPos());
 }
 

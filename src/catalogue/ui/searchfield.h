@@ -23,6 +23,8 @@ public:
     /// The same for what an input method sent to the list.
     void composeOn(QInputMethodEvent* event);
 
+    /// Searches can be kept, and the last ones come back: what this takes is connected.
+    void offerSearches();
     /// Newest first.
     void setLastSearches(const QStringList& searches);
     /// Beneath the field.
@@ -57,6 +59,7 @@ private:
     QMenu* m_terms;
     QMenu* m_last;
     QAction* m_keep;
+    bool m_offersSearches = false;
     std::vector<Mark> m_marks;
     bool m_isComposing = false; ///< an input method shows a text that is not the field's yet
 };

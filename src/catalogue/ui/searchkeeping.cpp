@@ -16,6 +16,7 @@ SearchKeeping::SearchKeeping(SearchField& field, ChipBar& bar, DefaultsControlle
     , m_kept(defaults)
     , m_last(defaults)
 {
+    field.offerSearches();
     connect(&field, &SearchField::keepWanted, this, &SearchKeeping::keepSearch);
     connect(&field, &SearchField::forgetWanted, this, [this] { m_last.forget(); });
     connect(&field, &QLineEdit::textChanged, &bar, &ChipBar::showQuery);
@@ -35,6 +36,9 @@ void SearchKeeping::takeSettings(const QString& name)
 
 void SearchKeeping::showKept()
 {
+    // Its rows know their search by its place.
+    if (m_menu)
+        m_menu->close();
     m_bar.setKept(m_kept.all());
     m_bar.showQuery(m_field.text());
 }
@@ -65,6 +69,7 @@ void SearchKeeping::keepSearch()
 void SearchKeeping::showMenu(std::size_t place, const QPoint& at)
 {
     auto* menu = new QMenu(&m_bar);
+    m_menu = menu;
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(qtTrId("kept_rename"), this, [this, place] { rename(place); });
     menu->addAction(qtTrId("kept_remove"), this, [this, place] { remove(place); });

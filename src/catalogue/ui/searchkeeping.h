@@ -4,8 +4,11 @@
 #include "catalogue/ui/lastsearches.h"
 
 #include <QObject>
+#include <QPointer>
 
 class QPoint;
+
+class QMenu;
 
 namespace tessera {
 
@@ -43,6 +46,7 @@ private:
     ChipBar& m_bar;
     KeptSearches m_kept;
     LastSearches m_last;
+    QPointer<QMenu> m_menu; ///< of a chip, while it is open
 };
 
 } // namespace tessera

@@ -204,10 +204,14 @@ void takeSearches(test::App& app, Album& album)
             album.takeOpen(*menu, QStringLiteral("last-searches"));
     }
     window.searchField->clear();
+    window.activateWindow();
+    std::ignore = QTest::qWaitForWindowActive(&window);
     window.searchField->setFocus();
-    QTest::keyClicks(window.searchField, QStringLiteral("maker:n"));
-    if (QWidget* makers = QApplication::activePopupWidget())
-        album.takeOpen(*makers, QStringLiteral("makers"));
+    QTest::keyClicks(window.searchField, QStringLiteral("maker:na"));
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QStringLiteral("makerPopup") && widget->isVisible())
+            album.takeOpen(*widget, QStringLiteral("makers"));
+    }
     window.searchField->clear();
 }
 

@@ -84,6 +84,19 @@ private Q_SLOTS:
                  QStringLiteral("[Kona]mi"));
     }
 
+    void keyedWordsAreMarkedInTheirFieldsOnly()
+    {
+        QCOMPARE(marked(QStringLiteral("Pac-Man"), QStringLiteral("title:pacman")),
+                 QStringLiteral("[Pac-Man]"));
+        QCOMPARE(marked(QStringLiteral("パックマン"), QStringLiteral("title:pakku"), Field::Titlejp),
+                 QStringLiteral("[パック]マン"));
+        QCOMPARE(marked(QStringLiteral("pacman"), QStringLiteral("title:pacman"), Field::Name),
+                 QStringLiteral("pacman"));
+        QCOMPARE(marked(QStringLiteral("pacman"), QStringLiteral("name:pac"), Field::Name),
+                 QStringLiteral("[pac]man"));
+        QCOMPARE(marked(QStringLiteral("Pac-Man"), QStringLiteral("name:pac")), QStringLiteral("Pac-Man"));
+    }
+
     void whatIsNotSearchedIsNotMarked()
     {
         QCOMPARE(marked(QStringLiteral("good"), QStringLiteral("good"), Field::Status),

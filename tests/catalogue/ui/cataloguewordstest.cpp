@@ -267,6 +267,7 @@ private Q_SLOTS:
     void theSearchFieldSaysWhatCanBeSearched()
     {
         SearchField field;
+        field.offerSearches();
         QCOMPARE(test::wordsOf(field),
                  QStringList({"titleSearchField: hint search_placeholder / named search_field",
                               ": search_terms / tip search_terms", ": search_last / tip search_last"}));

@@ -232,7 +232,8 @@ private Q_SLOTS:
 
     void theSearchFieldHasItsThreeSigns()
     {
-        const SearchField field;
+        SearchField field;
+        field.offerSearches();
         QStringList signs;
         for (const QAction* action : field.actions())
             signs << action->text();

@@ -19,6 +19,21 @@ private Q_SLOTS:
         m_field->show();
     }
 
+    // The favourites' field, whose searches nobody keeps.
+    void lastSearchesAreOfferedWhereTheyAreKept()
+    {
+        const auto opensMenu = [this] {
+            QTest::keyClick(m_field.get(), Qt::Key_Down, Qt::AltModifier);
+            const auto menus = m_field->findChildren<QMenu*>();
+            return std::ranges::any_of(menus, &QMenu::isVisible);
+        };
+        const auto signs = m_field->actions().size();
+        QVERIFY(!opensMenu());
+        m_field->offerSearches();
+        QCOMPARE(m_field->actions().size(), signs + 1);
+        QVERIFY(opensMenu());
+    }
+
     void cleanup() { m_field.reset(); }
 
     void theDownArrowLeadsToTheList()
