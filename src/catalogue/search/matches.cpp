@@ -1,11 +1,7 @@
 #include "catalogue/search/matches.h"
 
-#include "catalogue/search/folding.h"
-#include "catalogue/search/kanareading.h"
-#include "catalogue/search/looseform.h"
-#include "catalogue/search/romaji.h"
+#include "catalogue/search/tracedforms.h"
 #include "catalogue/search/wordsearch.h"
-#include "core/encodings.h"
 
 #include <algorithm>
 #include <array>
@@ -14,100 +10,6 @@
 namespace tessera {
 
 namespace {
-
-/// A form of a text, and where in the text each of its bytes comes from.
-struct TracedForm {
-    std::string text;
-    std::vector<Edge> edges; // one a byte
-    std::vector<Matches::Range> places; // one a byte, in QChars of the text
-
-    void add(std::string_view bytes, Edge before, Matches::Range place)
-    {
-        text += bytes;
-        edges.resize(text.size(), Edge::None);
-        places.resize(text.size(), place);
-        if (!bytes.empty())
-            edges[text.size() - bytes.size()] = before;
-    }
-
-    Matches::Range placeOf(std::size_t begin, std::size_t size) const
-    {
-        return {places[begin].begin, places[begin + size - 1].end};
-    }
-};
-
-// Marks on a character, also those that folding leaves out or joins with it.
-bool belongsToTheOneBefore(QChar c)
-{
-    return c.isMark() || c.isLowSurrogate() || QStringView(u"ー゛゜ﾞﾟｰ~～〜‐–—―−─〰").contains(c);
-}
-
-TracedForm tracedFolding(const QString& text)
-{
-    TracedForm form;
-    for (qsizetype begin = 0; begin < text.size();) {
-        qsizetype end = begin + 1;
-        while (end < text.size() && belongsToTheOneBefore(text[end]))
-            ++end;
-        std::string signs = folded(text.sliced(begin, end - begin).toStdString());
-        if (signs == " " && form.text.ends_with(' '))
-            signs.clear();
-        form.add(signs, Edge::None, {begin, end});
-        begin = end;
-    }
-    return form;
-}
-
-TracedForm tracedLooseForm(const TracedForm& folded)
-{
-    TracedForm form;
-    for (const LooseWord& word : looseWords(folded.text)) {
-        const auto begin = static_cast<std::size_t>(word.source.data() - folded.text.data());
-        const std::size_t size = form.text.size();
-        form.add(word.text, word.before, folded.placeOf(begin, word.source.size()));
-        // Else all of it stands for all of the word.
-        if (word.text.size() == word.source.size())
-            std::copy_n(folded.places.begin() + static_cast<std::ptrdiff_t>(begin), word.text.size(),
-                        form.places.begin() + static_cast<std::ptrdiff_t>(size));
-    }
-    return form;
-}
-
-TracedForm tracedReading(const TracedForm& folded)
-{
-    TracedForm form;
-    const PlacedReading reading = placedReading(folded.text);
-    Edge before = Edge::Part;
-    for (std::size_t i = 0; i < reading.latin.size(); ++i) {
-        const char c = reading.latin[i];
-        const PlacedReading::Place place = reading.places[i];
-        if (c >= 'a' && c <= 'z') {
-            form.add({&c, 1}, before, folded.placeOf(place.begin, place.end - place.begin));
-            before = Edge::None;
-        } else {
-            before = Edge::Word;
-            if (c == unreadSign)
-                form.add({&c, 1}, before, folded.placeOf(place.begin, place.end - place.begin));
-        }
-    }
-    return form;
-}
-
-// Japanese in Latin letters; each word of it as a whole.
-TracedForm tracedRomanised(const TracedForm& loose)
-{
-    TracedForm form;
-    for (std::size_t begin = 0; begin < loose.text.size();) {
-        std::size_t end = begin + 1;
-        while (end < loose.text.size() && loose.edges[end] == Edge::None)
-            ++end;
-        const std::string word = loose.text.substr(begin, end - begin);
-        form.add(isRomaji(word) ? shortRomajiSpelling(word) : word, loose.edges[begin],
-                 loose.placeOf(begin, end - begin));
-        begin = end;
-    }
-    return form;
-}
 
 /// Gathers what is found of words in the forms of one text.
 class Marking
@@ -123,7 +25,7 @@ public:
     /// Written as one, or as the initials of the text.
     void markTogether(std::span<const SearchedWords> words);
     bool isEmpty() const { return m_ranges.empty(); }
-    std::vector<Matches::Range> take();
+    std::vector<TextRange> take();
 
 private:
     bool markLiterally(const SearchedWords& words);
@@ -136,7 +38,7 @@ private:
     TracedForm m_loose;
     TracedForm m_reading;
     TracedForm m_romanised;
-    std::vector<Matches::Range> m_ranges;
+    std::vector<TextRange> m_ranges;
 };
 
 void Marking::makeForms()
@@ -184,7 +86,7 @@ bool Marking::markLiterally(const SearchedWords& words)
 {
     const WordMatcher matcher(words);
     const std::string bytes = char{TitleMark} + m_folded.text + char{EndMark};
-    std::vector<Matches::Range> inside;
+    std::vector<TextRange> inside;
     const std::size_t before = m_ranges.size();
     for (auto at = bytes.find(words.text); at != std::string::npos; at = bytes.find(words.text, at + 1)) {
         const Rank rank = matcher.rank(bytes, at);
@@ -231,11 +133,11 @@ void Marking::markInitials(std::string_view letters)
     }
 }
 
-std::vector<Matches::Range> Marking::take()
+std::vector<TextRange> Marking::take()
 {
-    std::ranges::sort(m_ranges, {}, &Matches::Range::begin);
-    std::vector<Matches::Range> apart;
-    for (const Matches::Range& range : m_ranges) {
+    std::ranges::sort(m_ranges, {}, &TextRange::begin);
+    std::vector<TextRange> apart;
+    for (const TextRange& range : m_ranges) {
         if (apart.empty() || range.begin > apart.back().end)
             apart.push_back(range);
         else
@@ -270,7 +172,7 @@ Matches::Matches(const Query& query)
     }
 }
 
-std::vector<Matches::Range> Matches::in(const QString& text, Field field) const
+std::vector<TextRange> Matches::in(const QString& text, Field field) const
 {
     constexpr std::array searched{Field::Name, Field::Title, Field::Titlejp, Field::Maker, Field::Year};
     if (isEmpty() || text.isEmpty() || std::ranges::find(searched, field) == searched.end())

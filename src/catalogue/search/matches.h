@@ -2,6 +2,7 @@
 
 #include "catalogue/gamerecord.h"
 #include "catalogue/search/query.h"
+#include "catalogue/search/tracedforms.h"
 
 #include <QString>
 
@@ -13,20 +14,12 @@ namespace tessera {
 class Matches
 {
 public:
-    /// Places in a text, in QChars.
-    struct Range {
-        qsizetype begin;
-        qsizetype end;
-
-        bool operator==(const Range&) const = default;
-    };
-
     Matches() = default;
     explicit Matches(const Query& query);
 
     bool isEmpty() const { return m_words.empty() && m_keyed.empty(); }
     /// In sequence, and parted from each other.
-    std::vector<Range> in(const QString& text, Field field) const;
+    std::vector<TextRange> in(const QString& text, Field field) const;
 
 private:
     std::vector<SearchedWords> m_words;

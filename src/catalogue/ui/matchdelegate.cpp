@@ -31,7 +31,7 @@ void MatchDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QVariant field = m_matches.isEmpty() ? QVariant() : index.data(FieldRole);
     if (!field.isValid())
         return;
-    const std::vector<Matches::Range> ranges
+    const std::vector<TextRange> ranges
         = m_matches.in(index.data().toString(), static_cast<Field>(field.toInt()));
     if (ranges.empty())
         return;
@@ -48,7 +48,7 @@ void MatchDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(Qt::NoPen);
     painter->setBrush(stroke);
     QRegion strokes;
-    for (const Matches::Range& range : ranges) {
+    for (const TextRange& range : ranges) {
         const int begin = metrics.horizontalAdvance(inner.text, static_cast<int>(range.begin));
         const int end = metrics.horizontalAdvance(inner.text, static_cast<int>(range.end));
         const QRect letters(place.left() + begin, place.center().y() - height / 2 + 1, end - begin,

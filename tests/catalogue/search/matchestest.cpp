@@ -10,7 +10,7 @@ namespace {
 QString marked(const QString& text, const QString& query, Field field = Field::Title)
 {
     QString out = text;
-    const std::vector<Matches::Range> ranges = Matches(Query(query)).in(text, field);
+    const std::vector<TextRange> ranges = Matches(Query(query)).in(text, field);
     for (auto range = ranges.rbegin(); range != ranges.rend(); ++range)
         out.insert(range->end, u']').insert(range->begin, u'[');
     return out;
