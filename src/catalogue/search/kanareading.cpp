@@ -14,7 +14,6 @@ namespace tessera {
 namespace {
 
 constexpr char32_t firstKana = U'ぁ';
-constexpr char32_t nasal = U'ん';
 constexpr char32_t smallTsu = U'っ';
 
 // From the first kana on, as romajiSpelling() spells. A transliterator of a library reads the same, but takes
