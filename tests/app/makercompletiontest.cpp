@@ -27,8 +27,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("makers");
-        const QString all = QStringLiteral("Konami|Midway|Namco|Prológica|SNK|Tai To");
-        QTest::addRow("the key alone") << QStringLiteral("maker:") << all;
+        const QString every = QStringLiteral("Konami|Midway|Namco|Prológica|SNK|Tai To");
+        QTest::addRow("the key alone") << QStringLiteral("maker:") << every;
         QTest::addRow("begun") << QStringLiteral("pac maker:na") << QStringLiteral("Namco");
         QTest::addRow("negated") << QStringLiteral("pac -maker:NA") << QStringLiteral("Namco");
         QTest::addRow("quoted") << QStringLiteral("maker:\"tai t") << QStringLiteral("Tai To");
