@@ -167,7 +167,7 @@ void FavouritesDesk::joinField()
     });
 }
 
-// What is wrong is said in the status line; a term that is half typed is no complaint.
+// What is wrong is said in the status line.
 void FavouritesDesk::search(const QString& text)
 {
     m_window->setSearching(!text.isEmpty());
@@ -175,12 +175,7 @@ void FavouritesDesk::search(const QString& text)
     const Query& query = m_controller.finder().query();
     m_window->searchField->markTerms(query);
     m_window->favoritesTable->showMatches(Matches(query));
-    QStringList wrong;
-    for (const Term& term : query.terms()) {
-        if (term.state == Term::State::Wrong && term.why)
-            wrong << term.why->text();
-    }
-    m_window->takeBack(std::exchange(m_complaint, wrong.join(u' ')));
+    m_window->takeBack(std::exchange(m_complaint, query.complaints().join(u' ')));
     if (!m_complaint.isEmpty())
         m_window->showMessage(m_complaint);
 }

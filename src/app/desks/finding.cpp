@@ -120,14 +120,10 @@ void Finding::showQuery()
     sayHidden();
 }
 
-// What is wrong stands beside the chips; a term that is half typed is no complaint.
+// What is wrong stands beside the chips.
 void Finding::complain()
 {
-    QStringList wrong;
-    for (const Term& term : m_finder.query().terms()) {
-        if (term.state == Term::State::Wrong && term.why)
-            wrong << term.why->text();
-    }
+    QStringList wrong = m_finder.query().complaints();
     const ArrangedList& list = m_parts.list.list();
     if (list.isNearest() && list.size() > 0)
         wrong << qtTrId("search_nearest");

@@ -127,13 +127,10 @@ Found found(std::span<const GameRecord> records, const Query& query)
         search.setHaves(
             RomFolders(folder ? std::optional(folder->toString()) : std::nullopt, folders).haves(records));
     }
-    Found found = search.find(query);
-    if (found.records.count() == 0) {
-        if (auto nearest = search.findNearest(query)) {
-            const Message sentence{"search_nearest", {}};
-            std::fprintf(stderr, "%s\n", qUtf8Printable(sentence.text()));
-            return std::move(*nearest);
-        }
+    Found found = search.findOrNearest(query);
+    if (found.isNearest) {
+        const Message sentence{"search_nearest", {}};
+        std::fprintf(stderr, "%s\n", qUtf8Printable(sentence.text()));
     }
     return found;
 }

@@ -38,6 +38,14 @@ std::optional<Found> GameSearch::findNearest(const Query& query) const
     return byWords.isEmpty() ? byOthers.nearest(words) : std::nullopt;
 }
 
+Found GameSearch::findOrNearest(const Query& query) const
+{
+    Found found = find(query);
+    if (found.records.count() > 0)
+        return found;
+    return findNearest(query).value_or(std::move(found));
+}
+
 std::vector<std::uint32_t> GameSearch::named(const std::string& name) const
 {
     return recordsNamed(m_texts, m_facts.size(), name);

@@ -47,6 +47,8 @@ public:
     /// Where no record has the query's words: those whose titles are nearest to them, of what the other terms
     /// let through. Nothing where these alone hide all that has the words.
     std::optional<Found> findNearest(const Query& query) const;
+    /// What is found, or else the nearest.
+    Found findOrNearest(const Query& query) const;
     /// Those with exactly this set name, which is folded.
     std::vector<std::uint32_t> named(const std::string& name) const;
     /// Takes out what a chip does not let through.

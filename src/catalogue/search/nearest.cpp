@@ -23,9 +23,6 @@ constexpr bool isWhole(Cost cost)
     return cost % 2 == 0;
 }
 
-constexpr unsigned costBits = 6;
-constexpr unsigned spareBits = distanceBits - costBits;
-
 unsigned slipsOf(std::string_view word)
 {
     constexpr std::size_t leastForOne = 4;
@@ -159,15 +156,15 @@ void Measuring::measureField(std::uint32_t record, const LooseBuffer& buffer, st
         return;
     const bool isTitle = mark != MakerMark && mark != YearMark;
     for (std::size_t part = begin; part < end;) {
-        std::size_t next = wordEnd(buffer, part, end);
-        std::uint32_t found = measureWord(record, bytes.substr(part, next - part), sought);
-        unsigned spare = found == 0 ? 1 : 0;
-        while (next < end && buffer.edgeAt(next) != Edge::Part) {
+        std::size_t next = part;
+        std::uint32_t found = 0;
+        unsigned spare = 0;
+        do {
             const std::size_t at = std::exchange(next, wordEnd(buffer, next, end));
             const std::uint32_t here = measureWord(record, bytes.substr(at, next - at), sought);
             found |= here;
             spare += here == 0 ? 1 : 0;
-        }
+        } while (next < end && buffer.edgeAt(next) != Edge::Part);
         if (isTitle)
             measurePart(record, bytes.substr(part, next - part), found, spare, sought);
         part = next;

@@ -12,13 +12,13 @@ namespace tessera {
 /// How far a record's titles are from searched words: what must be changed in the words counts most, then the
 /// words of the title that nobody asked for. The least is the nearest.
 using Distance = std::uint16_t;
-inline constexpr unsigned distanceBits = 12;
+inline constexpr unsigned costBits = 6;
+inline constexpr unsigned spareBits = 6;
 inline constexpr Distance tooFar = 0xFFFF;
 
 /// What must be changed in the words, as far as a distance tells.
 constexpr unsigned costOf(Distance distance)
 {
-    constexpr unsigned spareBits = 6;
     return distance >> spareBits;
 }
 

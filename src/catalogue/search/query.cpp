@@ -25,6 +25,16 @@ bool Query::isEmpty() const
     return std::ranges::none_of(m_terms, &Term::applies);
 }
 
+QStringList Query::complaints() const
+{
+    QStringList sentences;
+    for (const Term& term : m_terms) {
+        if (term.state == Term::State::Wrong && term.why)
+            sentences << term.why->text();
+    }
+    return sentences;
+}
+
 bool Query::ranks() const
 {
     return std::ranges::any_of(

@@ -52,6 +52,8 @@ public:
     bool isEmpty() const;
     /// There are words to rank records by, of any field, of a title or of a set name.
     bool ranks() const;
+    /// A sentence for each term that is wrong; one that is half typed is no complaint.
+    QStringList complaints() const;
     /// The words of no key that are not turned round, in sequence.
     std::vector<const SearchedWords*> rankedWords() const;
 

@@ -249,11 +249,7 @@ const std::optional<RecordSet>& GameFinder::filtered()
 // What query and filter let through, whatever the chip.
 Found GameFinder::found()
 {
-    Found found = search().find(m_query);
-    if (found.records.count() == 0) {
-        if (auto nearest = search().findNearest(m_query))
-            found = std::move(*nearest);
-    }
+    Found found = search().findOrNearest(m_query);
     if (const auto& filter = filtered())
         found.records.keep(*filter);
     found.opensFamilies = !m_query.isEmpty();

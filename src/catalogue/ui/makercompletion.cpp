@@ -84,6 +84,11 @@ void MakerCompletion::offer()
     m_offered->setStringList(makers);
     m_completer->setCompletionPrefix(QString());
     m_completer->complete();
+    // The completer does not know of the padding that the list has.
+    QAbstractItemView* popup = m_completer->popup();
+    const auto rows = std::min(static_cast<int>(makers.size()), m_completer->maxVisibleItems());
+    popup->resize(popup->width(),
+                  popup->height() + rows * popup->sizeHintForRow(0) - popup->viewport()->height());
 }
 
 void MakerCompletion::write(const QString& maker)

@@ -55,13 +55,7 @@ public:
     std::size_t place(const ScoredQuery& query)
     {
         constexpr std::size_t most = 5;
-        const Query asked(query.text);
-        Found found = m_search.find(asked);
-        if (found.records.count() == 0) {
-            if (auto nearest = m_search.findNearest(asked))
-                found = std::move(*nearest);
-        }
-        m_list.setFound(std::move(found));
+        m_list.setFound(m_search.findOrNearest(Query(query.text)));
         for (std::size_t row = 0; row < std::min(most, m_list.size()); ++row) {
             if (query.meant.contains(QString::fromUtf8(m_list[row][Field::Name])))
                 return row;
