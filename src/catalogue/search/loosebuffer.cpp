@@ -19,6 +19,12 @@ bool isDigit(char c)
 
 } // namespace
 
+void LooseBuffer::reserve(std::size_t bytes, std::size_t records)
+{
+    m_forms.reserve(bytes, records);
+    m_edges.reserve(bytes);
+}
+
 void LooseBuffer::begin(std::uint32_t record)
 {
     m_forms.begin(record);
@@ -35,9 +41,9 @@ void LooseBuffer::add(FieldMark mark, const LooseForm& form)
 
 void LooseBuffer::add(FieldMark mark, std::string_view letters)
 {
-    LooseForm form;
-    form.append(letters, Edge::Part);
-    add(mark, form);
+    m_forms.add(mark, letters);
+    m_edges.insert(m_edges.end(), 2, Edge::Part); // of the mark and of the first letter
+    m_edges.resize(m_forms.bytes().size(), Edge::None);
 }
 
 void LooseBuffer::repeat(Range forms)

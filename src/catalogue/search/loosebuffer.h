@@ -21,6 +21,7 @@ struct LooseRules {
 class LooseBuffer
 {
 public:
+    void reserve(std::size_t bytes, std::size_t records);
     /// A record's forms go in between begin() and end().
     void begin(std::uint32_t record);
     void add(FieldMark mark, const LooseForm& form);

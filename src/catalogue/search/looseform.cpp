@@ -42,10 +42,14 @@ std::size_t characterSize(std::string_view text)
     return std::min(size, text.size());
 }
 
+bool isAsciiByte(char c)
+{
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
 WordClass classAt(std::string_view text, std::size_t at)
 {
-    const char c = text[at];
-    return static_cast<unsigned char>(c) < 0x80 ? asciiClass(c) : firstClass(text.substr(at));
+    return isAsciiByte(text[at]) ? asciiClass(text[at]) : firstClass(text.substr(at));
 }
 
 // The characters of one class that the text begins with.
@@ -53,7 +57,7 @@ std::string_view firstRun(std::string_view text, WordClass wordClass)
 {
     std::size_t end = 0;
     while (end < text.size() && classAt(text, end) == wordClass)
-        end += characterSize(text.substr(end));
+        end += isAsciiByte(text[end]) ? 1 : characterSize(text.substr(end));
     return text.substr(0, end);
 }
 

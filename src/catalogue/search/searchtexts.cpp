@@ -160,6 +160,7 @@ SearchTexts::SearchTexts(std::span<const GameRecord> content)
 FoldedTexts SearchTexts::fold(const UnfoldedTexts& unfolded, const std::stop_token& stop)
 {
     FoldedTexts out;
+    out.loose.reserve(unfolded.texts.bytes().size(), unfolded.texts.records());
     VariantMaker variants(out.loose, out.romaji);
     std::string folded;
     for (std::size_t place = 0; place < unfolded.texts.records() && !stop.stop_requested(); ++place) {
