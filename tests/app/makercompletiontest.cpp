@@ -32,11 +32,14 @@ private Q_SLOTS:
         QTest::addRow("begun") << QStringLiteral("pac maker:na") << QStringLiteral("Namco");
         QTest::addRow("negated") << QStringLiteral("pac -maker:NA") << QStringLiteral("Namco");
         QTest::addRow("quoted") << QStringLiteral("maker:\"tai t") << QStringLiteral("Tai To");
+        QTest::addRow("in Japanese quotation marks")
+            << QStringLiteral("maker:「tai t") << QStringLiteral("Tai To");
         QTest::addRow("in full width") << QStringLiteral("ｍａｋｅｒ：ｎａ") << QStringLiteral("Namco");
         QTest::addRow("without accents") << QStringLiteral("maker:prolo") << QStringLiteral("Prológica");
         QTest::addRow("nothing fits") << QStringLiteral("maker:xx") << QString();
         QTest::addRow("written already") << QStringLiteral("maker:Namco") << QString();
         QTest::addRow("closed") << QStringLiteral("maker:\"na\"") << QString();
+        QTest::addRow("closed in Japanese") << QStringLiteral("maker:「na」") << QString();
         QTest::addRow("behind it") << QStringLiteral("maker:na pa") << QString();
         QTest::addRow("another key") << QStringLiteral("device:na") << QString();
         QTest::addRow("a word") << QStringLiteral("na") << QString();

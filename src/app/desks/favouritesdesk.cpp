@@ -160,11 +160,7 @@ void FavouritesDesk::joinField()
     SearchField* field = m_window->searchField;
     connect(field, &QLineEdit::textChanged, this, &FavouritesDesk::search);
     connect(field, &QLineEdit::returnPressed, &m_controller, &UCAppController::tableViewDoubleAction2);
-    connect(field, &SearchField::leftDownwards, this, [this] {
-        m_window->favoritesTable->setFocus();
-        if (m_controller.firstRow() < 0)
-            m_controller.selectRow(0);
-    });
+    connect(field, &SearchField::leftDownwards, &m_controller, &ListController::enterTable);
 }
 
 // What is wrong is said in the status line.
@@ -182,9 +178,7 @@ void FavouritesDesk::search(const QString& text)
 
 void FavouritesDesk::focusSearch()
 {
-    window().activateWindow();
-    window().searchField->setFocus(Qt::ShortcutFocusReason);
-    window().searchField->selectAll();
+    window().searchField->beginSearch();
 }
 
 void FavouritesDesk::awakeFromNib()

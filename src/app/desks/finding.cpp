@@ -72,11 +72,7 @@ void Finding::joinField()
             m_searches.noteSearch();
     });
     connect(field, &QLineEdit::returnPressed, &m_parts.list, &GameListController::startByReturn);
-    connect(field, &SearchField::leftDownwards, this, [this] {
-        m_parts.window.gameTable->setFocus();
-        if (m_parts.list.firstRow() < 0)
-            m_parts.list.selectRow(0);
-    });
+    connect(field, &SearchField::leftDownwards, &m_parts.list, &ListController::enterTable);
     connect(m_parts.window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
     connect(m_parts.window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);
 }
@@ -205,9 +201,7 @@ void Finding::showPredicatePanel()
 
 void Finding::focusSearch()
 {
-    m_parts.window.activateWindow();
-    m_parts.window.searchField->setFocus(Qt::ShortcutFocusReason);
-    m_parts.window.searchField->selectAll();
+    m_parts.window.searchField->beginSearch();
 }
 
 void Finding::showAll()

@@ -12,11 +12,6 @@ namespace {
 // across the words of half the catalogue.
 constexpr std::size_t longEnough = 6;
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 } // namespace
 
 void LooseBuffer::reserve(std::size_t bytes, std::size_t records)
@@ -86,13 +81,13 @@ Rank LooseBuffer::rankAt(std::size_t offset, std::size_t size, FieldMark field, 
     if (before == Edge::None)
         return crossesBlank(offset, end) ? Rank::None : Rank::Inside;
     if (!endsWord
-        && (rules.wholeOnly || (isDigit(all[end - 1]) && isDigit(all[end]))
+        && (rules.wholeOnly || (isAsciiDigit(all[end - 1]) && isAsciiDigit(all[end]))
             || (size < longEnough && crossesBlank(offset, end))))
         return Rank::None;
     switch (field) {
     case InitialsMark:
-        return rules.asInitials && beginsField && (endsField || isDigit(all[end - 1])) ? Rank::Initials
-                                                                                       : Rank::None;
+        return rules.asInitials && beginsField && (endsField || isAsciiDigit(all[end - 1])) ? Rank::Initials
+                                                                                            : Rank::None;
     case NameMark:
         return !beginsField ? Rank::WordBeginning : endsField ? Rank::SetName : Rank::NameBeginning;
     case MakerMark:

@@ -137,16 +137,6 @@ Edge edgeBehind(char sign, bool afterBlank)
     return Edge::Piece;
 }
 
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool isLetter(char c)
-{
-    return c >= 'a' && c <= 'z';
-}
-
 // Calls `visit(source, word, wordClass, before)` for each word, which most often is its source.
 template <class Visit>
 void forEachWord(std::string_view folded, Visit&& visit)
@@ -229,7 +219,7 @@ std::string looseWord(std::string_view folded)
 
 bool isNumeral(std::string_view loose)
 {
-    return !loose.empty() && std::ranges::all_of(loose, isDigit);
+    return !loose.empty() && std::ranges::all_of(loose, isAsciiDigit);
 }
 
 std::string_view withoutVersion(std::string_view folded)
@@ -261,18 +251,12 @@ std::vector<std::string> initials(const LooseForm& title)
             found.push_back(letters);
         letters.clear();
     };
-    bool inNumber = false;
-    for (std::size_t i = 0; i < title.text.size(); ++i) {
-        const Edge edge = title.edges[i];
-        const char c = title.text[i];
-        if (edge == Edge::Part)
+    forEachInitial(title.text, title.edges, [&](std::size_t place, bool beginsPart) {
+        if (beginsPart)
             take(part);
-        inNumber = isDigit(c) && (inNumber || edge != Edge::None);
-        if (inNumber || (edge != Edge::None && isLetter(c))) {
-            part += c;
-            all += c;
-        }
-    }
+        part += title.text[place];
+        all += title.text[place];
+    });
     take(part);
     take(all);
     return found;
@@ -280,9 +264,11 @@ std::vector<std::string> initials(const LooseForm& title)
 
 bool mayBeInitials(std::string_view loose)
 {
-    const auto letters = static_cast<std::size_t>(std::ranges::find_if_not(loose, isLetter) - loose.begin());
+    const auto letters
+        = static_cast<std::size_t>(std::ranges::find_if_not(loose, isAsciiLetter) - loose.begin());
     const std::string_view number = loose.substr(letters);
-    return std::ranges::all_of(number, isDigit) && letters + (number.empty() ? 0 : 1) >= 3 && letters <= 6;
+    return std::ranges::all_of(number, isAsciiDigit) && letters + (number.empty() ? 0 : 1) >= 3
+        && letters <= 6;
 }
 
 } // namespace tessera

@@ -54,6 +54,35 @@ std::string_view withoutVersion(std::string_view folded);
 /// A title's alternatives, as " / " parts them, without version.
 std::vector<std::string_view> titlesProper(std::string_view folded);
 
+constexpr bool isAsciiDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+constexpr bool isAsciiLetter(char c)
+{
+    return c >= 'a' && c <= 'z';
+}
+
+/// Calls `visit(place, beginsPart)` for each letter that the initials of a title in loose form are made of,
+/// and for each digit of its numbers; `beginsPart` holds for the first one of a part.
+template <class Visit>
+void forEachInitial(std::string_view text, const std::vector<Edge>& edges, Visit&& visit)
+{
+    bool beginsPart = false;
+    bool inNumber = false;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        const Edge edge = edges[place];
+        const char c = text[place];
+        beginsPart = beginsPart || edge == Edge::Part;
+        inNumber = isAsciiDigit(c) && (inNumber || edge != Edge::None);
+        if (inNumber || (edge != Edge::None && isAsciiLetter(c))) {
+            visit(place, beginsPart);
+            beginsPart = false;
+        }
+    }
+}
+
 /// The first letters of the words of each part of a title, and of all of it, with its numbers: "mvc2". Those
 /// that have fewer than two are left out.
 std::vector<std::string> initials(const LooseForm& title);

@@ -66,19 +66,15 @@ void Marking::mark(const SearchedWords& words)
 void Marking::markTogether(std::span<const SearchedWords> words)
 {
     makeForms();
-    std::string loose;
-    std::string reading;
-    for (const SearchedWords& word : words) {
-        const std::string form = looseWord(word.text);
-        const std::string spelt = readingOf(word.text);
-        loose += form;
-        reading += spelt.empty() ? form : spelt;
-    }
+    Spelling all;
+    for (const SearchedWords& word : words)
+        all.append(Spelling(word));
     if (words.size() > 1
-        && (markIn(m_loose, loose) || markIn(m_reading, reading) || markIn(m_romanised, reading)))
+        && (markIn(m_loose, all.loose) || markIn(m_reading, all.reading)
+            || (all.isJapanese && markIn(m_romanised, all.reading))))
         return;
-    if (mayBeInitials(loose))
-        markInitials(loose);
+    if (mayBeInitials(all.loose))
+        markInitials(all.loose);
 }
 
 // Where words begin, or else anywhere.
@@ -113,19 +109,16 @@ bool Marking::markIn(const TracedForm& form, std::string_view word, bool inside)
 
 void Marking::markInitials(std::string_view letters)
 {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     std::string initials;
     std::vector<std::size_t> places;
-    bool inNumber = false;
-    for (std::size_t i = 0; i < m_loose.text.size(); ++i) {
-        inNumber = isDigit(m_loose.text[i]) && (inNumber || m_loose.edges[i] != Edge::None);
-        if (inNumber || m_loose.edges[i] != Edge::None) {
-            initials += m_loose.text[i];
-            places.push_back(i);
-        }
-    }
+    std::vector<bool> beginsPart;
+    forEachInitial(m_loose.text, m_loose.edges, [&](std::size_t place, bool begins) {
+        initials += m_loose.text[place];
+        places.push_back(place);
+        beginsPart.push_back(begins);
+    });
     for (auto at = initials.find(letters); at != std::string::npos; at = initials.find(letters, at + 1)) {
-        if (m_loose.edges[places[at]] != Edge::Part)
+        if (!beginsPart[at])
             continue;
         for (std::size_t i = 0; i < letters.size(); ++i)
             m_ranges.push_back(m_loose.places[places[at + i]]);

@@ -230,12 +230,11 @@ std::vector<Distance> distances(const SearchTexts& texts, std::size_t records,
     for (const SearchedWords* word : words) {
         if (word->ends != WordEnds::Anywhere)
             return distances;
-        const std::string reading = readingOf(word->text);
-        const std::string form = looseWord(word->text);
-        isJapanese = isJapanese || (!reading.empty() && mayBeJapanese(word->text));
-        readings.push_back(reading.empty() ? form : reading);
+        Spelling spelling(*word);
+        isJapanese = isJapanese || spelling.isJapanese;
+        readings.push_back(std::move(spelling.reading));
         // Of kanji a slip cannot be told from another word.
-        loose.push_back(isAscii(form) ? form : std::string());
+        loose.push_back(isAscii(spelling.loose) ? std::move(spelling.loose) : std::string());
     }
     Measuring measuring(records, words.size());
     measuring.measure(texts.loose(), SoughtWords(loose));

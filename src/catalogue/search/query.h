@@ -24,6 +24,9 @@ struct Term {
 
     qsizetype begin = 0; ///< place in the query, in QChars, with a minus before it
     qsizetype size = 0;
+    qsizetype valueBegin = 0; ///< place of what stands behind the key, with its quotation marks
+    bool isQuoted = false;
+    bool isClosed = false; ///< by a quotation mark
     TermKind kind = TermKind::Words;
     bool negated = false;
     SearchedWords words; ///< Words, Title, Name, Maker, Parent, Device
@@ -60,5 +63,8 @@ public:
 private:
     std::vector<Term> m_terms;
 };
+
+/// A text as the value of a term, in quotation marks where it needs them; nothing where none would hold it.
+std::optional<QString> writtenValue(const QString& text);
 
 } // namespace tessera

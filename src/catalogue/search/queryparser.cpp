@@ -154,16 +154,16 @@ Term QueryParser::term()
     const auto* const known = std::ranges::find(searchKeys, foldedText(name), &SearchKey::name);
     if (known != searchKeys.end()) {
         m_at += name.size() + 1;
-        readKeyed(term, *known, value());
+        readKeyed(term, *known, value(term));
     } else if (!name.isEmpty() && !blankFollows(m_at + name.size() + 1)) {
         m_at += name.size() + 1;
-        value();
+        value(term);
         refuse(term, unknownKey(name), false);
     } else if (isMinus(m_text[m_at]) && m_at + 1 == m_text.size()) {
         ++m_at;
         refuse(term, Failure{"search_no_words", {QStringLiteral("-")}}, true);
     } else {
-        readWords(term, value());
+        readWords(term, value(term));
     }
     term.size = m_at - term.begin;
     return term;
@@ -180,9 +180,10 @@ QStringView QueryParser::key() const
                                                                      : QStringView();
 }
 
-QueryParser::Value QueryParser::value()
+QueryParser::Value QueryParser::value(Term& term)
 {
     Value value;
+    term.valueBegin = m_at;
     const QStringView closing = atEnd() ? QStringView() : closingQuotes(m_text[m_at]);
     value.quoted = !closing.isEmpty();
     if (value.quoted)
@@ -194,6 +195,8 @@ QueryParser::Value QueryParser::value()
     value.open = value.quoted && atEnd();
     if (value.quoted && !atEnd())
         ++m_at;
+    term.isQuoted = value.quoted;
+    term.isClosed = value.quoted && !value.open;
     return value;
 }
 
@@ -259,6 +262,20 @@ void QueryParser::refuse(Term& term, Failure why, bool mayGoOn)
     term.state = mayGoOn && atEnd() ? Term::State::Unfinished : Term::State::Wrong;
     term.why = std::move(why);
     term.applies = false;
+}
+
+std::optional<QString> writtenValue(const QString& text)
+{
+    if (text.isEmpty())
+        return std::nullopt;
+    if (closingQuotes(text.front()).isEmpty()
+        && std::ranges::none_of(text, [](QChar c) { return c.isSpace(); }))
+        return text;
+    for (const Quotes& marks : quotes) {
+        if (std::ranges::none_of(text, [&](QChar c) { return marks.closing.contains(c); }))
+            return marks.opening.front() + text + marks.closing.front();
+    }
+    return std::nullopt;
 }
 
 } // namespace tessera

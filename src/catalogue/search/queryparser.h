@@ -30,7 +30,7 @@ private:
 
     Term term();
     QStringView key() const;
-    Value value();
+    Value value(Term& term);
 
     void readWords(Term& term, const Value& value);
     void readKeyed(Term& term, const SearchKey& key, const Value& value);

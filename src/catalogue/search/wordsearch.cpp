@@ -66,6 +66,22 @@ bool isRomanNumeral(std::string_view word)
 
 } // namespace
 
+Spelling::Spelling(const SearchedWords& word)
+    : loose(looseWord(word.text))
+    , reading(readingOf(word.text))
+    , isJapanese(!reading.empty() && mayBeJapanese(word.text))
+{
+    if (reading.empty())
+        reading = loose;
+}
+
+void Spelling::append(const Spelling& next)
+{
+    loose += next.loose;
+    reading += next.reading;
+    isJapanese = isJapanese || next.isJapanese;
+}
+
 std::string readingOf(std::string_view word)
 {
     if (isRomaji(word))
@@ -114,18 +130,11 @@ std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
                                 std::span<const SearchedWords* const> words)
 {
     std::vector<Score> best(records, noScore);
-    std::string loose;
-    std::string reading;
-    bool isJapanese = false;
-    for (const SearchedWords* word : words) {
-        const std::string form = looseWord(word->text);
-        const std::string spelt = readingOf(word->text);
-        loose += form;
-        reading += spelt.empty() ? form : spelt;
-        isJapanese = isJapanese || mayBeJapanese(word->text);
-    }
-    findLoosely(texts.loose(), loose, {.asInitials = mayBeInitials(loose)}, best);
-    findReading(texts.romaji(), reading, isJapanese, {}, best);
+    Spelling all;
+    for (const SearchedWords* word : words)
+        all.append(Spelling(*word));
+    findLoosely(texts.loose(), all.loose, {.asInitials = mayBeInitials(all.loose)}, best);
+    findReading(texts.romaji(), all.reading, all.isJapanese, {}, best);
     return best;
 }
 

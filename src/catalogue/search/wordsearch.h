@@ -48,6 +48,17 @@ std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, con
 std::vector<Score> phraseScores(const SearchTexts& texts, std::size_t records,
                                 std::span<const SearchedWords* const> words);
 
+/// A word as it is looked for beside the literal one, or several as if they were one.
+struct Spelling {
+    std::string loose;
+    std::string reading; ///< where there is none, the loose form
+    bool isJapanese = false; ///< may be, so that it counts in romanised titles
+
+    Spelling() = default;
+    explicit Spelling(const SearchedWords& word);
+    void append(const Spelling& next);
+};
+
 /// What of Latin letters, or of kana, is searched among readings; empty where there is none.
 std::string readingOf(std::string_view word);
 /// Whether its reading counts inside of a text's words, too.

@@ -121,6 +121,13 @@ void ListController::selectRow(int row)
     m_table->scrollTo(m_model->index(place, 0), QAbstractItemView::PositionAtCenter);
 }
 
+void ListController::enterTable()
+{
+    m_table->setFocus();
+    if (firstRow() < 0)
+        selectRow(0);
+}
+
 void ListController::selectRecords(const std::vector<std::uint32_t>& records)
 {
     if (m_table == nullptr) {

@@ -66,6 +66,8 @@ public:
     };
 
 public Q_SLOTS:
+    /// The keys go to the table, and its first row is selected where none was.
+    void enterTable();
     void tableViewSelectionDidChange();
 
 Q_SIGNALS:

@@ -13,20 +13,6 @@
 
 namespace tessera {
 
-namespace {
-
-bool isQuote(QChar c)
-{
-    return QStringView(u"\"“”„＂").contains(c);
-}
-
-bool isColon(QChar c)
-{
-    return c == u':' || c == u'：';
-}
-
-} // namespace
-
 MakerCompletion::MakerCompletion(QLineEdit& field, Holds holds, Makers makers)
     : QObject(&field)
     , m_field(field)
@@ -54,15 +40,13 @@ std::optional<MakerCompletion::Place> MakerCompletion::place() const
     const QString text = m_field.text();
     const qsizetype cursor = m_field.cursorPosition();
     if (m_holds == Holds::Maker)
-        return cursor == text.size() && cursor > 0 ? std::optional(Place{0, cursor}) : std::nullopt;
+        return cursor == text.size() && cursor > 0 ? std::optional(Place{0, cursor, text}) : std::nullopt;
     const Query query(text);
     for (const Term& term : query.terms()) {
-        if (term.kind != TermKind::Maker || term.begin + term.size != cursor)
+        if (term.kind != TermKind::Maker || term.begin + term.size != cursor || term.isClosed)
             continue;
-        const auto colon = std::find_if(text.begin() + term.begin, text.end(), isColon);
-        const qsizetype begin = colon - text.begin() + 1;
-        const bool isClosed = cursor - begin > 1 && isQuote(text[begin]) && isQuote(text[cursor - 1]);
-        return isClosed ? std::nullopt : std::optional(Place{begin, cursor - begin});
+        const qsizetype begin = term.valueBegin + (term.isQuoted ? 1 : 0);
+        return Place{term.valueBegin, cursor - term.valueBegin, text.sliced(begin, cursor - begin)};
     }
     return std::nullopt;
 }
@@ -72,14 +56,8 @@ void MakerCompletion::offer()
     const auto at = place();
     if (!at || m_isComposing || !m_field.hasFocus())
         return m_completer->popup()->hide();
-    QString begun = m_field.text().sliced(at->begin, at->size);
-    if (m_holds == Holds::Search && !begun.isEmpty() && isQuote(begun.front()))
-        begun.remove(0, 1);
-    QStringList makers = m_makers(begun);
-    // A search has no way to write a quotation mark within a text.
-    if (m_holds == Holds::Search)
-        makers.removeIf([](const QString& maker) { return std::ranges::any_of(maker, isQuote); });
-    if (makers.isEmpty() || makers == QStringList{begun})
+    const QStringList makers = fitting(at->begun);
+    if (makers.isEmpty() || makers == QStringList{at->begun})
         return m_completer->popup()->hide();
     m_offered->setStringList(makers);
     m_completer->setCompletionPrefix(QString());
@@ -91,16 +69,20 @@ void MakerCompletion::offer()
                   popup->height() + rows * popup->sizeHintForRow(0) - popup->viewport()->height());
 }
 
+QStringList MakerCompletion::fitting(const QString& begun) const
+{
+    QStringList makers = m_makers(begun);
+    if (m_holds == Holds::Search)
+        makers.removeIf([](const QString& maker) { return !writtenValue(maker); });
+    return makers;
+}
+
 void MakerCompletion::write(const QString& maker)
 {
     const auto at = place();
     if (!at)
         return;
-    QString written = maker;
-    if (m_holds == Holds::Search) {
-        const bool needsQuotes = std::ranges::any_of(maker, [](QChar c) { return c.isSpace(); });
-        written = (needsQuotes ? u'"' + maker + u'"' : maker) + u' ';
-    }
+    const QString written = m_holds == Holds::Search ? writtenValue(maker).value_or(maker) + u' ' : maker;
     // As if it were typed: it can be undone.
     m_field.setSelection(static_cast<int>(at->begin), static_cast<int>(at->size));
     m_field.insert(written);

@@ -30,14 +30,16 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// A stretch of the field's text.
+    /// What of the field's text is a maker to be.
     struct Place {
         qsizetype begin;
         qsizetype size;
+        QString begun; ///< without quotation marks
     };
 
     std::optional<Place> place() const;
     void offer();
+    QStringList fitting(const QString& begun) const;
     void write(const QString& maker);
     bool takeKey(int key);
 

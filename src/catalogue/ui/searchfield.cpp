@@ -153,6 +153,13 @@ void SearchField::composeOn(QInputMethodEvent* event)
     inputMethodEvent(event);
 }
 
+void SearchField::beginSearch()
+{
+    activateWindow();
+    setFocus(Qt::ShortcutFocusReason);
+    selectAll();
+}
+
 void SearchField::beginWith(const QString& typed)
 {
     setFocus(Qt::ShortcutFocusReason);

@@ -18,6 +18,8 @@ public:
 
     /// Wrong terms and those that are half typed are drawn otherwise.
     void markTerms(const Query& query);
+    /// For the next search: what is typed takes the place of the last one.
+    void beginSearch();
     /// Goes on from a key that was typed in the list.
     void beginWith(const QString& typed);
     /// The same for what an input method sent to the list.

@@ -1,3 +1,4 @@
+#include "catalogue/search/folding.h"
 #include "catalogue/search/query.h"
 
 #include "support/testmain.h"
@@ -323,6 +324,33 @@ private Q_SLOTS:
         for (const SearchedWords* word : query.rankedWords())
             words.push_back(word->text);
         QCOMPARE(words, (std::vector<std::string>{"street", "fighter ii"}));
+    }
+
+    void whatIsWrittenAsAValueIsReadBack_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("written");
+        QTest::addRow("one word") << QStringLiteral("Namco") << QStringLiteral("Namco");
+        QTest::addRow("with a blank") << QStringLiteral("Tai To") << QStringLiteral("\"Tai To\"");
+        QTest::addRow("with a mark within") << QStringLiteral("5\"x") << QStringLiteral("5\"x");
+        QTest::addRow("with a mark before") << QStringLiteral("\"x") << QStringLiteral("「\"x」");
+        QTest::addRow("with marks and a blank")
+            << QStringLiteral("The \"Best\" Co") << QStringLiteral("「The \"Best\" Co」");
+        QTest::addRow("with two kinds of marks")
+            << QStringLiteral("\"a\" 「b」") << QStringLiteral("『\"a\" 「b」』");
+        QTest::addRow("with all kinds") << QStringLiteral("\"a\" 「b」『c』") << QString();
+        QTest::addRow("nothing") << QString() << QString();
+    }
+    void whatIsWrittenAsAValueIsReadBack()
+    {
+        QFETCH(QString, text);
+        const auto written = writtenValue(text);
+        QTEST(written.value_or(QString()), "written");
+        if (!written)
+            return;
+        const Query query(QString(u"maker:" + *written));
+        QCOMPARE(query.terms().size(), 1U);
+        QCOMPARE(query.terms()[0].words.text, folded(text.toStdString()));
     }
 
     // Every character of a query stands in a term or is a blank between them.
