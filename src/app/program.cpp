@@ -77,10 +77,10 @@ void Program::joinStatusLine()
     connect(&launches, &LaunchController::statusMessage, &status, say);
     connect(&paths, &PathChooser::statusMessage, &status, say);
     connect(&tableFont, &TableFont::statusMessage, &status, say);
-    connect(&gameList, &GameListController::statusMessage, &status, say);
+    connect(&gameList, &ListController::statusMessage, &status, say);
     connect(&finding, &Finding::statusMessage, &status, say);
     connect(&finding, &Finding::statusWithdrawn, &status, &StatusLine::takeBack);
-    connect(&favorites.controller(), &UCAppController::statusMessage, &status, say);
+    connect(&favorites.controller(), &ListController::statusMessage, &status, say);
 }
 
 void Program::joinLaunches()

@@ -49,10 +49,16 @@ void appendUtf8(std::string& text, std::string_view bytes)
     }
     for (std::size_t at = 0; at < bytes.size();) {
         const std::size_t start = at;
-        UChar32 character = 0;
-        U8_NEXT(bytes.data(), at, bytes.size(), character);
-        text += character < 0 ? replacement : bytes.substr(start, at - start);
+        text += nextCharacter(bytes, at) == U'\uFFFD' ? replacement : bytes.substr(start, at - start);
     }
+}
+
+char32_t nextCharacter(std::string_view bytes, std::size_t& at)
+{
+    UChar32 character = 0;
+    // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): the macro counts so
+    U8_NEXT_OR_FFFD(bytes.data(), at, bytes.size(), character);
+    return static_cast<char32_t>(character);
 }
 
 std::string fromShiftJis(std::string_view bytes)

@@ -20,7 +20,7 @@ std::optional<Found> FavouriteFinder::find()
         m_query.terms(), [](const Term& term) { return term.kind == TermKind::Have && term.applies; });
     if (asksHave && m_roms)
         m_search->setHaves(m_roms->haves(records));
-    return m_search->find(m_query);
+    return m_search->findOrNearest(m_query);
 }
 
 } // namespace tessera

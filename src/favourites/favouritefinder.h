@@ -26,7 +26,7 @@ public:
     /// The favourites are others now.
     void forget() { m_search.reset(); }
 
-    /// Nothing where the query lets every favourite through.
+    /// Or what is nearest. Nothing where the query lets every favourite through.
     std::optional<Found> find();
 
 private:

@@ -41,6 +41,24 @@ private Q_SLOTS:
         QCOMPARE(m_staged->shownNames(), all);
     }
 
+    void whereNothingFitsTheNearestNeedASecondReturn()
+    {
+        UCAppController& favourites = *m_staged->controller;
+        QSignalSpy launched(&favourites, &UCAppController::launchRequested);
+        const QSignalSpy said(&favourites, &UCAppController::statusMessage);
+        favourites.search(QStringLiteral("gradios"));
+        QVERIFY(favourites.list().isNearest());
+        QCOMPARE(favourites.tableViewSelectionROM2(), QStringLiteral("gradius"));
+        favourites.startByReturn();
+        QCOMPARE(launched.size(), 0);
+        QCOMPARE(said.size(), 1);
+        favourites.startByReturn();
+        QCOMPARE(launched.size(), 1);
+        favourites.search(QStringLiteral("gradius"));
+        favourites.startByReturn();
+        QCOMPARE(launched.size(), 2);
+    }
+
     void keysAndMinusesMeanTheSame()
     {
         UCAppController& favourites = *m_staged->controller;

@@ -35,9 +35,9 @@ QString pathBeside(const Catalogue& catalogue)
 
 } // namespace
 
-FavouritesDesk::FavouritesDesk(Parts parts, QObject* parent)
+FavouritesDesk::FavouritesDesk(const Parts& parts, QObject* parent)
     : QObject(parent)
-    , m_parts(std::move(parts))
+    , m_parts(parts)
     , m_favourites(pathBeside(m_parts.catalogue))
     , m_played(playedPath(m_favourites.path()))
     , m_controller(
@@ -159,21 +159,32 @@ void FavouritesDesk::joinField()
 {
     SearchField* field = m_window->searchField;
     connect(field, &QLineEdit::textChanged, this, &FavouritesDesk::search);
-    connect(field, &QLineEdit::returnPressed, &m_controller, &UCAppController::tableViewDoubleAction2);
+    connect(&m_controller, &UCAppController::countChanged, this, &FavouritesDesk::showFound);
+    connect(field, &QLineEdit::returnPressed, &m_controller, &ListController::startByReturn);
     connect(field, &SearchField::leftDownwards, &m_controller, &ListController::enterTable);
 }
 
-// What is wrong is said in the status line.
 void FavouritesDesk::search(const QString& text)
 {
     m_window->setSearching(!text.isEmpty());
     m_controller.search(text);
+    m_window->searchField->markTerms(m_controller.finder().query());
+}
+
+// What is wrong, and that nothing but what is near was found, is said in the status line.
+void FavouritesDesk::showFound()
+{
     const Query& query = m_controller.finder().query();
-    m_window->searchField->markTerms(query);
-    m_window->favoritesTable->showMatches(Matches(query));
-    m_window->takeBack(std::exchange(m_complaint, query.complaints().join(u' ')));
-    if (!m_complaint.isEmpty())
-        m_window->showMessage(m_complaint);
+    const ArrangedList& list = m_controller.list();
+    m_window->favoritesTable->showMatches(list.isNearest() ? Matches() : Matches(query));
+    QStringList sentences = query.complaints();
+    if (list.isNearest() && list.size() > 0)
+        sentences << qtTrId("search_nearest");
+    if (QString complaint = sentences.join(u' '); complaint != m_complaint) {
+        m_window->takeBack(std::exchange(m_complaint, std::move(complaint)));
+        if (!m_complaint.isEmpty())
+            m_window->showMessage(m_complaint);
+    }
 }
 
 void FavouritesDesk::focusSearch()

@@ -38,7 +38,7 @@ public:
         ProfileCache& profiles;
         const EmulatorChoice& emulator;
     };
-    explicit FavouritesDesk(Parts parts, QObject* parent = nullptr);
+    explicit FavouritesDesk(const Parts& parts, QObject* parent = nullptr);
     ~FavouritesDesk() override;
 
     /// Made when it is first asked for.
@@ -72,6 +72,7 @@ private:
     void showRecentlyPlayed(bool only);
     void joinField();
     void search(const QString& text);
+    void showFound();
 
     Parts m_parts;
     Favourites m_favourites;

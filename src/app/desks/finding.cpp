@@ -71,7 +71,7 @@ void Finding::joinField()
         if (const ArrangedList& found = m_parts.list.list(); !found.rows().empty() && !found.isNearest())
             m_searches.noteSearch();
     });
-    connect(field, &QLineEdit::returnPressed, &m_parts.list, &GameListController::startByReturn);
+    connect(field, &QLineEdit::returnPressed, &m_parts.list, &ListController::startByReturn);
     connect(field, &SearchField::leftDownwards, &m_parts.list, &ListController::enterTable);
     connect(m_parts.window.gameTable, &GameTableView::typed, field, &SearchField::beginWith);
     connect(m_parts.window.gameTable, &GameTableView::composed, field, &SearchField::composeOn);

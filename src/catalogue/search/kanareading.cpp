@@ -4,7 +4,6 @@
 #include "core/encodings.h"
 
 #include <unicode/uchar.h>
-#include <unicode/utf8.h>
 
 #include <algorithm>
 #include <array>
@@ -141,9 +140,9 @@ private:
 };
 
 // What stands for a character that is no kana: no letter of the text itself may pass for a reading.
-char unread(UChar32 c, UChar32 before)
+char unread(char32_t c, char32_t before)
 {
-    if (u_isalnum(c) != 0)
+    if (u_isalnum(static_cast<UChar32>(c)) != 0)
         return unreadSign;
     return c == ':' || (before == ' ' && (c == '-' || c == '~')) ? partSign : ' ';
 }
@@ -152,18 +151,16 @@ char unread(UChar32 c, UChar32 before)
 template <class Read>
 void readAll(Reading& reading, std::string_view folded, Read&& read)
 {
-    const auto size = static_cast<int32_t>(folded.size());
-    UChar32 before = 0;
-    for (int32_t end = 0; end < size;) {
-        const int32_t begin = end;
-        UChar32 c = 0;
-        U8_NEXT(folded.data(), end, size, c);
-        if (isKana(static_cast<char32_t>(c)))
-            reading.add(static_cast<char32_t>(c));
+    char32_t before = 0;
+    for (std::size_t end = 0; end < folded.size();) {
+        const std::size_t begin = end;
+        const char32_t c = nextCharacter(folded, end);
+        if (isKana(c))
+            reading.add(c);
         else
             reading.addUnread(unread(c, before));
         before = c;
-        read(static_cast<std::size_t>(begin), static_cast<std::size_t>(end));
+        read(begin, end);
     }
 }
 
@@ -176,11 +173,8 @@ std::string read(std::string_view folded, bool tellsDi)
 
 bool holdsKana(std::string_view folded)
 {
-    const auto size = static_cast<int32_t>(folded.size());
-    for (int32_t i = 0; i < size;) {
-        UChar32 c = 0;
-        U8_NEXT(folded.data(), i, size, c);
-        if (isKana(static_cast<char32_t>(c)))
+    for (std::size_t at = 0; at < folded.size();) {
+        if (isKana(nextCharacter(folded, at)))
             return true;
     }
     return false;

@@ -27,7 +27,6 @@ GameListController::GameListController(Catalogue& catalogue, Desktop& desktop, D
         if (field == Field::Status && firstSelected() == record)
             romStatus();
     });
-    connect(&list(), &ArrangedList::arranged, this, [this] { m_asked.reset(); });
     if (table != nullptr)
         setTable(table);
 }
@@ -36,7 +35,6 @@ void GameListController::setTable(GameTableView* table)
 {
     showIn(table, m_model);
     connect(table, &GameTableView::doubleAction, this, &GameListController::tableViewDoubleAction);
-    connect(table, &GameTableView::returnAction, this, &GameListController::startByReturn);
 }
 
 RecordDictionary GameListController::objectDictionary() const
@@ -103,16 +101,6 @@ void GameListController::tableViewDoubleAction()
         m_desktop.beep();
     else
         Q_EMIT launchRequested(name);
-}
-
-// What is only near to what was typed may be another game than the one that is meant.
-void GameListController::startByReturn()
-{
-    const auto selected = firstSelected();
-    if (!list().isNearest() || !selected || m_asked == selected)
-        return tableViewDoubleAction();
-    m_asked = selected;
-    Q_EMIT statusMessage(qtTrId("search_return_again").arg(tableViewSelectionTitleE()));
 }
 
 void GameListController::openROMfile()

@@ -44,8 +44,6 @@ public Q_SLOTS:
     void main_tableViewSort();
     void romStatus() { showMark(); }
     void tableViewDoubleAction();
-    /// The same; a row that is only the nearest to what was searched needs a second press.
-    void startByReturn();
     void openROMfile();
     /// A random row; of an empty list none.
     void gameShuffle() { selectRandomRow(); }
@@ -53,9 +51,9 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The list has other records now; these were removed or put back.
     void contentChanged(tessera::ContentChange change, const std::vector<std::uint32_t>& records);
-    void statusMessage(const QString& sentence);
 
 private:
+    void startSelected() override { tableViewDoubleAction(); }
     void takeOut(const std::vector<std::uint32_t>& records);
     void putBack(const std::vector<std::uint32_t>& records);
     void setContent(ContentChange change, const std::vector<std::uint32_t>& records = {});
@@ -63,7 +61,6 @@ private:
     Catalogue& m_catalogue;
     Desktop& m_desktop;
     GameTableModel* m_model;
-    std::optional<std::uint32_t> m_asked; ///< starts when Return is pressed once more
 };
 
 } // namespace tessera

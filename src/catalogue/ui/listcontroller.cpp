@@ -18,7 +18,10 @@ ListController::ListController(Desktop& desktop, const UserDefaults& stored, QOb
     , m_desktop(desktop)
     , m_colors(stored)
 {
-    connect(&m_list, &ArrangedList::arranged, this, [this] { m_isArranged = true; });
+    connect(&m_list, &ArrangedList::arranged, this, [this] {
+        m_isArranged = true;
+        m_asked.reset();
+    });
 }
 
 void ListController::showIn(GameTableView* table, ArrangedTableModel* model)
@@ -28,6 +31,7 @@ void ListController::showIn(GameTableView* table, ArrangedTableModel* model)
     table->setModel(model);
     selectRecords(std::exchange(m_waiting, {}));
     connect(table, &GameTableView::selectionDidChange, this, &ListController::tableViewSelectionDidChange);
+    connect(table, &GameTableView::returnAction, this, &ListController::startByReturn);
 }
 
 void ListController::setRomFolders(std::shared_ptr<const RomFolders> folders)
@@ -126,6 +130,16 @@ void ListController::enterTable()
     m_table->setFocus();
     if (firstRow() < 0)
         selectRow(0);
+}
+
+// What is only near to what was typed may be another game than the one that is meant.
+void ListController::startByReturn()
+{
+    const auto selected = firstSelected();
+    if (!m_list.isNearest() || !selected || m_asked == selected)
+        return startSelected();
+    m_asked = selected;
+    Q_EMIT statusMessage(qtTrId("search_return_again").arg(selectedValue(Field::Title)));
 }
 
 void ListController::selectRecords(const std::vector<std::uint32_t>& records)

@@ -68,6 +68,8 @@ public:
 public Q_SLOTS:
     /// The keys go to the table, and its first row is selected where none was.
     void enterTable();
+    /// As by a double click; a row that is only the nearest to what was searched needs a second press.
+    void startByReturn();
     void tableViewSelectionDidChange();
 
 Q_SIGNALS:
@@ -75,12 +77,14 @@ Q_SIGNALS:
     void selectionChanged();
     /// The status mark to show; a status without one leaves the mark that was shown before.
     void markChanged(const QString& imageName);
+    void statusMessage(const QString& sentence);
 
 protected:
     ListController(Desktop& desktop, const UserDefaults& stored, QObject* parent);
 
     /// The table takes the selection over.
     void showIn(GameTableView* table, ArrangedTableModel* model);
+    virtual void startSelected() = 0;
     const ColorTransformer& colors() const { return m_colors; }
     /// A field of the first selected record, empty where nothing is selected.
     QString selectedValue(Field field) const;
@@ -101,6 +105,7 @@ private:
     GameTableView* m_table = nullptr;
     ArrangedTableModel* m_model = nullptr; ///< of the table
     std::vector<std::uint32_t> m_waiting; ///< selected, as long as there is no table
+    std::optional<std::uint32_t> m_asked; ///< starts when Return is pressed once more
     bool m_isArranged = false; ///< anew, since a rearrangement began
 };
 

@@ -70,7 +70,6 @@ void UCAppController::setTable(GameTableView* table)
     for (const FavouriteColumn column : FavouritesTableModel::hiddenColumns)
         table->setColumnHidden(static_cast<int>(column), true);
     connect(table, &GameTableView::doubleAction, this, &UCAppController::tableViewDoubleAction2);
-    connect(table, &GameTableView::returnAction, this, &UCAppController::tableViewDoubleAction2);
 }
 
 void UCAppController::awakeFromNib()

@@ -79,7 +79,6 @@ public Q_SLOTS:
     void gameShuffle2() { selectRandomRow(); }
 
 Q_SIGNALS:
-    void statusMessage(const QString& text);
     /// The list shows other records, or another number of them.
     void countChanged();
     /// Something differs from the file.
@@ -88,6 +87,7 @@ Q_SIGNALS:
     void commitRequested();
 
 private:
+    void startSelected() override { tableViewDoubleAction2(); }
     void joinFavourites();
     void removeAfterAsking(std::vector<std::uint32_t> favourites);
     void showAgain(const std::vector<std::uint32_t>& selected, int row = -1);
