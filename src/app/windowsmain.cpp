@@ -49,7 +49,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication::setApplicationName(QStringLiteral("Tessera"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TESSERA_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(TESSERA_APP_ID));
     QApplication application(argc, argv);
     QTranslator texts;
     UserDefaults defaults(UserDefaults::standardPath());

@@ -1,4 +1,6 @@
 #include "core/texts.h"
+#include "app/verbs/completion.h"
+#include "app/verbs/manpage.h"
 #include "app/verbs/verbs.h"
 #include "core/settingskeys.h"
 #include "platform/userdefaults.h"
@@ -40,6 +42,16 @@ int main(int argc, char* argv[])
     }
     if (first == QStringLiteral("--help") || first == QStringLiteral("-h")) {
         print(overview());
+        return flushed(Done);
+    }
+    // These two are for packages and shells, and are named in no help.
+    if (first == QStringLiteral("--man")) {
+        print(manPage(QStringLiteral(TESSERA_VERSION)).trimmed());
+        return flushed(Done);
+    }
+    if (first == QStringLiteral("--complete")) {
+        for (const QString& word : completions(arguments.mid(1)))
+            print(word);
         return flushed(Done);
     }
     std::fputs("Usage: tessera [FILE], or tessera VERB ...\n\"tessera --help\" tells more.\n", stderr);
