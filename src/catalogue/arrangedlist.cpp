@@ -13,7 +13,7 @@ constexpr std::uint32_t hidden = 0xFFFF'FFFF;
 // Equal ranks keep their order.
 std::vector<std::uint32_t> byRank(std::span<const std::uint32_t> rows, std::span<const std::uint32_t> ranks)
 {
-    constexpr unsigned digitBits = 12;
+    constexpr unsigned digitBits = 14;
     constexpr std::size_t digits = std::size_t{1} << digitBits;
     std::vector<std::uint32_t> from(rows.begin(), rows.end());
     std::vector<std::uint32_t> ordered(rows.size());

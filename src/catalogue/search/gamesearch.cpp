@@ -2,7 +2,23 @@
 
 #include "catalogue/search/narrowing.h"
 
+#include <algorithm>
+
 namespace tessera {
+
+namespace {
+
+// Of a page that was pasted a word is looked for once; what is typed is not so long.
+constexpr std::size_t mostTyped = 32;
+
+bool isOneOf(const Term& term, std::span<const Term> before)
+{
+    return term.kind == TermKind::Words && std::ranges::any_of(before, [&](const Term& each) {
+               return each.kind == term.kind && each.negated == term.negated && each.words == term.words;
+           });
+}
+
+} // namespace
 
 Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) const
 {
@@ -11,10 +27,11 @@ Found GameSearch::find(const Query& query, Chip chip, const RecordSet* within) c
     if (within != nullptr)
         narrowing.keepWithin(*within);
     narrowing.lookForPhrase(query);
-    for (const Term& term : query.terms()) {
-        if (!term.applies)
+    const std::span<const Term> terms = query.terms();
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+        if (!terms[i].applies || (i >= mostTyped && isOneOf(terms[i], terms.first(i))))
             continue;
-        narrowing.keepTerm(term);
+        narrowing.keepTerm(terms[i]);
         // A whole page may have been pasted.
         if (narrowing.isEmpty())
             return {RecordSet(m_facts.size()), {}};

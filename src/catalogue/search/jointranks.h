@@ -28,11 +28,13 @@ public:
     {
         for (std::size_t i = 0; i < m_worst.size(); ++i) {
             const Rank rank = rankOf(m_worst[i]);
-            if (rank > Rank::Covered && rank != Rank::None && test(i))
+            if (rank > Rank::TitleProper && rank != Rank::None && test(i))
                 m_worst[i] = lowered(m_worst[i]);
         }
     }
 
+    /// Of a record, worst of all.
+    Rank rank(std::size_t record) const { return rankOf(m_worst[record]); }
     /// One a record: rank, sum, so many free bits, form.
     std::vector<std::uint32_t> ranks(unsigned free) const;
 

@@ -1,5 +1,6 @@
 #include "catalogue/search/kanareading.h"
 
+#include "catalogue/search/looseform.h"
 #include "catalogue/search/romaji.h"
 #include "core/encodings.h"
 
@@ -147,6 +148,22 @@ char unread(char32_t c, char32_t before)
     return c == ':' || (before == ' ' && (c == '-' || c == '~')) ? partSign : ' ';
 }
 
+bool isAsciiWord(char c)
+{
+    return isAsciiLetter(c) || isAsciiDigit(c);
+}
+
+// The digits, or the Roman numeral that is a word, which stand there; they are read as digits.
+std::string_view numeralAt(std::string_view folded, std::size_t at)
+{
+    if (!isAsciiWord(folded[at]) || (at > 0 && isAsciiWord(folded[at - 1])))
+        return {};
+    const std::string_view rest = folded.substr(at);
+    const std::string_view word = rest.substr(
+        0, static_cast<std::size_t>(std::ranges::find_if_not(rest, isAsciiWord) - rest.begin()));
+    return isNumeral(looseWord(word)) ? word : std::string_view();
+}
+
 // Calls `read(begin, end)` behind each character, with its bytes.
 template <class Read>
 void readAll(Reading& reading, std::string_view folded, Read&& read)
@@ -154,11 +171,17 @@ void readAll(Reading& reading, std::string_view folded, Read&& read)
     char32_t before = 0;
     for (std::size_t end = 0; end < folded.size();) {
         const std::size_t begin = end;
+        const std::string_view numeral = numeralAt(folded, begin);
         const char32_t c = nextCharacter(folded, end);
-        if (isKana(c))
+        if (isKana(c)) {
             reading.add(c);
-        else
+        } else if (!numeral.empty()) {
+            end = begin + numeral.size();
+            for (const char digit : looseWord(numeral))
+                reading.addUnread(digit);
+        } else {
             reading.addUnread(unread(c, before));
+        }
         before = c;
         read(begin, end);
     }

@@ -98,7 +98,7 @@ Rank LooseBuffer::rankAt(std::size_t offset, std::size_t size, FieldMark field, 
     }
     const bool endsPart = behind == Edge::Part;
     if (beginsField)
-        return endsPart ? Rank::TitleProper : Rank::TitleBeginning;
+        return endsField ? Rank::TitleProper : endsPart ? Rank::FirstPart : Rank::TitleBeginning;
     if (before == Edge::Part)
         return endsPart ? Rank::PartProper : Rank::PartBeginning;
     return Rank::WordBeginning;

@@ -132,9 +132,9 @@ Edge edgeBehind(char sign, bool afterBlank)
 {
     if (sign == ' ' || sign == '&')
         return Edge::Word;
-    if (sign == ':' || sign == '/' || (afterBlank && (sign == '-' || sign == '~')))
+    if (sign == ':' || (afterBlank && (sign == '-' || sign == '~' || sign == '/')))
         return Edge::Part;
-    return Edge::Piece;
+    return sign == '/' ? Edge::Word : Edge::Piece;
 }
 
 // Calls `visit(source, word, wordClass, before)` for each word, which most often is its source.

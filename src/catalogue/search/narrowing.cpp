@@ -217,8 +217,18 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
     joint.lower([this](std::size_t i) { return m_facts[i].type == GameType::Device; });
     std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);
     const std::span ties(m_facts.ties());
-    for (std::size_t i = 0; i < ranks.size(); ++i)
-        ranks[i] |= ties[i] << formBits;
+    const std::span parents(m_facts.parents());
+    for (std::size_t i = 0; i < ranks.size(); ++i) {
+        std::uint32_t tie = ties[i];
+        const Rank rank = joint.rank(i);
+        if (rank <= Rank::PartProper) {
+            tie += rank == Rank::FirstPart ? ContentFacts::firstPartTie : 0U;
+            // Under the name that was typed it is the first of its family.
+            if (joint.rank(parents[i]) > Rank::PartProper)
+                tie &= ~ContentFacts::cloneTie;
+        }
+        ranks[i] |= tie << formBits;
+    }
     return ranks;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <numeric>
+#include <ranges>
 #include <string>
 #include <utility>
 
@@ -64,10 +65,18 @@ public:
         const unsigned begun
             = distance.beginning <= std::min(m_slips, 1U) ? 2 * distance.beginning + 1 : notFound;
         const unsigned whole = distance.whole <= m_slips ? 2 * distance.whole : notFound;
-        return static_cast<Cost>(std::min(whole, begun));
+        const unsigned cost = std::min(whole, begun);
+        return cost != notFound && hasDigitsOf(word) ? static_cast<Cost>(cost) : notFound;
     }
 
 private:
+    // A slip makes no digit: another one is another game.
+    bool hasDigitsOf(std::string_view word) const
+    {
+        auto digits = word | std::views::filter(isAsciiDigit);
+        return digits.empty() || std::ranges::equal(m_text | std::views::filter(isAsciiDigit), digits);
+    }
+
     std::string m_text;
     unsigned m_slips;
     std::uint64_t m_letters;
@@ -179,7 +188,8 @@ void Measuring::measurePart(std::uint32_t record, std::string_view part, std::ui
         spare += static_cast<unsigned>(m_words) - static_cast<unsigned>(std::popcount(found));
     const Cost joined = sought.joined.cost(part);
     m_joined[record] = std::min(m_joined[record], joined);
-    if (isWhole(joined))
+    constexpr Cost oneSlip = 2;
+    if (isWhole(joined) && joined <= oneSlip)
         spare = 0;
     if (found != 0 || joined != notFound)
         m_spare[record] = static_cast<std::uint8_t>(std::min<unsigned>(m_spare[record], spare));
@@ -209,8 +219,9 @@ Distance Measuring::distance(std::size_t record) const
     // Without a word of a title it would be anything by the same maker.
     if (cost == notFound || m_spare[record] == notFound)
         return tooFar;
+    // A name that looks alike tells less than a title does; both together tell most.
     const bool isName = isWhole(m_name[record]) && m_name[record] <= cost;
-    const unsigned spare = isName ? 0U : m_spare[record] + 1U;
+    const unsigned spare = !isName ? m_spare[record] + 1U : m_spare[record] == 0 ? 0U : 1U;
     return static_cast<Distance>(std::min(cost, mostCost) << spareBits | std::min(spare, mostSpare));
 }
 
@@ -231,12 +242,17 @@ std::vector<Distance> distances(const SearchTexts& texts, std::size_t records,
         if (word->ends != WordEnds::Anywhere)
             return distances;
         Spelling spelling(*word);
+        // Nothing but punctuation.
+        if (spelling.reading.empty())
+            continue;
         isJapanese = isJapanese || spelling.isJapanese;
         readings.push_back(std::move(spelling.reading));
         // Of kanji a slip cannot be told from another word.
         loose.push_back(isAscii(spelling.loose) ? std::move(spelling.loose) : std::string());
     }
-    Measuring measuring(records, words.size());
+    if (loose.empty())
+        return distances;
+    Measuring measuring(records, loose.size());
     measuring.measure(texts.loose(), SoughtWords(loose));
     if (isJapanese)
         measuring.measure(texts.romaji(), SoughtWords(readings));

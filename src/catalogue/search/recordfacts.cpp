@@ -35,7 +35,7 @@ std::unordered_map<std::size_t, Family> familiesOf(std::span<const RecordFacts> 
         Family& family = families[facts.family];
         ++family.size;
         if (facts.parent)
-            family.year = facts.years.first;
+            family.year = facts.years.last;
     }
     return families;
 }
@@ -49,8 +49,20 @@ std::uint32_t tie(const RecordFacts& facts, const Family& family)
     const auto type = std::min(static_cast<std::uint32_t>(facts.type), std::uint32_t{3});
     const auto size = std::min(static_cast<std::uint32_t>(std::bit_width(family.size)), mostFamily);
     const auto age = static_cast<std::uint32_t>(std::clamp((family.year - firstYear) / 2, 0, lastAge));
-    return type << 10 | (facts.parent ? 0U : 1U) << 9 | (facts.works() ? 0U : 1U) << 8
-        | (mostFamily - size) << 5 | age;
+    return type << 13 | (facts.isCopied ? 1U : 0U) << 12 | (facts.parent ? 0U : ContentFacts::cloneTie)
+        | (facts.works() ? 0U : 1U) << 10 | (facts.hasTitlejp ? 0U : 1U) << 9 | (mostFamily - size) << 5
+        | age;
+}
+
+bool isCopied(const GameRecord& record)
+{
+    constexpr std::array<std::string_view, 2> signs{"bootleg", "hack"};
+    const auto tells = [&](std::string_view text) {
+        return std::ranges::any_of(signs, [text](std::string_view sign) { return text.contains(sign); });
+    };
+    const std::string_view title = record[Field::Title];
+    const std::size_t bracket = title.find('(');
+    return tells(record[Field::Maker]) || (bracket != std::string_view::npos && tells(title.substr(bracket)));
 }
 
 } // namespace
@@ -72,6 +84,8 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .parent = isParent(record),
         .family = familyOf(record[isParent(record) ? Field::Name : Field::Cloneof]),
         .favorite = m_favourites.contains(record[Field::Name]),
+        .isCopied = isCopied(record),
+        .hasTitlejp = record[Field::Titlejp] != record[Field::Title],
     };
 }
 
@@ -86,22 +100,45 @@ const std::vector<std::uint32_t>& ContentFacts::ties() const
     return m_ties;
 }
 
+const std::vector<std::uint32_t>& ContentFacts::parents() const
+{
+    if (!m_parents.empty())
+        return m_parents;
+    std::unordered_map<std::size_t, std::uint32_t> parentOf;
+    for (std::uint32_t i = 0; i < m_facts.size(); ++i) {
+        if (m_facts[i].parent)
+            parentOf.emplace(m_facts[i].family, i);
+    }
+    m_parents.reserve(m_facts.size());
+    for (std::uint32_t i = 0; i < m_facts.size(); ++i) {
+        const auto parent = parentOf.find(m_facts[i].family);
+        m_parents.push_back(parent != parentOf.end() ? parent->second : i);
+    }
+    return m_parents;
+}
+
+void ContentFacts::forget()
+{
+    m_ties.clear();
+    m_parents.clear();
+}
+
 void ContentFacts::replace(std::uint32_t record, const GameRecord& now)
 {
     m_facts[record] = facts(now);
-    m_ties.clear();
+    forget();
 }
 
 void ContentFacts::remove(std::uint32_t record)
 {
     m_facts.erase(m_facts.begin() + record);
-    m_ties.clear();
+    forget();
 }
 
 void ContentFacts::insert(std::uint32_t record, const GameRecord& added)
 {
     m_facts.insert(m_facts.begin() + record, facts(added));
-    m_ties.clear();
+    forget();
 }
 
 void ContentFacts::setFavourites(NameSet favorites, std::span<const GameRecord> content)

@@ -29,6 +29,8 @@ struct RecordFacts {
     bool parent = false; ///< no clone of another set
     std::size_t family = 0; ///< the same number for all sets of one parent
     bool favorite = false;
+    bool isCopied = false; ///< a bootleg, or somebody's changed version
+    bool hasTitlejp = false; ///< a Japanese title that is not the English one
 
     /// Well enough to be played.
     bool works() const { return status == GameStatus::Good || status == GameStatus::Imperfect; }
@@ -51,11 +53,18 @@ public:
     /// The different values of the field, folded.
     const std::vector<std::string>& devices() const { return m_devices; }
 
-    /// Which of two records comes first that a search fits equally well: a game before anything else, a
-    /// parent before its clones, what works before what does not, then what has more clones, and is older.
-    /// In so many bits, the least is the first.
-    static constexpr unsigned tieBits = 12;
+    /// Which of two records comes first that a search fits equally well: a game before anything else, the
+    /// maker's own before copies, a parent before its clones, what works before what does not, what Japan has
+    /// a title of its own for, then what has more clones, and is older. In so many bits, the least is the
+    /// first.
+    static constexpr unsigned tieBits = 15;
     const std::vector<std::uint32_t>& ties() const;
+    /// The search's to take away: of a clone.
+    static constexpr std::uint32_t cloneTie = 1U << 11;
+    /// The search's to add: half as many clones, for a title that was found up to its dash.
+    static constexpr std::uint32_t firstPartTie = 1U << 5;
+    /// Of a clone the place of its parent, where there is one; of others their own.
+    const std::vector<std::uint32_t>& parents() const;
 
     /// The user's favourites; `content` is the one that the facts are of.
     void setFavourites(NameSet favorites, std::span<const GameRecord> content);
@@ -69,7 +78,10 @@ private:
     std::uint32_t device(std::string_view value);
 
     std::vector<RecordFacts> m_facts;
+    void forget();
+
     mutable std::vector<std::uint32_t> m_ties; ///< none until they are asked for
+    mutable std::vector<std::uint32_t> m_parents; ///< the same
     NameSet m_favourites;
     std::vector<std::string> m_devices;
     std::unordered_map<std::string, std::uint32_t> m_deviceNumbers;

@@ -30,6 +30,7 @@ constexpr std::array spellings{
     Spelling{"ff", 1, "h"}, Spelling{"fu", 1, "h"}, Spelling{"f", 1, "hu"},
     Spelling{"v", 1, "b"},
     Spelling{"wo", 1, ""},
+    Spelling{"mahjong", 7, "mazyan"},
     Spelling{"mb", 1, "n"}, Spelling{"mp", 1, "n"}, Spelling{"mm", 1, "n"},
     Spelling{"'", 1, ""}, Spelling{"-", 1, ""},
 };

@@ -57,14 +57,11 @@ TracedForm tracedReading(const TracedForm& folded)
     for (std::size_t i = 0; i < reading.latin.size(); ++i) {
         const char c = reading.latin[i];
         const PlacedReading::Place place = reading.places[i];
-        if (c >= 'a' && c <= 'z') {
+        const bool isLetter = isAsciiLetter(c);
+        before = isLetter ? before : Edge::Word;
+        if (isLetter || isAsciiDigit(c) || c == unreadSign)
             form.add({&c, 1}, before, folded.placeOf(place.begin, place.end - place.begin));
-            before = Edge::None;
-        } else {
-            before = Edge::Word;
-            if (c == unreadSign)
-                form.add({&c, 1}, before, folded.placeOf(place.begin, place.end - place.begin));
-        }
+        before = isLetter ? Edge::None : Edge::Word;
     }
     return form;
 }

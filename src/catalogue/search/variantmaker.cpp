@@ -9,7 +9,7 @@ namespace tessera {
 
 namespace {
 
-// A reading has nothing but letters, blanks and the signs for what is left out.
+// A reading has nothing but letters, digits, blanks and the signs for what is left out.
 LooseForm looseReading(std::string_view reading)
 {
     LooseForm form;
@@ -19,7 +19,7 @@ LooseForm looseReading(std::string_view reading)
             next = std::max(next, c == ' ' ? Edge::Word : Edge::Part);
             continue;
         }
-        const bool meets = !form.text.empty() && (c == unreadSign) != (form.text.back() == unreadSign);
+        const bool meets = !form.text.empty() && isAsciiLetter(c) != isAsciiLetter(form.text.back());
         form.edges.push_back(next == Edge::None && meets ? Edge::Word : next);
         form.text += c;
         next = Edge::None;
@@ -76,6 +76,8 @@ void VariantMaker::make(FieldMark mark, std::string_view folded)
     m_form.set(folded);
     m_loose.add(mark, m_form);
     addReadings(mark, folded);
+    if (mark == MakerMark)
+        addRomanised(mark, m_form);
 }
 
 void VariantMaker::makeTitles(std::string_view folded)
@@ -87,7 +89,7 @@ void VariantMaker::makeTitles(std::string_view folded)
         m_form.beginPartBehind(m_maker);
         m_loose.add(mark, m_form);
         addReadings(mark, title);
-        addRomanised(m_form);
+        addRomanised(RomanisedMark, m_form);
         for (const std::string& letters : initials(m_form))
             m_loose.add(InitialsMark, letters);
     }
@@ -100,21 +102,21 @@ void VariantMaker::addReadings(FieldMark mark, std::string_view folded)
 }
 
 // Where one of its words reads like Japanese.
-void VariantMaker::addRomanised(const LooseForm& title)
+void VariantMaker::addRomanised(FieldMark mark, const LooseForm& words)
 {
-    const std::string_view text = title.text;
-    const auto wordAt = [&](std::size_t begin) { return text.substr(begin, title.wordEnd(begin) - begin); };
+    const std::string_view text = words.text;
+    const auto wordAt = [&](std::size_t begin) { return text.substr(begin, words.wordEnd(begin) - begin); };
     bool isJapanese = false;
-    for (std::size_t at = 0; at < text.size() && !isJapanese; at = title.wordEnd(at))
+    for (std::size_t at = 0; at < text.size() && !isJapanese; at = words.wordEnd(at))
         isJapanese = readsLikeJapanese(wordAt(at));
     if (!isJapanese)
         return;
     LooseForm form;
-    for (std::size_t at = 0; at < text.size(); at = title.wordEnd(at)) {
+    for (std::size_t at = 0; at < text.size(); at = words.wordEnd(at)) {
         const std::string_view word = wordAt(at);
-        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, title.edges[at]);
+        form.append(isRomaji(word) ? shortRomajiSpelling(word) : word, words.edges[at]);
     }
-    m_romaji.add(RomanisedMark, form);
+    m_romaji.add(mark, form);
 }
 
 } // namespace tessera

@@ -36,7 +36,7 @@ private:
     void make(FieldMark mark, std::string_view folded);
     void makeTitles(std::string_view folded);
     void addReadings(FieldMark mark, std::string_view folded);
-    void addRomanised(const LooseForm& title);
+    void addRomanised(FieldMark mark, const LooseForm& words);
 
     LooseBuffer& m_loose;
     LooseBuffer& m_romaji;

@@ -13,14 +13,20 @@ namespace {
 
 // Letters that are read as kana inside of words; fewer would be found in half of all readings.
 constexpr std::size_t leastInside = 4;
+// Letters that may be the initials of a title.
+constexpr std::size_t leastInName = 3;
 
 void findLiterally(const SearchBuffer& buffer, const SearchedWords& words, FieldSet fields,
                    std::vector<Score>& best)
 {
     const WordMatcher matcher(words);
     const std::string_view bytes = buffer.bytes();
+    // What is shorter is inside of half of all names; which field it lies in costs more than it tells.
+    const bool looksIntoNames = words.text.size() >= leastInName;
     const auto take = [&](std::uint32_t record, std::size_t offset) {
-        const Rank rank = matcher.rank(bytes, offset);
+        Rank rank = matcher.rank(bytes, offset);
+        if (rank == Rank::Inside && looksIntoNames && fieldAt(bytes, offset) == NameMark)
+            rank = Rank::InsideName;
         if (rank != Rank::None)
             best[record] = std::min(best[record], score(rank, WordForm::Plain));
     };
@@ -52,11 +58,19 @@ void findReading(const LooseBuffer& buffer, std::string_view reading, bool isJap
     if (reading.empty())
         return;
     buffer.forEachRank(reading, rules, [&](std::uint32_t record, Rank rank, FieldMark field) {
-        const bool isRomanised = field == RomanisedMark;
+        const bool isRomanised = field == RomanisedMark || field == MakerMark;
         if (!isRomanised || (isJapanese && rank != Rank::Inside))
             best[record]
                 = std::min(best[record], score(rank, isRomanised ? WordForm::Romanised : WordForm::Reading));
     });
+}
+
+// "daraiasu" of "daraiasu2".
+std::string_view withoutNumber(std::string_view word)
+{
+    while (!word.empty() && isAsciiDigit(word.back()))
+        word.remove_suffix(1);
+    return word;
 }
 
 bool isRomanNumeral(std::string_view word)
@@ -84,8 +98,12 @@ void Spelling::append(const Spelling& next)
 
 std::string readingOf(std::string_view word)
 {
-    if (isRomaji(word))
-        return isRomanNumeral(word) ? std::string() : withoutBlanks(shortRomajiSpelling(word));
+    const std::string_view letters = withoutNumber(word);
+    if (isRomaji(letters)) {
+        std::string reading
+            = isRomanNumeral(letters) ? std::string() : withoutBlanks(shortRomajiSpelling(letters));
+        return reading.empty() ? reading : reading.append(word.substr(letters.size()));
+    }
     const std::vector<std::string> readings = romajiReadings(word);
     if (readings.empty() || readings.front().contains(unreadSign))
         return {};
@@ -99,20 +117,23 @@ bool mayStandInside(std::string_view word, std::string_view reading)
 
 bool mayBeJapanese(std::string_view word)
 {
-    return !isAscii(word) || readsLikeJapanese(word);
+    return !isAscii(word) || readsLikeJapanese(withoutNumber(word));
 }
 
 std::vector<Score> wordScores(const SearchTexts& texts, std::size_t records, const SearchedWords& words,
                               const WordRules& rules)
 {
     std::vector<Score> best(records, noScore);
-    findLiterally(texts.texts(), words, rules.fields, best);
+    const bool isQuoted = words.ends != WordEnds::Anywhere;
+    const std::string loose = isQuoted || rules.literally ? std::string() : looseWord(words.text);
+    // Left out where it stands as a word: every second set name and date holds a 2.
+    const bool onlyAsWord = rules.negated && (isNumeral(loose) || loose.size() == 1);
+    if (!onlyAsWord)
+        findLiterally(texts.texts(), words, rules.fields, best);
     if (rules.literally)
         return best;
-    const bool isQuoted = words.ends != WordEnds::Anywhere;
-    const std::string loose = isQuoted ? std::string() : looseWord(words.text);
     // A single letter is found as it stands.
-    if (isNumeral(loose) || (!rules.negated && loose.size() > 1))
+    if (onlyAsWord || isNumeral(loose) || (!rules.negated && loose.size() > 1))
         findLoosely(texts.loose(), loose,
                     {.wholeOnly = rules.negated, .asInitials = mayBeInitials(loose), .fields = rules.fields},
                     best);

@@ -195,6 +195,7 @@ void GameFinder::setQuery(const QString& text)
 {
     const bool wasEmpty = m_query.isEmpty();
     m_query = Query(text);
+    m_list.forgetReturn();
     if (m_query.isEmpty() && wasEmpty)
         return;
     rearrange([&] { find(wasEmpty ? ArrangedList::Ranking::Anew : ArrangedList::Ranking::AsBefore); });

@@ -30,6 +30,8 @@ class GameFinder : public QObject
 public:
     GameFinder(Catalogue& catalogue, GameListController& list, DefaultsController& defaults,
                QObject* parent = nullptr);
+    /// What is prepared beside the windows is given up.
+    ~GameFinder() override { m_folding.request_stop(); }
 
     /// Prepares what a search needs; afterwards the first letter is found at once.
     void prepare();

@@ -43,6 +43,8 @@ public:
 
     /// Whose archives are there, for the colours of the rows.
     void setRomFolders(std::shared_ptr<const RomFolders> folders);
+    /// Something else is searched: what Return was pressed for once is forgotten.
+    void forgetReturn() { m_asked.reset(); }
     /// Takes over what stands in an open editor.
     virtual void commitEditing();
 

@@ -194,8 +194,9 @@ void SearchField::contextMenuEvent(QContextMenuEvent* event)
 {
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addSeparator();
+    menu->addAction(qtTrId("search_terms"), this, [this] { openBeneath(*m_terms); });
     if (m_offersSearches) {
-        menu->addSeparator();
         menu->addAction(m_keep);
         menu->addAction(qtTrId("search_last"), this, &SearchField::openLastSearches);
     }

@@ -182,6 +182,7 @@ void UCAppController::favorites_tableViewSort()
 void UCAppController::search(const QString& text)
 {
     m_finder.setQuery(text);
+    forgetReturn();
     std::vector<std::uint32_t> ranks;
     {
         const Rearranging keeping(*this);

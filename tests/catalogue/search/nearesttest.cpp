@@ -77,6 +77,7 @@ private Q_SLOTS:
         row("zephyyr orion", "zephyr2"); // beside a word of the maker
         row("zephyyr 1987", "zephyr2"); // and the year
         row("crimsno bla", "blade"); // half typed
+        row("crimson - blaed", "blade"); // beside a dash
         row("ゆうざれる", "yuuzame"); // kana
         row("yuzaneru", "yuuzame"); // romaji
         // As many slips as the word may have.
@@ -100,6 +101,21 @@ private Q_SLOTS:
         add("yuuzame", "Dusk Shark", "ゆうざめる");
         add("orc", "Orc");
         QCOMPARE(nearest(query), names);
+    }
+
+    void aSlipMakesNoDigit()
+    {
+        add("zephyr", "Zephyr (World)", nullptr, "Maker", "1985", "game", "other");
+        add("zephyr3", "Zephyr III (World)");
+        QCOMPARE(nearest(QStringLiteral("zephyrr")), QStringLiteral("zephyr zephyr3"));
+    }
+
+    void aNameThatLooksAlikeTellsLessThanATitle()
+    {
+        add("zephyrx", "Stone Age");
+        add("storm", "Zephyrs (World)", nullptr, "Maker", "1990");
+        add("zephyrt", "Zephyrs (Tropical)", nullptr, "Maker", "1995");
+        QCOMPARE(nearest(QStringLiteral("zephyrw")).section(u' ', 0, 0), QStringLiteral("zephyrt"));
     }
 
     void fewerSlipsComeFirst()

@@ -47,13 +47,72 @@ public:
     /// Comparable ranks of a record that is found, but for what decides between equal ones: rank, sum, form.
     std::array<int, 3> rank(const Query& query) const
     {
+        const auto [worst, sum] = together(query);
+        const int rank = worst >> 2;
+        return {rank == static_cast<int>(Rank::FirstPart) ? rank - 1 : rank, sum, worst & 3};
+    }
+
+    /// What decides between two that fit equally well; `content` is all records.
+    std::array<int, 7> tie(const Query& query, std::span<const GameRecord> content) const
+    {
+        const auto isHead = [](const GameRecord& record) {
+            return record[Field::Cloneof].empty() || record[Field::Cloneof] == record[Field::Name];
+        };
+        const auto head
+            = [&](const GameRecord& record) { return record[isHead(record) ? Field::Name : Field::Cloneof]; };
+        int family = 0;
+        int year = unknownYear.first;
+        const GameRecord* parent = nullptr;
+        for (const GameRecord& each : content) {
+            if (head(each) != head(m_record))
+                continue;
+            ++family;
+            if (isHead(each)) {
+                year = recordedYear(each[Field::Year]).value_or(unknownYear).last;
+                parent = parent ? parent : &each;
+            }
+        }
+        int logarithm = 0;
+        for (int size = family; size > 0; size /= 2)
+            ++logarithm;
+        const auto type = std::ranges::find(typeValues, m_record[Field::Type]) - typeValues.begin();
+        const bool works = m_record[Field::Status] == "good" || m_record[Field::Status] == "imperfect";
+        const auto fits = [&](const PlainSearch& search) {
+            return search.together(query)[0] >> 2 <= static_cast<int>(Rank::PartProper);
+        };
+        // A clone is as good as its parent under a name that the parent has not.
+        const bool isFirst = isHead(m_record)
+            || (query.ranks() && fits(*this) && parent != nullptr && !fits(PlainSearch(*parent)));
+        const bool isFirstPart = together(query)[0] >> 2 == static_cast<int>(Rank::FirstPart);
+        return {std::min(int(type), 3),
+                isCopied() ? 1 : 0,
+                isFirst ? 0 : 1,
+                works ? 0 : 1,
+                m_record[Field::Title] == m_record[Field::Titlejp] ? 1 : 0,
+                (isFirstPart ? 1 : 0) - std::min(logarithm, 7),
+                std::clamp((year - 1970) / 2, 0, 31)};
+    }
+
+private:
+    // What a rank adds to the sum.
+    static int weight(int score)
+    {
+        const int rank = std::min(score >> 2, 15);
+        return rank == static_cast<int>(Rank::FirstPart)    ? rank - 1
+            : rank == static_cast<int>(Rank::NameBeginning) ? rank + 1
+                                                            : rank;
+    }
+
+    // The worst score and the sum of ranks.
+    std::array<int, 2> together(const Query& query) const
+    {
         int worst = 0;
         int sum = 0;
         const std::vector<const SearchedWords*> words = query.rankedWords();
         for (const SearchedWords* word : words) {
             const int score = best(*word, everyField, false);
             worst = std::max(worst, score);
-            sum = std::min(sum + std::min(score >> 2, 15), 31);
+            sum = std::min(sum + weight(score), 31);
         }
         if (const int together = phrase(query); words.size() > 1 && together <= worst) {
             worst = together;
@@ -67,39 +126,31 @@ public:
             if (isOfField && term.applies && !term.negated) {
                 const int score = best(term.words, fieldsOf(term.kind), false);
                 worst = std::max(worst, score);
-                sum = std::min(sum + std::min(score >> 2, 15), 31);
+                sum = std::min(sum + weight(score), 31);
             }
         }
         const int rank = worst >> 2;
-        const bool isLowered = m_record[Field::Type] == "device" && rank > static_cast<int>(Rank::Covered);
-        return {isLowered ? rank + 6 : rank, sum, worst & 3};
+        if (m_record[Field::Type] == "device" && rank > static_cast<int>(Rank::TitleProper)
+            && worst != noScore)
+            worst += (static_cast<int>(Rank::InsideName) - static_cast<int>(Rank::TitleProper)) << 2;
+        return {worst, sum};
     }
 
-    /// What decides between two that fit equally well; `content` is all records.
-    std::array<int, 5> tie(std::span<const GameRecord> content) const
+    bool isCopied() const
     {
-        const auto head = [](const GameRecord& record) {
-            return record[Field::Cloneof].empty() ? record[Field::Name] : record[Field::Cloneof];
-        };
-        int family = 0;
-        int year = unknownYear.first;
-        for (const GameRecord& each : content) {
-            if (head(each) != head(m_record))
-                continue;
-            ++family;
-            if (each[Field::Name] == head(each))
-                year = recordedYear(each[Field::Year]).value_or(unknownYear).first;
-        }
-        int logarithm = 0;
-        for (int size = family; size > 0; size /= 2)
-            ++logarithm;
-        const auto type = std::ranges::find(typeValues, m_record[Field::Type]) - typeValues.begin();
-        const bool works = m_record[Field::Status] == "good" || m_record[Field::Status] == "imperfect";
-        return {std::min(int(type), 3), head(m_record) == m_record[Field::Name] ? 0 : 1, works ? 0 : 1,
-                -std::min(logarithm, 7), std::clamp((year - 1970) / 2, 0, 31)};
+        const std::string title(m_record[Field::Title]);
+        const std::string texts = std::string(m_record[Field::Maker]) + '|'
+            + (title.contains('(') ? title.substr(title.find('(')) : std::string());
+        return texts.contains("bootleg") || texts.contains("hack");
     }
 
-private:
+    static std::string withoutNumber(std::string word)
+    {
+        while (!word.empty() && std::isdigit(static_cast<unsigned char>(word.back())) != 0)
+            word.pop_back();
+        return word;
+    }
+
     struct Text {
         FieldMark field;
         QString text;
@@ -121,6 +172,8 @@ private:
             return addTitles(whole);
         add(m_loose, mark, LooseForm(whole));
         addReadings(mark, whole);
+        if (mark == MakerMark)
+            addRomanised(mark, LooseForm(whole));
     }
 
     void addTitles(const std::string& whole)
@@ -138,16 +191,21 @@ private:
                 add(m_loose, InitialsMark, one);
             }
             addReadings(mark, title);
-            LooseForm romanised;
-            bool isJapanese = false;
-            for (std::size_t i = 0; i < form.text.size(); i = form.wordEnd(i)) {
-                const std::string word = form.text.substr(i, form.wordEnd(i) - i);
-                isJapanese = isJapanese || readsLikeJapanese(word);
-                romanised.append(isRomaji(word) ? shortRomajiSpelling(word) : word, form.edges[i]);
-            }
-            if (isJapanese)
-                add(m_romaji, RomanisedMark, romanised);
+            addRomanised(RomanisedMark, form);
         }
+    }
+
+    void addRomanised(FieldMark mark, const LooseForm& form)
+    {
+        LooseForm romanised;
+        bool isJapanese = false;
+        for (std::size_t i = 0; i < form.text.size(); i = form.wordEnd(i)) {
+            const std::string word = form.text.substr(i, form.wordEnd(i) - i);
+            isJapanese = isJapanese || readsLikeJapanese(word);
+            romanised.append(isRomaji(word) ? shortRomajiSpelling(word) : word, form.edges[i]);
+        }
+        if (isJapanese)
+            add(m_romaji, mark, romanised);
     }
 
     void addReadings(FieldMark mark, std::string_view text)
@@ -161,7 +219,7 @@ private:
                     edge = c == partSign ? Edge::Part : std::max(edge, Edge::Word);
                     continue;
                 }
-                if (edge == Edge::None && (c == unreadSign) != (before == unreadSign))
+                if (edge == Edge::None && (std::isalpha(c) != 0) != (std::isalpha(before) != 0))
                     edge = Edge::Word;
                 form.append(std::string(1, c), edge);
                 edge = Edge::None;
@@ -250,7 +308,9 @@ private:
             break;
         }
         if (at == 0)
-            return behind == Edge::Part ? Rank::TitleProper : Rank::TitleBeginning;
+            return end == text.size()  ? Rank::TitleProper
+                : behind == Edge::Part ? Rank::FirstPart
+                                       : Rank::TitleBeginning;
         if (edges[at] == Edge::Part)
             return behind == Edge::Part ? Rank::PartProper : Rank::PartBeginning;
         return Rank::WordBeginning;
@@ -271,10 +331,11 @@ private:
             for (auto at = form.form.text.find(word); at != std::string::npos;
                  at = form.form.text.find(word, at + 1)) {
                 const Rank rank = looseRankAt(form, at, word.size(), rules);
-                if (form.field == RomanisedMark && (!romanised || rank == Rank::Inside))
+                const bool isRomanised = form.field == RomanisedMark || (reading && form.field == MakerMark);
+                if (isRomanised && (!romanised || rank == Rank::Inside))
                     continue;
                 improve(best, rank,
-                        form.field == RomanisedMark         ? WordForm::Romanised
+                        isRomanised                         ? WordForm::Romanised
                             : reading                       ? WordForm::Reading
                             : form.field == AlternativeMark ? WordForm::Alternative
                                                             : WordForm::Plain);
@@ -284,7 +345,8 @@ private:
 
     static bool isJapanese(const std::string& word)
     {
-        return readsLikeJapanese(word) || std::ranges::any_of(word, [](char c) { return (c & 0x80) != 0; });
+        return readsLikeJapanese(withoutNumber(word))
+            || std::ranges::any_of(word, [](char c) { return (c & 0x80) != 0; });
     }
 
     static bool isRoman(const std::string& word)
@@ -295,9 +357,10 @@ private:
     static std::string reading(const std::string& word)
     {
         std::string text;
-        if (isRomaji(word))
-            text = isRoman(word) ? std::string() : shortRomajiSpelling(word);
-        else if (const auto readings = romajiReadings(word); !readings.empty())
+        if (const std::string letters = withoutNumber(word); isRomaji(letters)) {
+            if (!isRoman(letters))
+                text = shortRomajiSpelling(letters) + word.substr(letters.size());
+        } else if (const auto readings = romajiReadings(word); !readings.empty())
             text = readings.front().contains(unreadSign) ? std::string() : readings.front();
         std::erase(text, ' ');
         return text;
@@ -321,15 +384,20 @@ private:
     {
         int best = noScore;
         const QString word = QString::fromStdString(words.text);
-        for (const Text& text : m_texts) {
-            if ((fields & setOf(text.field)) == 0)
-                continue;
-            for (auto at = text.text.indexOf(word); at >= 0; at = text.text.indexOf(word, at + 1))
-                improve(best, rankAt(text, word, words.ends, at), WordForm::Plain);
-        }
         const bool isQuoted = words.ends != WordEnds::Anywhere;
         const std::string loose = looseWord(words.text);
-        if (!isQuoted && (isNumeral(loose) || (!negated && loose.size() > 1)))
+        const bool onlyAsWord = negated && !isQuoted && (isNumeral(loose) || loose.size() == 1);
+        for (const Text& text : m_texts) {
+            if ((fields & setOf(text.field)) == 0 || onlyAsWord)
+                continue;
+            for (auto at = text.text.indexOf(word); at >= 0; at = text.text.indexOf(word, at + 1)) {
+                const Rank rank = rankAt(text, word, words.ends, at);
+                const bool isInName
+                    = rank == Rank::Inside && text.field == NameMark && words.text.size() >= 3;
+                improve(best, isInName ? Rank::InsideName : rank, WordForm::Plain);
+            }
+        }
+        if (!isQuoted && (onlyAsWord || isNumeral(loose) || (!negated && loose.size() > 1)))
             improveLoosely(best, m_loose, loose, false, false,
                            {.wholeOnly = negated, .asInitials = mayBeInitials(loose), .fields = fields});
         const std::string read = reading(words.text);
@@ -355,7 +423,7 @@ private:
         for (const SearchedWords* word : words) {
             loose += looseWord(word->text);
             read += reading(word->text).empty() ? looseWord(word->text) : reading(word->text);
-            japanese = japanese || isJapanese(word->text);
+            japanese = japanese || (!reading(word->text).empty() && isJapanese(word->text));
         }
         improveLoosely(best, m_loose, loose, false, false, {.asInitials = mayBeInitials(loose)});
         improveLoosely(best, m_romaji, read, japanese, true, {});

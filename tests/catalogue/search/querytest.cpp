@@ -160,7 +160,7 @@ private Q_SLOTS:
             QTest::newRow(query) << QString::fromUtf8(query) << QString::fromUtf8(terms);
         };
         row("pac marker:konami x", "0+3 words pac\n4+13 words WRONG search_near_key\n18+1 words x");
-        row("pac manufacturer:konami x", "0+3 words pac\n4+19 words WRONG search_wrong_key\n24+1 words x");
+        row("pac colourofbox:konami x", "0+3 words pac\n4+18 words WRONG search_wrong_key\n23+1 words x");
         row("メーカー:コナミ", "0+8 words WRONG search_wrong_key");
         row("-foo:\"a b\" c", "0+10 not words WRONG search_wrong_key\n11+1 words c");
         row("status:bad x", "0+10 status WRONG search_wrong_value\n11+1 words x");
@@ -286,7 +286,9 @@ private Q_SLOTS:
         row("parnet", "parent");
         row("clones", "clone");
         row("divice", "device");
-        row("manufacturer", "");
+        row("manufacturer", "maker"); // what others call it
+        row("romset", "name");
+        row("colourofbox", "");
         row("genre", "");
         row("foo", "");
         row("at", "");

@@ -78,6 +78,19 @@ private Q_SLOTS:
             {.name = "other", .title = "Zoom (World)", .status = "preliminary"},
             {.name = "plain", .title = "Zoom (Japan)", .status = "imperfect"});
         row("the older one", {.name = "other", .title = "Zoom (World)", .year = "1999"}, plain);
+        row("a year that is not known to the last digit is late",
+            {.name = "other", .title = "Zoom (World)", .year = "198?"}, plain);
+        row("a bootleg behind the maker's own",
+            {.name = "other", .title = "Zoom (World, bootleg)", .year = "1970"}, plain);
+        row("a bootleg behind a clone", {.name = "other", .title = "Zoom (World)", .maker = "bootleg (Some)"},
+            {.name = "plain", .title = "Zoom (Japan)", .cloneof = "parent"});
+        row("a changed version behind the maker's own",
+            {.name = "other", .title = "Zoom (hack, set 2)", .year = "1970"}, plain);
+        row("a title that Japan has of its own",
+            {.name = "other", .title = "Zoom (Handheld)", .year = "1970"},
+            {.name = "plain", .title = "Zoom (Japan)", .titlejp = "ズーム"});
+        row("all of a title before its first part",
+            {.name = "other", .title = "Zoom: Monsters (World)", .year = "1970"}, plain);
         row("a title of its own before one of two", {.name = "other", .title = "Zoom / Dash (World)"}, plain);
     }
     void whatFitsEquallyWellIsOrdered()
@@ -97,6 +110,29 @@ private Q_SLOTS:
         QCOMPARE(ranked(machines, QStringLiteral("zoom")), QStringLiteral("known alone"));
     }
 
+    void aCloneUnderItsOwnNameIsTheFirstOfItsFamily()
+    {
+        const Machine port{.name = "port", .title = "Zoom (Console port)", .status = "preliminary"};
+        const Machine clone{.name = "clone", .title = "Zoom (US)", .cloneof = "parent"};
+        const Machine copy{.name = "copy", .title = "Zoom (bootleg)", .cloneof = "parent"};
+        const Machine parent{"parent", "Dash (Japan)"};
+        QCOMPARE(ranked({port, copy, clone, parent}, QStringLiteral("zoom")),
+                 QStringLiteral("clone port copy"));
+        // Where the parent has the name as well it comes first.
+        QCOMPARE(ranked({clone, {"parent", "Dash / Zoom (Japan)"}}, QStringLiteral("zoom")),
+                 QStringLiteral("parent clone"));
+    }
+
+    void aPartOfManyClonesIsMeantRatherThanALonelyWhole()
+    {
+        const Machines machines{{"alone", "Zoom (Toy)"},
+                                {"known", "Zoom: The Videogame (World)"},
+                                {"known2", "Zoom: The Videogame (US)", nullptr, "known"},
+                                {"known3", "Zoom: The Videogame (Japan)", nullptr, "known"},
+                                {"known4", "Zoom: The Videogame (Asia)", nullptr, "known"}};
+        QVERIFY(ranked(machines, QStringLiteral("zoom")).startsWith(u"known alone"));
+    }
+
     // What is equal in all that counts stands as the column has it.
     void theColumnDecidesLast()
     {
@@ -111,6 +147,12 @@ private Q_SLOTS:
                  QStringLiteral("game card"));
         QCOMPARE(ranked({device, {"zcard", "The Oom (Zoom Card)"}}, QStringLiteral("zoom card")),
                  QStringLiteral("card zcard"));
+        const Machine slot{.name = "slot", .title = "Zoom Station / Card Slot", .type = "device"};
+        const Machine half{.name = "half", .title = "Zoom Station/Card: Slot", .type = "device"};
+        QCOMPARE(ranked({half, {"zs", "The Oom (Zoom Station)"}}, QStringLiteral("zoom station")),
+                 QStringLiteral("zs half"));
+        QCOMPARE(ranked({slot, {"zs", "The Oom (Zoom Station)"}}, QStringLiteral("zoom station")),
+                 QStringLiteral("slot zs"));
         QCOMPARE(ranked({device, {"cardz", "Cardinal"}}, QStringLiteral("card")),
                  QStringLiteral("card cardz"));
         // Among themselves as all others.
@@ -172,10 +214,22 @@ private Q_SLOTS:
         row("axe golden", {"goldnaxe", "Golden Axe (set 6)"}, {"ga2", "Golden Axe Returns (World)"});
         row("taito bubble bobble", {.name = "bublbobl", .title = "Bubble Bobble (Japan)", .maker = "Taito"},
             {.name = "bubblem", .title = "Bubble Memories - Bubble Bobble III", .maker = "Taito"});
-        // Initials come last.
+        row("double dragon acme", {.name = "ddragon", .title = "Double Dragon (set 1)", .maker = "Acme"},
+            {.name = "doubledr", .title = "Double Dragon (Neo)", .year = "1995", .maker = "Acme"});
+        // With numbers.
+        row("daraiasu2", {"darius2", "Darius II", "ダライアスⅡ"}, {"darius", "Darius", "ダライアス"});
+        row("mootaru konbatto 3", {"mk3", "Kombat 3", "モータルコンバット3"},
+            {"mk", "Kombat (rev 3.0)", "モータルコンバット"});
+        row("だらいあす2", {"darius2", "Darius II", "ダライアスⅡ"}, {"darius", "Darius", "ダライアス"});
+        // Makers in kana.
+        row("コナミ グラディウス",
+            {.name = "gradius", .title = "Gradius", .titlejp = "グラディウス", .maker = "Konami"},
+            {.name = "other", .title = "Gradius", .titlejp = "グラディウス", .maker = "Acme"});
+        row("majan gakuen", {"mjgakuen", "Mahjong Gakuen"}, {"other", "Gakuen Toshi"});
+        // Initials come last, but for letters within a set name.
+        row("avp", {"avsp", "Alien vs. Predator (Euro)"}, {"sabavpl2", "Videoplay 2"});
         row("mvc", {"slot", "MVC Slots"}, {"mvsc", "Marvel Vs. Capcom"});
         row("motw", {"garou", "Garou - Mark of the Wolves (set 1)"}, {"none", "Nothing"});
-        row("avp", {"avsp", "Alien vs. Predator (Euro)"}, {"none", "Nothing"});
         row("mvc2", {"mvsc2", "Marvel Vs. Capcom 2 New Age"}, {"mvsc", "Marvel Vs. Capcom"});
     }
     void aQueryFindsFirst()
@@ -195,6 +249,12 @@ private Q_SLOTS:
             << QStringLiteral("darius -ii") << QStringLiteral("darius");
         QTest::newRow("a numeral is every numeral")
             << QStringLiteral("darius -2") << QStringLiteral("darius");
+        QTest::newRow("a numeral that is left out is a word")
+            << QStringLiteral("darius -6") << QStringLiteral("darius2 darius");
+        QTest::newRow("but of a year all counts")
+            << QStringLiteral("darius -1986") << QStringLiteral("darius2");
+        QTest::newRow("a letter that is left out is a word")
+            << QStringLiteral("darius -h -r") << QStringLiteral("darius2");
         QTest::newRow("what is left out is certain")
             << QStringLiteral("darius -ra") << QStringLiteral("darius2 darius");
         QTest::newRow("quotes are literal") << QStringLiteral("\"darius 2\"") << QString();
@@ -227,8 +287,9 @@ private Q_SLOTS:
     void onlyTheseAreFound()
     {
         QFETCH(QString, query);
-        const Machines machines{{"darius2", "Darius II (Hard)", "ダライアスII"},
-                                {"darius", "Darius (World)", "ダライアス"}};
+        const Machines machines{
+            {"darius2", "Darius II (Hard)", "ダライアスII"},
+            {.name = "darius", .title = "Darius R (World, 6 Oct)", .titlejp = "ダライアス", .year = "1986"}};
         QString found = ranked(machines, query);
         if (found == QStringLiteral("darius darius2"))
             found = QStringLiteral("darius2 darius");
