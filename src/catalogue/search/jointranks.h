@@ -33,7 +33,18 @@ public:
         }
     }
 
-    /// Of a record, worst of all.
+    /// Calls `visit(record, rank)` for each that fits so well or better.
+    template <class Visit>
+    void forEachAtLeast(Rank rank, Visit&& visit) const
+    {
+        const Score end = score(static_cast<Rank>(static_cast<unsigned>(rank) + 1), WordForm::Plain);
+        for (std::size_t i = 0; i < m_worst.size(); ++i) {
+            if (m_worst[i] < end)
+                visit(i, rankOf(m_worst[i]));
+        }
+    }
+
+    /// Of all words together.
     Rank rank(std::size_t record) const { return rankOf(m_worst[record]); }
     /// One a record: rank, sum, so many free bits, form.
     std::vector<std::uint32_t> ranks(unsigned free) const;

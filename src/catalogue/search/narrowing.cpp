@@ -217,18 +217,17 @@ std::vector<std::uint32_t> Narrowing::ranks(const Query& query) const
     joint.lower([this](std::size_t i) { return m_facts[i].type == GameType::Device; });
     std::vector<std::uint32_t> ranks = joint.ranks(ContentFacts::tieBits);
     const std::span ties(m_facts.ties());
+    for (std::size_t i = 0; i < ranks.size(); ++i)
+        ranks[i] |= ties[i] << formBits;
+    // Few have all that was typed for a name.
     const std::span parents(m_facts.parents());
-    for (std::size_t i = 0; i < ranks.size(); ++i) {
-        std::uint32_t tie = ties[i];
-        const Rank rank = joint.rank(i);
-        if (rank <= Rank::PartProper) {
-            tie += rank == Rank::FirstPart ? ContentFacts::firstPartTie : 0U;
-            // Under the name that was typed it is the first of its family.
-            if (joint.rank(parents[i]) > Rank::PartProper)
-                tie &= ~ContentFacts::cloneTie;
-        }
-        ranks[i] |= tie << formBits;
-    }
+    joint.forEachAtLeast(Rank::PartProper, [&](std::size_t i, Rank rank) {
+        if (rank == Rank::FirstPart)
+            ranks[i] += ContentFacts::firstPartTie << formBits;
+        // Under a name that its parent has not it is the first of its family.
+        if ((ties[i] & ContentFacts::cloneTie) != 0 && joint.rank(parents[i]) > Rank::PartProper)
+            ranks[i] -= ContentFacts::cloneTie << formBits;
+    });
     return ranks;
 }
 
