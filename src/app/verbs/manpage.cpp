@@ -66,7 +66,10 @@ end with the status of the emulator.
 The settings.
 .TP
 .I $XDG_DATA_HOME/Tessera/
-The catalogue, the favourites and what was played; earlier ones lie beside them under dated names.
+The catalogue and your own BIOS list; earlier ones lie beside them under dated names.
+.TP
+.I $XDG_DATA_HOME/Plover.Tessera/
+The favourites and what was played, kept in the same way.
 .SH SEE ALSO
 .BR mame (6)
 )";
