@@ -85,7 +85,7 @@ RecordFacts ContentFacts::facts(const GameRecord& record)
         .family = familyOf(record[isParent(record) ? Field::Name : Field::Cloneof]),
         .favorite = m_favourites.contains(record[Field::Name]),
         .isCopied = isCopied(record),
-        .hasTitlejp = record[Field::Titlejp] != record[Field::Title],
+        .hasTitlejp = !record[Field::Titlejp].empty() && record[Field::Titlejp] != record[Field::Title],
     };
 }
 

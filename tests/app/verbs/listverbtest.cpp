@@ -43,8 +43,8 @@ private Q_SLOTS:
         row("pong|-clone:yes", "");
         row("pong|--|-clone:yes", "pong whole begins");
         row("--|-pong", "alien");
-        row("atari year:1972", "pong begins whole");
-        row("atari|year:1972", "pong begins whole");
+        row("atari year:1972", "whole pong begins");
+        row("atari|year:1972", "whole pong begins");
         row("ポン", "whole");
         row("eirian", "alien");
         row("have:yes", "clone pong");

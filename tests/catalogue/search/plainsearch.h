@@ -88,7 +88,8 @@ public:
                 isCopied() ? 1 : 0,
                 isFirst ? 0 : 1,
                 works ? 0 : 1,
-                m_record[Field::Title] == m_record[Field::Titlejp] ? 1 : 0,
+                m_record[Field::Titlejp].empty() || m_record[Field::Title] == m_record[Field::Titlejp] ? 1
+                                                                                                       : 0,
                 (isFirstPart ? 1 : 0) - std::min(logarithm, 7),
                 std::clamp((year - 1970) / 2, 0, 31)};
     }

@@ -235,7 +235,7 @@ private Q_SLOTS:
         m_finder->setChip(Chip::Bios);
         QCOMPARE(m_finder->suggestions("ed", 5).size(), std::size_t(2));
         QCOMPARE(m_finder->suggestions("ed", 1), std::vector<std::uint32_t>({1}));
-        QCOMPARE(m_finder->suggestions("zed", 9), std::vector<std::uint32_t>({1, 2}));
+        QCOMPARE(m_finder->suggestions("zed", 9), std::vector<std::uint32_t>({2, 1}));
         m_stage->catalogue.setValue(0, Field::Title, "a mid b");
         QCOMPARE(m_finder->suggestions("mid", 9), std::vector<std::uint32_t>({4, 0}));
         QVERIFY(m_finder->suggestions("", 5).empty());
@@ -261,7 +261,7 @@ private Q_SLOTS:
         QCOMPARE(*m_finder->haveOf(4), Have::Here);
         QCOMPARE(*m_finder->haveOf(2), Have::Missing);
         m_finder->setQuery("zed");
-        QCOMPARE(shown(), QStringList({"Zed", "zed"}));
+        QCOMPARE(shown(), QStringList({"zed", "Zed"}));
     }
 
     // Whoever was connected first: the editing or the search.
@@ -292,7 +292,7 @@ private Q_SLOTS:
         m_finder->setQuery("zed");
         QCOMPARE(shown(), QStringList("zed"));
         m_stage->catalogue.undoStack().undo();
-        QCOMPARE(shown(), QStringList({"Zed", "zed"}));
+        QCOMPARE(shown(), QStringList({"zed", "Zed"}));
         m_finder->setQuery("year:1980");
         QCOMPARE(shown(), QStringList({"Zed", "mid"}));
     }
