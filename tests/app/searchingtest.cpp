@@ -248,6 +248,35 @@ private Q_SLOTS:
         QCOMPARE(started[0][0].toString(), QStringLiteral("gradius3"));
     }
 
+    void anotherSearchWithTheSameRowsIsAskedAboutAnew()
+    {
+        QTRY_COMPARE((search(QStringLiteral("gradisu")), shown()), QStringLiteral("gradius gradius3"));
+        const QSignalSpy asked(&list(), &GameListController::statusMessage);
+        const QSignalSpy started(&list(), &GameListController::launchRequested);
+        QTest::keyClick(field(), Qt::Key_Return);
+        search(QStringLiteral("gradisu -nowhere"));
+        QCOMPARE(shown(), QStringLiteral("gradius gradius3"));
+        QTest::keyClick(field(), Qt::Key_Return);
+        QCOMPARE(asked.size(), 2);
+        QCOMPARE(started.size(), 0);
+    }
+
+    void theTermsOpenFromTheFieldsMenu()
+    {
+        QContextMenuEvent wanted(QContextMenuEvent::Keyboard, QPoint(5, 5),
+                                 field()->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(field(), &wanted);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QVERIFY(menu != nullptr);
+        const QList<QAction*> actions = menu->actions();
+        const auto terms = std::ranges::find(actions, QStringLiteral("search_terms"), &QAction::text);
+        QVERIFY(terms != actions.end());
+        (*terms)->trigger();
+        menu->close();
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QApplication::activePopupWidget()->close();
+    }
+
     void aTypedSetNameThatAMinusHidesIsTold()
     {
         const auto* message = window().findChild<QLabel*>(QStringLiteral("messageLabel"));
